@@ -1,0 +1,54 @@
+# What every target shares: the language level, the warnings, where things are put, and the
+# functions that declare a target of each kind.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE Release)
+endif()
+
+# The build tree has the layout of an installation, so that a program finds its modules, bundles and
+# samples in the same way in both.
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CUTLINE_LIB_DIR lib/cutline)
+set(CUTLINE_PLUGIN_DIR ${CUTLINE_LIB_DIR}/plugins)
+set(CUTLINE_SAMPLE_DIR share/cutline/samples)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/${CUTLINE_LIB_DIR})
+set(CMAKE_BUILD_WITH_INSTALL_RPATH ON)
+
+option(CUTLINE_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+
+add_compile_options(-Wall -Wextra -Wpedantic -Werror -Wno-error=deprecated-declarations)
+include_directories(${CMAKE_SOURCE_DIR})
+if(CUTLINE_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined
+                      -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# The sources of the current folder; a new file is picked up by itself.
+function(cutline_sources OUT)
+  file(GLOB FOUND CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  foreach(DIR IN LISTS ARGN)
+    file(GLOB IN_DIR CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${DIR}/*.cpp)
+    list(APPEND FOUND ${IN_DIR})
+  endforeach()
+  set(${OUT} ${FOUND} PARENT_SCOPE)
+endfunction()
+
+# Test programs end in <build>/tests; the list of them is what the test command runs.
+function(cutline_add_test NAME)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBS;ENVIRONMENT" ${ARGN})
+  add_executable(${NAME} ${ARG_SOURCES})
+  target_link_libraries(${NAME} PRIVATE ${ARG_LIBS})
+  set_target_properties(${NAME} PROPERTIES
+    RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests
+    INSTALL_RPATH "$ORIGIN/../${CUTLINE_LIB_DIR}")
+  target_compile_definitions(${NAME} PRIVATE
+    CUTLINE_SOURCE_DIR="${CMAKE_SOURCE_DIR}" CUTLINE_BUILD_DIR="${CMAKE_BINARY_DIR}")
+  add_test(NAME ${NAME} COMMAND ${NAME})
+  set_tests_properties(${NAME} PROPERTIES TIMEOUT 600 ENVIRONMENT "${ARG_ENVIRONMENT}")
+endfunction()

@@ -1,0 +1,40 @@
+// A print queue, or a saved instance of one, as the server and the user's saved options know it.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace cutline {
+
+// NAME=VALUE pairs in order; a later pair of the same name wins.
+using OptionList = std::vector<std::pair<std::string, std::string>>;
+
+struct DestinationName {
+  std::string printer;
+  std::optional<std::string> instance;
+
+  // PRINTER[/INSTANCE]
+  static DestinationName parse(const std::string& text);
+  std::string text() const;
+  friend bool operator==(const DestinationName&, const DestinationName&) = default;
+};
+
+enum class PrinterState { idle, processing, stopped, unknown };
+
+struct Destination {
+  DestinationName name;
+  bool isDefault = false;
+  std::string info;       // the administrator's description; may be empty
+  std::string deviceURI;  // empty when the server does not tell
+  PrinterState state = PrinterState::unknown;
+  bool acceptsJobs = true;
+  std::vector<std::string> stateReasons;  // IPP printer-state-reasons without "none"
+  OptionList savedOptions;  // the user's saved options for this destination or instance only
+
+  // The state in plain words, such as "Ready" or "Paused - label roll is empty".
+  std::string stateText() const;
+};
+
+}  // namespace cutline

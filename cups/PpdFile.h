@@ -1,0 +1,65 @@
+// An open PPD file. Panels borrow its records, so it is shared and outlives each panel that was
+// made for it.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "cups/Destination.h"
+#include "cups/Result.h"
+#include "cups/ServerOptions.h"
+
+struct ppd_file_s;
+
+namespace cutline {
+
+// A page size of the PPD. Sizes in points.
+struct PaperSize {
+  std::string name;  // the PageSize choice
+  std::string text;  // for people
+  double width = 0;
+  double length = 0;
+  double left = 0, bottom = 0, right = 0, top = 0;  // the printable area's edges, from lower left
+};
+
+class PpdFile {
+ public:
+  ~PpdFile();
+  PpdFile(const PpdFile&) = delete;
+  PpdFile& operator=(const PpdFile&) = delete;
+
+  // Reads a file. The error names file, line and reason.
+  static Result<std::shared_ptr<PpdFile>> open(const std::string& path);
+  // Fetches the queue's PPD from the server, through a private temporary directory that is gone
+  // again when this returns. May block.
+  static Result<std::shared_ptr<PpdFile>> fetch(const ServerOptions& server,
+                                                const std::string& printer);
+
+  ppd_file_s* get() const noexcept { return mPpd; }
+
+  // Marks the PPD's defaults, then each list in order. Unknown names are left alone: callers check
+  // options that a user typed with checkOption first.
+  void mark(const std::vector<OptionList>& layers) const;
+
+  // The marked choice's keyword; empty when nothing is marked.
+  std::string markedChoice(const std::string& keyword) const;
+  bool hasOption(const std::string& keyword) const;
+  // An error when the PPD has the option and not the choice: it lists the choices. An option that
+  // the PPD does not have is no error here.
+  Result<Done> checkChoice(const std::string& keyword, const std::string& choice) const;
+  // Every option with a marked choice, in the PPD's order, installable options left out.
+  OptionList markedOptions() const;
+
+  std::vector<PaperSize> paperSizes() const;
+  // The size that is marked now.
+  PaperSize markedPaper() const;
+  // An attribute's value; empty when it is absent.
+  std::string attribute(const std::string& name) const;
+
+ private:
+  explicit PpdFile(ppd_file_s* ppd) : mPpd(ppd) {}
+  ppd_file_s* mPpd;
+};
+
+}  // namespace cutline

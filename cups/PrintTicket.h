@@ -1,0 +1,33 @@
+// The platform's printing objects of one print dialog (session, settings, page format, paper,
+// printer) on a PPD and a destination. The page format's paper is always the page size that the PPD
+// has marked now.
+#pragma once
+
+#include <memory>
+
+#include "cups/Destination.h"
+#include "cups/PpdFile.h"
+#include "platform/Printing.h"
+
+namespace cutline {
+
+class PrintTicket {
+ public:
+  // `deviceURI` may be empty: the printer then answers that it has none.
+  PrintTicket(std::shared_ptr<PpdFile> ppd, const std::string& deviceURI);
+  ~PrintTicket();
+  PrintTicket(const PrintTicket&) = delete;
+  PrintTicket& operator=(const PrintTicket&) = delete;
+
+  // Borrowed, never null, and they live as long as the ticket.
+  PMPrintSession session() noexcept;
+  PMPrintSettings settings() noexcept;
+  PMPageFormat pageFormat() noexcept;
+  PMPrinter printer() noexcept;
+
+ private:
+  struct Objects;
+  std::unique_ptr<Objects> mObjects;
+};
+
+}  // namespace cutline
