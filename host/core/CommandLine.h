@@ -1,0 +1,44 @@
+// The command line, read.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "cups/Destination.h"
+#include "cups/Result.h"
+#include "cups/ServerOptions.h"
+
+namespace cutline {
+
+enum class Command { dialog, print, summary, options, snapshot, list, help, version };
+
+// Exit statuses of the program.
+inline constexpr int kExitDone = 0;
+inline constexpr int kExitError = 1;
+inline constexpr int kExitUsage = 2;
+inline constexpr int kExitCancelled = 3;
+
+struct CommandLine {
+  Command command = Command::dialog;
+  std::optional<DestinationName> destination;  // -d
+  std::optional<int> copies;                   // -n, or -o copies=
+  std::optional<std::string> pageRanges;       // -P, or -o page-ranges=; checked
+  std::optional<std::string> title;            // -t
+  OptionList options;                          // -o, in order; aliases replaced (media: PageSize)
+  ServerOptions server;                        // -h -E -U
+  std::optional<std::string> file;             // the document; nothing when none was named
+  std::optional<std::string> ppdPath;          // --ppd
+  std::optional<std::string> pluginDirectory;  // --plugin-dir
+  std::string snapshotPath;                    // --snapshot
+  int scale = 1;                               // --scale: pixels per point, 1 or 2
+  bool dark = false;                           // --dark
+  bool marks = false;                          // --marks: times on standard output, then end
+};
+
+// The error is about usage: one line without "cutline: ".
+Result<CommandLine> parseCommandLine(int argc, const char* const* argv);
+
+// The text of --help.
+std::string helpText();
+
+}  // namespace cutline

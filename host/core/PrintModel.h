@@ -1,0 +1,178 @@
+// The state of one print dialog: a printer with its PPD, the panels of its plug-ins, paper,
+// options, copies and pages. It holds what is shown, what is marked in the PPD and what is sent
+// with the job together, in the one sequence described in docs/architecture.md. It asks no server
+// anything: the caller fetches destinations and PPDs (on another thread, if it draws) and hands
+// them in.
+//
+// A program without a window and the dialog use the same model; only the toolkit behind the panels
+// differs. Everything runs on the thread that owns the toolkit.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cups/Destination.h"
+#include "cups/PpdFile.h"
+#include "cups/Result.h"
+#include "host/core/PanelSource.h"
+#include "platform/PrintDialogPanel.h"
+#include "platform/Toolkit.h"
+
+namespace cutline {
+
+class OpenPrinter;
+
+// A printer as the model opens it. `destination.savedOptions` are those of the instance when the
+// name has one. Without a queue (a PPD file alone) the destination's name is empty.
+struct PrinterChoice {
+  Destination destination;
+  std::shared_ptr<PpdFile> ppd;
+};
+
+// What was asked for beside the printer, on the command line.
+struct AskedSettings {
+  OptionList options;      // -o; PPD options and others; laid over the saved options
+  int copies = 1;          // 1 or more
+  std::string pageRanges;  // "1-4,7", as in IPP; empty for all pages
+};
+
+// A panel of a plug-in. The view is in no window: the dialog puts it into one, and takes it out
+// before the printer is switched or the model closes.
+struct PanelEntry {
+  std::string name;
+  std::shared_ptr<View> view;  // null when the panel could not load it
+  std::shared_ptr<PrintDialogPanel> panel;
+};
+
+struct OptionChoice {
+  std::string keyword;  // what is sent
+  std::string text;     // what people read; never empty
+};
+// A PPD option that no panel takes care of.
+struct GeneratedOption {
+  std::string keyword;
+  std::string text;
+  std::vector<OptionChoice> choices;
+  std::string marked;  // the marked choice's keyword; empty when none is marked
+};
+struct OptionGroup {
+  std::string text;
+  std::vector<GeneratedOption> options;  // never empty
+};
+
+struct SummaryLine {
+  std::string title;
+  std::string value;
+};
+
+// One thing that a panel's rule changes against what was asked.
+struct Deviation {
+  std::string keyword;
+  std::string asked;     // the choice that was asked for
+  std::string sent;      // the choice that will be sent
+  std::string sentence;  // for people
+};
+
+enum class ModelChange {
+  printer,  // everything is new: panels, papers, generated options
+  options,  // marks, summary, deviations, conflicts, generated options' marks
+  paper,    // the current paper; `options` follows
+  job,      // copies or page ranges
+  layout,   // a panel's view has another size
+};
+
+class PrintModelListener {
+ public:
+  virtual ~PrintModelListener();
+  // The model is consistent when this is called; it may be read but not changed from here.
+  virtual void modelDidChange(ModelChange what) = 0;
+};
+
+class PrintModel final : public ActionObserver {
+ public:
+  // `panelSource` is borrowed and outlives the model. The platform (setCurrentPlatform) is set
+  // before; its toolkit reports finished actions to this model until the model goes.
+  PrintModel(PanelSource& panelSource, AskedSettings asked);
+  // Closes first when that was not done.
+  ~PrintModel() override;
+
+  // Borrowed; null removes it. One at a time.
+  void setListener(PrintModelListener* listener) noexcept;
+
+  // Opens the first printer, or switches to another one: makes its panels, loads their views, and
+  // runs the sequence. The asked options are laid over the new printer's saved ones; copies and
+  // pages stay. The old panels and views are gone after it; a PPD whose records somebody still
+  // borrows stays alive. Options that this PPD does not have are left out (checkOptions tells).
+  void openPrinter(PrinterChoice choice);
+  bool isOpen() const noexcept;
+  // True when jobs can be sent: the printer is a queue.
+  bool hasQueue() const noexcept;
+  const Destination& destination() const noexcept;           // only while open
+  const std::shared_ptr<PpdFile>& ppdFile() const noexcept;  // only while open
+
+  const std::vector<PanelEntry>& panels() const noexcept;
+
+  const std::vector<PaperSize>& papers() const noexcept;
+  PaperSize currentPaper() const;
+  // By PageSize choice. An unknown name is an error that lists the names.
+  Result<Done> setPaper(const std::string& name);
+
+  // Options that no panel declared, in the PPD's groups and order; installable options and the
+  // paper's own options left out. Empty when there are none.
+  std::vector<OptionGroup> generatedOptions() const;
+  // A user's choice in the generated options. An unknown keyword or choice is an error.
+  Result<Done> setOption(const std::string& keyword, const std::string& choice);
+
+  int copies() const noexcept;
+  Result<Done> setCopies(int copies);  // 1 to 9999
+  std::string pageRanges() const;
+  // "2", "1-4,7", "5-"; blanks allowed; empty for all pages. An error says what is wrong.
+  Result<Done> setPageRanges(const std::string& text);
+
+  // The panels' summary lines, in display order.
+  std::vector<SummaryLine> summary() const;
+  // What the panels' rules change against what was asked or clicked, now.
+  std::vector<Deviation> deviations() const;
+  // Pairs of choices that the PPD does not allow together, each in a sentence.
+  std::vector<std::string> conflicts() const;
+  // Gives way in the other options until the conflicts are gone; an error when that is impossible.
+  Result<Done> resolveConflicts();
+
+  // What is sent with the job: every cut option, paper, other options that differ from the PPD's
+  // default or were asked for, copies, page ranges.
+  OptionList jobOptions() const;
+
+  // Saves the panels' values and answers what to store as an instance of this destination.
+  Result<OptionList> savePreset();
+  // Lays an instance's options over the PPD's defaults and runs the sequence. What was asked on the
+  // command line is replaced by it.
+  Result<Done> applyPreset(const OptionList& options);
+
+  // Asks each panel whether it agrees, saves for the last time, and answers the options to send. A
+  // refusal is an error that names the panel.
+  Result<OptionList> prepareToPrint();
+
+  // Tells the panels that the dialog closes, and lets go of them. The model is not open after it.
+  void close() noexcept;
+
+  // The toolkit's report of a finished action.
+  void actionDidFinish(View& sender) noexcept override;
+
+ private:
+  void tell(ModelChange what);
+
+  PanelSource& mPanelSource;
+  AskedSettings mAsked;
+  PrintModelListener* mListener = nullptr;
+  std::unique_ptr<OpenPrinter> mPrinter;
+};
+
+// Checks options that a person typed against a PPD: an unknown option (neither the PPD's nor a
+// standard job attribute) and an unknown choice are errors; the choices, or names near the one
+// typed, are listed.
+Result<Done> checkOptions(const PpdFile& ppd, const OptionList& options);
+
+}  // namespace cutline
