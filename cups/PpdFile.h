@@ -23,6 +23,31 @@ struct PaperSize {
   double left = 0, bottom = 0, right = 0, top = 0;  // the printable area's edges, from lower left
 };
 
+struct OptionChoice {
+  std::string name;  // the choice's keyword
+  std::string text;  // for people; the keyword where the PPD gives no text
+};
+
+struct PpdOption {
+  std::string keyword;
+  std::string text;           // for people; the keyword where the PPD gives no text
+  std::string defaultChoice;  // as the PPD says; may be empty or a choice that it does not have
+  std::vector<OptionChoice> choices;
+};
+
+struct OptionGroup {
+  std::string name;
+  std::string text;
+  std::vector<PpdOption> options;
+};
+
+// Two marked choices that one of the PPD's constraints forbids together.
+struct Conflict {
+  std::string keyword, choice;
+  std::string otherKeyword, otherChoice;
+  friend bool operator==(const Conflict&, const Conflict&) = default;
+};
+
 class PpdFile {
  public:
   ~PpdFile();
@@ -42,6 +67,9 @@ class PpdFile {
   // options that a user typed with checkOption first.
   void mark(const std::vector<OptionList>& layers) const;
 
+  // Marks one choice over what is marked; an unknown option or choice is left alone.
+  void markChoice(const std::string& keyword, const std::string& choice) const;
+
   // The marked choice's keyword; empty when nothing is marked.
   std::string markedChoice(const std::string& keyword) const;
   bool hasOption(const std::string& keyword) const;
@@ -50,6 +78,12 @@ class PpdFile {
   Result<Done> checkChoice(const std::string& keyword, const std::string& choice) const;
   // Every option with a marked choice, in the PPD's order, installable options left out.
   OptionList markedOptions() const;
+  // The groups that have options, in the PPD's order, subgroups after their group, installable
+  // options left out.
+  std::vector<OptionGroup> optionGroups() const;
+  // The constraints that the marks break now, each pair once; also where an installable option is
+  // one of the two.
+  std::vector<Conflict> conflicts() const;
 
   std::vector<PaperSize> paperSizes() const;
   // The size that is marked now.

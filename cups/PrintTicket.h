@@ -3,7 +3,9 @@
 // has marked now.
 #pragma once
 
+#include <cstdint>
 #include <memory>
+#include <string>
 
 #include "cups/Destination.h"
 #include "cups/PpdFile.h"
@@ -24,6 +26,12 @@ class PrintTicket {
   PMPrintSettings settings() noexcept;
   PMPageFormat pageFormat() noexcept;
   PMPrinter printer() noexcept;
+
+  // Puts bytes into the settings under a key, where PMPrintSettingsGetValue finds them. A ticket
+  // begins without any.
+  void setValue(const std::string& key, const std::string& bytes);
+  // Puts a number into the session, where PMSessionGetDataFromSession finds it.
+  void setSessionData(const std::string& key, std::int64_t number);
 
  private:
   struct Objects;
