@@ -7,6 +7,7 @@
 #include "cups/Destination.h"
 #include "cups/Result.h"
 #include "cups/ServerOptions.h"
+#include "host/core/AskedSettings.h"
 
 namespace cutline {
 
@@ -21,10 +22,8 @@ inline constexpr int kExitCancelled = 3;
 struct CommandLine {
   Command command = Command::dialog;
   std::optional<DestinationName> destination;  // -d
-  std::optional<int> copies;                   // -n, or -o copies=
-  std::optional<std::string> pageRanges;       // -P, or -o page-ranges=; checked
   std::optional<std::string> title;            // -t
-  OptionList options;                          // -o, in order; aliases replaced (media: PageSize)
+  AskedSettings asked;                         // -o (media replaced by PageSize), -n, -P; checked
   ServerOptions server;                        // -h -E -U
   std::optional<std::string> file;             // the document; nothing when none was named
   std::optional<std::string> ppdPath;          // --ppd

@@ -17,6 +17,7 @@
 #include "cups/Destination.h"
 #include "cups/PpdFile.h"
 #include "cups/Result.h"
+#include "host/core/AskedSettings.h"
 #include "host/core/PanelSource.h"
 #include "platform/PrintDialogPanel.h"
 #include "platform/Toolkit.h"
@@ -32,13 +33,6 @@ struct PrinterChoice {
   std::shared_ptr<PpdFile> ppd;
 };
 
-// What was asked for beside the printer, on the command line.
-struct AskedSettings {
-  OptionList options;      // -o; PPD options and others; laid over the saved options
-  int copies = 1;          // 1 or more
-  std::string pageRanges;  // "1-4,7", as in IPP; empty for all pages
-};
-
 // A panel of a plug-in. The view is in no window: the dialog puts it into one, and takes it out
 // before the printer is switched or the model closes.
 struct PanelEntry {
@@ -47,18 +41,12 @@ struct PanelEntry {
   std::shared_ptr<PrintDialogPanel> panel;
 };
 
-struct OptionChoice {
-  std::string keyword;  // what is sent
-  std::string text;     // what people read; never empty
-};
 // A PPD option that no panel takes care of.
 struct GeneratedOption {
-  std::string keyword;
-  std::string text;
-  std::vector<OptionChoice> choices;
+  PpdOption option;
   std::string marked;  // the marked choice's keyword; empty when none is marked
 };
-struct OptionGroup {
+struct GeneratedGroup {
   std::string text;
   std::vector<GeneratedOption> options;  // never empty
 };
@@ -122,7 +110,7 @@ class PrintModel final : public ActionObserver {
 
   // Options that no panel declared, in the PPD's groups and order; installable options and the
   // paper's own options left out. Empty when there are none.
-  std::vector<OptionGroup> generatedOptions() const;
+  std::vector<GeneratedGroup> generatedOptions() const;
   // A user's choice in the generated options. An unknown keyword or choice is an error.
   Result<Done> setOption(const std::string& keyword, const std::string& choice);
 
