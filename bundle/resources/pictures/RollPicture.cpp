@@ -1,0 +1,80 @@
+// Paper labels from a roll: how many of them come off in one piece.
+#include <array>
+#include <string>
+
+#include "bundle/resources/pictures/Glyphs.h"
+#include "bundle/resources/pictures/Picture.h"
+#include "bundle/resources/pictures/Printer.h"
+#include "bundle/resources/pictures/Signs.h"
+#include "bundle/resources/pictures/Strip.h"
+
+namespace cutline::pictures {
+
+namespace {
+
+constexpr std::array<std::string_view, 3> kTexts = {"ABC", "123", "EFG"};
+constexpr double kLabelWidth = 57;
+constexpr double kGap = 9;
+constexpr double kLeft = 4;
+constexpr double kCutLineBottom = 78;
+
+void drawCut(Svg& svg, double x) {
+  svg.line({x, kPaperTop - 2}, {x, kCutLineBottom}, stroked(kCut, 1.6));
+  drawBlade(svg, {x, kPaperTop - 2}, kCut);
+}
+
+// The sample text and, below it, two lines of small print; a mirrored label mirrors both.
+void drawText(Svg& svg, std::size_t index, double centre, bool mirror) {
+  const double direction = mirror ? -1 : 1;
+  const double start = centre - direction * 18;
+  svg.begin("text" + std::to_string(index + 1));
+  write(svg, kTexts.at(index), {centre, 41}, {15, 2.6, mirror});
+  svg.line({start, 57}, {start + direction * 36, 57}, stroked(kFaintInk, 2.4));
+  svg.line({start, 64}, {start + direction * 22, 64}, stroked(kFaintInk, 2.4));
+  svg.end();
+}
+
+void drawTexts(Svg& svg, double left, double pitch, bool mirror) {
+  for (std::size_t i = 0; i < kTexts.size(); ++i) {
+    drawText(svg, i, left + static_cast<double>(i) * pitch + kLabelWidth / 2, mirror);
+  }
+}
+
+void drawSeparateLabels(Svg& svg, const Flags& flags) {
+  for (std::size_t i = 0; i < kTexts.size(); ++i) {
+    const double left = kLeft + static_cast<double>(i) * (kLabelWidth + kGap);
+    drawPaper(svg, {left, left + kLabelWidth});
+    drawCut(svg, left + kLabelWidth + kGap / 2);
+  }
+  drawTexts(svg, kLeft, kLabelWidth + kGap, flags.mirror);
+}
+
+void drawStripCutAtEnd(Svg& svg, const Flags& flags) {
+  const double right = kLeft + 3 * (kLabelWidth + kGap) - kGap;
+  const double left = right - 3 * kLabelWidth;
+  drawPaper(svg, {left, right});
+  drawCut(svg, right + kGap / 2);
+  drawTexts(svg, left, kLabelWidth, flags.mirror);
+}
+
+void drawUncutStrip(Svg& svg, const Flags& flags) {
+  drawPaper(svg, {kLeft, kInsideEnd});
+  drawTexts(svg, kLeft, kLabelWidth, flags.mirror);
+}
+
+}  // namespace
+
+void drawRollPicture(Svg& svg, const Flags& flags) {
+  drawSlot(svg, kPaperTop, kPaperBottom);
+  if (flags.every) {
+    drawSeparateLabels(svg, flags);
+  } else if (flags.end) {
+    drawStripCutAtEnd(svg, flags);
+  } else {
+    drawUncutStrip(svg, flags);
+  }
+  drawRollPrinter(svg);
+  if (flags.mirror) drawMirror(svg, kSignPlace);
+}
+
+}  // namespace cutline::pictures
