@@ -1,0 +1,27 @@
+#include "qt/QtActions.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include "platform/Toolkit.h"
+#include "qt/QtViewCore.h"
+
+namespace cutline {
+
+void QtActions::run(QtViewCore& sender, const ActionHandler& action) noexcept {
+  if (!action) return;
+  run(sender, std::function<void()>([action, view = &sender.view()] { action(view); }));
+}
+
+void QtActions::run(QtViewCore& sender, const std::function<void()>& handler) noexcept {
+  if (!handler) return;
+  const std::function<void()> kept = handler;
+  View& view = sender.view();
+  const QPointer<QObject> alive = sender.connectionContext();
+  ++mDepth;
+  kept();
+  if (alive && mObserver) mObserver->actionDidFinish(view);
+  --mDepth;
+}
+
+}  // namespace cutline

@@ -1,0 +1,34 @@
+// Runs the actions of a toolkit's controls and tells the observer afterwards. Shared by the toolkit
+// and all views that it made.
+#pragma once
+
+#include <functional>
+
+#include "platform/Control.h"
+
+namespace cutline {
+
+class ActionObserver;
+class QtViewCore;
+
+class QtActions {
+ public:
+  // Borrowed; null removes it.
+  void setObserver(ActionObserver* observer) noexcept { mObserver = observer; }
+
+  // Runs the sender's action to its end, then tells the observer. An empty action does neither. The
+  // action may replace itself and may let go of the sender; then the observer is not told.
+  void run(QtViewCore& sender, const ActionHandler& action) noexcept;
+  // The same for what a text field calls while the user types.
+  void run(QtViewCore& sender, const std::function<void()>& handler) noexcept;
+
+  // While this is true a native event may still be on its way through a widget, so widgets must
+  // not be deleted at once.
+  bool areRunning() const noexcept { return mDepth > 0; }
+
+ private:
+  ActionObserver* mObserver = nullptr;
+  int mDepth = 0;
+};
+
+}  // namespace cutline

@@ -1,0 +1,101 @@
+#include "qt/QtPicture.h"
+
+#include <QFile>
+#include <QImageReader>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <QXmlStreamReader>
+#include <cmath>
+
+#include "qt/QtText.h"
+
+namespace cutline {
+
+namespace {
+
+// A picture is shown in one size at one or two pixel ratios (a window between two screens).
+constexpr std::size_t kRenderedKept = 3;
+
+bool isVectorFile(const QString& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return false;
+  QXmlStreamReader reader(&file);
+  return reader.readNextStartElement() && reader.name() == QLatin1String("svg");
+}
+
+// Device pixels per point where the painter stands now, whatever it paints on.
+double deviceScale(const QPainter& painter) {
+  const QTransform transform = painter.deviceTransform();
+  return std::hypot(transform.m11(), transform.m12());
+}
+
+}  // namespace
+
+QtPicture::QtPicture(std::string path) : mPath(std::move(path)) {}
+
+QtPicture::~QtPicture() = default;
+
+bool QtPicture::isPictureFile(const std::string& path) {
+  const QString name = toQString(path);
+  return isVectorFile(name) || QImageReader(name).canRead();
+}
+
+void QtPicture::read() {
+  if (mRead) return;
+  mRead = true;
+  const QString path = toQString(mPath);
+  if (!isVectorFile(path)) {
+    mBitmap = QImageReader(path).read();
+    return;
+  }
+  mVector = std::make_unique<QSvgRenderer>(path);
+  if (!mVector->isValid()) mVector.reset();
+}
+
+QSizeF QtPicture::size() {
+  read();
+  if (mVector) return mVector->defaultSize();
+  return mBitmap.deviceIndependentSize();
+}
+
+QRectF QtPicture::fittedInto(const QRectF& room) {
+  const QSizeF fitted = size().scaled(room.size(), Qt::KeepAspectRatio);
+  QRectF target(QPointF(), fitted);
+  target.moveCenter(room.center());
+  return target;
+}
+
+QPixmap QtPicture::rendered(const QSize& devicePixels) {
+  for (const QPixmap& each : mRendered) {
+    if (each.size() == devicePixels) return each;
+  }
+  QImage image(devicePixels, QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  if (mVector) {
+    mVector->render(&painter);
+  } else {
+    painter.drawImage(QRectF(QPointF(), QSizeF(devicePixels)), mBitmap);
+  }
+  painter.end();
+  if (mRendered.size() == kRenderedKept) mRendered.erase(mRendered.begin());
+  mRendered.push_back(QPixmap::fromImage(std::move(image)));
+  return mRendered.back();
+}
+
+void QtPicture::draw(QPainter& painter, const QRectF& target, const QRectF& source) {
+  const QSizeF whole = size();
+  if (whole.isEmpty() || target.isEmpty()) return;
+  const QRectF part = source.isEmpty() ? QRectF(QPointF(), whole) : source;
+  const double scale = deviceScale(painter);
+  const double xScale = scale * target.width() / part.width();
+  const double yScale = scale * target.height() / part.height();
+  const QSize pixels(qRound(whole.width() * xScale), qRound(whole.height() * yScale));
+  if (pixels.isEmpty()) return;
+  const QRectF pixelPart(part.x() * xScale, part.y() * yScale, part.width() * xScale,
+                         part.height() * yScale);
+  painter.drawPixmap(target, rendered(pixels), pixelPart);
+}
+
+}  // namespace cutline

@@ -1,0 +1,52 @@
+// A picture file, read when it is first needed and drawn crisp at any device pixel ratio. Vector
+// pictures are rendered for the device, bitmaps are scaled.
+#pragma once
+
+#include <QImage>
+#include <QPixmap>
+#include <QRectF>
+#include <QSizeF>
+#include <memory>
+#include <string>
+#include <vector>
+
+class QPainter;
+class QSvgRenderer;
+
+namespace cutline {
+
+class QtPicture {
+ public:
+  explicit QtPicture(std::string path);
+  QtPicture(const QtPicture&) = delete;
+  QtPicture& operator=(const QtPicture&) = delete;
+  ~QtPicture();
+
+  // True when the file begins as a picture does; the rest is not read yet.
+  static bool isPictureFile(const std::string& path);
+
+  const std::string& path() const noexcept { return mPath; }
+
+  // In points; empty when the file cannot be read. Reads the file on the first call.
+  QSizeF size();
+
+  // Draws the part `source` of the picture (its own points, y downwards; empty means all of it)
+  // into `target`. Draws nothing when the file cannot be read.
+  void draw(QPainter& painter, const QRectF& target, const QRectF& source = {});
+
+  // The largest rectangle of the picture's proportions in the middle of `room`; empty when the
+  // file cannot be read.
+  QRectF fittedInto(const QRectF& room);
+
+ private:
+  void read();
+  QPixmap rendered(const QSize& devicePixels);
+
+  std::string mPath;
+  bool mRead = false;
+  std::unique_ptr<QSvgRenderer> mVector;
+  QImage mBitmap;
+  std::vector<QPixmap> mRendered;  // for the last few sizes asked for
+};
+
+}  // namespace cutline

@@ -1,0 +1,79 @@
+#include "qt/QtStepper.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QStyle>
+#include <QStyleOptionSpinBox>
+#include <QStylePainter>
+#include <QWheelEvent>
+#include <algorithm>
+
+namespace cutline {
+
+namespace {
+
+class ArrowsSpinBox : public QSpinBox {
+ public:
+  ArrowsSpinBox() {
+    lineEdit()->hide();
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_InputMethodEnabled, false);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QStylePainter painter(this);
+    QStyleOptionSpinBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_SpinBox, option);
+  }
+
+  // The text is hidden, so typing must not change it.
+  void keyPressEvent(QKeyEvent* event) override {
+    const int key = event->key();
+    const bool steps = key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp ||
+                       key == Qt::Key_PageDown;
+    if (steps) return QSpinBox::keyPressEvent(event);
+    event->ignore();
+  }
+
+  // Scrolling the panel under the pointer must not change a value in passing.
+  void wheelEvent(QWheelEvent* event) override {
+    if (hasFocus()) return QSpinBox::wheelEvent(event);
+    event->ignore();
+  }
+};
+
+}  // namespace
+
+QtStepper::QtStepper(const Rect& frame, std::shared_ptr<QtActions> actions)
+    : QtControlOf(new ArrowsSpinBox, frame, std::move(actions)) {
+  widget()->setRange(mMinValue, mMaxValue);
+  QObject::connect(widget(), &QSpinBox::valueChanged, core().connectionContext(),
+                   [this](int value) { userDidStep(value); });
+}
+
+void QtStepper::setRange(int minValue, int maxValue) noexcept {
+  mMinValue = minValue;
+  mMaxValue = std::max(minValue, maxValue);
+  if (widget()) {
+    const QSignalBlocker quiet(widget());
+    widget()->setRange(mMinValue, mMaxValue);
+  }
+  setIntValue(mValue);
+}
+
+void QtStepper::setIntValue(int value) noexcept {
+  mValue = std::clamp(value, mMinValue, mMaxValue);
+  if (!widget()) return;
+  const QSignalBlocker quiet(widget());
+  widget()->setValue(mValue);
+}
+
+void QtStepper::userDidStep(int value) noexcept {
+  mValue = value;
+  runAction();
+}
+
+}  // namespace cutline
