@@ -56,8 +56,7 @@ class PpdFile {
 
   // Reads a file. The error names file, line and reason.
   static Result<std::shared_ptr<PpdFile>> open(const std::string& path);
-  // Fetches the queue's PPD from the server, through a private temporary directory that is gone
-  // again when this returns. May block.
+  // Fetches the queue's PPD from the server, into memory: no file is left behind. May block.
   static Result<std::shared_ptr<PpdFile>> fetch(const ServerOptions& server,
                                                 const std::string& printer);
 
@@ -70,28 +69,33 @@ class PpdFile {
   // Marks one choice over what is marked; an unknown option or choice is left alone.
   void markChoice(const std::string& keyword, const std::string& choice) const;
 
-  // The marked choice's keyword; empty when nothing is marked.
+  // The marked choice's keyword; empty when nothing is marked. "Custom" for any custom value.
   std::string markedChoice(const std::string& keyword) const;
   bool hasOption(const std::string& keyword) const;
   // An error when the PPD has the option and not the choice: it lists the choices. An option that
   // the PPD does not have is no error here.
   Result<Done> checkChoice(const std::string& keyword, const std::string& choice) const;
-  // Every option with a marked choice, in the PPD's order, installable options left out.
+  // Every option with a marked choice, in the PPD's order, installable options left out. Custom
+  // choices with their values, as the server takes them.
   OptionList markedOptions() const;
-  // The groups that have options, in the PPD's order, subgroups after their group, installable
-  // options left out.
+  // The groups that have options, in the PPD's order, subgroups after their group. Left out are the
+  // installable options, the page region (it mirrors the page size) and choices that need a value.
   std::vector<OptionGroup> optionGroups() const;
   // The constraints that the marks break now, each pair once; also where an installable option is
   // one of the two.
   std::vector<Conflict> conflicts() const;
 
+  // The named sizes, without custom ones.
   std::vector<PaperSize> paperSizes() const;
-  // The size that is marked now.
+  // The size that is marked now; no name when none is. A custom size is named by its measures, as
+  // markedOptions has it ("Custom.68x283.5").
   PaperSize markedPaper() const;
   // An attribute's value; empty when it is absent.
   std::string attribute(const std::string& name) const;
 
  private:
+  // Takes the descriptor over. `name` is what errors call the PPD.
+  static Result<std::shared_ptr<PpdFile>> read(int fd, const std::string& name);
   explicit PpdFile(ppd_file_s* ppd) : mPpd(ppd) {}
   ppd_file_s* mPpd;
 };

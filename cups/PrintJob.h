@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "cups/Destination.h"
 #include "cups/Result.h"
@@ -16,10 +17,11 @@ enum class JobState { pending, held, processing, stopped, canceled, aborted, com
 
 struct JobStatus {
   JobState state = JobState::pending;
-  std::string message;  // the printer's own words, may be empty
+  std::string message;               // the printer's own words, may be empty
+  std::vector<std::string> reasons;  // IPP job-state-reasons
 
   bool isFinal() const noexcept;
-  // The state in plain words, such as "Printing".
+  // The state in plain words, such as "Printing" or "Waiting - the printer is paused".
   std::string text() const;
 };
 
@@ -34,7 +36,8 @@ struct PrintRequest {
 // false gives the job up: it is cancelled and nothing is printed.
 using SpoolProgress = std::function<bool(std::uint64_t sent, std::uint64_t total)>;
 
-// The job's number.
+// The job's number. Where the document does not arrive whole, for whatever reason, the job is taken
+// back.
 Result<int> submitJob(const ServerOptions& server, const PrintRequest& request,
                       const SpoolProgress& progress);
 Result<JobStatus> jobStatus(const ServerOptions& server, const DestinationName& destination,

@@ -21,7 +21,9 @@ class PrintTicket {
   PrintTicket(const PrintTicket&) = delete;
   PrintTicket& operator=(const PrintTicket&) = delete;
 
-  // Borrowed, never null, and they live as long as the ticket.
+  // Borrowed, never null, and they live as long as the ticket. The page range begins as all pages
+  // (1 to the highest number); page 0 is out of range. A key or session datum that nobody set is
+  // "no such entry".
   PMPrintSession session() noexcept;
   PMPrintSettings settings() noexcept;
   PMPageFormat pageFormat() noexcept;

@@ -11,8 +11,9 @@ struct ServerOptions {
   std::optional<std::string>
       server;                       // HOST[:PORT] or a socket's path; libcups' own rule when absent
   std::optional<std::string> user;  // the user that jobs are sent as
-  bool encrypt = false;             // insist on an encrypted connection
+  bool encrypt = false;             // insist on encryption; a thread that once did goes on
 
+  // Every call that takes ServerOptions does this itself.
   void applyToThisThread() const;
 };
 

@@ -1,0 +1,240 @@
+#include "cups/Destinations.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <memory>
+
+#include "cups/CupsOptions.h"
+#include "cups/SavedOptions.h"
+#include "cups/ServerConnection.h"
+
+namespace cutline {
+
+namespace {
+
+// Owns a destination array of libcups.
+class DestinationArray {
+ public:
+  DestinationArray(int size, cups_dest_t* dests) : mSize(size), mDests(dests) {}
+  ~DestinationArray() { cupsFreeDests(mSize, mDests); }
+  DestinationArray(const DestinationArray&) = delete;
+  DestinationArray& operator=(const DestinationArray&) = delete;
+  const cups_dest_t* begin() const noexcept { return mDests; }
+  const cups_dest_t* end() const noexcept { return mDests + mSize; }
+
+ private:
+  int mSize;
+  cups_dest_t* mDests;
+};
+
+std::string valueOf(const cups_dest_t& dest, const char* name) {
+  const char* value = cupsGetOption(name, dest.num_options, dest.options);
+  return value ? value : "";
+}
+
+PrinterState stateOf(const std::string& value) {
+  constexpr std::array kStates{PrinterState::idle, PrinterState::processing, PrinterState::stopped};
+  const bool isKnown = value.size() == 1 && value[0] >= '3' && value[0] <= '5';
+  return isKnown ? kStates[value[0] - '3'] : PrinterState::unknown;
+}
+
+std::vector<std::string> reasonsOf(const std::string& value) {
+  std::vector<std::string> reasons;
+  std::string_view rest = value;
+  while (!rest.empty()) {
+    const auto comma = std::min(rest.find(','), rest.size());
+    const std::string_view reason = rest.substr(0, comma);
+    if (!reason.empty() && reason != "none") reasons.emplace_back(reason);
+    rest.remove_prefix(std::min(comma + 1, rest.size()));
+  }
+  return reasons;
+}
+
+Destination destinationOf(const cups_dest_t& dest) {
+  Destination destination;
+  destination.name.printer = dest.name;
+  if (dest.instance) destination.name.instance = dest.instance;
+  destination.isDefault = dest.is_default != 0;
+  destination.info = valueOf(dest, "printer-info");
+  destination.deviceURI = valueOf(dest, "device-uri");
+  destination.state = stateOf(valueOf(dest, "printer-state"));
+  destination.acceptsJobs = valueOf(dest, "printer-is-accepting-jobs") != "false";
+  destination.stateReasons = reasonsOf(valueOf(dest, "printer-state-reasons"));
+  destination.savedOptions = savedOptionsFor(destination.name).value_or(OptionList{});
+  return destination;
+}
+
+Result<std::vector<Destination>> listOn(http_t* http) {
+  cups_dest_t* dests = nullptr;
+  const int count = cupsGetDests2(http, &dests);
+  const DestinationArray array(count, dests);
+  // A server without any queue answers "not found".
+  if (count == 0 && cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE &&
+      cupsLastError() != IPP_STATUS_ERROR_NOT_FOUND) {
+    return serverError("the printers cannot be listed");
+  }
+  std::vector<Destination> list;
+  for (const cups_dest_t& dest : array) list.push_back(destinationOf(dest));
+  return list;
+}
+
+std::string joined(const std::vector<std::string>& names) {
+  std::string text;
+  for (const std::string& name : names) text += (text.empty() ? "" : ", ") + name;
+  return text;
+}
+
+// What follows a colon in an error: the names that would have been right.
+std::string knownPrinters(const std::vector<Destination>& list) {
+  std::vector<std::string> names;
+  for (const Destination& destination : list) names.push_back(destination.name.text());
+  return names.empty() ? "it has no printers" : "it has " + joined(names);
+}
+
+Error unknownPrinter(http_t* http, const std::string& printer) {
+  const auto list = listOn(http);
+  if (!list) return list.error();
+  return {"the print server at \"" + serverText() + "\" has no printer \"" + printer +
+          "\": " + knownPrinters(*list)};
+}
+
+Error noDefault(http_t* http) {
+  // libcups says so where an environment variable or a saved default names an unknown printer.
+  const std::string reason =
+      cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND ? cupsLastErrorString() : "";
+  const auto list = listOn(http);
+  if (!list) return list.error();
+  return {"there is no default printer" + (reason.empty() ? "" : " (" + reason + ")") +
+          ": name one with -d; the print server at \"" + serverText() +
+          "\": " + knownPrinters(*list)};
+}
+
+Error unknownInstance(const DestinationName& name) {
+  const std::vector<std::string> instances = savedInstances(name.printer);
+  return {"the printer \"" + name.printer + "\" has no saved settings \"" + *name.instance +
+          "\": " + (instances.empty() ? "none are saved" : "saved are " + joined(instances))};
+}
+
+Result<Destination> findNamed(http_t* http, const DestinationName& name) {
+  const char* printer = name.printer.c_str();
+  cups_dest_t* dest = cupsGetNamedDest(http, printer, nullptr);
+  if (!dest) return unknownPrinter(http, name.printer);
+  const DestinationArray owner(1, dest);
+  // libcups makes up an instance that nobody saved.
+  if (name.instance && !savedOptionsFor(name)) return unknownInstance(name);
+  Destination destination = destinationOf(*dest);
+  if (!name.instance) return destination;
+  destination.name.instance = name.instance;
+  destination.savedOptions = savedOptionsFor(destination.name).value_or(OptionList{});
+  return destination;
+}
+
+Result<Destination> findDefault(http_t* http) {
+  cups_dest_t* dest = cupsGetNamedDest(http, nullptr, nullptr);
+  if (!dest) return noDefault(http);
+  const DestinationArray owner(1, dest);
+  Destination destination = destinationOf(*dest);
+  destination.isDefault = true;
+  return destination;
+}
+
+bool isPlainName(const std::string& text) {
+  constexpr std::size_t kLongest = 127;
+  const auto isSpecial = [](unsigned char c) {
+    return c <= ' ' || c == 0x7f || c == '/' || c == '#';
+  };
+  return !text.empty() && text.size() <= kLongest && std::ranges::none_of(text, isSpecial);
+}
+
+// The file of saved options ends a value at these, whatever quotes stand around it.
+bool canBeSaved(const std::pair<std::string, std::string>& option) {
+  const auto isSpecial = [](unsigned char c) { return c < ' ' || c == '#'; };
+  return std::ranges::none_of(option.first + option.second, isSpecial);
+}
+
+std::optional<Error> whyNotSaved(const DestinationName& name, const OptionList& options) {
+  if (!isPlainName(name.printer)) return Error{"\"" + name.printer + "\" is no printer's name"};
+  if (name.instance && !isPlainName(*name.instance)) {
+    return Error{"settings cannot be saved as \"" + *name.instance +
+                 "\": choose a name without spaces, \"/\" and \"#\""};
+  }
+  const auto bad = std::ranges::find_if_not(options, canBeSaved);
+  if (bad == options.end()) return std::nullopt;
+  return Error{"the option " + bad->first +
+               " cannot be saved: its value has a \"#\" or a line end"};
+}
+
+bool hasEntry(const std::vector<SavedEntry>& entries, const DestinationName& name) {
+  return std::ranges::find(entries, name, &SavedEntry::name) != entries.end();
+}
+
+// libcups writes the file anew from what it is given, so that has to be everything.
+Result<Done> writeEntries(http_t* http, std::vector<SavedEntry>& entries) {
+  std::vector<CupsOptions> options;
+  options.reserve(entries.size());
+  std::vector<cups_dest_t> dests;
+  for (SavedEntry& entry : entries) {
+    const CupsOptions& own = options.emplace_back(entry.options);
+    auto& instance = entry.name.instance;
+    dests.push_back({entry.name.printer.data(), instance ? instance->data() : nullptr,
+                     entry.isDefault ? 1 : 0, own.size(), own.data()});
+  }
+  if (cupsSetDests2(http, static_cast<int>(dests.size()), dests.data()) == 0) return Done{};
+  return Error{"the options cannot be saved in \"" + userOptionsPath() +
+               "\": " + cupsLastErrorString()};
+}
+
+void replaceEntry(std::vector<SavedEntry>& entries, const DestinationName& name,
+                  const OptionList& options) {
+  const auto isDefault = std::ranges::any_of(
+      entries, [&](const SavedEntry& entry) { return entry.name == name && entry.isDefault; });
+  std::erase_if(entries, [&](const SavedEntry& entry) { return entry.name == name; });
+  entries.push_back({name, isDefault, options});
+}
+
+}  // namespace
+
+Result<std::vector<Destination>> listDestinations(const ServerOptions& server) {
+  const auto connection = ServerConnection::open(server);
+  if (!connection) return connection.error();
+  return listOn(connection->get());
+}
+
+Result<Destination> findDestination(const ServerOptions& server,
+                                    const std::optional<DestinationName>& name) {
+  const auto connection = ServerConnection::open(server);
+  if (!connection) return connection.error();
+  return name ? findNamed(connection->get(), *name) : findDefault(connection->get());
+}
+
+Result<Done> saveDestinationOptions(const ServerOptions& server, const DestinationName& name,
+                                    const OptionList& options) {
+  if (const auto why = whyNotSaved(name, options)) return *why;
+  const auto connection = ServerConnection::open(server);
+  if (!connection) return connection.error();
+  std::vector<SavedEntry> entries = readSavedEntries(userOptionsPath());
+  replaceEntry(entries, name, options);
+  if (const auto written = writeEntries(connection->get(), entries); !written) return written;
+  if (!name.instance || hasEntry(readSavedEntries(userOptionsPath()), name)) return Done{};
+  return Error{"settings that are all the print server's own defaults cannot be saved as \"" +
+               name.text() + "\": choose one that differs"};
+}
+
+Result<Done> removeInstance(const ServerOptions& server, const DestinationName& name) {
+  if (!name.instance) return Error{"\"" + name.printer + "\" is a printer, not saved settings"};
+  if (!savedOptionsFor(name)) return unknownInstance(name);
+  const auto connection = ServerConnection::open(server);
+  if (!connection) return connection.error();
+  std::vector<SavedEntry> entries = readSavedEntries(userOptionsPath());
+  std::erase_if(entries, [&](const SavedEntry& entry) { return entry.name == name; });
+  // libcups refuses an empty list; an entry without options leaves no line.
+  if (entries.empty()) entries.push_back({{name.printer, std::nullopt}, false, {}});
+  if (const auto written = writeEntries(connection->get(), entries); !written) return written;
+  if (!savedOptionsFor(name)) return Done{};
+  return Error{"the settings \"" + name.text() +
+               "\" are the administrator's: only lpoptions as root "
+               "removes them"};
+}
+
+}  // namespace cutline

@@ -1,0 +1,57 @@
+#include "cups/PpdProblem.h"
+
+#include <cups/ppd.h>
+
+#include <algorithm>
+
+namespace cutline {
+
+namespace {
+
+// libcups refuses the whole PPD for a longer name, and its own message often points elsewhere.
+constexpr std::size_t kLongestName = PPD_MAX_NAME - 1;
+
+struct LongName {
+  int line = 0;
+  std::string_view name;  // empty: every name fits
+};
+
+// *MAIN OPTION/TEXT: VALUE - the longer one of the two names that is too long, or nothing.
+std::string_view longNameIn(std::string_view line) {
+  if (!line.starts_with('*') || line.starts_with("*%")) return {};
+  line.remove_prefix(1);
+  const auto mainEnd = std::min(line.find_first_of(" \t:"), line.size());
+  if (mainEnd > kLongestName) return line.substr(0, mainEnd);
+  line.remove_prefix(mainEnd);
+  line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
+  const auto optionEnd = std::min(line.find_first_of(":/\r\n"), line.size());
+  return optionEnd > kLongestName ? line.substr(0, optionEnd) : std::string_view{};
+}
+
+LongName findLongName(std::string_view text) {
+  for (int number = 1; !text.empty(); ++number) {
+    const auto end = std::min(text.find_first_of("\r\n"), text.size());
+    if (const auto name = longNameIn(text.substr(0, end)); !name.empty()) return {number, name};
+    const bool isPair = text.substr(end).starts_with("\r\n");
+    text.remove_prefix(std::min(end + (isPair ? 2 : 1), text.size()));
+  }
+  return {};
+}
+
+std::string inLine(int line) { return line > 0 ? "line " + std::to_string(line) + ": " : ""; }
+
+}  // namespace
+
+Error ppdProblem(const std::string& name, std::string_view text) {
+  int line = 0;
+  const ppd_status_t status = ppdLastError(&line);
+  const std::string what = "cannot use " + name + ": ";
+  if (const LongName tooLong = findLongName(text); !tooLong.name.empty()) {
+    return {what + inLine(tooLong.line) + "the name \"" + std::string(tooLong.name) + "\" has " +
+            std::to_string(tooLong.name.size()) + " bytes, and a PPD's names have at most " +
+            std::to_string(kLongestName)};
+  }
+  return {what + inLine(line) + ppdErrorString(status)};
+}
+
+}  // namespace cutline

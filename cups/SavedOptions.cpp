@@ -1,0 +1,105 @@
+#include "cups/SavedOptions.h"
+
+#include <cups/file.h>
+#include <pwd.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+
+#include "cups/CupsOptions.h"
+
+namespace cutline {
+
+namespace {
+
+struct CloseFile {
+  void operator()(cups_file_t* file) const noexcept { cupsFileClose(file); }
+};
+
+// libcups reads a line of the file into a buffer of this size.
+constexpr std::size_t kLineSize = 8192;
+constexpr const char* kBlanks = " \t\f\v\r";
+
+std::string administratorOptionsPath() {
+  const char* root = secure_getenv("CUPS_SERVERROOT");
+  return std::string(root ? root : "/etc/cups") + "/lpoptions";
+}
+
+// NAME[/INSTANCE] OPTIONS
+SavedEntry entryOf(const std::string& text, bool isDefault) {
+  const auto nameEnd = std::min(text.find_first_of(kBlanks), text.size());
+  return {DestinationName::parse(text.substr(0, nameEnd)), isDefault,
+          CupsOptions::parse(text.c_str() + nameEnd).list()};
+}
+
+void merge(const OptionList& from, OptionList& into) {
+  for (const auto& option : from) {
+    const auto known = std::ranges::find(into, option.first, &OptionList::value_type::first);
+    if (known == into.end()) {
+      into.push_back(option);
+    } else {
+      known->second = option.second;
+    }
+  }
+}
+
+// The administrator's entries, then the user's, which win.
+std::vector<SavedEntry> allEntries() {
+  std::vector<SavedEntry> all = readSavedEntries(administratorOptionsPath());
+  if (userOptionsPath() == administratorOptionsPath()) return all;
+  for (SavedEntry& entry : readSavedEntries(userOptionsPath())) all.push_back(std::move(entry));
+  return all;
+}
+
+}  // namespace
+
+std::vector<SavedEntry> readSavedEntries(const std::string& path) {
+  const std::unique_ptr<cups_file_t, CloseFile> file(cupsFileOpen(path.c_str(), "r"));
+  std::vector<SavedEntry> entries;
+  if (!file) return entries;
+  std::array<char, kLineSize> line{};
+  char* value = nullptr;
+  int lineNumber = 0;
+  while (cupsFileGetConf(file.get(), line.data(), line.size(), &value, &lineNumber)) {
+    const bool isDefault = strcasecmp(line.data(), "default") == 0;
+    if (!value || (!isDefault && strcasecmp(line.data(), "dest") != 0)) continue;
+    entries.push_back(entryOf(value, isDefault));
+  }
+  return entries;
+}
+
+std::string userOptionsPath() {
+  const char* home = secure_getenv("HOME");
+  if (!home) {
+    const passwd* user = getpwuid(getuid());
+    home = user ? user->pw_dir : nullptr;
+  }
+  return home ? std::string(home) + "/.cups/lpoptions" : administratorOptionsPath();
+}
+
+std::optional<OptionList> savedOptionsFor(const DestinationName& name) {
+  std::optional<OptionList> options;
+  for (const SavedEntry& entry : allEntries()) {
+    if (entry.name != name) continue;
+    if (!options) options.emplace();
+    merge(entry.options, *options);
+  }
+  return options;
+}
+
+std::vector<std::string> savedInstances(const std::string& printer) {
+  std::vector<std::string> instances;
+  for (const SavedEntry& entry : allEntries()) {
+    if (entry.name.printer != printer || !entry.name.instance) continue;
+    if (std::ranges::find(instances, *entry.name.instance) == instances.end()) {
+      instances.push_back(*entry.name.instance);
+    }
+  }
+  return instances;
+}
+
+}  // namespace cutline
