@@ -1,0 +1,57 @@
+// The description of a view tree as an interface file gives it: a property list whose entry `view`
+// is the top-level view. Each view is a dictionary of
+//
+//   kind                string, one of View, Button, CheckBox, Label, TextField, Stepper,
+//   PopUpButton frame               string "{{x, y}, {width, height}}" in the superview's
+//   coordinates outlet              string: the owner's field; optional, no two the same title
+//   string: text or a key of the string table; optional accessibilityLabel  string: text or a key
+//   of the string table; optional action              string: the owner's action by its full name;
+//   optional delegate            boolean: the owner hears of changes to the text; optional
+//   ppdKeyword          string; optional
+//   minValue, maxValue  integers, the bounds of a stepper; optional
+//   resizing            string, "none" or "minYMargin"; "minYMargin" when absent, except that the
+//                       top-level view has "none"
+//   items               array of {title, tag, description}: the entries of a pop-up button;
+//   optional subviews            array of views; optional
+//
+// Entries of other names are ignored.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/Geometry.h"
+#include "platform/PropertyList.h"
+#include "platform/View.h"
+
+namespace cutline {
+
+enum class ViewKind { view, button, checkBox, label, textField, stepper, popUpButton };
+
+struct ItemDescription {
+  std::string title;  // also the name of the entry's picture
+  int tag = 0;
+  std::string description;  // a key of the string table
+};
+
+struct ViewDescription {
+  ViewKind kind = ViewKind::view;
+  Rect frame;
+  std::string outlet;
+  std::string title;
+  std::string accessibilityLabel;
+  std::string action;
+  bool delegate = false;
+  std::string ppdKeyword;
+  int minValue = 0;
+  int maxValue = 100;
+  Autoresizing resizing = Autoresizing::minYMargin;
+  std::vector<ItemDescription> items;
+  std::vector<ViewDescription> subviews;
+};
+
+// The top-level view; nothing when any part of the file is not as described above.
+std::optional<ViewDescription> interfaceInFile(const PropertyList& file) noexcept;
+
+}  // namespace cutline

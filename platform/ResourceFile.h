@@ -1,0 +1,21 @@
+// Reading of small files such as a bundle's resources.
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace cutline {
+
+// No resource of a bundle comes near this size.
+inline constexpr std::size_t kLargestResource = std::size_t{16} << 20;
+
+// The bytes of a regular file; nothing when it is none, cannot be read or is larger than `limit`.
+std::optional<std::string> readResource(const std::filesystem::path& path,
+                                        std::size_t limit = kLargestResource) noexcept;
+
+// Whether a resource may go by this name: one path component, no NUL, neither "." nor "..".
+bool isResourceName(const std::string& name) noexcept;
+
+}  // namespace cutline
