@@ -31,9 +31,7 @@ struct FamilyNaming {
 
 inline constexpr std::array<FamilyNaming, 4> kFamilyNamings = {{
     {"EveryEndMirror", Family::Roll, {&Flags::every, &Flags::end, &Flags::mirror, nullptr}},
-    {"AHCM",
-     Family::Tape,
-     {&Flags::autoCut, &Flags::halfCut, &Flags::chain, &Flags::mirror}},
+    {"AHCM", Family::Tape, {&Flags::autoCut, &Flags::halfCut, &Flags::chain, &Flags::mirror}},
     {"SPMR", Family::SpecialTape, {&Flags::special, &Flags::mirror, nullptr, nullptr}},
     {"CTMR", Family::MarkedTape, {&Flags::cutMark, &Flags::chain, &Flags::mirror, nullptr}},
 }};
@@ -54,7 +52,7 @@ constexpr Flags flagsOf(std::string_view name) {
     if (!name.starts_with(naming.prefix)) continue;
     name.remove_prefix(naming.prefix.size());
     flags.family = naming.family;
-    for (bool Flags::* field : naming.fields) {
+    for (bool Flags::*field : naming.fields) {
       if (field != nullptr) flags.*field = detail::switchTaken(name);
     }
     break;

@@ -49,8 +49,8 @@ constexpr std::array<Glyph, 12> kGlyphs = {{
 }};
 
 std::string_view strokesOf(char character) {
-  const auto* const found = std::find_if(
-      kGlyphs.begin(), kGlyphs.end(), [&](const Glyph& g) { return g.character == character; });
+  const auto* const found = std::find_if(kGlyphs.begin(), kGlyphs.end(),
+                                         [&](const Glyph& g) { return g.character == character; });
   return found == kGlyphs.end() ? std::string_view() : found->strokes;
 }
 

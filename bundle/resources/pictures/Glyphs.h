@@ -14,8 +14,8 @@ struct Lettering {
   bool mirrored = false;
 };
 
-// Writes `text` (of the letters A B C E F G and the digits 1 to 6) around `centre`. Mirrored text is
-// the mirror image of the same text about the centre's vertical.
+// Writes `text` (of the letters A B C E F G and the digits 1 to 6) around `centre`. Mirrored text
+// is the mirror image of the same text about the centre's vertical.
 void write(Svg& svg, std::string_view text, Point centre, const Lettering& lettering);
 
 }  // namespace cutline::pictures

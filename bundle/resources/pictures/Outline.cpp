@@ -46,8 +46,8 @@ std::string placed(std::string_view outline, const Placement& placement) {
       continue;
     }
     const Point point = pointTaken(outline);
-    text += pointText({placement.origin.x + across * point.x,
-                       placement.origin.y + placement.scale * point.y});
+    text += pointText(
+        {placement.origin.x + across * point.x, placement.origin.y + placement.scale * point.y});
   }
   return text;
 }

@@ -10,7 +10,7 @@
 namespace cutline::pictures {
 
 struct Placement {
-  Point origin;          // where the outline's (0, 0) comes to lie
+  Point origin;  // where the outline's (0, 0) comes to lie
   double scale = 1;
   bool mirrored = false;  // x grows to the left
 };

@@ -21,7 +21,7 @@ inline constexpr Colour kStitch = "#5f83b5";
 // On any background
 inline constexpr Colour kEdge = "#76808b";
 inline constexpr Colour kCut = "#e5432d";
-inline constexpr Colour kHalfCut = "#d9780f";
+inline constexpr Colour kHalfCut = "#cc6f0c";
 inline constexpr Colour kHand = "#1c8f6b";
 
 // The printer

@@ -6,8 +6,8 @@
 
 namespace cutline::pictures {
 
-inline constexpr double kMouth = 210;      // where the tape comes into sight
-inline constexpr double kInsideEnd = 216;  // tape drawn this far disappears in the printer
+inline constexpr double kMouth = 212;      // where the tape comes into sight
+inline constexpr double kInsideEnd = 218;  // tape drawn this far disappears in the printer
 
 // The slot, which lies behind the tape; the body lies before it.
 void drawSlot(Svg& svg, double top, double bottom);
@@ -15,7 +15,7 @@ void drawTapePrinter(Svg& svg);
 void drawRollPrinter(Svg& svg);
 
 // Where signs stand on the body.
-inline constexpr Point kSignPlace = {236, 63};
-inline constexpr Point kSecondSignPlace = {236, 19};
+inline constexpr Point kUpperSign = {237.5, 18.5};
+inline constexpr Point kLowerSign = {237.5, 65.5};
 
 }  // namespace cutline::pictures

@@ -14,14 +14,8 @@ namespace {
 
 constexpr std::array<std::string_view, 3> kTexts = {"ABC", "123", "EFG"};
 constexpr double kLabelWidth = 57;
-constexpr double kGap = 9;
-constexpr double kLeft = 4;
-constexpr double kCutLineBottom = 78;
-
-void drawCut(Svg& svg, double x) {
-  svg.line({x, kPaperTop - 2}, {x, kCutLineBottom}, stroked(kCut, 1.6));
-  drawBlade(svg, {x, kPaperTop - 2}, kCut);
-}
+constexpr double kGap = 10;
+constexpr double kLeft = 3;
 
 // The sample text and, below it, two lines of small print; a mirrored label mirrors both.
 void drawText(Svg& svg, std::size_t index, double centre, bool mirror) {
@@ -44,7 +38,7 @@ void drawSeparateLabels(Svg& svg, const Flags& flags) {
   for (std::size_t i = 0; i < kTexts.size(); ++i) {
     const double left = kLeft + static_cast<double>(i) * (kLabelWidth + kGap);
     drawPaper(svg, {left, left + kLabelWidth});
-    drawCut(svg, left + kLabelWidth + kGap / 2);
+    drawFullCutKnife(svg, left + kLabelWidth + kGap / 2);
   }
   drawTexts(svg, kLeft, kLabelWidth + kGap, flags.mirror);
 }
@@ -53,7 +47,7 @@ void drawStripCutAtEnd(Svg& svg, const Flags& flags) {
   const double right = kLeft + 3 * (kLabelWidth + kGap) - kGap;
   const double left = right - 3 * kLabelWidth;
   drawPaper(svg, {left, right});
-  drawCut(svg, right + kGap / 2);
+  drawFullCutKnife(svg, right + kGap / 2);
   drawTexts(svg, left, kLabelWidth, flags.mirror);
 }
 
@@ -74,7 +68,7 @@ void drawRollPicture(Svg& svg, const Flags& flags) {
     drawUncutStrip(svg, flags);
   }
   drawRollPrinter(svg);
-  if (flags.mirror) drawMirror(svg, kSignPlace);
+  if (flags.mirror) drawMirror(svg, kLowerSign);
 }
 
 }  // namespace cutline::pictures

@@ -6,22 +6,25 @@
 
 namespace cutline::pictures {
 
-// The printer's blade above the tape, its point at `tip`.
-void drawBlade(Svg& svg, Point tip, Colour colour);
+// A knife in the gap around `x`: the printer cuts through the whole tape.
+void drawFullCutKnife(Svg& svg, double x);
 
-// A blade that stays away: grey and struck through.
-void drawNoBlade(Svg& svg, Point tip);
+// A knife on the line at `x`: the printer cuts the printed layer and goes no deeper.
+void drawHalfCutKnife(Svg& svg, double x);
 
-// Scissors in a hand's reach, cutting upwards, the point where their blades cross at `pivot`.
-void drawScissors(Svg& svg, Point pivot);
+// A knife at rest above `x`, struck through: the printer doesn't cut.
+void drawNoKnife(Svg& svg, double x);
 
-// Two links of a chain around `centre`.
-void drawLinks(Svg& svg, Point centre);
+// Scissors in a hand, cutting upwards into the lower edge of the tape at `x`.
+void drawScissors(Svg& svg, double x);
 
 // A waste bin around `centre`.
 void drawBin(Svg& svg, Point centre);
 
-// Two triangles on either side of a mirror, around `centre`.
+// Two links of a chain, on a plate around `centre`.
+void drawLinks(Svg& svg, Point centre);
+
+// Two triangles on either side of a mirror, on a plate around `centre`.
 void drawMirror(Svg& svg, Point centre);
 
 }  // namespace cutline::pictures

@@ -7,7 +7,7 @@
 
 namespace cutline::pictures {
 
-inline constexpr double kTapeTop = 29;
+inline constexpr double kTapeTop = 28;
 inline constexpr double kTapeFaceBottom = 58;
 inline constexpr double kTapeBottom = 64;
 
