@@ -1,0 +1,25 @@
+#include "plain/PlainControl.h"
+
+#include <utility>
+
+#include "platform/Toolkit.h"
+
+namespace cutline {
+
+PlainControl::PlainControl(const Rect& frame, std::shared_ptr<const PlainActions> actions)
+    : PlainView(frame), mActions(std::move(actions)) {}
+
+void PlainControl::setAction(ActionHandler action) noexcept { mAction = std::move(action); }
+
+void PlainControl::sendAction() noexcept {
+  if (!mAction) return;
+  perform([this, action = mAction] { action(this); });
+}
+
+void PlainControl::perform(std::function<void()> handler) noexcept {
+  if (!handler) return;
+  handler();
+  if (mActions->observer) mActions->observer->actionDidFinish(*this);
+}
+
+}  // namespace cutline

@@ -1,0 +1,101 @@
+#include "plain/PlainImage.h"
+
+#include <array>
+#include <charconv>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <utility>
+
+#include "platform/ResourceFile.h"
+
+namespace cutline {
+namespace {
+
+constexpr std::string_view kPngStart("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16);
+constexpr std::string_view kBlanks = " \t\r\n";
+
+std::uint32_t bigEndian(std::string_view bytes) {
+  std::uint32_t value = 0;
+  for (int i = 0; i < 4; ++i) value = (value << 8) | static_cast<unsigned char>(bytes[i]);
+  return value;
+}
+
+// One pixel counts as one point.
+std::optional<Size> pngSize(std::string_view bytes) {
+  if (!bytes.starts_with(kPngStart) || bytes.size() < kPngStart.size() + 8) return std::nullopt;
+  bytes.remove_prefix(kPngStart.size());
+  return Size{static_cast<double>(bigEndian(bytes)),
+              static_cast<double>(bigEndian(bytes.substr(4)))};
+}
+
+// What stands between the opening `<svg` and its `>`.
+std::string_view svgTag(std::string_view bytes) {
+  const auto start = bytes.find("<svg");
+  if (start == bytes.npos) return {};
+  bytes.remove_prefix(start + 4);
+  const auto end = bytes.find('>');
+  if (end == bytes.npos || kBlanks.find(bytes.front()) == kBlanks.npos) return {};
+  return bytes.substr(0, end);
+}
+
+std::string_view attribute(std::string_view tag, std::string_view name) {
+  for (auto at = tag.find(name); at != tag.npos; at = tag.find(name, at + 1)) {
+    if (at == 0 || kBlanks.find(tag[at - 1]) == kBlanks.npos) continue;
+    const std::string_view rest = tag.substr(at + name.size());
+    if (!rest.starts_with("=\"") && !rest.starts_with("='")) continue;
+    return rest.substr(2, rest.find(rest[1], 2) - 2);
+  }
+  return {};
+}
+
+// Takes a number and the blanks or comma before it from the start of `text`.
+std::optional<double> takeNumber(std::string_view& text) {
+  const auto start = text.find_first_not_of(" ,\t\r\n");
+  if (start == text.npos) return std::nullopt;
+  text.remove_prefix(start);
+  double value = 0;
+  const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (result.ec != std::errc()) return std::nullopt;
+  text.remove_prefix(static_cast<std::size_t>(result.ptr - text.data()));
+  return value;
+}
+
+// A length in user units, of which each is a point; nothing when it is given in another unit.
+std::optional<double> length(std::string_view text) {
+  const auto value = takeNumber(text);
+  return text.empty() || text == "px" || text == "pt" ? value : std::nullopt;
+}
+
+std::optional<Size> viewBoxSize(std::string_view viewBox) {
+  std::array<double, 4> numbers{};
+  for (double& number : numbers) {
+    const auto value = takeNumber(viewBox);
+    if (!value) return std::nullopt;
+    number = *value;
+  }
+  return Size{numbers[2], numbers[3]};
+}
+
+std::optional<Size> svgSize(std::string_view bytes) {
+  const std::string_view tag = svgTag(bytes);
+  const auto width = length(attribute(tag, "width"));
+  const auto height = length(attribute(tag, "height"));
+  if (width && height) return Size{*width, *height};
+  return viewBoxSize(attribute(tag, "viewBox"));
+}
+
+}  // namespace
+
+std::shared_ptr<Image> PlainImage::load(const std::string& path) {
+  const auto bytes = readResource(path);
+  if (!bytes) return nullptr;
+  auto size = pngSize(*bytes);
+  if (!size) size = svgSize(*bytes);
+  if (!size || !(size->width > 0) || !(size->height > 0)) return nullptr;
+  return std::make_shared<PlainImage>(path, *size);
+}
+
+PlainImage::PlainImage(std::string path, const Size& size) : mPath(std::move(path)), mSize(size) {}
+
+}  // namespace cutline

@@ -1,0 +1,31 @@
+// A pop-up button in memory.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "plain/PlainControl.h"
+#include "platform/PopUpButton.h"
+
+namespace cutline {
+
+class PlainPopUpButton final : public virtual PopUpButton, public PlainControl {
+ public:
+  using PlainControl::PlainControl;
+
+  void addItem(PopUpItem item) noexcept override;
+  void removeItemWithTitle(const std::string& title) noexcept override;
+  std::vector<PopUpItem> items() const noexcept override { return mItems; }
+  void setTitleOfItem(std::size_t index, const std::string& title) noexcept override;
+  bool selectItemWithTag(int tag) noexcept override;
+  int selectedTag() const noexcept override;
+  bool performSelection(int tag) noexcept override;
+
+ private:
+  std::vector<PopUpItem> mItems;
+  std::optional<std::size_t> mSelected;
+};
+
+}  // namespace cutline

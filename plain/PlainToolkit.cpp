@@ -1,0 +1,60 @@
+#include "plain/PlainToolkit.h"
+
+#include "plain/PlainButton.h"
+#include "plain/PlainCheckBox.h"
+#include "plain/PlainCustomView.h"
+#include "plain/PlainImage.h"
+#include "plain/PlainLabel.h"
+#include "plain/PlainPopUpButton.h"
+#include "plain/PlainStepper.h"
+#include "plain/PlainTextField.h"
+
+namespace cutline {
+
+PlainToolkit::PlainToolkit() = default;
+
+// Controls may live on; nobody hears of their actions then.
+PlainToolkit::~PlainToolkit() { mActions->observer = nullptr; }
+
+void PlainToolkit::setActionObserver(ActionObserver* observer) noexcept {
+  mActions->observer = observer;
+}
+
+std::shared_ptr<View> PlainToolkit::createView(const Rect& frame) noexcept {
+  return std::make_shared<PlainView>(frame);
+}
+
+std::shared_ptr<Button> PlainToolkit::createButton(const Rect& frame) noexcept {
+  return std::make_shared<PlainButton>(frame, mActions);
+}
+
+std::shared_ptr<CheckBox> PlainToolkit::createCheckBox(const Rect& frame) noexcept {
+  return std::make_shared<PlainCheckBox>(frame, mActions);
+}
+
+std::shared_ptr<Label> PlainToolkit::createLabel(const Rect& frame) noexcept {
+  return std::make_shared<PlainLabel>(frame, mActions);
+}
+
+std::shared_ptr<TextField> PlainToolkit::createTextField(const Rect& frame) noexcept {
+  return std::make_shared<PlainTextField>(frame, mActions);
+}
+
+std::shared_ptr<Stepper> PlainToolkit::createStepper(const Rect& frame) noexcept {
+  return std::make_shared<PlainStepper>(frame, mActions);
+}
+
+std::shared_ptr<PopUpButton> PlainToolkit::createPopUpButton(const Rect& frame) noexcept {
+  return std::make_shared<PlainPopUpButton>(frame, mActions);
+}
+
+std::shared_ptr<CustomView> PlainToolkit::createCustomView(const Rect& frame,
+                                                           CustomViewClient* client) noexcept {
+  return std::make_shared<PlainCustomView>(frame, client);
+}
+
+std::shared_ptr<Image> PlainToolkit::imageWithContentsOfFile(const std::string& path) noexcept {
+  return PlainImage::load(path);
+}
+
+}  // namespace cutline
