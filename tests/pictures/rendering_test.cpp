@@ -70,8 +70,9 @@ double luminanceOf(const QColor& colour) {
 }
 
 double contrastOf(const QColor& one, const QColor& other) {
-  const auto [dark, light] = std::minmax(luminanceOf(one), luminanceOf(other));
-  return (light + 0.05) / (dark + 0.05);
+  const double first = luminanceOf(one) + 0.05;
+  const double second = luminanceOf(other) + 0.05;
+  return std::max(first, second) / std::min(first, second);
 }
 
 QColor colourOf(Colour colour) {

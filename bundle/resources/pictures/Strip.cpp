@@ -22,7 +22,9 @@ Box sharp(Span span, double top, double bottom) {
 Outline threads(const Box& box) {
   Outline outline;
   const double reach = box.height();
-  for (double x = box.left + kWeavePitch; x < box.right + reach; x += kWeavePitch) {
+  const int count = static_cast<int>((box.width() + reach) / kWeavePitch);
+  for (int i = 1; i <= count; ++i) {
+    const double x = box.left + i * kWeavePitch;
     const double over = std::max(0.0, x - box.right);
     const double under = std::max(0.0, box.left - (x - reach));
     outline.move({x - over, box.top + over}).line({x - reach + under, box.bottom - under});
