@@ -15,7 +15,7 @@
 
 namespace cutline {
 
-class DirectoryBundle;
+class Bundle;
 
 // A bundle whose code is in the process. Never unloaded.
 class LoadedBundle : public std::enable_shared_from_this<LoadedBundle> {
@@ -34,7 +34,7 @@ class LoadedBundle : public std::enable_shared_from_this<LoadedBundle> {
  private:
   LoadedBundle() = default;
   std::string mName;
-  std::shared_ptr<DirectoryBundle> mBundle;
+  std::shared_ptr<Bundle> mBundle;
   const PrincipalClassEntry* mEntry = nullptr;
 };
 

@@ -1,0 +1,245 @@
+#include "host/core/CommandLine.h"
+
+#include <getopt.h>
+
+#include <charconv>
+#include <vector>
+
+#include "cups/CupsOptions.h"
+#include "host/core/PageRanges.h"
+
+namespace cutline {
+
+namespace {
+
+constexpr int kMaxCopies = 9999;
+// Long options without a letter of their own.
+enum LongOption {
+  kPpd = 256,
+  kPrint,
+  kSummary,
+  kOptions,
+  kSnapshot,
+  kScale,
+  kDark,
+  kList,
+  kPluginDirectory,
+  kMarks,
+  kHelp,
+  kVersion
+};
+
+constexpr char kShortOptions[] = ":d:n:P:t:o:h:EU:";
+constexpr option kLongOptions[] = {{"ppd", required_argument, nullptr, kPpd},
+                                   {"print", no_argument, nullptr, kPrint},
+                                   {"summary", no_argument, nullptr, kSummary},
+                                   {"options", no_argument, nullptr, kOptions},
+                                   {"snapshot", required_argument, nullptr, kSnapshot},
+                                   {"scale", required_argument, nullptr, kScale},
+                                   {"dark", no_argument, nullptr, kDark},
+                                   {"list", no_argument, nullptr, kList},
+                                   {"plugin-dir", required_argument, nullptr, kPluginDirectory},
+                                   {"marks", no_argument, nullptr, kMarks},
+                                   {"help", no_argument, nullptr, kHelp},
+                                   {"version", no_argument, nullptr, kVersion},
+                                   {nullptr, 0, nullptr, 0}};
+
+constexpr char kHelpText[] =
+    R"(Usage: cutline [OPTION]... [FILE]
+Print labels and tapes: shows a print dialog with the printer's cut options.
+
+  -d PRINTER[/INSTANCE]  the printer, or a saved preset of it; your default printer when absent
+  -n COPIES              number of copies
+  -P PAGES               pages to print, such as 1-4,7
+  -t TITLE               the job's title; the file's name when absent
+  -o NAME=VALUE          an option of the printer or the job; may be given again
+  -h HOST[:PORT]         the print server
+  -E                     insist on an encrypted connection
+  -U USER                the user that the job is sent as
+
+  --ppd FILE             work on this PPD file instead of a printer; cannot print
+  --print                print at once, without a window; FILE absent or - reads standard input
+  --summary              show the panel's summary and end
+  --options              show what would be sent with the job and end
+  --snapshot PNG         save a picture of the dialog as it opens and end
+  --scale 1|2            pixels per point of the dialog (with --snapshot)
+  --dark                 light text on dark ground
+  --list                 list the printers, their kind and their panels, and end
+  --plugin-dir DIR       look for panels in this directory first
+  --marks                print times of the start on standard output and end (for measuring)
+  --help, --version      show this text, or the version, and end
+
+Exit status: 0 done, 1 error, 2 wrong usage, 3 cancelled.
+)";
+
+using Problem = std::optional<std::string>;
+
+Problem setCommand(CommandLine& line, Command command) {
+  if (line.command != Command::dialog && line.command != command)
+    return "--print, --summary, --options, --snapshot and --list exclude each other";
+  line.command = command;
+  return std::nullopt;
+}
+
+std::optional<int> wholeNumber(const std::string& text) {
+  int number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  const bool whole = error == std::errc() && end == text.data() + text.size();
+  return whole ? std::optional<int>(number) : std::nullopt;
+}
+
+Problem setCopies(CommandLine& line, const std::string& text) {
+  const std::optional<int> copies = wholeNumber(text);
+  if (!copies || *copies < 1 || *copies > kMaxCopies)
+    return "copies: \"" + text + "\" is no number from 1 to " + std::to_string(kMaxCopies);
+  line.asked.copies = copies;
+  return std::nullopt;
+}
+
+Problem setPages(CommandLine& line, const std::string& text) {
+  const Result<std::string> ranges = normalizedPageRanges(text);
+  if (!ranges) return ranges.error().message;
+  line.asked.pageRanges = *ranges;
+  return std::nullopt;
+}
+
+Problem setScale(CommandLine& line, const std::string& text) {
+  if (text != "1" && text != "2") return "--scale takes 1 or 2";
+  line.scale = text == "2" ? 2 : 1;
+  return std::nullopt;
+}
+
+// One option of -o. Copies and pages have their own places; a plain `media` names the page size.
+Problem setOption(CommandLine& line, const std::string& name, const std::string& value) {
+  if (name == "copies") return setCopies(line, value);
+  if (name == "page-ranges") return setPages(line, value);
+  const bool isPageSize = name == "media" && value.find(',') == std::string::npos;
+  line.asked.options.emplace_back(isPageSize ? "PageSize" : name, value);
+  return std::nullopt;
+}
+
+Problem addOptions(CommandLine& line, const std::string& text) {
+  const OptionList options = CupsOptions::parse(text.c_str()).list();
+  if (options.empty()) return "-o needs NAME=VALUE, not \"" + text + "\"";
+  for (const auto& [name, value] : options)
+    if (const Problem problem = setOption(line, name, value)) return problem;
+  return std::nullopt;
+}
+
+Problem setDestination(CommandLine& line, const std::string& text) {
+  if (text.empty() || text.front() == '/') return "-d needs the name of a printer";
+  line.destination = DestinationName::parse(text);
+  return std::nullopt;
+}
+
+Problem setSnapshot(CommandLine& line, const std::string& path) {
+  line.snapshotPath = path;
+  return setCommand(line, Command::snapshot);
+}
+
+template <typename Field>
+Problem store(Field& field, const std::string& text) {
+  field = text;
+  return std::nullopt;
+}
+
+Problem turnOn(bool& flag) {
+  flag = true;
+  return std::nullopt;
+}
+
+Problem apply(CommandLine& line, int option, const std::string& text) {
+  switch (option) {
+    case 'd':
+      return setDestination(line, text);
+    case 'n':
+      return setCopies(line, text);
+    case 'P':
+      return setPages(line, text);
+    case 't':
+      return store(line.title, text);
+    case 'o':
+      return addOptions(line, text);
+    case 'h':
+      return store(line.server.server, text);
+    case 'E':
+      return turnOn(line.server.encrypt);
+    case 'U':
+      return store(line.server.user, text);
+    case kPpd:
+      return store(line.ppdPath, text);
+    case kPrint:
+      return setCommand(line, Command::print);
+    case kSummary:
+      return setCommand(line, Command::summary);
+    case kOptions:
+      return setCommand(line, Command::options);
+    case kSnapshot:
+      return setSnapshot(line, text);
+    case kScale:
+      return setScale(line, text);
+    case kDark:
+      return turnOn(line.dark);
+    case kList:
+      return setCommand(line, Command::list);
+    case kPluginDirectory:
+      return store(line.pluginDirectory, text);
+    case kMarks:
+      return turnOn(line.marks);
+    default:
+      return "unknown option";
+  }
+}
+
+Problem checkTogether(const CommandLine& line) {
+  if (!line.ppdPath) return std::nullopt;
+  if (line.destination) return "--ppd and -d exclude each other";
+  if (line.command == Command::list) return "--ppd and --list exclude each other";
+  if (line.command == Command::print)
+    return "--ppd cannot print: a PPD file is no printer; name one with -d";
+  return std::nullopt;
+}
+
+Problem setFile(CommandLine& line, const std::vector<std::string>& words) {
+  if (words.size() > 1) return "one document at a time, not also \"" + words[1] + "\"";
+  if (!words.empty()) line.file = words.front();
+  return std::nullopt;
+}
+
+// getopt could not read an option; a letter of its own is in optopt, a long one in the word.
+std::string complaint(int answer, const char* word) {
+  const bool isLetter = optopt > 0 && optopt < kPpd;
+  const std::string option = isLetter ? std::string("-") + static_cast<char>(optopt) : word;
+  return (answer == ':' ? "no value for " : "unknown option ") + option;
+}
+
+CommandLine only(Command command) {
+  CommandLine line;
+  line.command = command;
+  return line;
+}
+
+}  // namespace
+
+Result<CommandLine> parseCommandLine(int argc, const char* const* argv) {
+  CommandLine line;
+  auto* const words = const_cast<char**>(argv);
+  opterr = 0;
+  optind = 0;  // getopt starts afresh
+  for (;;) {
+    const int option = getopt_long(argc, words, kShortOptions, kLongOptions, nullptr);
+    if (option == -1) break;
+    if (option == '?' || option == ':') return Error{complaint(option, words[optind - 1])};
+    if (option == kHelp) return only(Command::help);
+    if (option == kVersion) return only(Command::version);
+    if (const Problem problem = apply(line, option, optarg != nullptr ? optarg : ""))
+      return Error{*problem};
+  }
+  if (const Problem problem = setFile(line, {words + optind, words + argc})) return Error{*problem};
+  if (const Problem problem = checkTogether(line)) return Error{*problem};
+  return line;
+}
+
+std::string helpText() { return kHelpText; }
+
+}  // namespace cutline

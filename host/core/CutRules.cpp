@@ -1,0 +1,67 @@
+#include "host/core/CutRules.h"
+
+#include <algorithm>
+
+#include "cups/PpdFile.h"
+#include "host/core/OptionTable.h"
+
+namespace cutline {
+
+namespace {
+
+constexpr std::array<std::string_view, 4> kOffUnderSpecialTape = {"LxAutoTapeCut", "LxHalfCut",
+                                                                  "LxChainPrint", "LxCutMark"};
+
+bool contains(const auto& keywords, std::string_view keyword) {
+  return std::find(keywords.begin(), keywords.end(), keyword) != keywords.end();
+}
+
+// The panel takes each but the first choice of special tape for on.
+bool specialTapeIsOn(const PpdFile& ppd, const OptionTable& options) {
+  const std::string marked = ppd.markedChoice("LxSpecialTape");
+  return options.position("LxSpecialTape", marked).value_or(0) != 0;
+}
+
+bool paperBegins(const PpdFile& ppd, std::string_view prefix) {
+  return ppd.markedChoice("PageSize").starts_with(prefix);
+}
+
+}  // namespace
+
+bool isCutKeyword(std::string_view keyword) noexcept { return contains(kCutKeywords, keyword); }
+
+bool hasCutOptions(const PpdFile& ppd) {
+  return std::any_of(kCutKeywords.begin(), kCutKeywords.end(),
+                     [&](std::string_view keyword) { return ppd.hasOption(std::string(keyword)); });
+}
+
+bool isLabelRoll(const PpdFile& ppd) { return ppd.attribute("LxTapeType") == "WN"; }
+
+CutRule cutRuleFor(const PpdFile& ppd, const OptionTable& options, std::string_view keyword,
+                   bool isShown) {
+  if (isShown && contains(kOffUnderSpecialTape, keyword) && specialTapeIsOn(ppd, options))
+    return CutRule::specialTape;
+  if (keyword == "LxAutoTapeCut" && paperBegins(ppd, "HS")) return CutRule::uncutPaper;
+  if (keyword != "LxRemoveBlkSpace") return CutRule::none;
+  const bool fixed = paperBegins(ppd, "DC") || paperBegins(ppd, "AV");
+  return fixed ? CutRule::fixedPaper : CutRule::none;
+}
+
+std::string sentenceForRule(CutRule rule, const std::string& option, const std::string& choice,
+                            const std::string& paper) {
+  switch (rule) {
+    case CutRule::specialTape:
+      return option + ": sent as \"" + choice + "\" because special tape is on.";
+    case CutRule::fixedPaper:
+      return option + ": stays \"" + choice + "\" because it cannot be changed on the paper \"" +
+             paper + "\".";
+    case CutRule::uncutPaper:
+      return option + ": sent as \"" + choice + "\" because the paper \"" + paper +
+             "\" must not be cut automatically.";
+    case CutRule::none:
+      break;
+  }
+  return option + ": sent as \"" + choice + "\".";
+}
+
+}  // namespace cutline

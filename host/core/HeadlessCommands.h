@@ -1,0 +1,19 @@
+// The commands that need no window: --print, --summary, --options and --list.
+#pragma once
+
+#include <iosfwd>
+
+#include "cups/Result.h"
+#include "host/core/CommandLine.h"
+
+namespace cutline {
+
+class PluginLoader;
+
+// Runs the command over plain controls. `out` gets what was asked for, `notes` one line "cutline:
+// ..." for each thing to know that is no failure: what a panel's rule changes, conflicts, panels
+// that could not be loaded. May block on the server.
+Result<Done> runHeadlessCommand(const CommandLine& line, PluginLoader& plugIns, std::ostream& out,
+                                std::ostream& notes);
+
+}  // namespace cutline

@@ -1,0 +1,21 @@
+#include "host/core/Installation.h"
+
+#include <filesystem>
+
+namespace cutline {
+
+Installation Installation::ofThisProgram() {
+  std::error_code error;
+  const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
+  return Installation(program.parent_path().parent_path().string());
+}
+
+std::string Installation::modulePath(const std::string& fileName) const {
+  return mPrefix + "/lib/cutline/" + fileName;
+}
+
+std::string Installation::plugInDirectory() const { return mPrefix + "/lib/cutline/plugins"; }
+
+std::string Installation::sampleDirectory() const { return mPrefix + "/share/cutline/samples"; }
+
+}  // namespace cutline

@@ -1,0 +1,65 @@
+#include "host/core/JobOptions.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "host/core/CutRules.h"
+#include "host/core/OpenPrinter.h"
+
+namespace cutline {
+
+namespace {
+
+// Settled elsewhere: paper by PageSize, copies and pages by the print model.
+constexpr std::array<std::string_view, 4> kSettledElsewhere = {"media", "PageRegion", "copies",
+                                                               "page-ranges"};
+
+bool isSettledElsewhere(const std::string& name) {
+  return std::find(kSettledElsewhere.begin(), kSettledElsewhere.end(), name) !=
+         kSettledElsewhere.end();
+}
+
+void set(OptionList& options, const std::string& name, const std::string& value) {
+  const auto old = std::find_if(options.begin(), options.end(),
+                                [&](const auto& option) { return option.first == name; });
+  if (old != options.end())
+    old->second = value;
+  else
+    options.emplace_back(name, value);
+}
+
+void addMarked(OptionList& options, const OpenPrinter& printer, const std::string& keyword) {
+  const std::string marked = printer.ppd().markedChoice(keyword);
+  if (!marked.empty()) set(options, keyword, marked);
+}
+
+void addOthers(OptionList& options, const OpenPrinter& printer) {
+  for (const auto& [keyword, choice] : printer.ppd().markedOptions()) {
+    if (isSettledElsewhere(keyword)) continue;
+    const PpdOption* option = printer.options().find(keyword);
+    const bool isDefault = option != nullptr && option->defaultChoice == choice;
+    if (!isDefault || printer.wasAskedFor(keyword)) set(options, keyword, choice);
+  }
+}
+
+void addBesidePpd(OptionList& options, const OpenPrinter& printer) {
+  for (const OptionList& layer : printer.layers())
+    for (const auto& [name, value] : layer)
+      if (printer.options().find(name) == nullptr && !isSettledElsewhere(name))
+        set(options, name, value);
+}
+
+}  // namespace
+
+OptionList jobOptions(const OpenPrinter& printer) {
+  OptionList options;
+  for (const std::string_view keyword : kCutKeywords)
+    addMarked(options, printer, std::string(keyword));
+  addMarked(options, printer, "PageSize");
+  addOthers(options, printer);
+  addBesidePpd(options, printer);
+  return options;
+}
+
+}  // namespace cutline

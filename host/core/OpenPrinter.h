@@ -1,0 +1,113 @@
+// One printer opened in a print dialog: its PPD's marks, its panels, and the sequence that holds
+// together what the panels show, what the PPD has marked and what is sent.
+//
+// Panels have habits that would lose a user's choices in a host that only relays calls: the first
+// willShow starts the controls from the PPD's defaults and saves them, a full refresh puts boxes
+// back to what the preset list can express, two boxes can stand for one option, and a save reads
+// the boxes. So the host remembers what is wanted, marks it, lets the panels restore, and then
+// clicks each box that does not stand where it should, as a user would.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "host/core/CutRules.h"
+#include "host/core/OptionTable.h"
+#include "host/core/PanelSet.h"
+
+namespace cutline {
+
+class OpenPrinter final : private PanelHostOwner {
+ public:
+  // Marks the PPD and makes the panels. `layoutDidChange` is called when a panel has resized its
+  // view.
+  OpenPrinter(PrinterChoice choice, PanelSource& source, const OptionList& asked,
+              std::function<void()> layoutDidChange);
+  ~OpenPrinter() override;
+  OpenPrinter(const OpenPrinter&) = delete;
+  OpenPrinter& operator=(const OpenPrinter&) = delete;
+
+  const PrinterChoice& choice() const noexcept { return mChoice; }
+  const PpdFile& ppd() const noexcept { return *mChoice.ppd; }
+  const OptionTable& options() const noexcept { return mOptions; }
+  const PanelSet& panels() const noexcept { return *mPanels; }
+  const std::vector<PaperSize>& papers() const noexcept { return mPapers; }
+  // What was saved for the destination, and what was asked for over it, in order.
+  const std::vector<OptionList>& layers() const noexcept { return mLayers; }
+  // Somebody chose this option, so it is sent even at its default.
+  bool wasAskedFor(const std::string& keyword) const { return mAskedFor.contains(keyword); }
+
+  // Starts again from the PPD's defaults and these options over them.
+  void restart(const OptionList& options);
+  // All of them take names that the PPD has.
+  void choosePaper(const std::string& name);
+  void chooseOption(const std::string& keyword, const std::string& choice);
+  // Several at once, as one change.
+  void chooseOptions(const OptionList& changes);
+  // After an action of a control; false when it was the host's own click, which changes nothing.
+  bool userDidAct(View& sender);
+  // Saves the panels' values; every option that has no mark gets its default first.
+  Result<Done> askToPrint();
+  void save();
+
+  std::vector<Deviation> deviations() const;
+  // The user's last choice, which gives way last.
+  const std::string& lastChosen() const noexcept { return mLastChosen; }
+
+ private:
+  // While one exists, marks and clicks are the host's own doing, not the user's.
+  class HostCall {
+   public:
+    explicit HostCall(OpenPrinter& printer) : mPrinter(printer) { ++mPrinter.mHostCalls; }
+    ~HostCall() { --mPrinter.mHostCalls; }
+    HostCall(const HostCall&) = delete;
+    HostCall& operator=(const HostCall&) = delete;
+
+   private:
+    OpenPrinter& mPrinter;
+  };
+  using BoxStates = std::vector<std::pair<CheckBox*, int>>;
+
+  void panelWillChange(const PDEPluginCallback13_v400_& from, const std::string& key,
+                       const std::string& choice) override;
+  void panelDidResize() override;
+
+  void markLayers();
+  void want(const std::string& keyword, const std::string& choice);
+  void wantMarked();
+  void wantShown();
+  std::string wanted(const std::string& keyword) const;
+
+  void run();
+  void runFromPaper();
+  void postPaperChange();
+  void tick();
+  void followClicked(const CheckBox& clicked);
+  void settle();
+  bool clickStrays();
+  void markStrays();
+  bool click(CheckBox& box, const std::string& choice);
+  bool hasBox(const std::string& keyword) const;
+  CutRule ruleFor(const std::string& keyword) const;
+  BoxStates boxStates() const;
+  OptionList panelMarks() const;
+
+  PrinterChoice mChoice;
+  OptionTable mOptions;
+  std::vector<PaperSize> mPapers;
+  std::shared_ptr<PrintTicket> mTicket;
+  std::vector<OptionList> mLayers;
+  std::set<std::string> mAskedFor;
+  std::function<void()> mLayoutDidChange;
+  int mHostCalls = 0;
+  std::map<std::string, std::string> mWanted;  // by keyword, of the panels' options
+  std::string mLastChosen;
+  std::unique_ptr<PanelSet> mPanels;
+};
+
+}  // namespace cutline

@@ -1,0 +1,33 @@
+// The options of one PPD by keyword, with their choices.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cups/PpdFile.h"
+
+namespace cutline {
+
+class OptionTable {
+ public:
+  explicit OptionTable(const PpdFile& ppd);
+
+  const std::vector<OptionGroup>& groups() const noexcept { return mGroups; }
+
+  // Capitals do not count, as in libcups. Null when the PPD lacks the option; borrowed.
+  const PpdOption* find(const std::string& keyword) const;
+
+  // Where the choice stands in the option's list; nothing when either is missing.
+  std::optional<int> position(const std::string& keyword, const std::string& choice) const;
+  std::optional<std::string> choiceAt(const std::string& keyword, int position) const;
+
+  // For people; the keyword itself when the PPD does not know it.
+  std::string optionText(const std::string& keyword) const;
+  std::string choiceText(const std::string& keyword, const std::string& choice) const;
+
+ private:
+  std::vector<OptionGroup> mGroups;
+};
+
+}  // namespace cutline

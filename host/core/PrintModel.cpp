@@ -1,0 +1,207 @@
+#include "host/core/PrintModel.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "host/core/ConflictResolution.h"
+#include "host/core/CutRules.h"
+#include "host/core/JobOptions.h"
+#include "host/core/OpenPrinter.h"
+#include "host/core/PageRanges.h"
+#include "platform/Platform.h"
+
+namespace cutline {
+
+namespace {
+
+constexpr int kMaxCopies = 9999;
+
+std::optional<std::string> lastValue(const OptionList& options, const std::string& name) {
+  const auto found = std::find_if(options.rbegin(), options.rend(),
+                                  [&](const auto& option) { return option.first == name; });
+  return found != options.rend() ? std::optional<std::string>(found->second) : std::nullopt;
+}
+
+std::optional<int> copiesOf(const OptionList& options) {
+  const std::string text = lastValue(options, "copies").value_or("");
+  int copies = 0;
+  std::from_chars(text.data(), text.data() + text.size(), copies);
+  return copies >= 1 && copies <= kMaxCopies ? std::optional<int>(copies) : std::nullopt;
+}
+
+bool hasOwnControl(const std::string& keyword) {
+  return keyword == "PageSize" || keyword == "PageRegion";
+}
+
+std::string listOf(const std::vector<PaperSize>& papers) {
+  std::string names;
+  for (const PaperSize& paper : papers) names += (names.empty() ? "" : ", ") + paper.name;
+  return names;
+}
+
+}  // namespace
+
+PrintModelListener::~PrintModelListener() = default;
+
+PrintModel::PrintModel(PanelSource& panelSource, AskedSettings asked)
+    : mPanelSource(panelSource), mAsked(std::move(asked)) {
+  currentPlatform().toolkit->setActionObserver(this);
+}
+
+PrintModel::~PrintModel() {
+  close();
+  currentPlatform().toolkit->setActionObserver(nullptr);
+}
+
+void PrintModel::setListener(PrintModelListener* listener) noexcept { mListener = listener; }
+
+void PrintModel::tell(ModelChange what) {
+  if (mListener != nullptr && mPrinter != nullptr) mListener->modelDidChange(what);
+}
+
+void PrintModel::openPrinter(PrinterChoice choice) {
+  mPrinter.reset();
+  mPrinter = std::make_unique<OpenPrinter>(std::move(choice), mPanelSource, mAsked.options,
+                                           [this] { tell(ModelChange::layout); });
+  tell(ModelChange::printer);
+  tell(ModelChange::options);
+}
+
+bool PrintModel::isOpen() const noexcept { return mPrinter != nullptr; }
+
+bool PrintModel::hasQueue() const noexcept {
+  return isOpen() && !destination().name.printer.empty();
+}
+
+const Destination& PrintModel::destination() const noexcept {
+  return mPrinter->choice().destination;
+}
+
+const std::shared_ptr<PpdFile>& PrintModel::ppdFile() const noexcept {
+  return mPrinter->choice().ppd;
+}
+
+const std::vector<PanelEntry>& PrintModel::panels() const noexcept {
+  return mPrinter->panels().entries();
+}
+
+const std::vector<PaperSize>& PrintModel::papers() const noexcept { return mPrinter->papers(); }
+
+PaperSize PrintModel::currentPaper() const { return mPrinter->ppd().markedPaper(); }
+
+Result<Done> PrintModel::setPaper(const std::string& name) {
+  const auto known = std::find_if(papers().begin(), papers().end(),
+                                  [&](const PaperSize& paper) { return paper.name == name; });
+  if (known == papers().end())
+    return Error{"unknown paper \"" + name + "\"; this printer has " + listOf(papers())};
+  mPrinter->choosePaper(name);
+  tell(ModelChange::paper);
+  tell(ModelChange::options);
+  return Done{};
+}
+
+std::vector<GeneratedGroup> PrintModel::generatedOptions() const {
+  std::vector<GeneratedGroup> groups;
+  for (const OptionGroup& group : mPrinter->options().groups()) {
+    GeneratedGroup generated{group.text, {}};
+    for (const PpdOption& option : group.options) {
+      if (hasOwnControl(option.keyword) || option.choices.empty()) continue;
+      if (mPrinter->panels().declares(option.keyword)) continue;
+      generated.options.push_back({option, mPrinter->ppd().markedChoice(option.keyword)});
+    }
+    if (!generated.options.empty()) groups.push_back(std::move(generated));
+  }
+  return groups;
+}
+
+Result<Done> PrintModel::setOption(const std::string& keyword, const std::string& choice) {
+  const PpdOption* option = mPrinter->options().find(keyword);
+  if (option == nullptr) return Error{"this printer has no option \"" + keyword + "\""};
+  if (const Result<Done> known = mPrinter->ppd().checkChoice(keyword, choice); !known) return known;
+  if (option->keyword == "PageSize") return setPaper(choice);
+  mPrinter->chooseOption(option->keyword, choice);
+  tell(ModelChange::options);
+  return Done{};
+}
+
+int PrintModel::copies() const noexcept {
+  if (mAsked.copies) return *mAsked.copies;
+  return isOpen() ? copiesOf(destination().savedOptions).value_or(1) : 1;
+}
+
+Result<Done> PrintModel::setCopies(int copies) {
+  if (copies < 1 || copies > kMaxCopies)
+    return Error{"copies: " + std::to_string(copies) + " is not between 1 and " +
+                 std::to_string(kMaxCopies)};
+  mAsked.copies = copies;
+  tell(ModelChange::job);
+  return Done{};
+}
+
+std::string PrintModel::pageRanges() const {
+  if (mAsked.pageRanges) return *mAsked.pageRanges;
+  return isOpen() ? lastValue(destination().savedOptions, "page-ranges").value_or("") : "";
+}
+
+Result<Done> PrintModel::setPageRanges(const std::string& text) {
+  const Result<std::string> ranges = normalizedPageRanges(text);
+  if (!ranges) return ranges.error();
+  mAsked.pageRanges = *ranges;
+  tell(ModelChange::job);
+  return Done{};
+}
+
+std::vector<SummaryLine> PrintModel::summary() const { return mPrinter->panels().summary(); }
+
+std::vector<Deviation> PrintModel::deviations() const { return mPrinter->deviations(); }
+
+std::vector<std::string> PrintModel::conflicts() const { return conflictSentences(*mPrinter); }
+
+Result<Done> PrintModel::resolveConflicts() {
+  const Result<Done> resolved = cutline::resolveConflicts(*mPrinter);
+  tell(ModelChange::paper);
+  tell(ModelChange::options);
+  return resolved;
+}
+
+OptionList PrintModel::jobOptions() const {
+  OptionList options = cutline::jobOptions(*mPrinter);
+  options.emplace_back("copies", std::to_string(copies()));
+  if (!pageRanges().empty()) options.emplace_back("page-ranges", pageRanges());
+  return options;
+}
+
+Result<OptionList> PrintModel::savePreset() {
+  mPrinter->save();
+  tell(ModelChange::options);
+  OptionList options = cutline::jobOptions(*mPrinter);
+  options.emplace_back("copies", std::to_string(copies()));
+  return options;
+}
+
+Result<Done> PrintModel::applyPreset(const OptionList& options) {
+  mAsked.options.clear();
+  if (const std::optional<int> copies = copiesOf(options)) mAsked.copies = copies;
+  mPrinter->restart(options);
+  tell(ModelChange::job);
+  tell(ModelChange::paper);
+  tell(ModelChange::options);
+  return Done{};
+}
+
+Result<OptionList> PrintModel::prepareToPrint() {
+  if (!hasQueue()) return Error{"a PPD file alone cannot print; choose a printer"};
+  const Result<Done> agreed = mPrinter->askToPrint();
+  tell(ModelChange::options);
+  if (!agreed) return agreed.error();
+  return jobOptions();
+}
+
+void PrintModel::close() noexcept { mPrinter.reset(); }
+
+void PrintModel::actionDidFinish(View& sender) noexcept {
+  if (mPrinter == nullptr) return;
+  if (mPrinter->userDidAct(sender)) tell(ModelChange::options);
+}
+
+}  // namespace cutline

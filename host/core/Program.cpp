@@ -1,0 +1,87 @@
+#include "host/core/Program.h"
+
+#include <sys/auxv.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <iostream>
+
+#include "host/core/CommandLine.h"
+#include "host/core/DialogModule.h"
+#include "host/core/HeadlessCommands.h"
+#include "host/core/Installation.h"
+#include "host/core/Module.h"
+#include "host/core/PluginLoader.h"
+#include "host/core/SpooledDocument.h"
+
+namespace cutline {
+
+namespace {
+
+using DialogFunction = int (*)(const DialogRequest&) noexcept;
+
+int fail(const Error& error, int status = kExitError) {
+  std::cerr << "cutline: " << error.message << std::endl;
+  return status;
+}
+
+int showDialog(const CommandLine& line, PluginLoader& plugIns) {
+  const Installation installation = Installation::ofThisProgram();
+  const Result<void*> function = loadModule(installation.modulePath(kDialogModuleName),
+                                            kDialogAbiSymbol, kDialogAbiVersion, kDialogRunSymbol);
+  if (!function) return fail(function.error());
+  return reinterpret_cast<DialogFunction>(*function)({&line, &plugIns, &installation});
+}
+
+int runWithoutWindow(const CommandLine& line, PluginLoader& plugIns) {
+  const Result<Done> done = runHeadlessCommand(line, plugIns, std::cout, std::cerr);
+  return done ? kExitDone : fail(done.error());
+}
+
+bool needsWindow(Command command) {
+  return command == Command::dialog || command == Command::snapshot;
+}
+
+bool isStandardInput(const CommandLine& line) {
+  return line.file ? *line.file == "-" : line.command == Command::print;
+}
+
+// Keeps standard input for as long as the answer lives; null when no document is read from there.
+Result<std::shared_ptr<SpooledDocument>> spool(CommandLine& line) {
+  if (!isStandardInput(line)) return std::shared_ptr<SpooledDocument>();
+  Result<std::shared_ptr<SpooledDocument>> document = SpooledDocument::read(STDIN_FILENO);
+  if (!document) return document;
+  line.file = (*document)->path();
+  if (!line.title) line.title = "(stdin)";
+  return document;
+}
+
+std::vector<std::string> plugInDirectories(const CommandLine& line) {
+  std::vector<std::string> directories;
+  if (line.pluginDirectory) directories.push_back(*line.pluginDirectory);
+  directories.push_back(Installation::ofThisProgram().plugInDirectory());
+  return directories;
+}
+
+int run(CommandLine line) {
+  const bool elevated = getauxval(AT_SECURE) != 0;
+  if (line.pluginDirectory && elevated)
+    return fail({"--plugin-dir is refused while the program runs with more rights than its user"});
+  const Result<std::shared_ptr<SpooledDocument>> spooled = spool(line);
+  if (!spooled) return fail(spooled.error());
+  PluginLoader plugIns(plugInDirectories(line));
+  return needsWindow(line.command) ? showDialog(line, plugIns) : runWithoutWindow(line, plugIns);
+}
+
+}  // namespace
+
+int runProgram(int argc, const char* const* argv) {
+  const Result<CommandLine> line = parseCommandLine(argc, argv);
+  if (!line) return fail({line.error().message + " (see cutline --help)"}, kExitUsage);
+  if (line->command == Command::help) return std::cout << helpText(), kExitDone;
+  if (line->command == Command::version)
+    return std::cout << "cutline " CUTLINE_VERSION "\n", kExitDone;
+  return run(*line);
+}
+
+}  // namespace cutline
