@@ -8,8 +8,10 @@
 #include <string>
 #include <vector>
 
+#include "bundle/resources/pictures/Flags.h"
 #include "bundle/resources/pictures/Names.h"
 #include "bundle/resources/pictures/Palette.h"
+#include "bundle/resources/pictures/Printer.h"
 #include "tests/pictures/PictureFiles.h"
 
 namespace cutline::pictures {
@@ -17,62 +19,65 @@ namespace {
 
 constexpr int kBackingRow = 61;      // through the backing of a tape
 constexpr int kFaceRow = 33;         // through its face, above the text, below the knives' points
+constexpr int kTickRow = 31;         // through the upper ticks of printed marks, above the text
+constexpr int kTextRow = 42;         // through the text of tape and paper
+constexpr int kScissorsRow = 66;     // below a tape, where the scissors' blades cross
 constexpr int kPaperRow = 70;        // through the paper of a roll
 constexpr int kPrinterColumn = 206;  // the printer's slot begins behind it
 
+constexpr int kVisibleGap = 3;     // in points: what still shows in a list, half as large
 constexpr double kBearings = 1.5;  // letters don't fill their space evenly on both sides
 
 struct Row {
   const char* stem;  // the name without the mirror flag
   int fullCuts;      // gaps that part the whole tape
   int halfCuts;      // gaps in the face only
+  int scissors;      // where one cuts by hand
 };
 
 constexpr Row kTapeRows[] = {
-    {"AHCMOffOffOff", 0, 0}, {"AHCMOffOffOn", 0, 0}, {"AHCMOffOnOff", 0, 4},
-    {"AHCMOffOnOn", 0, 3},   {"AHCMOnOffOff", 4, 0}, {"AHCMOnOffOn", 3, 0},
-    {"AHCMOnOnOff", 1, 3},   {"AHCMOnOnOn", 1, 2},   {"SPMROn", 0, 0},
+    {"AHCMOffOffOff", 0, 0, 0}, {"AHCMOffOffOn", 0, 0, 0}, {"AHCMOffOnOff", 0, 4, 0},
+    {"AHCMOffOnOn", 0, 3, 0},   {"AHCMOnOffOff", 4, 0, 0}, {"AHCMOnOffOn", 3, 0, 0},
+    {"AHCMOnOnOff", 1, 3, 0},   {"AHCMOnOnOn", 1, 2, 0},   {"SPMROn", 0, 0, 1},
 };
 constexpr Row kMarkedRows[] = {
-    {"CTMROnOff", 0, 0}, {"CTMROffOff", 0, 0}, {"CTMROnOn", 0, 0}, {"CTMROffOn", 0, 0}};
-constexpr Row kRollRows[] = {
-    {"EveryEndMirrorOffOff", 0, 0}, {"EveryEndMirrorOffOn", 1, 0}, {"EveryEndMirrorOnOff", 3, 0}};
+    {"CTMROnOff", 0, 0, 4}, {"CTMROffOff", 0, 0, 1}, {"CTMROnOn", 0, 0, 3}, {"CTMROffOn", 0, 0, 1}};
+constexpr Row kRollRows[] = {{"EveryEndMirrorOffOff", 0, 0, 0},
+                             {"EveryEndMirrorOffOn", 1, 0, 0},
+                             {"EveryEndMirrorOnOff", 3, 0, 0}};
 
-// How often a run of pixels for which `matches` holds begins in a row, right of the tape's start.
+// How many runs of at least `length` pixels that `matches` holds for lie in a row, between the
+// start of the tape and the printer.
 template <typename Matches>
-int runsIn(const QImage& image, int row, Matches matches) {
+int runsIn(const QImage& image, int row, int length, Matches matches) {
   int runs = 0;
+  int run = 0;
   bool started = false;
-  bool inside = false;
   for (int x = 0; x < kPrinterColumn; ++x) {
     const QColor colour = image.pixelColor(x, row);
     started = started || colour.alpha() > 0;
-    const bool match = started && matches(colour);
-    runs += match && !inside ? 1 : 0;
-    inside = match;
+    run = started && matches(colour) ? run + 1 : 0;
+    runs += run == length ? 1 : 0;
   }
   return runs;
 }
 
 int gapsIn(const QImage& image, int row) {
-  return runsIn(image, row, [](const QColor& colour) { return colour.alpha() == 0; });
+  return runsIn(image, row, kVisibleGap, [](const QColor& c) { return c.alpha() == 0; });
 }
 
-int bareBackingsIn(const QImage& image, int row) {
-  const QColor backing(QString::fromUtf8(kBacking.data(), static_cast<qsizetype>(kBacking.size())));
-  return runsIn(image, row, [&](const QColor& colour) { return colour == backing; });
-}
-
-int gapsInFace(const QImage& image) {
-  return runsIn(image, kFaceRow + 12, [](const QColor& colour) { return colour.alpha() == 0; });
+int runsIn(const QImage& image, int row, int length, Colour colour) {
+  const QColor wanted(QString::fromUtf8(colour.data(), static_cast<qsizetype>(colour.size())));
+  return runsIn(image, row, length, [&](const QColor& c) { return c == wanted; });
 }
 
 void expectCuts(const std::string& name, int row, const Row& expected) {
   const QImage image = imageOf(name, 1);
   ASSERT_FALSE(image.isNull()) << name;
   EXPECT_EQ(gapsIn(image, row), expected.fullCuts) << name;
-  EXPECT_EQ(gapsInFace(image), expected.fullCuts) << name;
-  EXPECT_EQ(bareBackingsIn(image, kFaceRow), expected.halfCuts) << name;
+  EXPECT_EQ(gapsIn(image, kTextRow), expected.fullCuts) << name;
+  EXPECT_EQ(runsIn(image, kFaceRow, kVisibleGap, kBacking), expected.halfCuts) << name;
+  EXPECT_EQ(runsIn(image, kScissorsRow, 1, kHand), expected.scissors) << name;
 }
 
 std::vector<std::string> plainNamesWithMirrored() {
@@ -100,14 +105,34 @@ TEST(PictureMeaning, ATapeIsPartedWhereItsNameSaysAndNowhereElse) {
   }
 }
 
-TEST(PictureMeaning, ATapeForCuttingByHandIsWhole) {
+TEST(PictureMeaning, ATapeForCuttingByHandIsWholeAndShowsWhereToCut) {
   for (const Row& row : kMarkedRows) expectCuts(std::string(row.stem) + "Off", kBackingRow, row);
+}
+
+TEST(PictureMeaning, CutMarksArePrintedAtTheEndsOfLabelsWhenAskedFor) {
+  for (const std::string_view name : kPictureNames) {
+    const Flags flags = flagsOf(name);
+    const int marks = flags.chain ? 3 : 4;
+    EXPECT_EQ(runsIn(imageOf(name, 1), kTickRow, 2, kInk), flags.cutMark ? marks : 0) << name;
+  }
 }
 
 TEST(PictureMeaning, ARollIsPartedAfterEachLabelOrOnceOrNever) {
   for (const Row& row : kRollRows) {
     expectCuts(std::string(row.stem) + "Off", kPaperRow, row);
     expectCuts(std::string(row.stem) + "On", kPaperRow, row);
+  }
+}
+
+TEST(PictureMeaning, OnlyAChainKeepsALabelInThePrinter) {
+  for (const std::string_view name : kPictureNames) {
+    const QSvgRenderer renderer(pathOf(name));
+    const bool chain = flagsOf(name).chain;
+    EXPECT_EQ(renderer.elementExists("text4"), chain) << name;
+    EXPECT_LT(renderer.boundsOnElement("text3").right(), kPrinterColumn) << name;
+    if (!chain) continue;
+    EXPECT_LT(renderer.boundsOnElement("text4").left(), kPrinterColumn) << name;
+    EXPECT_GT(renderer.boundsOnElement("text4").right(), kMouth) << name;
   }
 }
 

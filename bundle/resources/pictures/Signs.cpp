@@ -25,10 +25,10 @@ constexpr std::string_view kBin =
     "M-5,-4.5 L5,-4.5 M-2,-4.5 L-2,-6.5 L2,-6.5 L2,-4.5 M-3.8,-4.5 L-3.2,6 L3.2,6 L3.8,-4.5";
 
 constexpr std::string_view kLeftLink =
-    "M-1,-3.6 L-7,-3.6 C-9,-3.6 -10.6,-2 -10.6,0 C-10.6,2 -9,3.6 -7,3.6 L-1,3.6";
+    "M-3.4,-3.6 L-7,-3.6 C-9,-3.6 -10.6,-2 -10.6,0 C-10.6,2 -9,3.6 -7,3.6 L-3.4,3.6";
 constexpr std::string_view kRightLink =
-    "M1,-3.6 L7,-3.6 C9,-3.6 10.6,-2 10.6,0 C10.6,2 9,3.6 7,3.6 L1,3.6";
-constexpr std::string_view kLinkBar = "M-5,0 L5,0";
+    "M3.4,-3.6 L7,-3.6 C9,-3.6 10.6,-2 10.6,0 C10.6,2 9,3.6 7,3.6 L3.4,3.6";
+constexpr std::string_view kLinkBar = "M-4.5,0 L4.5,0";
 
 constexpr std::string_view kMirrorLeft = "M-2.6,-4.6 L-2.6,4.6 L-10.6,4.6 Z";
 constexpr std::string_view kMirrorRight = "M2.6,-4.6 L2.6,4.6 L10.6,4.6 Z";

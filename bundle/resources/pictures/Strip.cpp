@@ -8,7 +8,7 @@ namespace cutline::pictures {
 
 namespace {
 
-constexpr double kPeel = 10;       // of the corner that comes off
+constexpr double kPeel = 9;        // of the corner that comes off
 constexpr double kWeavePitch = 6;  // between neighbouring threads
 constexpr double kSelvage = 4;     // from the fabric's edge to its stitches
 

@@ -20,6 +20,7 @@ constexpr double kLeft = 3;
 constexpr double kHidden = 25;  // of a chained label: so much of it still lies in the printer
 constexpr double kCutEnd = kMouth - 5;  // to here the gap of a cut at the end reaches
 constexpr double kHandCutDistance = 6;  // behind the last label that was fed out
+constexpr double kRaised = 1;  // of the text, so that a corner that comes off leaves it alone
 constexpr Lettering kLettering = {14, 2.4};
 
 // What lies between a stretch of tape and the one after it.
@@ -116,7 +117,7 @@ void drawLayers(Svg& svg, const Flags& flags, const std::vector<Stretch>& stretc
 }
 
 void drawContents(Svg& svg, const Flags& flags, const std::vector<Stretch>& stretches) {
-  const double middle = (kTapeTop + (flags.special ? kTapeBottom : kTapeFaceBottom)) / 2;
+  const double middle = (kTapeTop + (flags.special ? kTapeBottom : kTapeFaceBottom)) / 2 - kRaised;
   Lettering lettering = kLettering;
   lettering.mirrored = flags.mirror;
   std::size_t index = 0;
