@@ -12,6 +12,7 @@
 #include <memory>
 #include <span>
 
+#include "cups/Constraints.h"
 #include "cups/CupsOptions.h"
 #include "cups/CustomSize.h"
 #include "cups/PpdProblem.h"
@@ -203,14 +204,6 @@ PaperSize paperOf(ppd_file_t* ppd, const ppd_size_t& size) {
   return paper;
 }
 
-void addConflict(std::vector<Conflict>& conflicts, const Conflict& conflict) {
-  const Conflict mirrored{conflict.otherKeyword, conflict.otherChoice, conflict.keyword,
-                          conflict.choice};
-  const bool isKnown = std::ranges::any_of(
-      conflicts, [&](const Conflict& c) { return c == conflict || c == mirrored; });
-  if (!isKnown) conflicts.push_back(conflict);
-}
-
 std::string choiceNames(const ppd_option_t& option) {
   std::string names;
   for (const ppd_choice_t& choice : choicesOf(option)) {
@@ -347,20 +340,7 @@ std::vector<OptionGroup> PpdFile::optionGroups() const {
   return groups;
 }
 
-std::vector<Conflict> PpdFile::conflicts() const {
-  std::vector<Conflict> conflicts;
-  forEachOption(mPpd, [&](const ppd_option_t& option) {
-    const std::string marked = markedChoice(option.keyword);
-    if (marked.empty()) return;
-    cups_option_t* others = nullptr;
-    const int count = cupsGetConflicts(mPpd, option.keyword, marked.c_str(), &others);
-    for (int i = 0; i < count; ++i) {
-      addConflict(conflicts, {option.keyword, marked, others[i].name, others[i].value});
-    }
-    cupsFreeOptions(count, others);
-  });
-  return conflicts;
-}
+std::vector<Conflict> PpdFile::conflicts() const { return brokenConstraints(mPpd); }
 
 std::vector<PaperSize> PpdFile::paperSizes() const {
   std::vector<PaperSize> papers;

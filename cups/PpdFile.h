@@ -81,8 +81,8 @@ class PpdFile {
   // The groups that have options, in the PPD's order, subgroups after their group. Left out are the
   // installable options, the page region (it mirrors the page size) and choices that need a value.
   std::vector<OptionGroup> optionGroups() const;
-  // The constraints that the marks break now, each pair once; also where an installable option is
-  // one of the two.
+  // The constraints that the marks break now, in the PPD's order, each pair once; also where an
+  // installable option is one of the two.
   std::vector<Conflict> conflicts() const;
 
   // The named sizes, without custom ones.

@@ -176,20 +176,49 @@ std::optional<JobStatus> statusOf(ipp_t* answer) {
                    textsOf(answer, "job-state-reasons")};
 }
 
-IppMessage jobRequest(const DestinationName& destination, int jobId) {
-  constexpr std::array<const char*, 3> kWanted{"job-state", "job-state-reasons",
-                                               "job-printer-state-message"};
+IppMessage newRequest(ipp_op_t operation, const DestinationName& destination) {
   std::array<char, HTTP_MAX_URI> uri{};
   httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), uri.size(), "ipp", nullptr, "localhost", 0,
                    "/printers/%s", destination.printer.c_str());
-  IppMessage request(ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES));
+  IppMessage request(ippNewRequest(operation));
   ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.data());
+  return request;
+}
+
+IppMessage jobRequest(const DestinationName& destination, int jobId) {
+  constexpr std::array<const char*, 3> kWanted{"job-state", "job-state-reasons",
+                                               "job-printer-state-message"};
+  IppMessage request = newRequest(IPP_OP_GET_JOB_ATTRIBUTES, destination);
   ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
   ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
                cupsUser());
   ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                 kWanted.size(), nullptr, kWanted.data());
   return request;
+}
+
+// Takes the request and gives the answer; null where the server refuses it.
+IppMessage answerTo(http_t* http, IppMessage request) {
+  IppMessage answer(cupsDoRequest(http, request.release(), "/"));
+  if (cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE) answer.reset();
+  return answer;
+}
+
+bool isPrinterStopped(http_t* http, const DestinationName& destination) {
+  IppMessage request = newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, destination);
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+               "printer-state");
+  const IppMessage answer = answerTo(http, std::move(request));
+  ipp_attribute_t* state = ippFindAttribute(answer.get(), "printer-state", IPP_TAG_ENUM);
+  return state && ippGetInteger(state, 0) == IPP_PSTATE_STOPPED;
+}
+
+// The server itself gives a waiting job no reason when its printer is paused.
+void addPause(http_t* http, const DestinationName& destination, JobStatus& status) {
+  const std::string reason = "printer-stopped";
+  if (status.state != JobState::pending) return;
+  if (std::ranges::find(status.reasons, reason) != status.reasons.end()) return;
+  if (isPrinterStopped(http, destination)) status.reasons.push_back(reason);
 }
 
 std::string jobText(const DestinationName& destination, int jobId) {
@@ -236,13 +265,12 @@ Result<JobStatus> jobStatus(const ServerOptions& server, const DestinationName& 
                             int jobId) {
   const auto connection = ServerConnection::open(server);
   if (!connection) return connection.error();
-  const IppMessage answer(
-      cupsDoRequest(connection->get(), jobRequest(destination, jobId).release(), "/"));
-  if (!answer || cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE) {
-    return serverError("the state of " + jobText(destination, jobId) + " is not known");
-  }
-  if (auto status = statusOf(answer.get())) return *status;
-  return Error{"the print server told no state of " + jobText(destination, jobId)};
+  const IppMessage answer = answerTo(connection->get(), jobRequest(destination, jobId));
+  if (!answer) return serverError("the state of " + jobText(destination, jobId) + " is not known");
+  auto status = statusOf(answer.get());
+  if (!status) return Error{"the print server told no state of " + jobText(destination, jobId)};
+  addPause(connection->get(), destination, *status);
+  return *status;
 }
 
 Result<Done> cancelJob(const ServerOptions& server, const DestinationName& destination, int jobId) {

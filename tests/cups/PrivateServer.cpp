@@ -1,0 +1,75 @@
+#include "tests/cups/PrivateServer.h"
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <stdexcept>
+
+namespace cutline::test {
+
+namespace {
+
+std::string quoted(const std::string& text) { return '\'' + text + '\''; }
+
+}  // namespace
+
+std::string outputOf(const std::string& command) {
+  FILE* pipe = popen((command + " 2>&1").c_str(), "r");
+  if (!pipe) throw std::runtime_error("cannot run " + command);
+  std::string output;
+  std::array<char, 4096> block{};
+  for (std::size_t count = 0; (count = fread(block.data(), 1, block.size(), pipe)) > 0;) {
+    output.append(block.data(), count);
+  }
+  if (pclose(pipe) != 0) throw std::runtime_error(command + ": " + output);
+  return output;
+}
+
+PrivateServer::PrivateServer() {
+  // The server's filters run as another user when this one is root.
+  std::filesystem::permissions(mFolder.path(), std::filesystem::perms(0755));
+  // The server lives on, so it must not hold the pipe's end.
+  outputOf(script("start") + " >" + quoted(mFolder.path() + "/start.log") + " </dev/null");
+  mSocket = variable("CUPS_SERVER");
+  mHome = variable("HOME");
+  mRoot = variable("CUPS_SERVERROOT");
+}
+
+PrivateServer::~PrivateServer() {
+  try {
+    stop();
+  } catch (const std::exception& problem) {
+    fprintf(stderr, "%s\n", problem.what());
+  }
+}
+
+ServerOptions PrivateServer::options() const { return {mSocket, std::nullopt, false}; }
+
+void PrivateServer::enterEnvironment() const {
+  setenv("CUPS_SERVER", mSocket.c_str(), 1);
+  setenv("HOME", mHome.c_str(), 1);
+  setenv("CUPS_SERVERROOT", mRoot.c_str(), 1);
+  for (const char* name : {"LPDEST", "PRINTER", "CUPS_USER", "CUPS_ENCRYPTION"}) unsetenv(name);
+}
+
+void PrivateServer::stop() {
+  if (mSocket.empty()) return;
+  mSocket.clear();
+  outputOf(script("stop"));
+}
+
+void PrivateServer::waitUntilIdle() const { outputOf(script("wait-idle")); }
+
+std::string PrivateServer::script(const std::string& verb) const {
+  return "CUTLINE_PREFIX=" + quoted(CUTLINE_BUILD_DIR) + " bash " + quoted(CUTLINE_PRIVATE_SERVER) +
+         ' ' + verb + ' ' + quoted(mFolder.path());
+}
+
+std::string PrivateServer::variable(const std::string& name) const {
+  std::string value = outputOf("eval \"$(" + script("env") + ")\"; printenv " + name);
+  while (value.ends_with('\n')) value.pop_back();
+  return value;
+}
+
+}  // namespace cutline::test

@@ -1,0 +1,43 @@
+// A print server of its own with the sample printers, on a socket in a temporary folder, as long as
+// the object lives.
+#pragma once
+
+#include <string>
+
+#include "cups/ServerOptions.h"
+#include "tests/cups/TemporaryFolder.h"
+
+namespace cutline::test {
+
+class PrivateServer {
+ public:
+  // Throws where the server does not start.
+  PrivateServer();
+  ~PrivateServer();
+  PrivateServer(const PrivateServer&) = delete;
+  PrivateServer& operator=(const PrivateServer&) = delete;
+
+  // The socket by name, for calls that are told the server.
+  ServerOptions options() const;
+  // Makes this process's libcups, and programs that it starts, clients of this server. Threads that
+  // called libcups before keep what they had read.
+  void enterEnvironment() const;
+  // The home folder of the server's clients.
+  const std::string& home() const noexcept { return mHome; }
+
+  void stop();
+  // Waits until no job is left to do.
+  void waitUntilIdle() const;
+
+ private:
+  std::string script(const std::string& verb) const;
+  std::string variable(const std::string& name) const;
+
+  TemporaryFolder mFolder;
+  std::string mSocket, mHome, mRoot;
+};
+
+// What a shell command wrote on both its streams. Throws when its status is not 0.
+std::string outputOf(const std::string& command);
+
+}  // namespace cutline::test
