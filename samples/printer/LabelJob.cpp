@@ -1,0 +1,76 @@
+#include "samples/printer/LabelJob.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace cutline::printer {
+namespace {
+
+constexpr double kMillimetresPerInch = 25.4;
+constexpr double kLeader = 8;     // mm of tape between print head and knife
+constexpr double kTrailer = 4;    // mm that are fed behind the last label
+constexpr double kKeptBlank = 1;  // mm that stay around the print when blank space is removed
+constexpr double kMarkLength = 1.5;
+constexpr double kMarkWidth = 0.3;
+
+std::uint32_t dotsOf(double millimetres, std::uint32_t dotsPerInch) {
+  return static_cast<std::uint32_t>(std::lround(millimetres * dotsPerInch / kMillimetresPerInch));
+}
+
+Bitmap withoutBlankEnds(const Bitmap& page, std::uint32_t kept) {
+  std::uint32_t first = 0;
+  std::uint32_t end = page.height();
+  while (first < end && page.rowIsBlank(first)) ++first;
+  if (first == end) return page;
+  while (page.rowIsBlank(end - 1)) --end;
+  return page.rows(first - std::min(first, kept), std::min(page.height(), end + kept));
+}
+
+void inkBox(Bitmap& label, std::int64_t left, std::int64_t top, std::uint32_t width,
+            std::uint32_t height) {
+  for (std::int64_t y = top; y < top + height; ++y) {
+    for (std::int64_t x = left; x < left + width; ++x) label.ink(x, y);
+  }
+}
+
+// A tick at each corner of the label tells where to cut by hand.
+void addCutMarks(Bitmap& label, const Resolution& dots) {
+  const std::uint32_t length = std::max(1U, dotsOf(kMarkLength, dots.across));
+  const std::uint32_t width = std::max(1U, dotsOf(kMarkWidth, dots.along));
+  for (const std::int64_t left : {std::int64_t{0}, std::int64_t{label.width()} - length}) {
+    for (const std::int64_t top : {std::int64_t{0}, std::int64_t{label.height()} - width}) {
+      inkBox(label, left, top, length, width);
+    }
+  }
+}
+
+}  // namespace
+
+bool LabelJob::begin(const Resolution& dots) {
+  mDots = dots;
+  if (!mWriter.write(dots)) return false;
+  return !mPlan.feedsOut() || mWriter.write(Feed{dotsOf(kLeader, dots.along)});
+}
+
+Bitmap LabelJob::finished(const Bitmap& page) const {
+  Bitmap label =
+      mPlan.removesBlankSpace() ? withoutBlankEnds(page, dotsOf(kKeptBlank, mDots.along)) : page;
+  // Along a tape the text runs the way the tape does, on a roll across it.
+  if (mPlan.mirrors()) label = mPlan.isRoll() ? label.mirroredAcross() : label.mirroredAlong();
+  if (mPlan.printsCutMarks()) addCutMarks(label, mDots);
+  return label;
+}
+
+bool LabelJob::add(const Bitmap& page, const Resolution& dots) {
+  const bool led = mLabels == 0 ? begin(dots) : mWriter.write(mPlan.afterLabel(mLabels));
+  if (!led) return false;
+  ++mLabels;
+  return mWriter.write(finished(page));
+}
+
+bool LabelJob::end() {
+  if (mPlan.feedsOut() && !mWriter.write(Feed{dotsOf(kTrailer, mDots.along)})) return false;
+  return mWriter.write(mPlan.atEnd()) && mWriter.write(End{});
+}
+
+}  // namespace cutline::printer

@@ -1,0 +1,45 @@
+// One job at the virtual printer: reads its commands and stores what came out.
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "samples/printer/CommandStream.h"
+#include "samples/printer/Strip.h"
+
+namespace cutline::printer {
+
+class StripJob {
+ public:
+  using Facts = std::vector<std::pair<std::string, std::string>>;
+
+  // `facts` lead the list that is stored beside the picture. A label takes `pace` milliseconds.
+  StripJob(Facts facts, unsigned pace) : mFacts(std::move(facts)), mPace(pace) {}
+
+  // Takes in all commands up to the end. No, and problem() says why, when they break off, are none,
+  // or `cancelled` turns true.
+  bool read(CommandReader& reader, const volatile int& cancelled);
+  // Writes STEM.png and then STEM.txt; both or, where one fails, none.
+  bool store(const std::string& stem, const volatile int& cancelled);
+  const std::string& problem() const { return mProblem; }
+
+ private:
+  bool refuse(std::string problem);
+  void take(Setting setting);
+  void take(const Resolution& dots) { mStrip.setResolution(dots); }
+  void take(const Feed& feed) { mStrip.addBlank(feed.dots); }
+  void take(Bitmap label);
+  void take(Cut cut) { mStrip.addCut(cut); }
+  void take(End) { mEnded = true; }
+  std::string text() const;
+
+  Facts mFacts;
+  unsigned mPace;
+  Strip mStrip;
+  unsigned mLabels = 0;
+  bool mEnded = false;
+  std::string mProblem;
+};
+
+}  // namespace cutline::printer
