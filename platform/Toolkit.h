@@ -27,8 +27,9 @@ struct Alert {
   std::vector<std::string> buttonTitles;
 };
 
-// Told by the toolkit after an action of a control has run to its end. Implemented by the host,
-// which saves the panels' values then.
+// Told by the toolkit after an action of a control has run to its end, and likewise after a text
+// field has reported a change that the user made. Implemented by the host, which saves the panels'
+// values then.
 class ActionObserver {
  public:
   virtual ~ActionObserver();
