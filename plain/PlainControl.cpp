@@ -18,8 +18,9 @@ void PlainControl::sendAction() noexcept {
 
 void PlainControl::perform(std::function<void()> handler) noexcept {
   if (!handler) return;
+  const std::weak_ptr<const bool> exists = mExists;
   handler();
-  if (mActions->observer) mActions->observer->actionDidFinish(*this);
+  if (!exists.expired() && mActions->observer) mActions->observer->actionDidFinish(*this);
 }
 
 }  // namespace cutline

@@ -28,11 +28,13 @@ class PlainControl : public virtual Control, public PlainView {
  protected:
   // Runs the action, if there is one, and tells the observer.
   void sendAction() noexcept;
-  // Runs what answers a user's doing and then tells the observer; the handler may replace itself.
+  // Runs what answers a user's doing and then tells the observer. The handler may replace itself
+  // and may let the control go; the observer isn't told of a control that is gone.
   void perform(std::function<void()> handler) noexcept;
 
  private:
   std::shared_ptr<const PlainActions> mActions;
+  std::shared_ptr<const bool> mExists = std::make_shared<const bool>(true);
   ActionHandler mAction;
   bool mEnabled = true;
 };

@@ -1,6 +1,7 @@
 #include "plain/PlainStepper.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace cutline {
 
@@ -17,7 +18,8 @@ void PlainStepper::setIntValue(int value) noexcept {
 void PlainStepper::performStep(int step) noexcept {
   const int before = mValue;
   if (!isEnabled()) return;
-  setIntValue(mValue + step);
+  const std::int64_t target = std::int64_t{before} + step;  // may lie beyond every int
+  mValue = static_cast<int>(std::clamp<std::int64_t>(target, mMinValue, mMaxValue));
   if (mValue != before) sendAction();
 }
 

@@ -1,0 +1,82 @@
+#include <gtest/gtest.h>
+#include <stdlib.h>
+
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <string>
+
+#include "plain/PlainImage.h"
+
+namespace cutline {
+namespace {
+
+class TemporaryFile {
+ public:
+  explicit TemporaryFile(const std::string& bytes) {
+    mPath = (std::filesystem::temp_directory_path() / "picture-XXXXXX").string();
+    if (mkdtemp(mPath.data())) std::ofstream(path(), std::ios::binary) << bytes;
+  }
+  ~TemporaryFile() {
+    std::error_code ignored;
+    std::filesystem::remove_all(mPath, ignored);
+  }
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+  std::string path() const { return mPath + "/picture"; }
+
+ private:
+  std::string mPath;
+};
+
+struct ImageRow {
+  const char* name;
+  std::string bytes;
+  std::optional<Size> size;
+};
+
+// The start of a PNG file of 264 by 84 pixels.
+const std::string kPng("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\x01\x08\0\0\0\x54", 24);
+
+class PlainImages : public testing::TestWithParam<ImageRow> {};
+
+TEST_P(PlainImages, TellTheSizeInTheirFile) {
+  const TemporaryFile file(GetParam().bytes);
+  const auto image = PlainImage::load(file.path());
+  ASSERT_EQ(image != nullptr, GetParam().size.has_value());
+  if (!image) return;
+  EXPECT_EQ(image->size(), *GetParam().size);
+  EXPECT_EQ(image->path(), file.path());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, PlainImages,
+    testing::Values(
+        ImageRow{"Png", kPng, Size{264, 84}}, ImageRow{"CutPng", kPng.substr(0, 20), std::nullopt},
+        ImageRow{"PngWithoutWidth", std::string(kPng).replace(16, 4, 4, '\0'), std::nullopt},
+        ImageRow{"Svg", "<?xml version=\"1.0\"?>\n<svg width=\"264\" height=\"84\"/>",
+                 Size{264, 84}},
+        ImageRow{"Points", "<svg width='264pt' height='84px'>", Size{264, 84}},
+        ImageRow{"LinesAndOtherNames", "<svg\n line-width=\"3\"\n height=\"84\"\n width=\"264\">",
+                 Size{264, 84}},
+        ImageRow{"ViewBox", "<svg viewBox=\"0 0 264 84\">", Size{264, 84}},
+        ImageRow{"ViewBoxWithCommas", "<svg viewBox=\"0,0,264,84\">", Size{264, 84}},
+        ImageRow{"PercentageAndViewBox",
+                 "<svg width=\"100%\" height=\"100%\" viewBox=\"0 0 264 84\">", Size{264, 84}},
+        ImageRow{"NoSize", "<svg>", std::nullopt},
+        ImageRow{"ZeroSize", "<svg width=\"0\" height=\"84\">", std::nullopt},
+        ImageRow{"NegativeSize", "<svg width=\"-1\" height=\"84\">", std::nullopt},
+        ImageRow{"NotANumber", "<svg width=\"nan\" height=\"84\">", std::nullopt},
+        ImageRow{"AttributeNotClosed", "<svg width=\"264 height=84>", std::nullopt},
+        ImageRow{"TagNotClosed", "<svg width=\"264\" height=\"84\"", std::nullopt},
+        ImageRow{"OtherTag", "<svgs width=\"264\" height=\"84\">", std::nullopt},
+        ImageRow{"Words", "no picture", std::nullopt}, ImageRow{"Empty", "", std::nullopt}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST(PlainImage, AMissingFileAndAFolderAreNoPictures) {
+  EXPECT_FALSE(PlainImage::load("/nowhere/picture.svg"));
+  EXPECT_FALSE(PlainImage::load(std::filesystem::temp_directory_path().string()));
+}
+
+}  // namespace
+}  // namespace cutline

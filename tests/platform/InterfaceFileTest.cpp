@@ -1,0 +1,165 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "platform/InterfaceFile.h"
+
+namespace cutline {
+namespace {
+
+std::optional<ViewDescription> interfaceWith(const std::string& viewEntries) {
+  const auto list = PropertyList::parseXML("<plist><dict><key>view</key><dict>" + viewEntries +
+                                           "</dict></dict></plist>");
+  return list ? interfaceInFile(*list) : std::nullopt;
+}
+
+std::string entry(const std::string& key, const std::string& value) {
+  return "<key>" + key + "</key>" + value;
+}
+
+std::string text(const std::string& key, const std::string& value) {
+  return entry(key, "<string>" + value + "</string>");
+}
+
+const std::string kPlain = text("kind", "View") + text("frame", "{{0, 0}, {560, 284}}");
+
+TEST(InterfaceFile, ReadsEveryEntryOfAControl) {
+  const auto view = interfaceWith(
+      text("kind", "Stepper") + text("frame", "{{92, -4.5}, {22, 24}}") + text("outlet", "mStpr") +
+      text("title", "RS_Title") + text("accessibilityLabel", "RS_Access") +
+      text("action", "change:") + entry("delegate", "<true/>") + text("ppdKeyword", "LxCutLabel") +
+      entry("minValue", "<integer>1</integer>") + entry("maxValue", "<integer>99</integer>") +
+      text("resizing", "minYMargin"));
+  ASSERT_TRUE(view);
+  EXPECT_EQ(view->kind, ViewKind::stepper);
+  EXPECT_EQ(view->frame, (Rect{{92, -4.5}, {22, 24}}));
+  EXPECT_EQ(view->outlet, "mStpr");
+  EXPECT_EQ(view->title, "RS_Title");
+  EXPECT_EQ(view->accessibilityLabel, "RS_Access");
+  EXPECT_EQ(view->action, "change:");
+  EXPECT_TRUE(view->delegate);
+  EXPECT_EQ(view->ppdKeyword, "LxCutLabel");
+  EXPECT_EQ(view->minValue, 1);
+  EXPECT_EQ(view->maxValue, 99);
+  EXPECT_EQ(view->resizing, Autoresizing::minYMargin);
+}
+
+TEST(InterfaceFile, ControlsKeepToTheTopUnlessTheFileSaysOtherwise) {
+  const auto view =
+      interfaceWith(kPlain + entry("subviews", "<array><dict>" + kPlain + "</dict><dict>" + kPlain +
+                                                   text("resizing", "none") + "</dict></array>"));
+  ASSERT_TRUE(view);
+  EXPECT_EQ(view->resizing, Autoresizing::none);
+  ASSERT_EQ(view->subviews.size(), 2U);
+  EXPECT_EQ(view->subviews[0].resizing, Autoresizing::minYMargin);
+  EXPECT_EQ(view->subviews[1].resizing, Autoresizing::none);
+}
+
+TEST(InterfaceFile, ReadsTheEntriesOfAPopUpInOrder) {
+  const auto view = interfaceWith(
+      text("kind", "PopUpButton") + text("frame", "{{0,0},{1,1}}") +
+      entry("items", "<array><dict>" + text("title", "B") + entry("tag", "<integer>7</integer>") +
+                         text("description", "RS_B") + "</dict><dict>" + text("title", "A") +
+                         entry("tag", "<integer>-1</integer>") + "</dict></array>"));
+  ASSERT_TRUE(view);
+  ASSERT_EQ(view->items.size(), 2U);
+  EXPECT_EQ(view->items[0].title, "B");
+  EXPECT_EQ(view->items[0].tag, 7);
+  EXPECT_EQ(view->items[0].description, "RS_B");
+  EXPECT_EQ(view->items[1].tag, -1);
+  EXPECT_EQ(view->items[1].description, "");
+}
+
+TEST(InterfaceFile, EntriesOfOtherNamesAreIgnored) {
+  EXPECT_TRUE(interfaceWith(kPlain + text("note", "x")));
+}
+
+struct FrameRow {
+  const char* name;
+  std::string frame;
+  std::optional<Rect> rect;
+};
+
+class InterfaceFrames : public testing::TestWithParam<FrameRow> {};
+
+TEST_P(InterfaceFrames, AreReadOrRefused) {
+  const auto view = interfaceWith(text("kind", "View") + text("frame", GetParam().frame));
+  ASSERT_EQ(view.has_value(), GetParam().rect.has_value());
+  if (!view) return;
+  EXPECT_EQ(view->frame, *GetParam().rect);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, InterfaceFrames,
+    testing::Values(FrameRow{"Blanks", " { { 1 , 2 } , { 3 , 4 } } ", Rect{{1, 2}, {3, 4}}},
+                    FrameRow{"Tight", "{{1,2},{3,4}}", Rect{{1, 2}, {3, 4}}},
+                    FrameRow{"Fractions", "{{0.5, -2}, {3.25, 0}}", Rect{{0.5, -2}, {3.25, 0}}},
+                    FrameRow{"Empty", "", std::nullopt},
+                    FrameRow{"Flat", "{1, 2, 3, 4}", std::nullopt},
+                    FrameRow{"ThreeNumbers", "{{1, 2}, {3}}", std::nullopt},
+                    FrameRow{"FiveNumbers", "{{1, 2}, {3, 4, 5}}", std::nullopt},
+                    FrameRow{"NotClosed", "{{1, 2}, {3, 4}", std::nullopt},
+                    FrameRow{"TextAfter", "{{1, 2}, {3, 4}} x", std::nullopt},
+                    FrameRow{"Words", "{{a, b}, {c, d}}", std::nullopt},
+                    FrameRow{"Units", "{{1pt, 2}, {3, 4}}", std::nullopt},
+                    FrameRow{"NegativeWidth", "{{1, 2}, {-3, 4}}", std::nullopt},
+                    FrameRow{"NegativeHeight", "{{1, 2}, {3, -4}}", std::nullopt},
+                    FrameRow{"NotANumber", "{{nan, 2}, {3, 4}}", std::nullopt},
+                    FrameRow{"Infinite", "{{1, 2}, {inf, 4}}", std::nullopt},
+                    FrameRow{"FarAway", "{{1, 2}, {3, 1e9}}", std::nullopt}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+struct BadRow {
+  const char* name;
+  std::string entries;
+};
+
+class DamagedInterfaces : public testing::TestWithParam<BadRow> {};
+
+TEST_P(DamagedInterfaces, AreRefused) { EXPECT_FALSE(interfaceWith(GetParam().entries)); }
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, DamagedInterfaces,
+    testing::Values(
+        BadRow{"NoKind", text("frame", "{{0, 0}, {1, 1}}")},
+        BadRow{"NoFrame", text("kind", "View")},
+        BadRow{"UnknownKind", text("kind", "Slider") + text("frame", "{{0, 0}, {1, 1}}")},
+        BadRow{"KindIsANumber",
+               entry("kind", "<integer>1</integer>") + text("frame", "{{0, 0}, {1, 1}}")},
+        BadRow{"FrameIsAnArray", text("kind", "View") + entry("frame", "<array/>")},
+        BadRow{"OutletIsANumber", kPlain + entry("outlet", "<integer>1</integer>")},
+        BadRow{"TitleIsABoolean", kPlain + entry("title", "<true/>")},
+        BadRow{"ActionIsAnArray", kPlain + entry("action", "<array/>")},
+        BadRow{"DelegateIsText", kPlain + text("delegate", "yes")},
+        BadRow{"BoundIsText", kPlain + text("minValue", "1")},
+        BadRow{"BoundIsAFraction", kPlain + entry("maxValue", "<real>1.5</real>")},
+        BadRow{"BoundIsHuge", kPlain + entry("maxValue", "<integer>99999999999</integer>")},
+        BadRow{"BoundsCrossed", kPlain + entry("minValue", "<integer>5</integer>") +
+                                    entry("maxValue", "<integer>4</integer>")},
+        BadRow{"UnknownResizing", kPlain + text("resizing", "both")},
+        BadRow{"SubviewsAreADictionary", kPlain + entry("subviews", "<dict/>")},
+        BadRow{"SubviewIsText", kPlain + entry("subviews", "<array><string>x</string></array>")},
+        BadRow{"SubviewIsDamaged", kPlain + entry("subviews", "<array><dict/></array>")},
+        BadRow{"ItemsAreText", kPlain + text("items", "x")},
+        BadRow{"ItemWithoutTag",
+               kPlain + entry("items", "<array><dict>" + text("title", "A") + "</dict></array>")},
+        BadRow{"ItemWithoutTitle",
+               kPlain + entry("items", "<array><dict>" + entry("tag", "<integer>1</integer>") +
+                                           "</dict></array>")},
+        BadRow{"OutletTwice",
+               kPlain + text("outlet", "mBox") +
+                   entry("subviews",
+                         "<array><dict>" + kPlain + text("outlet", "mBox") + "</dict></array>")}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST(InterfaceFile, AFileWithoutAViewIsNoInterface) {
+  for (const char* file : {"<plist><dict/></plist>", "<plist><array/></plist>",
+                           "<plist><dict><key>view</key><string>x</string></dict></plist>"}) {
+    const auto list = PropertyList::parseXML(file);
+    ASSERT_TRUE(list) << file;
+    EXPECT_FALSE(interfaceInFile(*list)) << file;
+  }
+}
+
+}  // namespace
+}  // namespace cutline

@@ -1,0 +1,253 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "plain/PlainTextField.h"
+#include "plain/PlainToolkit.h"
+#include "platform/CheckBox.h"
+#include "platform/InterfaceLoader.h"
+#include "platform/Label.h"
+#include "platform/PopUpButton.h"
+#include "platform/Stepper.h"
+#include "tests/platform/RecordingOwner.h"
+#include "tests/platform/TemporaryBundle.h"
+#include "tests/platform/ToolkitScope.h"
+
+namespace cutline {
+namespace {
+
+constexpr char kPanel[] = R"(<dict><key>view</key><dict>
+  <key>kind</key><string>View</string>
+  <key>outlet</key><string>kView</string>
+  <key>frame</key><string>{{0, 0}, {300, 200}}</string>
+  <key>subviews</key><array>
+    <dict>
+      <key>kind</key><string>CheckBox</string>
+      <key>outlet</key><string>mBox</string>
+      <key>frame</key><string>{{16, 150}, {256, 22}}</string>
+      <key>title</key><string>RS_Box</string>
+      <key>action</key><string>changeOption:</string>
+      <key>ppdKeyword</key><string>LxHalfCut</string>
+    </dict>
+    <dict>
+      <key>kind</key><string>TextField</string>
+      <key>outlet</key><string>mField</string>
+      <key>frame</key><string>{{36, 120}, {52, 22}}</string>
+      <key>accessibilityLabel</key><string>RS_Field</string>
+      <key>action</key><string>changeNumber:</string>
+      <key>delegate</key><true/>
+    </dict>
+    <dict>
+      <key>kind</key><string>Stepper</string>
+      <key>outlet</key><string>mStepper</string>
+      <key>frame</key><string>{{92, 120}, {22, 24}}</string>
+      <key>minValue</key><integer>1</integer>
+      <key>maxValue</key><integer>99</integer>
+    </dict>
+    <dict>
+      <key>kind</key><string>Label</string>
+      <key>outlet</key><string>mLabel</string>
+      <key>frame</key><string>{{120, 120}, {100, 18}}</string>
+      <key>title</key><string>Words that are no key</string>
+    </dict>
+    <dict>
+      <key>kind</key><string>PopUpButton</string>
+      <key>outlet</key><string>mPopUp</string>
+      <key>frame</key><string>{{16, 60}, {200, 32}}</string>
+      <key>items</key><array>
+        <dict>
+          <key>title</key><string>Tape</string>
+          <key>tag</key><integer>4</integer>
+          <key>description</key><string>RS_Tape</string>
+        </dict>
+        <dict>
+          <key>title</key><string>RS_Box</string>
+          <key>tag</key><integer>5</integer>
+        </dict>
+      </array>
+    </dict>
+    <dict>
+      <key>kind</key><string>Button</string>
+      <key>outlet</key><string>mButton</string>
+      <key>frame</key><string>{{16, 10}, {80, 22}}</string>
+    </dict>
+  </array>
+</dict></dict>)";
+
+// A toolkit that has no steppers and, when told so, no views.
+class PoorToolkit : public PlainToolkit {
+ public:
+  std::shared_ptr<Stepper> createStepper(const Rect& /*frame*/) noexcept override {
+    return nullptr;
+  }
+  std::shared_ptr<View> createView(const Rect& frame) noexcept override {
+    return hasViews ? PlainToolkit::createView(frame) : nullptr;
+  }
+  bool hasViews = true;
+};
+
+class InterfaceLoaderTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    bundle.writeStrings(
+        "en",
+        {{"RS_Box", "Half cut"}, {"RS_Field", "Number of labels"}, {"RS_Tape", "Tape in words"}});
+    bundle.write("Resources/Tape.svg", "<svg/>");
+    bundle.writePropertyList("Resources/Panel.plist", kPanel);
+  }
+
+  bool load(Toolkit& with, const std::string& name = "Panel") {
+    const ScopedEnvironment environment(languageEnvironment({}));
+    const ToolkitScope scope(&with);
+    const auto opened = bundle.open();
+    return opened && opened->loadNibNamed(name, owner);
+  }
+
+  TemporaryBundle bundle;
+  PlainToolkit toolkit;
+  RecordingOwner owner;
+};
+
+TEST_F(InterfaceLoaderTest, BuildsTheTreeInTheFilesOrder) {
+  ASSERT_TRUE(load(toolkit));
+  const auto* root = owner.outlet<View>("kView");
+  ASSERT_TRUE(root);
+  EXPECT_EQ(root->frame(), (Rect{{0, 0}, {300, 200}}));
+  const auto subviews = root->subviews();
+  ASSERT_EQ(subviews.size(), 6U);
+  const char* names[] = {"mBox", "mField", "mStepper", "mLabel", "mPopUp", "mButton"};
+  for (std::size_t i = 0; i < subviews.size(); ++i) {
+    EXPECT_EQ(subviews[i], owner.outlets[names[i]]) << names[i];
+    EXPECT_EQ(subviews[i]->superview(), root) << names[i];
+  }
+}
+
+TEST_F(InterfaceLoaderTest, ConnectsEveryOutletThenTheActionsThenAwakes) {
+  ASSERT_TRUE(load(toolkit));
+  const std::vector<std::string> expected = {
+      "outlet kView",         "outlet mBox",   "outlet mField",  "outlet mStepper",
+      "outlet mLabel",        "outlet mPopUp", "outlet mButton", "action changeOption:",
+      "action changeNumber:", "awake"};
+  EXPECT_EQ(owner.calls, expected);
+}
+
+TEST_F(InterfaceLoaderTest, FillsTheControls) {
+  ASSERT_TRUE(load(toolkit));
+  const auto* box = owner.outlet<CheckBox>("mBox");
+  ASSERT_TRUE(box);
+  EXPECT_EQ(box->title(), "Half cut");
+  EXPECT_EQ(box->ppdKeyword(), "LxHalfCut");
+  EXPECT_EQ(box->state(), CheckBox::kOff);
+  EXPECT_EQ(box->autoresizing(), Autoresizing::minYMargin);
+  EXPECT_EQ(owner.outlet<Label>("mLabel")->stringValue(), "Words that are no key");
+  EXPECT_EQ(owner.outlet<TextField>("mField")->accessibilityLabel(), "Number of labels");
+  EXPECT_EQ(owner.outlet<TextField>("mField")->stringValue(), "");
+  const auto* stepper = owner.outlet<Stepper>("mStepper");
+  EXPECT_EQ(stepper->minValue(), 1);
+  EXPECT_EQ(stepper->maxValue(), 99);
+}
+
+TEST_F(InterfaceLoaderTest, PopUpEntriesKeepTheirTitlesAndGetPictureAndWords) {
+  ASSERT_TRUE(load(toolkit));
+  const auto* popUp = owner.outlet<PopUpButton>("mPopUp");
+  ASSERT_TRUE(popUp);
+  const auto items = popUp->items();
+  ASSERT_EQ(items.size(), 2U);
+  EXPECT_EQ(items[0].title, "Tape");
+  EXPECT_EQ(items[0].tag, 4);
+  EXPECT_EQ(items[0].imagePath, (bundle.resources() / "Tape.svg").string());
+  EXPECT_EQ(items[0].accessibilityLabel, "Tape in words");
+  EXPECT_EQ(items[1].title, "RS_Box");  // an identity, not a text
+  EXPECT_FALSE(items[1].imagePath);
+  EXPECT_EQ(items[1].accessibilityLabel, "");
+  EXPECT_EQ(popUp->selectedTag(), 4);
+}
+
+TEST_F(InterfaceLoaderTest, AnActionRunsWithItsSender) {
+  ASSERT_TRUE(load(toolkit));
+  auto* box = owner.outlet<CheckBox>("mBox");
+  box->performClick();
+  EXPECT_EQ(owner.calls.back(), "run changeOption:");
+  EXPECT_EQ(owner.lastSender, static_cast<View*>(box));
+}
+
+TEST_F(InterfaceLoaderTest, ADelegateHearsOfTypingWithTheFieldAsObject) {
+  ASSERT_TRUE(load(toolkit));
+  auto* field = owner.outlet<PlainTextField>("mField");
+  ASSERT_TRUE(field);
+  field->setStringValue("3");
+  EXPECT_TRUE(owner.textChanges.empty());
+  field->typeText("12");
+  ASSERT_EQ(owner.textChanges.size(), 1U);
+  EXPECT_EQ(owner.textChanges[0].name, "NSControlTextDidChangeNotification");
+  const View* view = field;
+  EXPECT_EQ(owner.textChanges[0].object, NotificationObject(static_cast<const void*>(view)));
+}
+
+TEST_F(InterfaceLoaderTest, AnOutletThatTheOwnerRefusesDoesNotStopTheLoading) {
+  owner.refusedOutlets = {"mBox"};
+  ASSERT_TRUE(load(toolkit));
+  EXPECT_FALSE(owner.outlets.contains("mBox"));
+  EXPECT_EQ(owner.outlet<View>("kView")->subviews().size(), 6U);
+  EXPECT_EQ(owner.calls.back(), "awake");
+}
+
+TEST_F(InterfaceLoaderTest, AnActionThatTheOwnerLacksLeavesTheControlWithoutOne) {
+  owner.unknownActions = {"changeOption:"};
+  ASSERT_TRUE(load(toolkit));
+  auto* box = owner.outlet<CheckBox>("mBox");
+  box->performClick();
+  EXPECT_EQ(box->state(), CheckBox::kOn);
+  EXPECT_EQ(owner.calls.back(), "awake");
+}
+
+TEST_F(InterfaceLoaderTest, AControlThatTheToolkitCannotMakeIsLeftOut) {
+  PoorToolkit poor;
+  ASSERT_TRUE(load(poor));
+  EXPECT_FALSE(owner.outlets.contains("mStepper"));
+  EXPECT_EQ(owner.outlet<View>("kView")->subviews().size(), 5U);
+  EXPECT_TRUE(owner.outlet<CheckBox>("mBox"));
+  EXPECT_EQ(owner.calls.back(), "awake");
+}
+
+TEST_F(InterfaceLoaderTest, WithoutATopLevelViewNothingIsConnected) {
+  PoorToolkit poor;
+  poor.hasViews = false;
+  EXPECT_FALSE(load(poor));
+  EXPECT_TRUE(owner.calls.empty());
+}
+
+TEST_F(InterfaceLoaderTest, WithoutAToolkitNothingIsConnected) {
+  const ToolkitScope scope(nullptr);
+  const auto opened = bundle.open();
+  EXPECT_FALSE(opened->loadNibNamed("Panel", owner));
+  EXPECT_TRUE(owner.calls.empty());
+}
+
+TEST_F(InterfaceLoaderTest, AnErrorInTheLastControlConnectsNothing) {
+  std::string damaged = kPanel;
+  const std::string last = "{{16, 10}, {80, 22}}";
+  damaged.replace(damaged.find(last), last.size(), "{{16, 10}, {80, }}");
+  bundle.writePropertyList("Resources/Damaged.plist", damaged);
+  EXPECT_FALSE(load(toolkit, "Damaged"));
+  EXPECT_TRUE(owner.calls.empty());
+}
+
+TEST_F(InterfaceLoaderTest, AMissingDamagedOrForeignFileConnectsNothing) {
+  bundle.write("Resources/Cut.plist", "<plist><dict>");
+  bundle.writePropertyList("Resources/Strings.plist",
+                           "<dict><key>a</key><string>b</string></dict>");
+  for (const char* name : {"Absent", "Cut", "Strings", "../Info", "", "."}) {
+    EXPECT_FALSE(load(toolkit, name)) << name;
+  }
+  EXPECT_TRUE(owner.calls.empty());
+}
+
+TEST_F(InterfaceLoaderTest, ControlsStickToTheTopWhenThePanelShrinks) {
+  ASSERT_TRUE(load(toolkit));
+  owner.outlet<View>("kView")->setFrameSize({300, 150});
+  EXPECT_EQ(owner.outlet<CheckBox>("mBox")->frame().origin, (Point{16, 100}));
+}
+
+}  // namespace
+}  // namespace cutline

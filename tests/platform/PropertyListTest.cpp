@@ -1,0 +1,155 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+
+#include "platform/PropertyList.h"
+
+namespace cutline {
+namespace {
+
+std::optional<PropertyList> parseValue(const std::string& value) {
+  return PropertyList::parseXML(
+      "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">" + value + "</plist>\n");
+}
+
+std::string repeated(const std::string& text, int count) {
+  std::string result;
+  for (int i = 0; i < count; ++i) result += text;
+  return result;
+}
+
+struct TextRow {
+  const char* name;
+  std::string xml;
+  std::string text;
+};
+
+class PropertyListTexts : public testing::TestWithParam<TextRow> {};
+
+TEST_P(PropertyListTexts, AreRead) {
+  const auto list = parseValue(GetParam().xml);
+  ASSERT_TRUE(list);
+  ASSERT_TRUE(list->string());
+  EXPECT_EQ(*list->string(), GetParam().text);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, PropertyListTexts,
+    testing::Values(TextRow{"Plain", "<string>Half cut</string>", "Half cut"},
+                    TextRow{"Empty", "<string/>", ""},
+                    TextRow{"Entities", "<string>&lt;&amp;&gt;&quot;</string>", "<&>\""},
+                    TextRow{"CharacterReferences", "<string>&#65;&#x42;</string>", "AB"},
+                    TextRow{"Unicode", "<string>Bänder 라벨 \xF0\x9F\x8F\xB7</string>",
+                            "Bänder 라벨 \xF0\x9F\x8F\xB7"},
+                    TextRow{"CharacterData", "<string><![CDATA[<x>]]></string>", "<x>"},
+                    TextRow{"AfterAComment", "<!-- a title --><string>x</string>", "x"}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST(PropertyList, ReadsNumbersOfBothKinds) {
+  EXPECT_EQ(parseValue("<integer>284</integer>")->number(), 284);
+  EXPECT_EQ(parseValue("<integer>-5</integer>")->number(), -5);
+  EXPECT_EQ(parseValue("<real>2.5</real>")->number(), 2.5);
+  EXPECT_FALSE(parseValue("<string>7</string>")->number());
+}
+
+TEST(PropertyList, ReadsBooleans) {
+  EXPECT_EQ(*parseValue("<true/>")->boolean(), true);
+  EXPECT_EQ(*parseValue("<false/>")->boolean(), false);
+  EXPECT_FALSE(parseValue("<integer>1</integer>")->boolean());
+}
+
+TEST(PropertyList, ReadsNestedContainersInOrder) {
+  const auto list = parseValue(
+      "<dict><key>view</key><dict><key>subviews</key><array><string>a</string><string>b</string>"
+      "</array></dict></dict>");
+  ASSERT_TRUE(list);
+  const PropertyList* subviews = list->objectForKey("view")->objectForKey("subviews");
+  ASSERT_TRUE(subviews && subviews->array());
+  ASSERT_EQ(subviews->array()->size(), 2U);
+  EXPECT_EQ(*(*subviews->array())[0].string(), "a");
+  EXPECT_EQ(*(*subviews->array())[1].string(), "b");
+}
+
+TEST(PropertyList, AnswersNullForAMissingEntryAndForNoDictionary) {
+  EXPECT_EQ(parseValue("<dict/>")->objectForKey("view"), nullptr);
+  EXPECT_EQ(parseValue("<true/>")->objectForKey("view"), nullptr);
+  EXPECT_EQ(PropertyList().objectForKey("view"), nullptr);
+}
+
+TEST(PropertyList, ADateHasNoValueButDoesNotSpoilItsNeighbours) {
+  const auto list = parseValue(
+      "<dict><key>made</key><date>2020-01-01T00:00:00Z</date><key>name</key><string>x</string>"
+      "</dict>");
+  ASSERT_TRUE(list);
+  EXPECT_FALSE(list->objectForKey("made")->string());
+  EXPECT_EQ(*list->objectForKey("name")->string(), "x");
+}
+
+struct BadRow {
+  const char* name;
+  std::string xml;
+};
+
+class DamagedPropertyLists : public testing::TestWithParam<BadRow> {};
+
+TEST_P(DamagedPropertyLists, AreRefused) { EXPECT_FALSE(PropertyList::parseXML(GetParam().xml)); }
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, DamagedPropertyLists,
+    testing::Values(
+        BadRow{"Empty", ""}, BadRow{"Blank", " \n"}, BadRow{"Words", "no property list at all"},
+        BadRow{"OtherXml", "<svg width=\"1\"/>"}, BadRow{"NoValue", "<plist></plist>"},
+        BadRow{"NoRoot", "<string>a</string>"}, BadRow{"NotClosed", "<plist><string>a</string>"},
+        BadRow{"ContainerNotClosed", "<plist><array><string>a</string></plist>"},
+        BadRow{"Crossed", "<plist><dict><key>a</key><true/></array></plist>"},
+        BadRow{"WrongClose", "<plist><string>x</key></plist>"},
+        BadRow{"ValueWithoutKey", "<plist><dict><string>a</string></dict></plist>"},
+        BadRow{"UnknownElement", "<plist><colour/></plist>"},
+        BadRow{"UnknownEntity", "<plist><string>&cut;</string></plist>"},
+        BadRow{"OwnEntity",
+               "<!DOCTYPE plist [<!ENTITY a \"b\">]><plist><string>&a;</string></plist>"},
+        BadRow{"TextAfterTheEnd", "<plist><true/></plist>more"},
+        BadRow{"TwoLists", "<plist><true/></plist><plist><true/></plist>"},
+        BadRow{"ListInAList", "<plist><plist><true/></plist></plist>"},
+        BadRow{"NotUtf8", "<plist><string>\xFF\xFE</string></plist>"},
+        BadRow{"OverlongUtf8", "<plist><string>\xC0\xAF</string></plist>"},
+        BadRow{"SurrogateUtf8", "<plist><string>\xED\xA0\x80</string></plist>"},
+        BadRow{"CutUtf8", "<plist><string>\xE2\x82</string></plist>"},
+        BadRow{"Nul", std::string("<plist><string>a\0b</string></plist>", 35)},
+        BadRow{"Binary", std::string("bplist00\xD0\x08", 10)}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST(PropertyList, ReadsContainersNestedSixtyFourDeepAndRefusesDeeperOnes) {
+  const auto nested = [](int depth) {
+    return parseValue(repeated("<array>", depth) + "<true/>" + repeated("</array>", depth));
+  };
+  EXPECT_TRUE(nested(64));
+  EXPECT_FALSE(nested(65));
+}
+
+TEST(PropertyList, EndlessNestingDoesNotExhaustTheStack) {
+  EXPECT_FALSE(parseValue(repeated("<array>", 300000)));
+  EXPECT_FALSE(parseValue(repeated("<dict><key>a</key>", 300000)));
+  EXPECT_FALSE(parseValue(repeated("<!-- </array> --><array>", 300000)));
+}
+
+TEST(PropertyList, ReadsALongListAndRefusesAHugeFile) {
+  const auto list = parseValue("<array>" + repeated("<string>x</string>", 100000) + "</array>");
+  ASSERT_TRUE(list);
+  EXPECT_EQ(list->array()->size(), 100000U);
+  EXPECT_FALSE(parseValue("<string>" + std::string(17 << 20, 'x') + "</string>"));
+}
+
+TEST(PropertyList, EveryCutOfAFileIsRefusedOrReadWithoutHarm) {
+  const std::string whole =
+      "<plist version=\"1.0\"><dict><key>a</key><array><integer>1</integer><data>AQID</data>"
+      "<string>&amp;</string></array></dict></plist>";
+  ASSERT_TRUE(PropertyList::parseXML(whole));
+  for (std::size_t length = 0; length < whole.size(); ++length) {
+    EXPECT_FALSE(PropertyList::parseXML(std::string_view(whole).substr(0, length))) << length;
+  }
+}
+
+}  // namespace
+}  // namespace cutline

@@ -1,0 +1,55 @@
+// A bundle's directory for one test, and the environment that chooses its languages.
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/Bundle.h"
+
+namespace cutline {
+
+class TemporaryBundle {
+ public:
+  TemporaryBundle();
+  ~TemporaryBundle();
+  TemporaryBundle(const TemporaryBundle&) = delete;
+  TemporaryBundle& operator=(const TemporaryBundle&) = delete;
+
+  std::string path() const { return mPath.string(); }
+  std::filesystem::path resources() const { return mPath / "Contents" / "Resources"; }
+
+  // `name` is relative to Contents; folders on the way are made.
+  void write(const std::string& name, const std::string& bytes) const;
+  // A property list with this value.
+  void writePropertyList(const std::string& name, const std::string& value) const;
+  // Resources/<language>.lproj/<table>.strings
+  void writeStrings(const std::string& language, const std::map<std::string, std::string>& strings,
+                    const std::string& table = "Localizable") const;
+
+  std::shared_ptr<Bundle> open() const;
+
+ private:
+  std::filesystem::path mPath;
+};
+
+// Sets environment variables for one scope; an absent value unsets the variable.
+class ScopedEnvironment {
+ public:
+  using Variables = std::map<std::string, std::optional<std::string>>;
+
+  explicit ScopedEnvironment(const Variables& variables);
+  ~ScopedEnvironment();
+  ScopedEnvironment(const ScopedEnvironment&) = delete;
+  ScopedEnvironment& operator=(const ScopedEnvironment&) = delete;
+
+ private:
+  Variables mBefore;
+};
+
+// The four variables that choose the language of messages; what is not given is unset.
+ScopedEnvironment::Variables languageEnvironment(const ScopedEnvironment::Variables& given);
+
+}  // namespace cutline
