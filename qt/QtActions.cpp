@@ -14,7 +14,7 @@ void QtActions::run(QtViewCore& sender, const ActionHandler& action) noexcept {
 }
 
 void QtActions::run(QtViewCore& sender, const std::function<void()>& handler) noexcept {
-  if (!handler) return;
+  if (!handler || mSilenced > 0) return;
   const std::function<void()> kept = handler;
   View& view = sender.view();
   const QPointer<QObject> alive = sender.connectionContext();

@@ -22,6 +22,19 @@ class QtActions {
   // The same for what a text field calls while the user types.
   void run(QtViewCore& sender, const std::function<void()>& handler) noexcept;
 
+  // While one exists no action runs: Qt takes the focus from a widget that is hidden, disabled or
+  // taken away, which ends editing, but that was not the user's doing.
+  class Silence {
+   public:
+    explicit Silence(QtActions& actions) noexcept : mActions(actions) { ++mActions.mSilenced; }
+    Silence(const Silence&) = delete;
+    Silence& operator=(const Silence&) = delete;
+    ~Silence() { --mActions.mSilenced; }
+
+   private:
+    QtActions& mActions;
+  };
+
   // While this is true a native event may still be on its way through a widget, so widgets must
   // not be deleted at once.
   bool areRunning() const noexcept { return mDepth > 0; }
@@ -29,6 +42,7 @@ class QtActions {
  private:
   ActionObserver* mObserver = nullptr;
   int mDepth = 0;
+  int mSilenced = 0;
 };
 
 }  // namespace cutline

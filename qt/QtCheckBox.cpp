@@ -39,7 +39,7 @@ class ElidingCheckBox : public QCheckBox {
 
 Qt::CheckState toCheckState(int state) {
   if (state == CheckBox::kMixed) return Qt::PartiallyChecked;
-  return state == CheckBox::kOff ? Qt::Unchecked : Qt::Checked;
+  return state == CheckBox::kOn ? Qt::Checked : Qt::Unchecked;
 }
 
 }  // namespace
@@ -49,7 +49,7 @@ QtCheckBox::QtCheckBox(const Rect& frame, std::shared_ptr<QtActions> actions)
 
 // Mixed is never a user's choice: the third state exists only while the box shows it.
 void QtCheckBox::setState(int state) noexcept {
-  mState = state == kMixed || state == kOff ? state : kOn;
+  mState = state < 0 ? kMixed : state > 0 ? kOn : kOff;
   if (!widget()) return;
   const QSignalBlocker quiet(widget());
   widget()->setTristate(mState == kMixed);

@@ -14,6 +14,7 @@ namespace cutline {
 class QtLabel : public QtControlOf<Label, QLabel> {
  public:
   QtLabel(const Rect& frame, std::shared_ptr<QtActions> actions);
+  ~QtLabel() override;
 
   std::string stringValue() const noexcept override { return mText; }
   void setStringValue(const std::string& text) noexcept override;

@@ -59,8 +59,9 @@ QSizeF QtPicture::size() {
 }
 
 QRectF QtPicture::fittedInto(const QRectF& room) {
-  const QSizeF fitted = size().scaled(room.size(), Qt::KeepAspectRatio);
-  QRectF target(QPointF(), fitted);
+  const QSizeF whole = size();
+  if (whole.isEmpty()) return {};
+  QRectF target(QPointF(), whole.scaled(room.size(), Qt::KeepAspectRatio));
   target.moveCenter(room.center());
   return target;
 }

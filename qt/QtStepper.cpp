@@ -26,6 +26,7 @@ class ArrowsSpinBox : public QSpinBox {
     QStylePainter painter(this);
     QStyleOptionSpinBox option;
     initStyleOption(&option);
+    painter.setClipRect(arrowsOf(option));
     painter.drawComplexControl(QStyle::CC_SpinBox, option);
   }
 
@@ -42,6 +43,14 @@ class ArrowsSpinBox : public QSpinBox {
   void wheelEvent(QWheelEvent* event) override {
     if (hasFocus()) return QSpinBox::wheelEvent(event);
     event->ignore();
+  }
+
+ private:
+  // What is left of the spin box when the edge of the text's part is cut off.
+  QRect arrowsOf(const QStyleOptionSpinBox& option) const {
+    const int left =
+        style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxUp, this).left();
+    return rect().adjusted(left, 0, 0, 0);
   }
 };
 

@@ -46,6 +46,7 @@ QtViewCore::QtViewCore(View& view, QWidget* widget, const Rect& frame,
 
 QtViewCore::~QtViewCore() {
   mConnectionContext.reset();
+  const QtActions::Silence silence(*mActions);
   releaseSubviews();
   if (!mWidget) return;
   if (mActions->areRunning()) {
@@ -71,10 +72,21 @@ void QtViewCore::setFrame(const Rect& frame) noexcept {
 void QtViewCore::place() noexcept {
   if (!mWidget) return;
   if (mSuperview) {
-    mWidget->setGeometry(toPixels(mFrame, mSuperview->mFrame.size.height));
+    mWidget->setGeometry(toPixels(frameOfWidget(), mSuperview->mFrame.size.height));
   } else {
     mWidget->setFixedSize(toPixels(mFrame, 0).size());
   }
+}
+
+Rect QtViewCore::frameOfWidget() const noexcept {
+  const double missing = std::max(0.0, mMinimumHeight - mFrame.size.height);
+  return {{mFrame.origin.x, mFrame.origin.y - missing / 2},
+          {mFrame.size.width, mFrame.size.height + missing}};
+}
+
+void QtViewCore::setMinimumHeight(double height) noexcept {
+  mMinimumHeight = height;
+  place();
 }
 
 void QtViewCore::replaceSubviews(double heightChange) noexcept {
@@ -86,6 +98,7 @@ void QtViewCore::replaceSubviews(double heightChange) noexcept {
 }
 
 void QtViewCore::setHidden(bool hidden) noexcept {
+  const QtActions::Silence silence(*mActions);
   mHidden = hidden;
   showAsFlagged();
 }
@@ -151,6 +164,7 @@ void QtViewCore::insert(std::shared_ptr<View> subview, std::size_t index) noexce
 }
 
 void QtViewCore::remove(std::size_t index) noexcept {
+  const QtActions::Silence silence(*mActions);
   const std::shared_ptr<View> leaving = mSubviews[index];
   mSubviews.erase(mSubviews.begin() + static_cast<std::ptrdiff_t>(index));
   QtViewCore& core = *of(leaving.get());

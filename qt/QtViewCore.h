@@ -41,6 +41,10 @@ class QtViewCore {
 
   Rect frame() const noexcept { return mFrame; }
   void setFrame(const Rect& frame) noexcept;
+  // In points: a widget in a lower frame is given this height, around the middle of the frame, so
+  // that text is not cut off when the user's font is larger than the panel's designer thought.
+  void setMinimumHeight(double height) noexcept;
+
   Autoresizing autoresizing() const noexcept { return mAutoresizing; }
   void setAutoresizing(Autoresizing autoresizing) noexcept { mAutoresizing = autoresizing; }
 
@@ -61,6 +65,7 @@ class QtViewCore {
 
  private:
   void place() noexcept;
+  Rect frameOfWidget() const noexcept;
   void replaceSubviews(double heightChange) noexcept;
   void showAsFlagged() noexcept;
   bool mayTake(View* subview) const noexcept;
@@ -75,6 +80,7 @@ class QtViewCore {
   std::shared_ptr<QtActions> mActions;
   std::unique_ptr<QObject> mConnectionContext;
   Rect mFrame;
+  double mMinimumHeight = 0;
   Autoresizing mAutoresizing = Autoresizing::none;
   bool mHidden = false;
   QtViewCore* mSuperview = nullptr;

@@ -57,6 +57,7 @@ class QtControlOf : public QtViewOf<Port, Widget> {
  public:
   bool isEnabled() const noexcept override { return mEnabled; }
   void setEnabled(bool enabled) noexcept override {
+    const QtActions::Silence silence(this->core().actions());
     mEnabled = enabled;
     if (this->widget()) this->widget()->setEnabled(enabled);
   }
