@@ -40,6 +40,11 @@ std::uint32_t Strip::dotsAlong(double millimetres) const {
 
 std::uint32_t Strip::border() const { return dotsAlong(kBorder); }
 
+// A label that is narrower than the tape lies in its middle.
+std::uint32_t Strip::leftOf(const Segment& segment) const {
+  return (mWidth - segment.label.width()) / 2;
+}
+
 void Strip::add(Kind kind, std::uint32_t length) {
   mSegments.push_back({kind, length, {}});
   mLength += length;
@@ -90,12 +95,12 @@ std::vector<Place> Strip::labelPlaces() const {
   std::vector<Place> places;
   std::uint64_t along = 0;
   for (const Segment& segment : mSegments) {
-    const std::uint64_t across = border() + (mWidth - segment.label.width()) / 2;
     if (segment.kind == Kind::Label) {
       const std::uint64_t width = segment.label.width();
-      places.push_back(mDirection == Direction::Right
-                           ? Place{along, across, segment.length, width}
-                           : Place{across, along, width, segment.length});
+      const std::uint64_t left = border() + leftOf(segment);
+      const std::uint64_t top = border() + mWidth - width - leftOf(segment);
+      places.push_back(mDirection == Direction::Right ? Place{along, top, segment.length, width}
+                                                      : Place{left, along, width, segment.length});
     }
     along += segment.length;
   }
@@ -115,8 +120,7 @@ unsigned Strip::cuts(Cut kind) const {
 
 Strip::Colour Strip::labelColourAt(const Segment& segment, std::int64_t along,
                                    std::int64_t across) const {
-  const std::int64_t x = across - (mWidth - segment.label.width()) / 2;
-  return segment.label.inkAt(x, along) ? kInk : kTape;
+  return segment.label.inkAt(across - leftOf(segment), along) ? kInk : kTape;
 }
 
 Strip::Colour Strip::colourAt(const Segment& segment, std::int64_t along,
@@ -141,8 +145,8 @@ bool Strip::forEachAlong(Take take) const {
 
 bool Strip::writeRight(PngWriter& png) const {
   std::vector<std::uint8_t> row(bounds().width);
-  for (std::int64_t across = -std::int64_t{border()}; across < mWidth + std::int64_t{border()};
-       ++across) {
+  const std::int64_t bottom = -std::int64_t{border()};
+  for (std::int64_t across = std::int64_t{mWidth} - 1 - bottom; across >= bottom; --across) {
     std::size_t at = 0;
     forEachAlong([&](const Segment& segment, std::uint32_t along) {
       row[at++] = colourAt(segment, along, across);

@@ -23,7 +23,8 @@ struct Place {
 
 class Strip {
  public:
-  // A tape runs to the right, so that text along it can be read; a roll runs down.
+  // A tape runs to the right, so that text along it can be read: its labels are turned by a
+  // quarter against the clock. A roll runs down.
   enum class Direction { Right, Down };
 
   void setDirection(Direction direction) { mDirection = direction; }
@@ -53,6 +54,7 @@ class Strip {
 
   std::uint32_t dotsAlong(double millimetres) const;
   std::uint32_t border() const;
+  std::uint32_t leftOf(const Segment& segment) const;
   void add(Kind kind, std::uint32_t length);
   void start();
   enum Colour : std::uint8_t;
