@@ -1,0 +1,86 @@
+#include "host/dialog/Appearance.h"
+
+#include <QApplication>
+#include <array>
+
+namespace cutline {
+namespace {
+
+struct Colour {
+  QPalette::ColorRole role;
+  QRgb enabled;
+  QRgb disabled;
+};
+
+constexpr int kMiddleLightness = 128;
+
+constexpr auto kLight = std::to_array<Colour>({
+    {QPalette::Window, 0xfff3f3f1, 0xfff3f3f1},
+    {QPalette::WindowText, 0xff1c1f22, 0xff8b8f93},
+    {QPalette::Base, 0xffffffff, 0xfff3f3f1},
+    {QPalette::AlternateBase, 0xffeceeed, 0xffeceeed},
+    {QPalette::Text, 0xff1c1f22, 0xff8b8f93},
+    {QPalette::PlaceholderText, 0xff73777b, 0xffa5a8ab},
+    {QPalette::Button, 0xfffafaf9, 0xfff0f0ee},
+    {QPalette::ButtonText, 0xff1c1f22, 0xff8b8f93},
+    {QPalette::BrightText, 0xffffffff, 0xffffffff},
+    {QPalette::Light, 0xffffffff, 0xffffffff},
+    {QPalette::Midlight, 0xffe6e7e5, 0xffe6e7e5},
+    {QPalette::Mid, 0xffb9bcbb, 0xffc4c6c5},
+    {QPalette::Dark, 0xff9ea2a1, 0xffb4b7b6},
+    {QPalette::Shadow, 0xff6d7170, 0xff8e9190},
+    {QPalette::Highlight, 0xff1f66b8, 0xffa9b4c0},
+    {QPalette::HighlightedText, 0xffffffff, 0xffffffff},
+    {QPalette::ToolTipBase, 0xfffdfdf6, 0xfffdfdf6},
+    {QPalette::ToolTipText, 0xff1c1f22, 0xff1c1f22},
+    {QPalette::Link, 0xff1f66b8, 0xff8b8f93},
+});
+
+constexpr auto kDark = std::to_array<Colour>({
+    {QPalette::Window, 0xff26292c, 0xff26292c},
+    {QPalette::WindowText, 0xffe9ebec, 0xff7d8286},
+    {QPalette::Base, 0xff1b1d20, 0xff26292c},
+    {QPalette::AlternateBase, 0xff2e3236, 0xff2e3236},
+    {QPalette::Text, 0xffe9ebec, 0xff7d8286},
+    {QPalette::PlaceholderText, 0xff94999d, 0xff63676b},
+    {QPalette::Button, 0xff363a3f, 0xff2c3034},
+    {QPalette::ButtonText, 0xffe9ebec, 0xff7d8286},
+    {QPalette::BrightText, 0xffffffff, 0xffffffff},
+    {QPalette::Light, 0xff4a4f55, 0xff4a4f55},
+    {QPalette::Midlight, 0xff40454a, 0xff40454a},
+    {QPalette::Mid, 0xff5a6066, 0xff4a4f55},
+    {QPalette::Dark, 0xff131517, 0xff131517},
+    {QPalette::Shadow, 0xff08090a, 0xff08090a},
+    {QPalette::Highlight, 0xff4c94e6, 0xff44515e},
+    {QPalette::HighlightedText, 0xff08121d, 0xff9aa0a5},
+    {QPalette::ToolTipBase, 0xff3a3f44, 0xff3a3f44},
+    {QPalette::ToolTipText, 0xffe9ebec, 0xffe9ebec},
+    {QPalette::Link, 0xff79b2f2, 0xff7d8286},
+});
+
+template <std::size_t Count>
+QPalette paletteOf(const std::array<Colour, Count>& colours) {
+  QPalette palette;
+  for (const Colour& colour : colours) {
+    palette.setColor(QPalette::Active, colour.role, QColor(colour.enabled));
+    palette.setColor(QPalette::Inactive, colour.role, QColor(colour.enabled));
+    palette.setColor(QPalette::Disabled, colour.role, QColor(colour.disabled));
+  }
+  return palette;
+}
+
+}  // namespace
+
+QPalette lightPalette() { return paletteOf(kLight); }
+QPalette darkPalette() { return paletteOf(kDark); }
+
+bool isDark(const QPalette& palette) {
+  return palette.color(QPalette::Window).lightness() < kMiddleLightness;
+}
+
+void applyAppearance(bool dark) {
+  const bool useDark = dark || isDark(QApplication::palette());
+  QApplication::setPalette(useDark ? darkPalette() : lightPalette());
+}
+
+}  // namespace cutline

@@ -1,0 +1,60 @@
+#include "host/dialog/Background.h"
+
+#include <QObject>
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+#include <utility>
+
+namespace cutline {
+
+using namespace std::chrono_literals;
+
+struct Background::Shared {
+  std::mutex mutex;
+  std::condition_variable workEnded;
+  std::unique_ptr<QObject> receiver = std::make_unique<QObject>();  // null once nobody listens
+  int running = 0;
+
+  // Under the lock, so that the receiver cannot go in the middle of it.
+  void post(Delivery delivery) {
+    const std::scoped_lock lock(mutex);
+    if (!receiver || !delivery) return;
+    QMetaObject::invokeMethod(receiver.get(), std::move(delivery), Qt::QueuedConnection);
+  }
+
+  void end() {
+    const std::scoped_lock lock(mutex);
+    --running;
+    workEnded.notify_all();
+  }
+};
+
+Background::Background() : mShared(std::make_shared<Shared>()) {}
+
+Background::~Background() {
+  constexpr auto kPatience = 1s;
+  std::unique_ptr<QObject> receiver;
+  std::unique_lock lock(mShared->mutex);
+  receiver = std::move(mShared->receiver);
+  mShared->workEnded.wait_for(lock, kPatience, [this] { return mShared->running == 0; });
+}
+
+void Background::start(Work work) {
+  {
+    const std::scoped_lock lock(mShared->mutex);
+    ++mShared->running;
+  }
+  std::thread([shared = mShared, work = std::move(work)]() mutable {
+    shared->post(work());
+    work = nullptr;
+    shared->end();
+  }).detach();
+}
+
+std::function<void(Background::Delivery)> Background::poster() const {
+  return [shared = mShared](Delivery delivery) { shared->post(std::move(delivery)); };
+}
+
+}  // namespace cutline

@@ -1,0 +1,146 @@
+#include "host/dialog/DialogSession.h"
+
+#include <QEvent>
+#include <QPixmap>
+#include <QScreen>
+#include <QTimer>
+#include <algorithm>
+#include <filesystem>
+#include <iostream>
+
+#include "host/core/CommandLine.h"
+#include "host/core/Installation.h"
+#include "host/core/Module.h"
+#include "host/core/PluginLoader.h"
+#include "host/dialog/Marks.h"
+#include "qt/QtText.h"
+
+namespace cutline {
+namespace {
+
+// A server that takes longer is waited for with the dialog on the screen.
+constexpr int kPatienceMilliseconds = 300;
+constexpr QSize kPreferredSize{1120, 720};
+constexpr int kScreenMargin = 40;
+
+std::string titleOf(const CommandLine& line) {
+  if (line.title) return *line.title;
+  return line.file ? std::filesystem::path(*line.file).filename().string() : std::string();
+}
+
+// Without the module documents print all the same, only unseen.
+DocumentLoader::Opener openerOf(const Installation& installation, const std::string& path) {
+  return [installation, path]() -> Result<std::shared_ptr<Document>> {
+    const Result<DocumentRenderer*> renderer = loadDocumentRenderer(installation);
+    if (!renderer) return std::shared_ptr<Document>();
+    return (*renderer)->open(path);
+  };
+}
+
+void tell(const std::string& message) { std::cerr << "cutline: " << message << std::endl; }
+
+}  // namespace
+
+DialogSession::DialogSession(const DialogRequest& request, FirstPrinter printer)
+    : mLine(*request.commandLine),
+      mPlugIns(*request.plugIns),
+      mInstallation(*request.installation),
+      mPrinter(std::move(printer)),
+      mPlatform(mToolkit),
+      mModel(mPlugIns, mLine.asked) {
+  mDialog = std::make_unique<PrintDialog>(mModel, std::make_shared<CupsPrintServer>(mLine.server),
+                                          source());
+  mDialog->installEventFilter(this);
+  connect(mDialog.get(), &QDialog::finished, this,
+          [this] { QApplication::exit(mDialog->exitStatus()); });
+  if (mLine.marks) printMark("constructed");
+}
+
+PrintSource DialogSession::source() const {
+  if (!mLine.file) return {};
+  return {*mLine.file, titleOf(mLine), openerOf(mInstallation, *mLine.file)};
+}
+
+int DialogSession::run() {
+  awaitPrinter();
+  const int status = QApplication::exec();
+  mDialog.reset();
+  return status;
+}
+
+void DialogSession::awaitPrinter() {
+  mBackground.start([this, printer = mPrinter]() -> Background::Delivery {
+    printer.wait();
+    return [this, printer] { takePrinter(printer.get()); };
+  });
+  if (mLine.command == Command::snapshot) return;
+  QTimer::singleShot(kPatienceMilliseconds, this, [this] {
+    if (mIsComplete) return;
+    mDialog->showWaiting(tr("Waiting for the print server..."));
+    show();
+  });
+}
+
+void DialogSession::takePrinter(const Result<PrinterChoice>& printer) {
+  if (printer) return open(*printer);
+  fail(printer.error().message);
+}
+
+void DialogSession::fail(const std::string& message) {
+  tell(message);
+  if (!mDialog->isVisible()) return QApplication::exit(kExitError);
+  mDialog->showFailure(toQString(message));
+}
+
+void DialogSession::open(const PrinterChoice& printer) {
+  mDialog->openPrinter(printer);
+  for (const std::string& problem : mPlugIns.takeProblems()) tell(problem);
+  mIsComplete = true;
+  if (mLine.command == Command::snapshot) {
+    connect(mDialog.get(), &PrintDialog::becameSettled, this, &DialogSession::takeSnapshot,
+            Qt::QueuedConnection);
+  }
+  const bool wasVisible = mDialog->isVisible();
+  show();
+  if (wasVisible) mDialog->update();
+}
+
+void DialogSession::show() {
+  if (mDialog->isVisible()) return;
+  QSize size = kPreferredSize.expandedTo(mDialog->sizeHint());
+  if (mLine.command != Command::snapshot) {
+    const QSize room = mDialog->screen()->availableSize() - QSize(kScreenMargin, kScreenMargin);
+    size = size.boundedTo(room);
+  }
+  mDialog->resize(size);
+  mDialog->show();
+}
+
+bool DialogSession::eventFilter(QObject* watched, QEvent* event) {
+  if (mIsComplete && !mHasPainted && event->type() == QEvent::Paint) {
+    mHasPainted = true;
+    QTimer::singleShot(0, this, &DialogSession::didPaintFirst);
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+// Everything but the document has been drawn: the measuring programs look no further.
+void DialogSession::didPaintFirst() {
+  if (!mLine.marks) {
+    mDialog->loadDocument();
+    if (mLine.command == Command::dialog) mDialog->startWatching();
+    return;
+  }
+  for (const char* name : {"painted", "complete"}) printMark(name);
+  printPeakMemoryMark();
+  QApplication::exit(kExitDone);
+}
+
+void DialogSession::takeSnapshot() {
+  const QString path = toQString(mLine.snapshotPath);
+  if (mDialog->grab().save(path, "PNG")) return QApplication::exit(kExitDone);
+  tell(mLine.snapshotPath + ": the picture cannot be written; name another file");
+  QApplication::exit(kExitError);
+}
+
+}  // namespace cutline

@@ -1,0 +1,103 @@
+#include "host/dialog/JobForm.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QSpinBox>
+
+#include "host/dialog/StatusIcon.h"
+#include "qt/QtText.h"
+
+namespace cutline {
+namespace {
+
+constexpr int kMostCopies = 9999;
+
+}  // namespace
+
+JobForm::JobForm(QWidget* parent)
+    : QWidget(parent),
+      mCopiesCaption(new QLabel(tr("&Copies:"), this)),
+      mCopies(new QSpinBox(this)),
+      mPagesCaption(new QLabel(tr("P&ages:"), this)),
+      mPages(new QLineEdit(this)),
+      mProblem(new QWidget(this)),
+      mProblemText(new QLabel(mProblem)),
+      mPaperCaption(new QLabel(tr("Pape&r:"), this)),
+      mPapers(new QComboBox(this)) {
+  mCopies->setRange(1, kMostCopies);
+  mCopies->setAccessibleName(tr("Copies"));
+  mCopiesCaption->setBuddy(mCopies);
+  mPages->setPlaceholderText(tr("All, or such as 1-3,5"));
+  mPages->setAccessibleName(tr("Pages"));
+  mPagesCaption->setBuddy(mPages);
+  mPapers->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  mPapers->setMinimumContentsLength(12);
+  mPapers->setAccessibleName(tr("Paper"));
+  mPaperCaption->setBuddy(mPapers);
+  layOut();
+  connect(mCopies, &QSpinBox::valueChanged, this, &JobForm::copiesChosen);
+  connect(mPages, &QLineEdit::textEdited, this, &JobForm::pagesEdited);
+  connect(mPages, &QLineEdit::editingFinished, this, [this] { emit pagesFinished(pages()); });
+  connect(mPapers, &QComboBox::activated, this,
+          [this](int index) { emit paperChosen(mPapers->itemData(index).toString()); });
+}
+
+void JobForm::layOut() {
+  mProblemText->setTextFormat(Qt::PlainText);
+  mProblemText->setWordWrap(true);
+  auto* problem = new QHBoxLayout(mProblem);
+  problem->setContentsMargins(0, 0, 0, 0);
+  problem->addWidget(new StatusIcon(Severity::error, mProblem), 0, Qt::AlignTop);
+  problem->addWidget(mProblemText, 1);
+  mProblem->hide();
+  auto* grid = new QGridLayout(this);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setColumnStretch(3, 1);
+  grid->addWidget(mCopiesCaption, 0, 0);
+  grid->addWidget(mCopies, 0, 1);
+  grid->addWidget(mPagesCaption, 0, 2);
+  grid->addWidget(mPages, 0, 3);
+  grid->addWidget(mProblem, 1, 1, 1, 3);
+  grid->addWidget(mPaperCaption, 2, 0);
+  grid->addWidget(mPapers, 2, 1, 1, 3);
+}
+
+void JobForm::setPapers(const std::vector<PaperSize>& papers) {
+  mPapers->clear();
+  for (const PaperSize& paper : papers)
+    mPapers->addItem(toQString(paper.text), toQString(paper.name));
+}
+
+void JobForm::setCurrentPaper(const QString& name) {
+  mPapers->setCurrentIndex(mPapers->findData(name));
+}
+
+void JobForm::setCopies(int copies) {
+  const QSignalBlocker blocker(mCopies);
+  mCopies->setValue(copies);
+}
+
+void JobForm::setPages(const QString& ranges) {
+  if (!mPages->hasFocus() && mPages->text() != ranges) mPages->setText(ranges);
+}
+
+void JobForm::setPagesProblem(const QString& problem) {
+  mProblemText->setText(problem);
+  mProblem->setVisible(!problem.isEmpty());
+  mPages->setAccessibleDescription(problem);
+}
+
+bool JobForm::hasPagesProblem() const { return !mProblemText->text().isEmpty(); }
+
+void JobForm::focusPages() {
+  mPages->setFocus();
+  mPages->selectAll();
+}
+
+QString JobForm::pages() const { return mPages->text(); }
+
+}  // namespace cutline

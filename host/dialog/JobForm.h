@@ -1,0 +1,57 @@
+// Copies, pages and paper.
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+#include "cups/PpdFile.h"
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QSpinBox;
+
+namespace cutline {
+
+class StatusIcon;
+
+class JobForm : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit JobForm(QWidget* parent = nullptr);
+
+  // The captions that stand in the first column.
+  std::vector<QLabel*> captions() const { return {mCopiesCaption, mPaperCaption}; }
+
+  // Setting reports nothing.
+  void setPapers(const std::vector<PaperSize>& papers);
+  void setCurrentPaper(const QString& name);
+  void setCopies(int copies);
+  void setPages(const QString& ranges);
+  // What is wrong with the pages as typed; empty when nothing is.
+  void setPagesProblem(const QString& problem);
+  bool hasPagesProblem() const;
+  void focusPages();
+  QString pages() const;
+
+ signals:
+  void copiesChosen(int copies);
+  void pagesEdited(const QString& text);    // at each keystroke
+  void pagesFinished(const QString& text);  // when the field is left, or Return is pressed
+  void paperChosen(const QString& name);
+
+ private:
+  void layOut();
+
+  QLabel* mCopiesCaption;
+  QSpinBox* mCopies;
+  QLabel* mPagesCaption;
+  QLineEdit* mPages;
+  QWidget* mProblem;
+  QLabel* mProblemText;
+  QLabel* mPaperCaption;
+  QComboBox* mPapers;
+};
+
+}  // namespace cutline

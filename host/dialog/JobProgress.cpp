@@ -1,0 +1,67 @@
+#include "host/dialog/JobProgress.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <algorithm>
+
+#include "qt/QtText.h"
+
+namespace cutline {
+namespace {
+
+constexpr int kWhole = 100;
+
+}  // namespace
+
+JobProgress::JobProgress(QWidget* parent)
+    : QWidget(parent),
+      mText(new QLabel(this)),
+      mBar(new QProgressBar(this)),
+      mCancel(new QPushButton(this)),
+      mLeave(new QPushButton(tr("Close and &let it print"), this)) {
+  mText->setTextFormat(Qt::PlainText);
+  mBar->setTextVisible(false);
+  mBar->setAccessibleName(tr("Progress of the job"));
+  mBar->setMaximumHeight(fontMetrics().height());
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(mText, 1);
+  row->addWidget(mBar, 1);
+  row->addWidget(mLeave);
+  row->addWidget(mCancel);
+  connect(mCancel, &QPushButton::clicked, this, &JobProgress::cancelRequested);
+  connect(mLeave, &QPushButton::clicked, this, &JobProgress::leaveRequested);
+}
+
+void JobProgress::showText(const QString& text) {
+  mText->setText(text);
+  mBar->setAccessibleDescription(text);
+}
+
+void JobProgress::showSpooling(const QString& printer, quint64 sent, quint64 total) {
+  showText(tr("Sending to %1...").arg(printer));
+  mBar->setRange(0, total > 0 ? kWhole : 0);
+  if (total > 0) mBar->setValue(static_cast<int>(std::min(sent, total) * kWhole / total));
+  mCancel->setText(tr("Cancel &job"));
+  mCancel->setEnabled(true);
+  mLeave->hide();
+}
+
+void JobProgress::showState(int jobId, const JobStatus& status) {
+  const QString message = toQString(status.message);
+  const QString state = toQString(status.text());
+  showText(message.isEmpty() ? tr("Job %1: %2").arg(jobId).arg(state)
+                             : tr("Job %1: %2 - %3").arg(QString::number(jobId), state, message));
+  mBar->setRange(0, 0);
+  mCancel->setText(tr("Cancel &job"));
+  mLeave->show();
+}
+
+void JobProgress::showCancelling() {
+  showText(tr("Cancelling..."));
+  mCancel->setEnabled(false);
+}
+
+}  // namespace cutline

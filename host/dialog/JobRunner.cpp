@@ -1,0 +1,106 @@
+#include "host/dialog/JobRunner.h"
+
+#include <utility>
+
+#include "qt/QtText.h"
+
+namespace cutline {
+namespace {
+
+constexpr int kPollMilliseconds = 400;
+constexpr int kMostMissed = 10;  // answers in a row
+
+}  // namespace
+
+JobRunner::JobRunner(std::shared_ptr<PrintServer> server, QObject* parent)
+    : QObject(parent), mServer(std::move(server)) {
+  mTimer.setSingleShot(true);
+  mTimer.setInterval(kPollMilliseconds);
+  connect(&mTimer, &QTimer::timeout, this, &JobRunner::poll);
+}
+
+void JobRunner::start(const PrintRequest& request) {
+  mIsRunning = true;
+  mJobId = 0;
+  mMissed = 0;
+  mDestination = request.destination;
+  mIsGivenUp = std::make_shared<std::atomic<bool>>(false);
+  mBackground.start([this, server = mServer, request, isGivenUp = mIsGivenUp,
+                     post = mBackground.poster()]() -> Background::Delivery {
+    const auto progress = [this, &post, &isGivenUp](std::uint64_t sent, std::uint64_t total) {
+      post([this, sent, total] { emit spooling(sent, total); });
+      return !isGivenUp->load();
+    };
+    return [this, jobId = server->submit(request, progress)] { takeJob(jobId); };
+  });
+}
+
+void JobRunner::takeJob(const Result<int>& jobId) {
+  if (!jobId) {
+    mIsRunning = false;
+    if (mIsGivenUp->load()) return emit cancelled();
+    return emit failed(toQString(jobId.error().message));
+  }
+  mJobId = *jobId;
+  emit submitted(mJobId);
+  if (mIsGivenUp->load()) askToCancel();
+  poll();
+}
+
+void JobRunner::cancel() {
+  if (!mIsRunning || mIsGivenUp->exchange(true)) return;
+  if (isSubmitted()) askToCancel();
+}
+
+void JobRunner::askToCancel() {
+  mBackground.start([this, server = mServer, destination = mDestination,
+                     jobId = mJobId]() -> Background::Delivery {
+    return [this, asked = server->cancel(destination, jobId)] {
+      if (asked || !mIsRunning) return;
+      mIsGivenUp->store(false);
+      mIsRunning = false;
+      mTimer.stop();
+      emit failed(toQString(asked.error().message));
+    };
+  });
+}
+
+void JobRunner::poll() {
+  mBackground.start([this, server = mServer, destination = mDestination,
+                     jobId = mJobId]() -> Background::Delivery {
+    return [this, status = server->status(destination, jobId)] { takeStatus(status); };
+  });
+}
+
+void JobRunner::takeStatus(const Result<JobStatus>& status) {
+  if (!mIsRunning) return;
+  if (!status) return missStatus(toQString(status.error().message));
+  mMissed = 0;
+  emit stateChanged(*status);
+  if (status->isFinal()) return endWith(*status);
+  mTimer.start();
+}
+
+void JobRunner::missStatus(const QString& reason) {
+  if (++mMissed < kMostMissed) return mTimer.start();
+  mIsRunning = false;
+  emit failed(tr("Job %1 was sent, but the server no longer tells its state: %2. It may still be "
+                 "printed.")
+                  .arg(mJobId)
+                  .arg(reason));
+}
+
+void JobRunner::endWith(const JobStatus& status) {
+  mIsRunning = false;
+  if (status.state == JobState::completed) return emit printed();
+  if (status.state == JobState::canceled && mIsGivenUp->load()) return emit cancelled();
+  const QString words = toQString(status.message);
+  const QString what =
+      status.state == JobState::canceled
+          ? tr("Job %1 was cancelled at the printer").arg(mJobId)
+          : tr("%1 gave job %2 up").arg(toQString(mDestination.printer)).arg(mJobId);
+  const QString why = words.isEmpty() ? QString() : tr(" (%1)").arg(words);
+  emit failed(tr("%1%2. See that the printer is ready, then print again.").arg(what, why));
+}
+
+}  // namespace cutline

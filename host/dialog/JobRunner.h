@@ -1,0 +1,57 @@
+// Sends one job and follows it until it is over, in the background.
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QTimer>
+#include <atomic>
+#include <memory>
+
+#include "host/dialog/Background.h"
+#include "host/dialog/PrintServer.h"
+
+namespace cutline {
+
+class JobRunner : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit JobRunner(std::shared_ptr<PrintServer> server, QObject* parent = nullptr);
+
+  // One job at a time; printed, cancelled or failed ends it.
+  void start(const PrintRequest& request);
+  // Gives the job up: nothing more of it is sent, or the server is asked to cancel it.
+  void cancel();
+
+  bool isRunning() const noexcept { return mIsRunning; }
+  // The server has the whole document.
+  bool isSubmitted() const noexcept { return mJobId > 0; }
+  int jobId() const noexcept { return mJobId; }  // 0 before that
+
+ signals:
+  void spooling(quint64 sent, quint64 total);
+  void submitted(int jobId);
+  void stateChanged(const cutline::JobStatus& status);
+  void printed();
+  void cancelled();
+  void failed(const QString& reason);
+
+ private:
+  void takeJob(const Result<int>& jobId);
+  void poll();
+  void takeStatus(const Result<JobStatus>& status);
+  void missStatus(const QString& reason);
+  void endWith(const JobStatus& status);
+  void askToCancel();
+
+  std::shared_ptr<PrintServer> mServer;
+  DestinationName mDestination;
+  std::shared_ptr<std::atomic<bool>> mIsGivenUp;
+  bool mIsRunning = false;
+  int mJobId = 0;
+  int mMissed = 0;
+  QTimer mTimer;
+  Background mBackground;
+};
+
+}  // namespace cutline

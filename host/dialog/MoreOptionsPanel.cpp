@@ -1,0 +1,130 @@
+#include "host/dialog/MoreOptionsPanel.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <array>
+#include <optional>
+
+#include "qt/QtText.h"
+
+namespace cutline {
+namespace {
+
+struct SwitchNames {
+  const char* off;
+  const char* on;
+};
+constexpr std::array kSwitches =
+    std::to_array<SwitchNames>({{"false", "true"}, {"off", "on"}, {"no", "yes"}});
+
+// The choices of an option that is a switch, in whatever order the PPD has them.
+struct Switch {
+  QString off;
+  QString on;
+};
+
+std::optional<Switch> asSwitch(const PpdOption& option) {
+  if (option.choices.size() != 2) return std::nullopt;
+  const QString first = toQString(option.choices[0].name);
+  const QString second = toQString(option.choices[1].name);
+  for (const SwitchNames& names : kSwitches) {
+    const QString off = QString::fromLatin1(names.off);
+    const QString on = QString::fromLatin1(names.on);
+    if (first.toLower() == off && second.toLower() == on) return Switch{first, second};
+    if (first.toLower() == on && second.toLower() == off) return Switch{second, first};
+  }
+  return std::nullopt;
+}
+
+QLabel* makeHeading(const std::string& text, QWidget* parent) {
+  auto* heading = new QLabel(toQString(text), parent);
+  heading->setTextFormat(Qt::PlainText);
+  QFont font = heading->font();
+  font.setBold(true);
+  heading->setFont(font);
+  return heading;
+}
+
+}  // namespace
+
+MoreOptionsPanel::MoreOptionsPanel(QWidget* parent) : QScrollArea(parent) {
+  setWidgetResizable(true);
+  setFrameShape(QFrame::StyledPanel);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setFocusPolicy(Qt::NoFocus);
+  setAccessibleName(tr("More printer options"));
+}
+
+void MoreOptionsPanel::setGroups(const std::vector<GeneratedGroup>& groups) {
+  mSetters.clear();
+  auto* page = new QWidget;
+  auto* form = new QFormLayout(page);
+  form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+  for (const GeneratedGroup& group : groups) addGroup(*form, group);
+  setWidget(page);
+  setMinimumWidth(page->minimumSizeHint().width() + 2 * frameWidth());
+  setMarks(groups);
+}
+
+void MoreOptionsPanel::setMarks(const std::vector<GeneratedGroup>& groups) {
+  for (const GeneratedGroup& group : groups) {
+    for (const GeneratedOption& each : group.options) {
+      const auto setter = mSetters.find(each.option.keyword);
+      if (setter != mSetters.end()) setter->second(each.marked);
+    }
+  }
+}
+
+void MoreOptionsPanel::addGroup(QFormLayout& form, const GeneratedGroup& group) {
+  form.addRow(makeHeading(group.text, form.parentWidget()));
+  for (const GeneratedOption& each : group.options) {
+    QWidget* control = makeControl(each.option);
+    const QString title = toQString(each.option.text);
+    control->setObjectName(toQString(each.option.keyword));
+    control->setAccessibleName(title);
+    if (qobject_cast<QCheckBox*>(control)) {
+      form.addRow(control);
+    } else {
+      form.addRow(withoutMnemonics(title) + QLatin1Char(':'), control);
+    }
+  }
+}
+
+QWidget* MoreOptionsPanel::makeControl(const PpdOption& option) {
+  return asSwitch(option) ? makeCheckBox(option) : makeComboBox(option);
+}
+
+QWidget* MoreOptionsPanel::makeCheckBox(const PpdOption& option) {
+  auto* box = new QCheckBox(withoutMnemonics(toQString(option.text)));
+  const Switch choices = *asSwitch(option);
+  const QString keyword = toQString(option.keyword);
+  connect(box, &QCheckBox::clicked, this, [this, keyword, choices](bool checked) {
+    emit optionChosen(keyword, checked ? choices.on : choices.off);
+  });
+  mSetters[option.keyword] = [box, choices](const std::string& marked) {
+    box->setChecked(toQString(marked) == choices.on);
+  };
+  return box;
+}
+
+QWidget* MoreOptionsPanel::makeComboBox(const PpdOption& option) {
+  auto* combo = new QComboBox;
+  combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  combo->setMinimumContentsLength(8);
+  for (const OptionChoice& choice : option.choices) {
+    combo->addItem(toQString(choice.text), toQString(choice.name));
+  }
+  const QString keyword = toQString(option.keyword);
+  connect(combo, &QComboBox::activated, this, [this, combo, keyword](int index) {
+    emit optionChosen(keyword, combo->itemData(index).toString());
+  });
+  mSetters[option.keyword] = [combo](const std::string& marked) {
+    combo->setCurrentIndex(combo->findData(toQString(marked)));
+  };
+  return combo;
+}
+
+}  // namespace cutline

@@ -1,0 +1,39 @@
+// The PPD's options that no panel takes care of, group by group, as combo boxes and check boxes.
+#pragma once
+
+#include <QScrollArea>
+#include <QString>
+#include <functional>
+#include <map>
+#include <vector>
+
+#include "host/core/PrintModel.h"
+
+class QFormLayout;
+
+namespace cutline {
+
+class MoreOptionsPanel : public QScrollArea {
+  Q_OBJECT
+
+ public:
+  explicit MoreOptionsPanel(QWidget* parent = nullptr);
+
+  // Builds the controls anew.
+  void setGroups(const std::vector<GeneratedGroup>& groups);
+  // The same options with other marks: moves the controls, and reports nothing.
+  void setMarks(const std::vector<GeneratedGroup>& groups);
+
+ signals:
+  void optionChosen(const QString& keyword, const QString& choice);
+
+ private:
+  void addGroup(QFormLayout& form, const GeneratedGroup& group);
+  QWidget* makeControl(const PpdOption& option);
+  QWidget* makeCheckBox(const PpdOption& option);
+  QWidget* makeComboBox(const PpdOption& option);
+
+  std::map<std::string, std::function<void(const std::string&)>> mSetters;  // by keyword
+};
+
+}  // namespace cutline

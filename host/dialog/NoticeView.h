@@ -1,0 +1,44 @@
+// What the user should know before printing, one line each with a sign: failures, what the printer
+// is short of, choices that exclude each other, choices that a rule changes.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+#include <map>
+
+#include "host/dialog/StatusIcon.h"
+
+class QVBoxLayout;
+
+namespace cutline {
+
+// Where notices come from, in the order in which they are shown. Each has its own lines.
+enum class NoticeTopic { failure, refusal, document, printer, conflicts, deviations };
+
+class NoticeView : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit NoticeView(QWidget* parent = nullptr);
+
+  // Replaces the topic's lines; none removes them.
+  void setNotices(NoticeTopic topic, const QStringList& lines);
+  void setNotice(NoticeTopic topic, const QString& line);
+  void clear(NoticeTopic topic) { setNotices(topic, {}); }
+
+  QStringList notices(NoticeTopic topic) const;
+
+ signals:
+  // The user wants the conflicting choices sorted out.
+  void resolveRequested();
+
+ private:
+  void rebuild();
+  QWidget* makeRow(Severity severity, const QString& line, bool isResolvable);
+
+  std::map<NoticeTopic, QStringList> mLines;
+  QVBoxLayout* mRows;
+};
+
+}  // namespace cutline

@@ -1,0 +1,137 @@
+// The print dialog: the preview on the left, the printer, its settings and the panels on the right.
+// Shows the model and relays the user's choices to it; jobs and presets go through the print server
+// in the background.
+#pragma once
+
+#include <QDialog>
+#include <QTimer>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "host/core/PrintModel.h"
+#include "host/dialog/DocumentLoader.h"
+#include "host/dialog/JobRunner.h"
+#include "host/dialog/PrintServer.h"
+#include "host/dialog/ServerClient.h"
+
+class QLabel;
+class QPushButton;
+class QStackedWidget;
+
+namespace cutline {
+
+class JobForm;
+class JobProgress;
+class MoreOptionsPanel;
+class NoticeView;
+class PanelFrame;
+class PresetBar;
+class PrinterBar;
+class StripPane;
+class SummaryView;
+
+// What the dialog prints. Without a path there is nothing to print.
+struct PrintSource {
+  std::string path;
+  std::string title;
+  DocumentLoader::Opener opener;  // runs on another thread
+};
+
+class PrintDialog : public QDialog, private PrintModelListener {
+  Q_OBJECT
+
+ public:
+  // The model is borrowed, outlives the dialog and has no printer open yet.
+  PrintDialog(PrintModel& model, std::shared_ptr<PrintServer> server, PrintSource source);
+  ~PrintDialog() override;
+
+  // Until the first printer is open: nothing can be chosen.
+  void showWaiting(const QString& text);
+  void openPrinter(const PrinterChoice& choice);
+  // The first printer could not be opened; closing the dialog is an error then.
+  void showFailure(const QString& reason);
+
+  // Opens and draws the document; becomesSettled follows when nothing is left to draw.
+  void loadDocument();
+  // Asks for the other printers, and from then on now and again for the printer's state.
+  void startWatching();
+
+  // The program's exit status, once the dialog is closed.
+  int exitStatus() const noexcept { return mExitStatus; }
+
+ signals:
+  void becameSettled();
+
+ public slots:
+  void reject() override;
+
+ private:
+  void modelDidChange(ModelChange what) override;
+  void showPrinter();
+  void showOptions();
+  void showPaper();
+  void showJob();
+  void fitToPanels();
+
+  void makeLayout();
+  QWidget* makeLeftSide();
+  QWidget* makeRightSide();
+  QWidget* makeButtons();
+  void connectSettings();
+  void connectPresets();
+  void connectDocument();
+  void connectServer();
+  void connectJob();
+  void setTabOrders();
+
+  void choosePrinter(const QString& name);
+  void choosePaper(const QString& name);
+  void chooseOption(const QString& keyword, const QString& choice);
+  void editPages(const QString& text);
+  void finishPages(const QString& text);
+  void choosePreset(const QString& name);
+  void savePreset(const QString& name);
+  void presetSaved(const QString& name);
+  void presetRemoved(const QString& name);
+  void showMoreOptions(bool shown);
+
+  void takePrinters(const std::vector<Destination>& destinations);
+  void takeState(const Destination& destination);
+  void showPresets(const QString& current);
+  void openingFailed(const QString& reason);
+
+  QString refusal() const;
+  void refreshPrintButton();
+  void print();
+  void showJobRunning(bool isRunning);
+  void finish(int exitStatus);
+
+  PrintModel& mModel;
+  PrintSource mSource;
+  std::vector<Destination> mDestinations;  // as the server listed them, instances too
+  int mExitStatus;
+  OptionList mPresetToBe;
+  QTimer mStateTimer;
+
+  ServerClient* mServer;
+  DocumentLoader* mDocument;
+  JobRunner* mJob;
+
+  QWidget* mSettings;  // everything that a running job forbids to change
+  PrinterBar* mPrinterBar;
+  PresetBar* mPresetBar;
+  JobForm* mJobForm;
+  PanelFrame* mPanelFrame;
+  SummaryView* mSummary;
+  NoticeView* mNotices;
+  StripPane* mStripPane;
+  MoreOptionsPanel* mMoreOptions;
+  QPushButton* mMoreButton;
+  QPushButton* mPrint;
+  QPushButton* mCancel;
+  QStackedWidget* mBottom;
+  JobProgress* mProgress;
+};
+
+}  // namespace cutline

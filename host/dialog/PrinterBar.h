@@ -1,0 +1,48 @@
+// Which printer, and how it is.
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+#include "cups/Destination.h"
+#include "host/dialog/StatusIcon.h"
+
+class QComboBox;
+class QLabel;
+
+namespace cutline {
+
+// How serious a printer's state is for somebody who wants to print now.
+Severity severityOfState(const Destination& destination);
+
+class PrinterBar : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit PrinterBar(QWidget* parent = nullptr);
+
+  QLabel* caption() const noexcept { return mCaption; }
+
+  // Instances are left out: they are presets of their printer.
+  void setPrinters(const std::vector<Destination>& printers);
+  // Selects the printer, adding it where the list lacks it, and shows its state.
+  void setCurrent(const Destination& printer);
+  // A PPD file in place of a printer; there is nothing to choose then.
+  void setPpdFile(const QString& name);
+  void setState(const Destination& printer);
+  void setWaiting(const QString& text);
+
+ signals:
+  void printerChosen(const QString& name);
+
+ private:
+  void addPrinter(const Destination& printer);
+  void showState(Severity severity, const QString& text);
+
+  QLabel* mCaption;
+  QComboBox* mPrinters;
+  StatusIcon* mIcon;
+  QLabel* mState;
+};
+
+}  // namespace cutline

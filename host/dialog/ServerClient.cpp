@@ -1,0 +1,74 @@
+#include "host/dialog/ServerClient.h"
+
+#include <utility>
+
+#include "qt/QtText.h"
+
+namespace cutline {
+
+ServerClient::ServerClient(std::shared_ptr<PrintServer> server, QObject* parent)
+    : QObject(parent), mServer(std::move(server)) {}
+
+void ServerClient::listPrinters() {
+  mBackground.start([this, server = mServer]() -> Background::Delivery {
+    return [this, list = server->destinations()] { takeList(list); };
+  });
+}
+
+void ServerClient::takeList(const Result<std::vector<Destination>>& list) {
+  if (!list) {
+    emit listingFailed(toQString(list.error().message));
+    return;
+  }
+  emit printersListed(*list);
+}
+
+void ServerClient::openPrinter(const Destination& destination) {
+  mIsOpening = true;
+  mBackground.start([this, server = mServer, destination,
+                     opening = ++mOpenings]() -> Background::Delivery {
+    return [this, opening, choice = server->open(destination)] { takePrinter(opening, choice); };
+  });
+}
+
+void ServerClient::takePrinter(int opening, const Result<PrinterChoice>& choice) {
+  if (opening != mOpenings) return;
+  mIsOpening = false;
+  if (!choice) {
+    emit openingFailed(toQString(choice.error().message));
+    return;
+  }
+  emit printerOpened(*choice);
+}
+
+void ServerClient::askState(const DestinationName& name) {
+  if (std::exchange(mIsAskingState, true)) return;
+  mBackground.start([this, server = mServer, name]() -> Background::Delivery {
+    return [this, destination = server->find(name)] { takeState(destination); };
+  });
+}
+
+void ServerClient::takeState(const Result<Destination>& destination) {
+  mIsAskingState = false;
+  if (destination) emit stateKnown(*destination);
+}
+
+void ServerClient::savePreset(const DestinationName& name, const OptionList& options) {
+  mBackground.start([this, server = mServer, name, options]() -> Background::Delivery {
+    return [this, name, saved = server->saveInstance(name, options)] {
+      if (!saved) return emit presetFailed(toQString(saved.error().message));
+      emit presetSaved(toQString(name.instance.value_or("")));
+    };
+  });
+}
+
+void ServerClient::removePreset(const DestinationName& name) {
+  mBackground.start([this, server = mServer, name]() -> Background::Delivery {
+    return [this, name, removed = server->removeInstance(name)] {
+      if (!removed) return emit presetFailed(toQString(removed.error().message));
+      emit presetRemoved(toQString(name.instance.value_or("")));
+    };
+  });
+}
+
+}  // namespace cutline

@@ -1,0 +1,358 @@
+#include "host/dialog/StripView.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QScrollBar>
+#include <QWheelEvent>
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "host/dialog/Appearance.h"
+
+namespace cutline {
+namespace {
+
+constexpr double kZoomStep = 1.25;
+constexpr double kLeastZoom = 0.4;
+constexpr double kMostZoom = 8;
+constexpr double kTornDepth = 5;
+constexpr double kTornTail = 12;  // how far the tape goes on beyond its last label
+constexpr double kSkippedOpacity = 0.22;
+constexpr double kTurn = 90;
+constexpr int kKeyStep = 40;
+constexpr QSize kPreferredSize{460, 480};
+constexpr QSize kLeastSize{280, 180};
+
+struct Colours {
+  QColor desk;
+  QColor tape;
+  QColor skippedTape;
+  QColor edge;
+  QColor boundary;
+  QColor printable;
+  QColor number;
+};
+
+Colours coloursFor(const QPalette& palette) {
+  const QColor desk = isDark(palette) ? QColor(0xff15171a) : QColor(0xffdfe2e3);
+  const QColor number = isDark(palette) ? QColor(0xffa9aeb2) : QColor(0xff4d5256);
+  return {desk,
+          QColor(0xfffdfdfb),
+          isDark(palette) ? QColor(0xff8a8d90) : QColor(0xffe9ebec),
+          QColor(0xff8f9497),
+          QColor(0xff9aa0a4),
+          QColor(0xffbdd3ea),
+          number};
+}
+
+struct ZoomKey {
+  int key;
+  void (StripView::*change)();
+};
+constexpr std::array kZoomKeys = std::to_array<ZoomKey>({
+    {Qt::Key_Plus, &StripView::zoomIn},
+    {Qt::Key_Equal, &StripView::zoomIn},
+    {Qt::Key_Minus, &StripView::zoomOut},
+    {Qt::Key_0, &StripView::zoomToFit},
+});
+
+// The outline of a torn end: from `from` to `to` in teeth that stand out by `depth`.
+void addTeeth(QPainterPath& path, QPointF from, QPointF to, QPointF depth) {
+  const double length = std::hypot(to.x() - from.x(), to.y() - from.y());
+  const int count = std::max(2, static_cast<int>(length / (2 * kTornDepth)));
+  for (int tooth = 0; tooth < count; ++tooth) {
+    const QPointF middle = from + (to - from) * ((tooth + 0.5) / count);
+    path.lineTo(middle + depth);
+    path.lineTo(from + (to - from) * ((tooth + 1.0) / count));
+  }
+}
+
+// A piece of tape whose start is cut off straight or torn, and whose end is torn.
+QPainterPath pieceAcross(const QRectF& rect, bool startsTorn) {
+  const QRectF piece = rect.adjusted(startsTorn ? -kTornTail : 0, 0, kTornTail, 0);
+  QPainterPath path(piece.topLeft());
+  path.lineTo(piece.topRight());
+  addTeeth(path, piece.topRight(), piece.bottomRight(), {kTornDepth, 0});
+  path.lineTo(piece.bottomLeft());
+  if (startsTorn) addTeeth(path, piece.bottomLeft(), piece.topLeft(), {kTornDepth, 0});
+  path.closeSubpath();
+  return path;
+}
+
+QPainterPath pieceDown(const QRectF& rect) {
+  const QRectF piece = rect.adjusted(0, 0, 0, kTornTail);
+  QPainterPath path(piece.topLeft());
+  path.lineTo(piece.topRight());
+  path.lineTo(piece.bottomRight());
+  addTeeth(path, piece.bottomRight(), piece.bottomLeft(), {0, kTornDepth});
+  path.closeSubpath();
+  return path;
+}
+
+}  // namespace
+
+StripView::StripView(QWidget* parent) : QAbstractScrollArea(parent) {
+  setFocusPolicy(Qt::StrongFocus);
+  setFrameShape(QFrame::StyledPanel);
+  setAccessibleName(tr("Preview of the labels"));
+  horizontalScrollBar()->setFocusPolicy(Qt::NoFocus);
+  verticalScrollBar()->setFocusPolicy(Qt::NoFocus);
+}
+
+QSize StripView::sizeHint() const { return kPreferredSize; }
+QSize StripView::minimumSizeHint() const { return kLeastSize; }
+
+void StripView::setPaper(const PaperSize& paper, StripDirection direction) {
+  mPaper = paper;
+  mDirection = direction;
+  layOut();
+}
+
+void StripView::setPages(std::vector<Size> pages) {
+  mPages = std::move(pages);
+  mCache.clear();
+  mCurrentPage = 0;
+  layOut();
+  emit currentPageChanged(mCurrentPage);
+}
+
+void StripView::setSelection(const PageSelection& selection) {
+  mSelection = selection;
+  viewport()->update();
+}
+
+void StripView::setMirrored(bool mirrored) {
+  mIsMirrored = mirrored;
+  viewport()->update();
+}
+
+void StripView::setMessage(const QString& message) {
+  mMessage = message;
+  setAccessibleDescription(message);
+  viewport()->update();
+}
+
+void StripView::showPage(int page, double scale, const QImage& image) {
+  mCache.insert(page, scale, image);
+  viewport()->update();
+}
+
+void StripView::layOut() {
+  if (!mPaper) return;
+  StripContent content{*mPaper, mDirection, mPages};
+  if (content.pages.empty()) content.pages.push_back({mPaper->width, mPaper->length});
+  mLayout.emplace(std::move(content), QSizeF(viewport()->size()), mZoom);
+  setBars();
+  wantPages();
+  viewport()->update();
+}
+
+void StripView::setBars() {
+  const QSizeF whole = mLayout->size();
+  const QSize view = viewport()->size();
+  horizontalScrollBar()->setPageStep(view.width());
+  horizontalScrollBar()->setSingleStep(kKeyStep);
+  horizontalScrollBar()->setRange(0, std::max(0, static_cast<int>(whole.width()) - view.width()));
+  verticalScrollBar()->setPageStep(view.height());
+  verticalScrollBar()->setSingleStep(kKeyStep);
+  verticalScrollBar()->setRange(0, std::max(0, static_cast<int>(whole.height()) - view.height()));
+}
+
+QPointF StripView::offset() const {
+  return {static_cast<double>(horizontalScrollBar()->value()),
+          static_cast<double>(verticalScrollBar()->value())};
+}
+
+void StripView::wantPages() {
+  if (!mLayout || mPages.empty()) return;
+  const QRectF visible(offset(), QSizeF(viewport()->size()));
+  std::deque<PageRequest> requests;
+  for (const int page : mLayout->pagesIn(visible)) {
+    const double scale = mLayout->placedPage(page).pageScale * devicePixelRatioF();
+    if (!mCache.has(page, scale)) requests.push_back({page, scale});
+  }
+  emit pagesWanted(requests);
+}
+
+void StripView::setCurrentPage(int page) {
+  if (!mLayout || mPages.empty()) return;
+  mCurrentPage = std::clamp(page, 0, pageCount() - 1);
+  const QRectF label = mLayout->label(mCurrentPage);
+  const QPointF corner = label.center() - QPointF(viewport()->width(), viewport()->height()) / 2;
+  const QRectF visible(offset(), QSizeF(viewport()->size()));
+  if (!visible.contains(label)) {
+    horizontalScrollBar()->setValue(static_cast<int>(corner.x()));
+    verticalScrollBar()->setValue(static_cast<int>(corner.y()));
+  }
+  viewport()->update();
+  emit currentPageChanged(mCurrentPage);
+}
+
+bool StripView::canZoomIn() const noexcept { return mZoom * kZoomStep <= kMostZoom; }
+bool StripView::canZoomOut() const noexcept { return mZoom / kZoomStep >= kLeastZoom; }
+
+void StripView::zoomIn() {
+  if (canZoomIn()) setZoom(mZoom * kZoomStep);
+}
+void StripView::zoomOut() {
+  if (canZoomOut()) setZoom(mZoom / kZoomStep);
+}
+void StripView::zoomToFit() { setZoom(1); }
+
+void StripView::setZoom(double zoom) {
+  mZoom = zoom;
+  layOut();
+  if (mCurrentPage > 0) setCurrentPage(mCurrentPage);
+  emit zoomChanged();
+}
+
+void StripView::resizeEvent(QResizeEvent* event) {
+  QAbstractScrollArea::resizeEvent(event);
+  layOut();
+}
+
+void StripView::scrollContentsBy(int /*dx*/, int /*dy*/) {
+  viewport()->update();
+  wantPages();
+}
+
+bool StripView::stepByKey(int key) {
+  struct Step {
+    int key;
+    int page;
+  };
+  const std::array steps = std::to_array<Step>({{Qt::Key_PageDown, mCurrentPage + 1},
+                                                {Qt::Key_PageUp, mCurrentPage - 1},
+                                                {Qt::Key_Home, 0},
+                                                {Qt::Key_End, pageCount() - 1}});
+  for (const Step& step : steps) {
+    if (step.key != key) continue;
+    setCurrentPage(step.page);
+    return true;
+  }
+  return false;
+}
+
+void StripView::keyPressEvent(QKeyEvent* event) {
+  if (stepByKey(event->key())) return;
+  for (const ZoomKey& row : kZoomKeys) {
+    if (row.key == event->key()) return (this->*row.change)();
+  }
+  QAbstractScrollArea::keyPressEvent(event);
+}
+
+void StripView::mousePressEvent(QMouseEvent* event) {
+  if (!mLayout || mPages.empty()) return;
+  const int page = mLayout->pageAt(event->position() + offset());
+  if (page >= 0) setCurrentPage(page);
+}
+
+void StripView::wheelEvent(QWheelEvent* event) {
+  if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+    return QAbstractScrollArea::wheelEvent(event);
+  }
+  if (event->angleDelta().y() > 0) zoomIn();
+  if (event->angleDelta().y() < 0) zoomOut();
+}
+
+void StripView::paintEvent(QPaintEvent* event) {
+  QPainter painter(viewport());
+  painter.fillRect(event->rect(), coloursFor(palette()).desk);
+  if (mLayout) {
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.translate(-offset());
+    for (int lane = 0; lane < mLayout->laneCount(); ++lane) {
+      paintLane(painter, mLayout->lane(lane), lane + 1 == mLayout->laneCount());
+    }
+    const QRectF visible(offset(), QSizeF(viewport()->size()));
+    for (const int page : mLayout->pagesIn(visible)) paintLabel(painter, page);
+    painter.resetTransform();
+  }
+  if (!mMessage.isEmpty()) paintMessage(painter);
+}
+
+void StripView::paintLane(QPainter& painter, const StripLayout::Lane& lane, bool /*isLast*/) const {
+  const Colours colours = coloursFor(palette());
+  const QPainterPath piece = mDirection == StripDirection::across
+                                 ? pieceAcross(lane.rect, lane.first > 0)
+                                 : pieceDown(lane.rect);
+  painter.setPen(QPen(colours.edge, 1));
+  painter.setBrush(colours.tape);
+  painter.drawPath(piece);
+}
+
+void StripView::paintLabel(QPainter& painter, int page) {
+  const Colours colours = coloursFor(palette());
+  const QRectF label = mLayout->label(page);
+  const bool isSkipped = !mPages.empty() && !mSelection.contains(page);
+  if (isSkipped) painter.fillRect(label.adjusted(1, 1, -1, -1), colours.skippedTape);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(colours.printable, 1, Qt::DotLine));
+  painter.drawRect(mLayout->printableArea(page));
+  painter.save();
+  if (isSkipped) painter.setOpacity(kSkippedOpacity);
+  paintContent(painter, page);
+  painter.restore();
+  painter.setPen(QPen(colours.boundary, 1, Qt::DashLine));
+  if (mDirection == StripDirection::across) {
+    painter.drawLine(label.topRight(), label.bottomRight());
+  } else {
+    painter.drawLine(label.bottomLeft(), label.bottomRight());
+  }
+  paintNumber(painter, page);
+}
+
+void StripView::paintContent(QPainter& painter, int page) {
+  const QImage image = mCache.image(page);
+  if (image.isNull()) return;
+  const PlacedPage placed = mLayout->placedPage(page);
+  const QRectF label = mLayout->label(page);
+  painter.setClipRect(label);
+  if (mIsMirrored) {
+    painter.translate(label.center().x() * 2, 0);
+    painter.scale(-1, 1);
+  }
+  painter.translate(placed.rect.center());
+  if (placed.isTurned) painter.rotate(kTurn);
+  const QSizeF size = placed.isTurned ? placed.rect.size().transposed() : placed.rect.size();
+  painter.setCompositionMode(QPainter::CompositionMode_Multiply);
+  painter.drawImage(QRectF({-size.width() / 2, -size.height() / 2}, size), image);
+}
+
+void StripView::paintNumber(QPainter& painter, int page) const {
+  if (mPages.empty()) return;
+  const Colours colours = coloursFor(palette());
+  const QRectF label = mLayout->label(page);
+  QFont font = painter.font();
+  font.setPointSizeF(font.pointSizeF() * 0.85);
+  font.setBold(page == mCurrentPage);
+  painter.setFont(font);
+  painter.setPen(page == mCurrentPage ? palette().color(QPalette::Text) : colours.number);
+  const QString number =
+      mSelection.contains(page) ? QString::number(page + 1) : tr("%1 - not printed").arg(page + 1);
+  const double height = painter.fontMetrics().height();
+  if (mDirection == StripDirection::across) {
+    painter.drawText(QRectF(label.left(), label.bottom() + 3, label.width(), height),
+                     Qt::AlignHCenter | Qt::AlignTop, number);
+  } else {
+    painter.drawText(QRectF(label.right() + 8, label.top(), viewport()->width(), label.height()),
+                     Qt::AlignLeft | Qt::AlignVCenter, number);
+  }
+}
+
+void StripView::paintMessage(QPainter& painter) const {
+  const QRect room = viewport()->rect().adjusted(24, 24, -24, -24);
+  const QRect text = painter.boundingRect(room, Qt::AlignCenter | Qt::TextWordWrap, mMessage);
+  const QRect plate = text.adjusted(-14, -10, 14, 10);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(palette().color(QPalette::Mid));
+  painter.setBrush(palette().color(QPalette::Window));
+  painter.drawRoundedRect(plate, 6, 6);
+  painter.setPen(palette().color(QPalette::WindowText));
+  painter.drawText(text, Qt::AlignCenter | Qt::TextWordWrap, mMessage);
+}
+
+}  // namespace cutline
