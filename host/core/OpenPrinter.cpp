@@ -70,18 +70,11 @@ void OpenPrinter::run() {
 void OpenPrinter::runFromPaper() {
   postPaperChange();
   mPanels->restore();
-  tick();
-  mPanels->save();
   settle();
 }
 
 void OpenPrinter::postPaperChange() {
   notificationCenter().postNotificationName(kPaperDidChange, std::monostate{});
-}
-
-// Brings each box to its marked position.
-void OpenPrinter::tick() {
-  for (CheckBox* box : mPanels->boxes()) click(*box, mChoice.ppd->markedChoice(box->ppdKeyword()));
 }
 
 // The other boxes of the clicked box's option go where the click has put the mark.
@@ -92,9 +85,13 @@ void OpenPrinter::followClicked(const CheckBox& clicked) {
       click(*box, mChoice.ppd->markedChoice(keyword));
 }
 
-// A rule that no longer holds leaves behind what it had changed. Brings back what is wanted.
+// Saves, and brings back what is wanted: a restore can have moved boxes, and a rule that no longer
+// holds leaves behind what it had changed. Saving comes first because it can free boxes.
 void OpenPrinter::settle() {
-  for (int round = 0; round < kMaxSettlingRounds && clickStrays(); ++round) mPanels->save();
+  int round = 0;
+  do {
+    mPanels->save();
+  } while (clickStrays() && ++round < kMaxSettlingRounds);
   markStrays();
 }
 
@@ -143,7 +140,6 @@ void OpenPrinter::choosePaper(const std::string& name) {
   mPanels->report(nullptr, "PageSize", name);
   postPaperChange();
   if (std::pair(panelMarks(), boxStates()) != before) return runFromPaper();
-  mPanels->save();
   settle();
 }
 
@@ -170,14 +166,12 @@ bool OpenPrinter::userDidAct(View& sender) {
   const HostCall call(*this);
   if (dynamic_cast<const PopUpButton*>(&sender) != nullptr) wantShown();
   if (const auto* box = dynamic_cast<const CheckBox*>(&sender)) followClicked(*box);
-  mPanels->save();
   settle();
   return true;
 }
 
 void OpenPrinter::save() {
   const HostCall call(*this);
-  mPanels->save();
   settle();
 }
 
@@ -185,7 +179,6 @@ Result<Done> OpenPrinter::askToPrint() {
   const HostCall call(*this);
   const Result<Done> answer = mPanels->askToPrint();
   if (!answer) return answer;
-  mPanels->save();
   settle();
   return Done{};
 }

@@ -4,8 +4,9 @@
 // Panels have habits that would lose a user's choices in a host that only relays calls: the first
 // willShow starts the controls from the PPD's defaults and saves them, a full refresh puts boxes
 // back to what the preset list can express, two boxes can stand for one option, and a save reads
-// the boxes. So the host remembers what is wanted, marks it, lets the panels restore, and then
-// clicks each box that does not stand where it should, as a user would.
+// the boxes. So the host remembers what is wanted, marks it, lets the panels restore and save, and
+// then clicks each box that does not stand where it should, as a user would. A box whose option one
+// of the panel's own rules governs now is left to the rule, and follows when the rule is gone.
 #pragma once
 
 #include <functional>
@@ -86,7 +87,6 @@ class OpenPrinter final : private PanelHostOwner {
   void run();
   void runFromPaper();
   void postPaperChange();
-  void tick();
   void followClicked(const CheckBox& clicked);
   void settle();
   bool clickStrays();

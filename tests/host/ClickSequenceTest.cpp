@@ -11,8 +11,8 @@
 namespace cutline {
 namespace {
 
-constexpr int kPrinters = 150;
-constexpr int kActionsEach = 40;
+constexpr int kPrinters = 100;
+constexpr int kActionsEach = 30;
 
 class User {
  public:
