@@ -1,6 +1,7 @@
 #include "host/core/DialogModule.h"
 
 #include <QApplication>
+#include <QLoggingCategory>
 #include <filesystem>
 #include <future>
 #include <iostream>
@@ -40,6 +41,8 @@ void prepareEnvironment(const CommandLine& line) {
   if (line.command == Command::snapshot) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_SCALE_FACTOR", QByteArray::number(line.scale));
+    // The platform without a screen warns of what a picture needs not.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
   }
   // The dialog draws no 3D, and the set-up for it costs a good part of the start.
   if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION")) {
@@ -62,15 +65,16 @@ int runDialog(const DialogRequest& request) {
 }
 
 }  // namespace
-}  // namespace cutline
 
-std::uint32_t CutlineDialogAbi() noexcept { return cutline::kDialogAbiVersion; }
+std::uint32_t CutlineDialogAbi() noexcept { return kDialogAbiVersion; }
 
-int CutlineRunDialog(const cutline::DialogRequest& request) noexcept {
+int CutlineRunDialog(const DialogRequest& request) noexcept {
   try {
-    return cutline::runDialog(request);
+    return runDialog(request);
   } catch (const std::exception& reason) {
     std::cerr << "cutline: " << reason.what() << std::endl;
-    return cutline::kExitError;
+    return kExitError;
   }
 }
+
+}  // namespace cutline

@@ -10,6 +10,8 @@
 namespace cutline {
 namespace {
 
+constexpr int kIconGap = 6;
+
 QString titleOf(const Destination& printer) {
   const QString name = toQString(printer.name.printer);
   const QString info = toQString(printer.info);
@@ -45,6 +47,7 @@ PrinterBar::PrinterBar(QWidget* parent)
   grid->addWidget(mCaption, 0, 0);
   grid->addWidget(mPrinters, 0, 1);
   auto* state = new QHBoxLayout;
+  state->setSpacing(kIconGap);
   state->addWidget(mIcon, 0, Qt::AlignTop);
   state->addWidget(mState, 1);
   grid->addLayout(state, 1, 1);

@@ -22,6 +22,7 @@ constexpr double kTornDepth = 5;
 constexpr double kTornTail = 12;  // how far the tape goes on beyond its last label
 constexpr double kSkippedOpacity = 0.22;
 constexpr double kTurn = 90;
+constexpr double kNumberShare = 0.88;  // of the dialog's font
 constexpr int kKeyStep = 40;
 constexpr QSize kPreferredSize{460, 480};
 constexpr QSize kLeastSize{280, 180};
@@ -265,7 +266,7 @@ void StripView::paintEvent(QPaintEvent* event) {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     painter.translate(-offset());
     for (int lane = 0; lane < mLayout->laneCount(); ++lane) {
-      paintLane(painter, mLayout->lane(lane), lane + 1 == mLayout->laneCount());
+      paintLane(painter, mLayout->lane(lane));
     }
     const QRectF visible(offset(), QSizeF(viewport()->size()));
     for (const int page : mLayout->pagesIn(visible)) paintLabel(painter, page);
@@ -274,7 +275,7 @@ void StripView::paintEvent(QPaintEvent* event) {
   if (!mMessage.isEmpty()) paintMessage(painter);
 }
 
-void StripView::paintLane(QPainter& painter, const StripLayout::Lane& lane, bool /*isLast*/) const {
+void StripView::paintLane(QPainter& painter, const StripLayout::Lane& lane) const {
   const Colours colours = coloursFor(palette());
   const QPainterPath piece = mDirection == StripDirection::across
                                  ? pieceAcross(lane.rect, lane.first > 0)
@@ -326,10 +327,10 @@ void StripView::paintNumber(QPainter& painter, int page) const {
   if (mPages.empty()) return;
   const Colours colours = coloursFor(palette());
   const QRectF label = mLayout->label(page);
-  QFont font = painter.font();
-  font.setPointSizeF(font.pointSizeF() * 0.85);
-  font.setBold(page == mCurrentPage);
-  painter.setFont(font);
+  QFont numberFont = font();
+  numberFont.setPointSizeF(numberFont.pointSizeF() * kNumberShare);
+  numberFont.setBold(page == mCurrentPage);
+  painter.setFont(numberFont);
   painter.setPen(page == mCurrentPage ? palette().color(QPalette::Text) : colours.number);
   const QString number =
       mSelection.contains(page) ? QString::number(page + 1) : tr("%1 - not printed").arg(page + 1);

@@ -67,7 +67,7 @@ class StripView : public QAbstractScrollArea {
   QPointF offset() const;
   bool stepByKey(int key);
 
-  void paintLane(QPainter& painter, const StripLayout::Lane& lane, bool isLast) const;
+  void paintLane(QPainter& painter, const StripLayout::Lane& lane) const;
   void paintLabel(QPainter& painter, int page);
   void paintContent(QPainter& painter, int page);
   void paintNumber(QPainter& painter, int page) const;

@@ -1,9 +1,13 @@
 #include "host/core/DocumentRenderer.h"
 #include "host/document/FileRenderer.h"
 
-std::uint32_t CutlineDocumentAbi() noexcept { return cutline::kDocumentAbiVersion; }
+namespace cutline {
 
-cutline::DocumentRenderer* CutlineDocumentRenderer() noexcept {
-  static cutline::FileRenderer renderer;
+std::uint32_t CutlineDocumentAbi() noexcept { return kDocumentAbiVersion; }
+
+DocumentRenderer* CutlineDocumentRenderer() noexcept {
+  static FileRenderer renderer;
   return &renderer;
 }
+
+}  // namespace cutline
