@@ -42,7 +42,9 @@ class OptionPDE13_v400_ : public BasePDE13_v400_ {
   OptionPDE13_v400_* initWithCallback(const std::shared_ptr<PDEPluginCallback13_v400_>& callback,
                                       const std::shared_ptr<Bundle>& bundle) noexcept override;
 
-  // The host's panel contract. The first question for the keywords saves all nine options and fixes
+  // The host's panel contract.
+  std::shared_ptr<View> panelView() noexcept override;
+  // The first question for the keywords saves all nine options and fixes
   // the list.
   std::shared_ptr<const KeywordList> supportedPPDOptionKeys() noexcept override;
   void printWindowWillClose() noexcept override;

@@ -18,26 +18,37 @@ bool connect(OptionPDE13_v400_& panel, View* view) noexcept {
   return control != nullptr;
 }
 
+template <auto Field>
+void forget(OptionPDE13_v400_& panel) noexcept {
+  panel.*Field = nullptr;
+}
+
 struct Outlet {
   std::string_view name;
   bool (*connect)(OptionPDE13_v400_&, View*) noexcept;
+  void (*forget)(OptionPDE13_v400_&) noexcept;
 };
 
+template <auto Field>
+constexpr Outlet outlet(std::string_view name) noexcept {
+  return {name, connect<Field>, forget<Field>};
+}
+
 constexpr std::array kOutlets = {
-    Outlet{"mOptionDummyView", connect<&OptionPDE13_v400_::mOptionDummyView>},
-    Outlet{"mOptionPopUpButton", connect<&OptionPDE13_v400_::mOptionPopUpButton>},
-    Outlet{"mCutEveryChkBx", connect<&OptionPDE13_v400_::mCutEveryChkBx>},
-    Outlet{"mCutAndEndChkBx", connect<&OptionPDE13_v400_::mCutAndEndChkBx>},
-    Outlet{"mMirrorPrintChkBx", connect<&OptionPDE13_v400_::mMirrorPrintChkBx>},
-    Outlet{"mAutoCutChkBx", connect<&OptionPDE13_v400_::mAutoCutChkBx>},
-    Outlet{"mHalfCutChkBx", connect<&OptionPDE13_v400_::mHalfCutChkBx>},
-    Outlet{"mChainPrintChkBx", connect<&OptionPDE13_v400_::mChainPrintChkBx>},
-    Outlet{"mSpecialTapeChkBx", connect<&OptionPDE13_v400_::mSpecialTapeChkBx>},
-    Outlet{"mRemoveBlkSpaceChkBx", connect<&OptionPDE13_v400_::mRemoveBlkSpaceChkBx>},
-    Outlet{"mCutMarkChkBx", connect<&OptionPDE13_v400_::mCutMarkChkBx>},
-    Outlet{"mCutEveryTxBx", connect<&OptionPDE13_v400_::mCutEveryTxBx>},
-    Outlet{"mCutEveryStpr", connect<&OptionPDE13_v400_::mCutEveryStpr>},
-    Outlet{"mCutEveryStr", connect<&OptionPDE13_v400_::mCutEveryStr>},
+    outlet<&OptionPDE13_v400_::mOptionDummyView>("mOptionDummyView"),
+    outlet<&OptionPDE13_v400_::mOptionPopUpButton>("mOptionPopUpButton"),
+    outlet<&OptionPDE13_v400_::mCutEveryChkBx>("mCutEveryChkBx"),
+    outlet<&OptionPDE13_v400_::mCutAndEndChkBx>("mCutAndEndChkBx"),
+    outlet<&OptionPDE13_v400_::mMirrorPrintChkBx>("mMirrorPrintChkBx"),
+    outlet<&OptionPDE13_v400_::mAutoCutChkBx>("mAutoCutChkBx"),
+    outlet<&OptionPDE13_v400_::mHalfCutChkBx>("mHalfCutChkBx"),
+    outlet<&OptionPDE13_v400_::mChainPrintChkBx>("mChainPrintChkBx"),
+    outlet<&OptionPDE13_v400_::mSpecialTapeChkBx>("mSpecialTapeChkBx"),
+    outlet<&OptionPDE13_v400_::mRemoveBlkSpaceChkBx>("mRemoveBlkSpaceChkBx"),
+    outlet<&OptionPDE13_v400_::mCutMarkChkBx>("mCutMarkChkBx"),
+    outlet<&OptionPDE13_v400_::mCutEveryTxBx>("mCutEveryTxBx"),
+    outlet<&OptionPDE13_v400_::mCutEveryStpr>("mCutEveryStpr"),
+    outlet<&OptionPDE13_v400_::mCutEveryStr>("mCutEveryStr"),
 };
 
 struct Action {
@@ -69,6 +80,16 @@ ActionHandler OptionPDE13_v400_::actionNamed(const std::string& name) noexcept {
   const auto action = findNamed(kActions, name);
   if (action == kActions.end()) return BasePDE13_v400_::actionNamed(name);
   return [this, run = action->run](View* sender) { (this->*run)(sender); };
+}
+
+// An interface file without a top-level view leaves controls that nobody owns: they are gone now.
+std::shared_ptr<View> OptionPDE13_v400_::panelView() noexcept {
+  auto view = BasePDE13_v400_::panelView();
+  if (!view) {
+    for (const Outlet& each : kOutlets) each.forget(*this);
+    mOptionView.reset();
+  }
+  return view;
 }
 
 // The view tree may outlive the panel in the host's hands; its controls must not call a panel that

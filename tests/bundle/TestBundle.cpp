@@ -24,7 +24,7 @@ class PanelBuilder {
   PanelBuilder(InterfaceOwner& owner, const TestBundle& bundle)
       : mOwner(owner), mBundle(bundle), mToolkit(*currentPlatform().toolkit) {}
 
-  void build() {
+  std::shared_ptr<View> build() {
     mRoot = mToolkit.createView({{}, mBundle.panelSize});
     double y = 250;
     for (const char* name : kBoxes) {
@@ -38,6 +38,7 @@ class PanelBuilder {
     addPopUp();
     add("mOptionDummyView", mToolkit.createButton({{280, 154}, {264, 84}}), "");
     if (!mBundle.missingOutlets.contains("kPDEView")) mOwner.connectOutlet("kPDEView", mRoot);
+    return mRoot;
   }
 
  private:
@@ -112,7 +113,7 @@ std::optional<std::string> TestBundle::pathForImageResource(
 bool TestBundle::loadNibNamed(const std::string& name, InterfaceOwner& owner) noexcept {
   loadedInterfaces.push_back(name);
   if (interfaceIsMissing) return false;
-  PanelBuilder(owner, *this).build();
+  lastRoot = PanelBuilder(owner, *this).build();
   owner.awakeFromNib();
   return true;
 }

@@ -34,6 +34,7 @@ class TestBundle : public Bundle {
   std::set<std::string> missingOutlets;  // controls that the interface file lacks
   bool interfaceIsMissing = false;
   Size panelSize{560, 284};
+  std::shared_ptr<View> lastRoot;  // kept, as a host keeps a view
   std::vector<std::string> loadedInterfaces;
   mutable std::vector<std::string> askedPictures;
 };

@@ -1,0 +1,90 @@
+// The panel on its real interface file, strings and pictures.
+#include "platform/DirectoryBundle.h"
+#include "tests/bundle/PanelTest.h"
+
+namespace cutline::test {
+namespace {
+
+class InterfaceFile : public PanelTest {
+ protected:
+  void makeRealPanel(const PpdText& text) {
+    realBundle = DirectoryBundle::open(CUTLINE_BUILD_DIR "/lib/cutline/plugins/CutOptions.plugin");
+    ASSERT_TRUE(realBundle);
+    ppd = text.open();
+    callback->ppd = ppd.get();
+    panel = std::make_shared<OptionPDE13_v400_>();
+    panel->initWithCallback(callback, realBundle);
+    ASSERT_TRUE(panel->panelView());
+  }
+
+  std::shared_ptr<Bundle> realBundle;
+};
+
+TEST_F(InterfaceFile, ConnectsEveryOutletAndThePreview) {
+  makeRealPanel(allNine());
+  for (const OptionRow& row : kOptions) {
+    ASSERT_TRUE(box(row.id)) << row.keyword;
+    EXPECT_EQ(box(row.id)->ppdKeyword(), rowOf(row.switchedByBox).keyword);
+    EXPECT_EQ(box(row.id)->frame().origin.x, 16);
+  }
+  EXPECT_TRUE(panel->mCutEveryTxBx);
+  EXPECT_TRUE(panel->mCutEveryStpr);
+  EXPECT_TRUE(panel->mCutEveryStr);
+  EXPECT_TRUE(panel->mOptionPopUpButton);
+  ASSERT_TRUE(panel->mOptionView);
+  EXPECT_EQ(panel->mOptionView->nativeView()->superview(), panel->kPDEView.get());
+  EXPECT_EQ(panel->mOptionView->nativeView()->frame().size, (Size{264, 84}));
+  EXPECT_EQ(panel->kPDEView->frame().size.width, 560);
+}
+
+TEST_F(InterfaceFile, TheControlsActOnThePanel) {
+  makeRealPanel(allNine());
+  panel->willShow();
+  click(OptionId::halfCut);
+  EXPECT_EQ(marked("LxHalfCut"), "ON");
+  box(OptionId::cutEvery)->setState(CheckBox::kOff);
+  click(OptionId::cutEvery);
+  typeCount("12");
+  EXPECT_EQ(marked("LxCutLabel"), "12");
+  EXPECT_EQ(panel->mCutEveryStpr->intValue(), 12);
+  ASSERT_TRUE(panel->mOptionPopUpButton->performSelection(14));
+  EXPECT_EQ(box(OptionId::cutMark)->state(), CheckBox::kOn);
+}
+
+TEST_F(InterfaceFile, EveryPresetHasItsPictureAndItsWords) {
+  makeRealPanel(PpdText().attribute("LxTapeType", "WN"));
+  EXPECT_FALSE(panel->mOptionPopUpButton->items().empty());
+  makeRealPanel(allNine());
+  for (const PopUpItem& item : panel->mOptionPopUpButton->items()) {
+    const std::string& title = presetTitles()[static_cast<std::size_t>(item.tag) - 1];
+    EXPECT_EQ(item.title, "");
+    ASSERT_TRUE(item.imagePath) << title;
+    EXPECT_TRUE(item.imagePath->ends_with("/" + title + ".svg")) << *item.imagePath;
+    EXPECT_FALSE(item.accessibilityLabel.empty()) << title;
+  }
+}
+
+TEST_F(InterfaceFile, EveryPictureOfBothFamiliesIsThere) {
+  makeRealPanel(allNine());
+  for (const auto& image : panel->mOptionView->mOptionImgKM) EXPECT_TRUE(image);
+  makeRealPanel(PpdText(allNine()).attribute("LxTapeType", "WN"));
+  for (const auto& image : panel->mOptionView->mOptionImgWN) EXPECT_TRUE(image);
+}
+
+TEST_F(InterfaceFile, EveryTextOfThePanelIsTranslated) {
+  makeRealPanel(allNine());
+  std::vector<std::string> keys = {"OP_PANEL_NAME", "RS_Labels", "RS_Alrt_AutoCutWithHS",
+                                   "RS_STitle_Yes", "RS_STitle_No"};
+  for (const OptionRow& row : kOptions) {
+    keys.emplace_back(row.titleKey);
+    keys.emplace_back(row.summaryKey);
+  }
+  for (const std::string& key : keys) {
+    const std::string text = realBundle->localizedStringForKey(key, std::nullopt, std::nullopt);
+    EXPECT_NE(text, key);
+    EXPECT_FALSE(text.empty()) << key;
+  }
+}
+
+}  // namespace
+}  // namespace cutline::test
