@@ -88,6 +88,7 @@ std::string joined(const std::vector<std::string>& names) {
 // What follows a colon in an error: the names that would have been right.
 std::string knownPrinters(const std::vector<Destination>& list) {
   std::vector<std::string> names;
+  names.reserve(list.size());
   for (const Destination& destination : list) names.push_back(destination.name.text());
   return names.empty() ? "it has no printers" : "it has " + joined(names);
 }
@@ -139,58 +140,8 @@ Result<Destination> findDefault(http_t* http) {
   return destination;
 }
 
-bool isPlainName(const std::string& text) {
-  constexpr std::size_t kLongest = 127;
-  const auto isSpecial = [](unsigned char c) {
-    return c <= ' ' || c == 0x7f || c == '/' || c == '#';
-  };
-  return !text.empty() && text.size() <= kLongest && std::ranges::none_of(text, isSpecial);
-}
-
-// The file of saved options ends a value at these, whatever quotes stand around it.
-bool canBeSaved(const std::pair<std::string, std::string>& option) {
-  const auto isSpecial = [](unsigned char c) { return c < ' ' || c == '#'; };
-  return std::ranges::none_of(option.first + option.second, isSpecial);
-}
-
-std::optional<Error> whyNotSaved(const DestinationName& name, const OptionList& options) {
-  if (!isPlainName(name.printer)) return Error{"\"" + name.printer + "\" is no printer's name"};
-  if (name.instance && !isPlainName(*name.instance)) {
-    return Error{"settings cannot be saved as \"" + *name.instance +
-                 "\": choose a name without spaces, \"/\" and \"#\""};
-  }
-  const auto bad = std::ranges::find_if_not(options, canBeSaved);
-  if (bad == options.end()) return std::nullopt;
-  return Error{"the option " + bad->first +
-               " cannot be saved: its value has a \"#\" or a line end"};
-}
-
 bool hasEntry(const std::vector<SavedEntry>& entries, const DestinationName& name) {
   return std::ranges::find(entries, name, &SavedEntry::name) != entries.end();
-}
-
-// libcups writes the file anew from what it is given, so that has to be everything.
-Result<Done> writeEntries(http_t* http, std::vector<SavedEntry>& entries) {
-  std::vector<CupsOptions> options;
-  options.reserve(entries.size());
-  std::vector<cups_dest_t> dests;
-  for (SavedEntry& entry : entries) {
-    const CupsOptions& own = options.emplace_back(entry.options);
-    auto& instance = entry.name.instance;
-    dests.push_back({entry.name.printer.data(), instance ? instance->data() : nullptr,
-                     entry.isDefault ? 1 : 0, own.size(), own.data()});
-  }
-  if (cupsSetDests2(http, static_cast<int>(dests.size()), dests.data()) == 0) return Done{};
-  return Error{"the options cannot be saved in \"" + userOptionsPath() +
-               "\": " + cupsLastErrorString()};
-}
-
-void replaceEntry(std::vector<SavedEntry>& entries, const DestinationName& name,
-                  const OptionList& options) {
-  const auto isDefault = std::ranges::any_of(
-      entries, [&](const SavedEntry& entry) { return entry.name == name && entry.isDefault; });
-  std::erase_if(entries, [&](const SavedEntry& entry) { return entry.name == name; });
-  entries.push_back({name, isDefault, options});
 }
 
 }  // namespace
@@ -215,7 +166,7 @@ Result<Done> saveDestinationOptions(const ServerOptions& server, const Destinati
   if (!connection) return connection.error();
   std::vector<SavedEntry> entries = readSavedEntries(userOptionsPath());
   replaceEntry(entries, name, options);
-  if (const auto written = writeEntries(connection->get(), entries); !written) return written;
+  if (const auto problem = writeSavedEntries(connection->get(), entries)) return *problem;
   if (!name.instance || hasEntry(readSavedEntries(userOptionsPath()), name)) return Done{};
   return Error{"settings that are all the print server's own defaults cannot be saved as \"" +
                name.text() + "\": choose one that differs"};
@@ -228,9 +179,7 @@ Result<Done> removeInstance(const ServerOptions& server, const DestinationName& 
   if (!connection) return connection.error();
   std::vector<SavedEntry> entries = readSavedEntries(userOptionsPath());
   std::erase_if(entries, [&](const SavedEntry& entry) { return entry.name == name; });
-  // libcups refuses an empty list; an entry without options leaves no line.
-  if (entries.empty()) entries.push_back({{name.printer, std::nullopt}, false, {}});
-  if (const auto written = writeEntries(connection->get(), entries); !written) return written;
+  if (const auto problem = writeSavedEntries(connection->get(), entries)) return *problem;
   if (!savedOptionsFor(name)) return Done{};
   return Error{"the settings \"" + name.text() +
                "\" are the administrator's: only lpoptions as root "

@@ -2,7 +2,6 @@
 
 #include <cups/ppd.h>
 #include <fcntl.h>
-#include <strings.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -10,21 +9,19 @@
 #include <algorithm>
 #include <cstring>
 #include <memory>
-#include <span>
 
 #include "cups/Constraints.h"
 #include "cups/CupsOptions.h"
 #include "cups/CustomSize.h"
+#include "cups/PpdChoice.h"
 #include "cups/PpdProblem.h"
+#include "cups/PpdRecords.h"
 #include "cups/ServerConnection.h"
 
 namespace cutline {
 
 namespace {
 
-constexpr const char* kInstallableGroup = "InstallableOptions";
-constexpr const char* kCustom = "Custom";
-constexpr const char* kPageSize = "PageSize";
 // The same choices as the page size's; marking it would take the page size's mark away.
 constexpr const char* kPageRegion = "PageRegion";
 
@@ -53,126 +50,12 @@ std::string contentsOf(int fd) {
   return text;
 }
 
-// libcups cuts a text at its buffer's end, be it in the middle of a character.
-std::string wholeCharacters(std::string text) {
-  const auto isInside = [](char c) { return (static_cast<unsigned char>(c) & 0xc0) == 0x80; };
-  std::size_t start = text.size();
-  while (start > 0 && isInside(text[start - 1])) --start;
-  if (start == 0) return text;
-  const auto lead = static_cast<unsigned char>(text[start - 1]);
-  const std::size_t expected = lead >= 0xf0 ? 4 : lead >= 0xe0 ? 3 : lead >= 0xc0 ? 2 : 1;
-  if (text.size() - (start - 1) < expected) text.resize(start - 1);
-  return text;
-}
-
-std::string textOr(const char* text, const char* keyword) {
-  std::string whole = wholeCharacters(text);
-  return whole.empty() ? keyword : whole;
-}
-
-std::span<ppd_group_t> groupsOf(const ppd_file_t* ppd) {
-  return {ppd->groups, ppd->groups ? static_cast<std::size_t>(ppd->num_groups) : 0};
-}
-
-std::span<ppd_group_t> subgroupsOf(const ppd_group_t& group) {
-  return {group.subgroups, group.subgroups ? static_cast<std::size_t>(group.num_subgroups) : 0};
-}
-
-std::span<ppd_option_t> optionsOf(const ppd_group_t& group) {
-  return {group.options, group.options ? static_cast<std::size_t>(group.num_options) : 0};
-}
-
-std::span<ppd_choice_t> choicesOf(const ppd_option_t& option) {
-  return {option.choices, option.choices ? static_cast<std::size_t>(option.num_choices) : 0};
-}
-
-std::span<ppd_size_t> sizesOf(const ppd_file_t* ppd) {
-  return {ppd->sizes, ppd->sizes ? static_cast<std::size_t>(ppd->num_sizes) : 0};
-}
-
-// The records are walked directly: the library's own walk shares a cursor with its searches and may
-// never end.
-template <typename Function>
-void forEachGroup(std::span<ppd_group_t> groups, const Function& function) {
-  for (const ppd_group_t& group : groups) {
-    if (std::strcmp(group.name, kInstallableGroup) == 0) continue;
-    function(group);
-    forEachGroup(subgroupsOf(group), function);
-  }
-}
-
-template <typename Function>
-void forEachOption(const ppd_file_t* ppd, const Function& function) {
-  forEachGroup(groupsOf(ppd), [&](const ppd_group_t& group) {
-    for (const ppd_option_t& option : optionsOf(group)) function(option);
-  });
-}
-
-std::string valueOf(const ppd_cparam_t& parameter) {
-  switch (parameter.type) {
-    case PPD_CUSTOM_INT:
-      return std::to_string(parameter.current.custom_int);
-    case PPD_CUSTOM_PASSCODE:
-    case PPD_CUSTOM_PASSWORD:
-    case PPD_CUSTOM_STRING: {
-      const char* text = parameter.current.custom_string;
-      return text ? text : "";
-    }
-    default:
-      return decimalText(parameter.current.custom_real);
-  }
-}
-
-// Custom.VALUE, or {NAME=VALUE ...} where the option takes several.
-std::string customValue(ppd_coption_t* custom) {
-  if (cupsArrayCount(custom->params) == 1) {
-    return std::string(kCustom) + '.' + valueOf(*ppdFirstCustomParam(custom));
-  }
-  std::string text;
-  for (ppd_cparam_t* p = ppdFirstCustomParam(custom); p; p = ppdNextCustomParam(custom)) {
-    text += (text.empty() ? "{" : " ") + std::string(p->name) + '=' + valueOf(*p);
-  }
-  return text + '}';
-}
-
-const ppd_size_t* markedSize(const ppd_file_t* ppd) {
-  const auto sizes = sizesOf(ppd);
-  const auto marked =
-      std::ranges::find_if(sizes, [](const ppd_size_t& s) { return s.marked != 0; });
-  return marked == sizes.end() ? nullptr : &*marked;
-}
-
-bool isCustom(const ppd_size_t& size) { return std::strcmp(size.name, kCustom) == 0; }
-
-// A custom choice names its values, so that it says the same on the server.
-std::string choiceToSend(ppd_file_t* ppd, const ppd_option_t& option, const ppd_choice_t& choice) {
-  if (std::strcmp(choice.choice, kCustom) != 0) return choice.choice;
-  if (std::strcmp(option.keyword, kPageSize) == 0) {
-    const ppd_size_t* size = markedSize(ppd);
-    return size ? CustomSize{size->width, size->length}.choice() : kCustom;
-  }
-  ppd_coption_t* custom = ppdFindCustomOption(ppd, option.keyword);
-  return custom ? customValue(custom) : kCustom;
-}
-
-// Several choices stand with commas where an option takes them; empty when none is marked.
-std::string markedText(ppd_file_t* ppd, const ppd_option_t& option) {
-  std::string text;
-  for (const ppd_choice_t& choice : choicesOf(option)) {
-    if (!choice.marked) continue;
-    if (!text.empty()) text += ',';
-    text += choiceToSend(ppd, option, choice);
-    if (option.ui != PPD_UI_PICKMANY) break;
-  }
-  return text;
-}
-
 PpdOption optionOf(ppd_file_t* ppd, const ppd_option_t& option) {
   PpdOption out{option.keyword, textOr(option.text, option.keyword), option.defchoice, {}};
   const bool takesCustom = ppdFindCustomOption(ppd, option.keyword) != nullptr;
   for (const ppd_choice_t& choice : choicesOf(option)) {
     // It needs a value, which no list of choices can give.
-    if (takesCustom && std::strcmp(choice.choice, kCustom) == 0) continue;
+    if (takesCustom && std::strcmp(choice.choice, kCustomChoice) == 0) continue;
     out.choices.push_back({choice.choice, textOr(choice.text, choice.choice)});
   }
   return out;
@@ -187,7 +70,7 @@ OptionGroup groupOf(ppd_file_t* ppd, const ppd_group_t& group) {
 }
 
 std::string sizeText(ppd_file_t* ppd, const char* name) {
-  const ppd_option_t* option = ppdFindOption(ppd, kPageSize);
+  const ppd_option_t* option = ppdFindOption(ppd, kPageSizeKeyword);
   if (!option) return name;
   const auto choices = choicesOf(*option);
   const auto choice = std::ranges::find_if(
@@ -202,36 +85,6 @@ PaperSize paperOf(ppd_file_t* ppd, const ppd_size_t& size) {
   if (isCustom(size)) paper.name = custom.choice();
   paper.text = isCustom(size) ? custom.text() : sizeText(ppd, size.name);
   return paper;
-}
-
-std::string choiceNames(const ppd_option_t& option) {
-  std::string names;
-  for (const ppd_choice_t& choice : choicesOf(option)) {
-    names += (names.empty() ? "" : ", ") + std::string(choice.choice);
-  }
-  return names.empty() ? "it has none" : "its choices are " + names;
-}
-
-Result<Done> checkCustomSize(const ppd_file_t* ppd, const std::string& choice) {
-  const auto size = CustomSize::parse(choice);
-  if (!size) {
-    return Error{"\"" + choice + "\" is no paper size: write it as Custom.WIDTHxLENGTHmm"};
-  }
-  const bool fits = size->width >= ppd->custom_min[0] && size->width <= ppd->custom_max[0] &&
-                    size->length >= ppd->custom_min[1] && size->length <= ppd->custom_max[1];
-  if (fits) return Done{};
-  return Error{"the printer does not take paper of " + size->text() + ": it takes " +
-               CustomSize{ppd->custom_min[0], ppd->custom_min[1]}.text() + " to " +
-               CustomSize{ppd->custom_max[0], ppd->custom_max[1]}.text()};
-}
-
-Result<Done> checkCustom(ppd_file_t* ppd, const ppd_option_t& option, const std::string& choice) {
-  if (std::strcmp(option.keyword, kPageSize) == 0) return checkCustomSize(ppd, choice);
-  return Done{};
-}
-
-bool isCustomValue(const std::string& choice) {
-  return choice.starts_with("Custom.") || choice.starts_with('{');
 }
 
 Error notFetched(http_t* http, const std::string& printer, http_status_t status) {
@@ -310,16 +163,7 @@ bool PpdFile::hasOption(const std::string& keyword) const {
 
 Result<Done> PpdFile::checkChoice(const std::string& keyword, const std::string& choice) const {
   const ppd_option_t* option = ppdFindOption(mPpd, keyword.c_str());
-  if (!option) return Done{};
-  if (isCustomValue(choice) && ppdFindCustomOption(mPpd, option->keyword)) {
-    return checkCustom(mPpd, *option, choice);
-  }
-  const bool isKnown = std::ranges::any_of(choicesOf(*option), [&](const ppd_choice_t& known) {
-    return strcasecmp(known.choice, choice.c_str()) == 0;
-  });
-  if (isKnown) return Done{};
-  return Error{"the option " + std::string(option->keyword) + " has no choice \"" + choice +
-               "\": " + choiceNames(*option)};
+  return option ? checkChoiceOf(mPpd, *option, choice) : Done{};
 }
 
 OptionList PpdFile::markedOptions() const {

@@ -55,6 +55,20 @@ std::vector<SavedEntry> allEntries() {
   return all;
 }
 
+bool isPlainName(const std::string& text) {
+  constexpr std::size_t kLongest = 127;
+  const auto isSpecial = [](unsigned char c) {
+    return c <= ' ' || c == 0x7f || c == '/' || c == '#';
+  };
+  return !text.empty() && text.size() <= kLongest && std::ranges::none_of(text, isSpecial);
+}
+
+// The file of saved options ends a value at these, whatever quotes stand around it.
+bool canBeSaved(const std::pair<std::string, std::string>& option) {
+  const auto isSpecial = [](unsigned char c) { return c < ' ' || c == '#'; };
+  return std::ranges::none_of(option.first + option.second, isSpecial);
+}
+
 }  // namespace
 
 std::vector<SavedEntry> readSavedEntries(const std::string& path) {
@@ -100,6 +114,44 @@ std::vector<std::string> savedInstances(const std::string& printer) {
     }
   }
   return instances;
+}
+
+std::optional<Error> whyNotSaved(const DestinationName& name, const OptionList& options) {
+  if (!isPlainName(name.printer)) return Error{"\"" + name.printer + "\" is no printer's name"};
+  if (name.instance && !isPlainName(*name.instance)) {
+    return Error{"settings cannot be saved as \"" + *name.instance +
+                 "\": choose a name without spaces, \"/\" and \"#\""};
+  }
+  const auto bad = std::ranges::find_if_not(options, canBeSaved);
+  if (bad == options.end()) return std::nullopt;
+  return Error{"the option " + bad->first +
+               " cannot be saved: its value has a \"#\" or a line end"};
+}
+
+void replaceEntry(std::vector<SavedEntry>& entries, const DestinationName& name,
+                  const OptionList& options) {
+  const auto isDefault = std::ranges::any_of(
+      entries, [&](const SavedEntry& entry) { return entry.name == name && entry.isDefault; });
+  std::erase_if(entries, [&](const SavedEntry& entry) { return entry.name == name; });
+  entries.push_back({name, isDefault, options});
+}
+
+std::optional<Error> writeSavedEntries(http_t* http, std::vector<SavedEntry> entries) {
+  // The library refuses an empty list; an entry without options leaves no line.
+  if (entries.empty()) entries.push_back({{"none", std::nullopt}, false, {}});
+  std::vector<CupsOptions> options;
+  options.reserve(entries.size());
+  std::vector<cups_dest_t> dests;
+  dests.reserve(entries.size());
+  for (SavedEntry& entry : entries) {
+    const CupsOptions& own = options.emplace_back(entry.options);
+    auto& instance = entry.name.instance;
+    dests.push_back({entry.name.printer.data(), instance ? instance->data() : nullptr,
+                     entry.isDefault ? 1 : 0, own.size(), own.data()});
+  }
+  if (cupsSetDests2(http, static_cast<int>(dests.size()), dests.data()) == 0) return std::nullopt;
+  return Error{"the options cannot be saved in \"" + userOptionsPath() +
+               "\": " + cupsLastErrorString()};
 }
 
 }  // namespace cutline

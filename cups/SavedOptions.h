@@ -2,11 +2,14 @@
 // administrator's and the user's own.
 #pragma once
 
+#include <cups/http.h>
+
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "cups/Destination.h"
+#include "cups/Result.h"
 
 namespace cutline {
 
@@ -28,5 +31,16 @@ std::optional<OptionList> savedOptionsFor(const DestinationName& name);
 
 // The instances of a printer that either file knows.
 std::vector<std::string> savedInstances(const std::string& printer);
+
+// Why the file cannot hold these options under this name; nothing when it can.
+std::optional<Error> whyNotSaved(const DestinationName& name, const OptionList& options);
+
+// Puts the options in place of those that the entries have under the name; a default stays it.
+void replaceEntry(std::vector<SavedEntry>& entries, const DestinationName& name,
+                  const OptionList& options);
+
+// Writes the user's file anew with these entries, which have to be everything that is to stay. An
+// option that the server itself has as the printer's default is left out, and an entry without any.
+std::optional<Error> writeSavedEntries(http_t* http, std::vector<SavedEntry> entries);
 
 }  // namespace cutline

@@ -28,7 +28,7 @@ Result<ServerConnection> ServerConnection::open(const ServerOptions& server) {
 }
 
 std::string serverText() {
-  const std::string server = cupsServer();
+  std::string server = cupsServer();
   const bool isSocket = server.starts_with('/');
   if (isSocket || ippPort() == kUsualPort) return server;
   return server + ':' + std::to_string(ippPort());

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "cups/PrintJob.h"
+#include "cups/JobStatus.h"
 
 namespace cutline {
 namespace {

@@ -35,10 +35,9 @@ TEST_F(PpdFetchTest, NothingIsLeftInTheTemporaryFolderAlsoAfterAFailure) {
 TEST_F(PpdFetchTest, TheServersPpdIsTakenNotALocalFileOfThatName) {
   const TemporaryFolder root;
   root.write("ppd/" + printer() + ".ppd", "not what the server has\n");
-  const std::string before = getenv("CUPS_SERVERROOT");
   setenv("CUPS_SERVERROOT", root.path().c_str(), 1);
   std::jthread([] { EXPECT_TRUE(PpdFile::fetch({}, printer())); }).join();
-  setenv("CUPS_SERVERROOT", before.c_str(), 1);
+  server().enterEnvironment();
 }
 
 TEST_F(PpdFetchTest, AnUnknownPrinterAndAQueueWithoutPpdAreToldApart) {

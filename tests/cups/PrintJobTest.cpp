@@ -76,6 +76,7 @@ TEST_F(PrintJobTest, ADocumentIsPrinted) {
   ASSERT_TRUE(job) << job.error().message;
   EXPECT_GT(*job, 0);
   EXPECT_EQ(finalStatus(*job).text(), "Printed");
+  EXPECT_TRUE(server().hasPrinted(*job));
 }
 
 TEST_F(PrintJobTest, OptionsTitleUserAndFormatArriveAsTheyAre) {
@@ -155,7 +156,9 @@ TEST_F(PrintJobTest, GivingUpInTheMiddlePrintsNothing) {
   const auto next = submitJob({}, request("Shelf 12\n"), nullptr);
   ASSERT_TRUE(next) << next.error().message;
   EXPECT_EQ(finalStatus(*next).state, JobState::completed);
+  EXPECT_TRUE(server().hasPrinted(*next));
   EXPECT_EQ(jobStatus({}, destination(), *next - 1)->state, JobState::canceled);
+  EXPECT_FALSE(server().hasPrinted(*next - 1));
 }
 
 TEST_F(PrintJobTest, AServerThatEndsInTheMiddleIsReported) {

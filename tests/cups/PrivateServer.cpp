@@ -53,6 +53,10 @@ void PrivateServer::enterEnvironment() const {
   for (const char* name : {"LPDEST", "PRINTER", "CUPS_USER", "CUPS_ENCRYPTION"}) unsetenv(name);
 }
 
+bool PrivateServer::hasPrinted(int jobId) const {
+  return std::filesystem::exists(mFolder.path() + "/printed/job-" + std::to_string(jobId) + ".png");
+}
+
 void PrivateServer::stop() {
   if (mSocket.empty()) return;
   mSocket.clear();

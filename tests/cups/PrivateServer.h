@@ -25,6 +25,9 @@ class PrivateServer {
   // The home folder of the server's clients.
   const std::string& home() const noexcept { return mHome; }
 
+  // Whether the virtual printer has stored what the job printed.
+  bool hasPrinted(int jobId) const;
+
   void stop();
   // Waits until no job is left to do.
   void waitUntilIdle() const;

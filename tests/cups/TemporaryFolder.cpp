@@ -19,7 +19,7 @@ TemporaryFolder::~TemporaryFolder() {
 }
 
 std::string TemporaryFolder::write(const std::string& name, const std::string& text) const {
-  const std::string path = mPath + '/' + name;
+  std::string path = mPath + '/' + name;
   std::filesystem::create_directories(std::filesystem::path(path).parent_path());
   std::ofstream(path, std::ios::binary) << text;
   return path;

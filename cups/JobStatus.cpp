@@ -1,0 +1,164 @@
+#include "cups/JobStatus.h"
+
+#include <algorithm>
+#include <array>
+#include <memory>
+#include <optional>
+#include <string_view>
+
+#include "cups/ServerConnection.h"
+
+namespace cutline {
+
+namespace {
+
+struct StateText {
+  JobState state;
+  ipp_jstate_t ipp;
+  bool isFinal;
+  std::string_view text;
+};
+
+constexpr std::array kStateTexts = std::to_array<StateText>({
+    {JobState::pending, IPP_JSTATE_PENDING, false, "Waiting"},
+    {JobState::held, IPP_JSTATE_HELD, false, "Held"},
+    {JobState::processing, IPP_JSTATE_PROCESSING, false, "Printing"},
+    {JobState::stopped, IPP_JSTATE_STOPPED, false, "Stopped"},
+    {JobState::canceled, IPP_JSTATE_CANCELED, true, "Cancelled"},
+    {JobState::aborted, IPP_JSTATE_ABORTED, true, "Failed"},
+    {JobState::completed, IPP_JSTATE_COMPLETED, true, "Printed"},
+});
+
+struct ReasonText {
+  std::string_view keyword;
+  std::string_view text;
+};
+
+// The reasons that tell more than the state does.
+constexpr std::array kReasonTexts = std::to_array<ReasonText>({
+    {"printer-stopped", "the printer is paused"},
+    {"printer-stopped-partly", "the printer is partly paused"},
+    {"job-incoming", "the document is being received"},
+    {"job-hold-until-specified", "until it is released"},
+    {"resources-are-not-ready", "the printer needs attention"},
+    {"document-format-error", "the document cannot be read"},
+    {"unsupported-document-format", "the printer cannot print this kind of document"},
+    {"document-unprintable-error", "the document cannot be printed"},
+    {"job-canceled-by-operator", "by the operator"},
+    {"job-canceled-at-device", "at the printer"},
+    {"aborted-by-system", "by the print server"},
+});
+
+const StateText& rowOf(JobState state) {
+  return *std::ranges::find(kStateTexts, state, &StateText::state);
+}
+
+struct FreeIpp {
+  void operator()(ipp_t* ipp) const noexcept { ippDelete(ipp); }
+};
+using IppMessage = std::unique_ptr<ipp_t, FreeIpp>;
+
+std::string textOf(ipp_t* answer, const char* name, ipp_tag_t tag) {
+  ipp_attribute_t* attribute = ippFindAttribute(answer, name, tag);
+  const char* text = attribute ? ippGetString(attribute, 0, nullptr) : nullptr;
+  return text ? text : "";
+}
+
+std::vector<std::string> textsOf(ipp_t* answer, const char* name) {
+  ipp_attribute_t* attribute = ippFindAttribute(answer, name, IPP_TAG_KEYWORD);
+  std::vector<std::string> texts;
+  for (int i = 0; attribute && i < ippGetCount(attribute); ++i) {
+    texts.emplace_back(ippGetString(attribute, i, nullptr));
+  }
+  return texts;
+}
+
+std::optional<JobStatus> statusOf(ipp_t* answer) {
+  ipp_attribute_t* attribute = ippFindAttribute(answer, "job-state", IPP_TAG_ENUM);
+  if (!attribute) return std::nullopt;
+  const auto* row = std::ranges::find(
+      kStateTexts, static_cast<ipp_jstate_t>(ippGetInteger(attribute, 0)), &StateText::ipp);
+  if (row == kStateTexts.end()) return std::nullopt;
+  return JobStatus{row->state, textOf(answer, "job-printer-state-message", IPP_TAG_TEXT),
+                   textsOf(answer, "job-state-reasons")};
+}
+
+IppMessage newRequest(ipp_op_t operation, const DestinationName& destination) {
+  std::array<char, HTTP_MAX_URI> uri{};
+  httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), uri.size(), "ipp", nullptr, "localhost", 0,
+                   "/printers/%s", destination.printer.c_str());
+  IppMessage request(ippNewRequest(operation));
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.data());
+  return request;
+}
+
+IppMessage jobRequest(const DestinationName& destination, int jobId) {
+  constexpr std::array<const char*, 3> kWanted{"job-state", "job-state-reasons",
+                                               "job-printer-state-message"};
+  IppMessage request = newRequest(IPP_OP_GET_JOB_ATTRIBUTES, destination);
+  ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+               cupsUser());
+  ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                kWanted.size(), nullptr, kWanted.data());
+  return request;
+}
+
+// Takes the request and gives the answer; null where the server refuses it.
+IppMessage answerTo(http_t* http, IppMessage request) {
+  IppMessage answer(cupsDoRequest(http, request.release(), "/"));
+  if (cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE) answer.reset();
+  return answer;
+}
+
+bool isPrinterStopped(http_t* http, const DestinationName& destination) {
+  IppMessage request = newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, destination);
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+               "printer-state");
+  const IppMessage answer = answerTo(http, std::move(request));
+  ipp_attribute_t* state = ippFindAttribute(answer.get(), "printer-state", IPP_TAG_ENUM);
+  return state && ippGetInteger(state, 0) == IPP_PSTATE_STOPPED;
+}
+
+// The server itself gives a waiting job no reason when its printer is paused.
+void addPause(http_t* http, const DestinationName& destination, JobStatus& status) {
+  const std::string reason = "printer-stopped";
+  if (status.state != JobState::pending) return;
+  if (std::ranges::find(status.reasons, reason) != status.reasons.end()) return;
+  if (isPrinterStopped(http, destination)) status.reasons.push_back(reason);
+}
+
+}  // namespace
+
+bool JobStatus::isFinal() const noexcept { return rowOf(state).isFinal; }
+
+std::string JobStatus::text() const {
+  std::string text(rowOf(state).text);
+  const char* separator = " - ";
+  for (const ReasonText& row : kReasonTexts) {
+    if (std::ranges::find(reasons, row.keyword) == reasons.end()) continue;
+    text += separator + std::string(row.text);
+    separator = ", ";
+  }
+  return text;
+}
+
+Result<JobStatus> jobStatus(const ServerOptions& server, const DestinationName& destination,
+                            int jobId) {
+  const auto connection = ServerConnection::open(server);
+  if (!connection) return connection.error();
+  const IppMessage answer = answerTo(connection->get(), jobRequest(destination, jobId));
+  if (!answer)
+    return serverError("the state of the job " + jobName(destination, jobId) + " is not known");
+  auto status = statusOf(answer.get());
+  if (!status)
+    return Error{"the print server told no state of the job " + jobName(destination, jobId)};
+  addPause(connection->get(), destination, *status);
+  return *status;
+}
+
+std::string jobName(const DestinationName& destination, int jobId) {
+  return destination.printer + '-' + std::to_string(jobId);
+}
+
+}  // namespace cutline

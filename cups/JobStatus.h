@@ -1,0 +1,32 @@
+// How far a print job has come.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cups/Destination.h"
+#include "cups/Result.h"
+#include "cups/ServerOptions.h"
+
+namespace cutline {
+
+enum class JobState { pending, held, processing, stopped, canceled, aborted, completed };
+
+struct JobStatus {
+  JobState state = JobState::pending;
+  std::string message;               // the printer's own words, may be empty
+  std::vector<std::string> reasons;  // IPP job-state-reasons
+
+  bool isFinal() const noexcept;
+  // The state in plain words, such as "Printing" or "Waiting - the printer is paused".
+  std::string text() const;
+};
+
+// Asks the server, so it may block.
+Result<JobStatus> jobStatus(const ServerOptions& server, const DestinationName& destination,
+                            int jobId);
+
+// The job as people and the server's commands name it: PRINTER-NUMBER.
+std::string jobName(const DestinationName& destination, int jobId);
+
+}  // namespace cutline

@@ -1,0 +1,108 @@
+#include "cups/PpdChoice.h"
+
+#include <strings.h>
+
+#include <algorithm>
+#include <cstring>
+
+#include "cups/CustomSize.h"
+#include "cups/PpdRecords.h"
+
+namespace cutline {
+
+namespace {
+
+std::string valueOf(const ppd_cparam_t& parameter) {
+  switch (parameter.type) {
+    case PPD_CUSTOM_INT:
+      return std::to_string(parameter.current.custom_int);
+    case PPD_CUSTOM_PASSCODE:
+    case PPD_CUSTOM_PASSWORD:
+    case PPD_CUSTOM_STRING: {
+      const char* text = parameter.current.custom_string;
+      return text ? text : "";
+    }
+    default:
+      return decimalText(parameter.current.custom_real);
+  }
+}
+
+// Custom.VALUE, or {NAME=VALUE ...} where the option takes several.
+std::string customValue(ppd_coption_t* custom) {
+  if (cupsArrayCount(custom->params) == 1) {
+    return std::string(kCustomChoice) + '.' + valueOf(*ppdFirstCustomParam(custom));
+  }
+  std::string text;
+  for (ppd_cparam_t* p = ppdFirstCustomParam(custom); p; p = ppdNextCustomParam(custom)) {
+    text += (text.empty() ? "{" : " ") + std::string(p->name) + '=' + valueOf(*p);
+  }
+  return text.empty() ? kCustomChoice : text + '}';
+}
+
+// A custom choice names its values, so that it says the same on the server.
+std::string choiceToSend(ppd_file_t* ppd, const ppd_option_t& option, const ppd_choice_t& choice) {
+  if (std::strcmp(choice.choice, kCustomChoice) != 0) return choice.choice;
+  if (std::strcmp(option.keyword, kPageSizeKeyword) == 0) {
+    const ppd_size_t* size = markedSize(ppd);
+    return size ? CustomSize{size->width, size->length}.choice() : kCustomChoice;
+  }
+  ppd_coption_t* custom = ppdFindCustomOption(ppd, option.keyword);
+  return custom ? customValue(custom) : kCustomChoice;
+}
+
+std::string choiceNames(const ppd_option_t& option) {
+  std::string names;
+  for (const ppd_choice_t& choice : choicesOf(option)) {
+    names += (names.empty() ? "" : ", ") + std::string(choice.choice);
+  }
+  return names.empty() ? "it has none" : "its choices are " + names;
+}
+
+Result<Done> checkCustomSize(const ppd_file_t* ppd, const std::string& choice) {
+  const auto size = CustomSize::parse(choice);
+  if (!size) {
+    return Error{"\"" + choice + "\" is no paper size: write it as Custom.WIDTHxLENGTHmm"};
+  }
+  const bool fits = size->width >= ppd->custom_min[0] && size->width <= ppd->custom_max[0] &&
+                    size->length >= ppd->custom_min[1] && size->length <= ppd->custom_max[1];
+  if (fits) return Done{};
+  return Error{"the printer does not take paper of " + size->text() + ": it takes " +
+               CustomSize{ppd->custom_min[0], ppd->custom_min[1]}.text() + " to " +
+               CustomSize{ppd->custom_max[0], ppd->custom_max[1]}.text()};
+}
+
+Result<Done> checkCustom(ppd_file_t* ppd, const ppd_option_t& option, const std::string& choice) {
+  if (std::strcmp(option.keyword, kPageSizeKeyword) == 0) return checkCustomSize(ppd, choice);
+  return Done{};
+}
+
+bool isCustomValue(const std::string& choice) {
+  return choice.starts_with("Custom.") || choice.starts_with('{');
+}
+
+}  // namespace
+
+std::string markedText(ppd_file_t* ppd, const ppd_option_t& option) {
+  std::string text;
+  for (const ppd_choice_t& choice : choicesOf(option)) {
+    if (!choice.marked) continue;
+    if (!text.empty()) text += ',';
+    text += choiceToSend(ppd, option, choice);
+    if (option.ui != PPD_UI_PICKMANY) break;
+  }
+  return text;
+}
+
+Result<Done> checkChoiceOf(ppd_file_t* ppd, const ppd_option_t& option, const std::string& choice) {
+  if (isCustomValue(choice) && ppdFindCustomOption(ppd, option.keyword)) {
+    return checkCustom(ppd, option, choice);
+  }
+  const bool isKnown = std::ranges::any_of(choicesOf(option), [&](const ppd_choice_t& known) {
+    return strcasecmp(known.choice, choice.c_str()) == 0;
+  });
+  if (isKnown) return Done{};
+  return Error{"the option " + std::string(option.keyword) + " has no choice \"" + choice +
+               "\": " + choiceNames(option)};
+}
+
+}  // namespace cutline

@@ -1,0 +1,20 @@
+// The choices of a PPD's option as users type them and as the server takes them, custom values too.
+#pragma once
+
+#include <cups/ppd.h>
+
+#include <string>
+
+#include "cups/Result.h"
+
+namespace cutline {
+
+// What is marked of the option, custom choices with their values; several choices stand with commas
+// where an option takes them. Empty when nothing is marked.
+std::string markedText(ppd_file_t* ppd, const ppd_option_t& option);
+
+// An error that lists the choices, or the printer's limits for a custom size, when the option does
+// not have the choice.
+Result<Done> checkChoiceOf(ppd_file_t* ppd, const ppd_option_t& option, const std::string& choice);
+
+}  // namespace cutline

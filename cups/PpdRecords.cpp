@@ -1,0 +1,72 @@
+#include "cups/PpdRecords.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace cutline {
+
+namespace {
+
+// A damaged PPD may have a count without records.
+template <typename Record>
+std::span<Record> records(Record* first, int count) {
+  return {first, first ? static_cast<std::size_t>(count) : 0};
+}
+
+bool isContinuation(char c) { return (static_cast<unsigned char>(c) & 0xc0) == 0x80; }
+
+std::size_t characterSize(char lead) {
+  const auto byte = static_cast<unsigned char>(lead);
+  if (byte >= 0xf0) return 4;
+  if (byte >= 0xe0) return 3;
+  return byte >= 0xc0 ? 2 : 1;
+}
+
+std::string wholeCharacters(std::string text) {
+  std::size_t lead = text.size();
+  while (lead > 0 && isContinuation(text[lead - 1])) --lead;
+  if (lead == 0) return text;
+  --lead;
+  if (text.size() - lead < characterSize(text[lead])) text.resize(lead);
+  return text;
+}
+
+}  // namespace
+
+std::span<ppd_group_t> groupsOf(const ppd_file_t* ppd) {
+  return records(ppd->groups, ppd->num_groups);
+}
+
+std::span<ppd_group_t> subgroupsOf(const ppd_group_t& group) {
+  return records(group.subgroups, group.num_subgroups);
+}
+
+std::span<ppd_option_t> optionsOf(const ppd_group_t& group) {
+  return records(group.options, group.num_options);
+}
+
+std::span<ppd_choice_t> choicesOf(const ppd_option_t& option) {
+  return records(option.choices, option.num_choices);
+}
+
+std::span<ppd_size_t> sizesOf(const ppd_file_t* ppd) { return records(ppd->sizes, ppd->num_sizes); }
+
+bool isInstallable(const ppd_group_t& group) {
+  return std::strcmp(group.name, "InstallableOptions") == 0;
+}
+
+bool isCustom(const ppd_size_t& size) { return std::strcmp(size.name, kCustomChoice) == 0; }
+
+const ppd_size_t* markedSize(const ppd_file_t* ppd) {
+  const auto sizes = sizesOf(ppd);
+  const auto marked =
+      std::ranges::find_if(sizes, [](const ppd_size_t& size) { return size.marked != 0; });
+  return marked == sizes.end() ? nullptr : &*marked;
+}
+
+std::string textOr(const char* text, const char* keyword) {
+  std::string whole = wholeCharacters(text);
+  return whole.empty() ? keyword : whole;
+}
+
+}  // namespace cutline

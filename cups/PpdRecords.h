@@ -1,0 +1,50 @@
+// Walks over the records of an open PPD. They are walked directly: the library's own walk shares a
+// cursor with its searches and may never end.
+#pragma once
+
+#include <cups/ppd.h>
+
+#include <span>
+#include <string>
+
+namespace cutline {
+
+inline constexpr const char* kPageSizeKeyword = "PageSize";
+inline constexpr const char* kCustomChoice = "Custom";
+
+std::span<ppd_group_t> groupsOf(const ppd_file_t* ppd);
+std::span<ppd_group_t> subgroupsOf(const ppd_group_t& group);
+std::span<ppd_option_t> optionsOf(const ppd_group_t& group);
+std::span<ppd_choice_t> choicesOf(const ppd_option_t& option);
+std::span<ppd_size_t> sizesOf(const ppd_file_t* ppd);
+
+// The parts that a printer may have or lack, which are no settings of a job.
+bool isInstallable(const ppd_group_t& group);
+// The size that measures alone make.
+bool isCustom(const ppd_size_t& size);
+// Null when no size is marked.
+const ppd_size_t* markedSize(const ppd_file_t* ppd);
+
+// A text for people, or the keyword where there is none. libcups cuts a text at its buffer's end,
+// be it in the middle of a character: such an end is left out.
+std::string textOr(const char* text, const char* keyword);
+
+// Calls function(group) for each group and subgroup, installable options left out.
+template <typename Function>
+void forEachGroup(std::span<ppd_group_t> groups, const Function& function) {
+  for (const ppd_group_t& group : groups) {
+    if (isInstallable(group)) continue;
+    function(group);
+    forEachGroup(subgroupsOf(group), function);
+  }
+}
+
+// Calls function(option) for each option of those groups.
+template <typename Function>
+void forEachOption(const ppd_file_t* ppd, const Function& function) {
+  forEachGroup(groupsOf(ppd), [&](const ppd_group_t& group) {
+    for (const ppd_option_t& option : optionsOf(group)) function(option);
+  });
+}
+
+}  // namespace cutline
