@@ -45,11 +45,11 @@ PictureComboBox::PictureComboBox() {
 }
 
 void PictureComboBox::addEntry(const QString& title, const QString& words,
-                               std::shared_ptr<QtPicture> picture) {
+                               const std::shared_ptr<QtPicture>& picture) {
   addItem(title);
   const int index = count() - 1;
   setItemData(index, words, Qt::AccessibleTextRole);
-  setItemData(index, QVariant::fromValue(std::move(picture)), kPictureRole);
+  setItemData(index, QVariant::fromValue(picture), kPictureRole);
 }
 
 int PictureComboBox::rowWidth() const {

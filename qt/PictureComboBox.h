@@ -17,7 +17,8 @@ class PictureComboBox : public QComboBox {
 
   // `picture` null: words only. `words` are what assistive technology says of the entry; they are
   // seen too while `title` is empty.
-  void addEntry(const QString& title, const QString& words, std::shared_ptr<QtPicture> picture);
+  void addEntry(const QString& title, const QString& words,
+                const std::shared_ptr<QtPicture>& picture);
 
   void showPopup() override;
 

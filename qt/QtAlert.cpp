@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QString>
+#include <memory>
 
 #include "platform/Toolkit.h"
 #include "qt/QtText.h"
@@ -35,7 +36,7 @@ void addButtons(QMessageBox& box, const Alert& alert) {
 void runModalAlert(const Alert& alert) noexcept {
   QWidget* const window = QApplication::activeWindow();
   // The window may be deleted while the box is open, and the box with it.
-  const QPointer<QMessageBox> box = new QMessageBox(window);
+  const QPointer<QMessageBox> box(std::make_unique<QMessageBox>(window).release());
   box->setIcon(QMessageBox::Warning);
   box->setWindowModality(Qt::ApplicationModal);
   box->setWindowTitle(window ? window->windowTitle() : QApplication::applicationDisplayName());

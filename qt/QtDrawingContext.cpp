@@ -41,7 +41,7 @@ QtDrawingContext::QtDrawingContext(QPainter& painter, const View& view, bool fli
     : mPainter(painter), mFlipped(flipped), mFocused{&view} {}
 
 QtDrawingContext::~QtDrawingContext() {
-  while (mSaved > 0) restoreGraphicsState();
+  while (mSaved > 0) QtDrawingContext::restoreGraphicsState();
 }
 
 void QtDrawingContext::saveGraphicsState() noexcept {
