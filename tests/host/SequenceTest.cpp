@@ -1,6 +1,9 @@
 // Opening a printer: whatever is asked for is shown, marked and sent, but for the three rules.
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <sstream>
+
 #include "host/core/CutRules.h"
 #include "tests/host/Dialog.h"
 #include "tests/host/PpdText.h"
@@ -9,21 +12,6 @@ namespace cutline {
 namespace {
 
 OptionList asList(const Choices& choices) { return {choices.begin(), choices.end()}; }
-
-// The combination of the number: a bit an option; LxCutLabel takes 1 or 3.
-Choices combination(const TestPrinter& printer, unsigned number) {
-  Choices choices;
-  for (const auto& [keyword, ignored] : printer.cutOptions) {
-    const bool on = (number & 1U) != 0;
-    choices[keyword] = keyword == "LxCutLabel" ? (on ? "3" : "1") : (on ? "ON" : "OFF");
-    number >>= 1U;
-  }
-  return choices;
-}
-
-unsigned combinations(const TestPrinter& printer) {
-  return 1U << static_cast<unsigned>(printer.cutOptions.size());
-}
 
 TestPrinter without(TestPrinter printer, const std::vector<std::string>& keywords) {
   for (const std::string& keyword : keywords) printer.cutOptions.erase(keyword);
@@ -50,23 +38,63 @@ TestPrinter withDefaultsOn(TestPrinter printer) {
 
 struct Kind {
   const char* name;
-  TestPrinter printer;
+  std::string text;
 };
 
-std::vector<Kind> kinds() {
-  const TestPrinter tapeB =
-      withAutoCutShown(without(fullTapePrinter(), {"LxCutLabel", "LxCutMark"}));
-  return {{"tapeA", fullTapePrinter()},
-          {"tapeB", tapeB},
-          {"roll", roll()},
-          {"rollWithoutAutoCut", without(roll(), {"LxAutoTapeCut"})},
-          {"tapeWithTwoAutoCutBoxes", withAutoCutShown(fullTapePrinter())},
-          {"tapeWithoutCutMark", without(fullTapePrinter(), {"LxCutMark"})},
-          {"tapeWithoutAnyAutoCutBox", without(fullTapePrinter(), {"LxCutLabel"})},
-          {"tapeAOnByDefault", withDefaultsOn(fullTapePrinter())},
-          {"tapeBOnByDefault", withDefaultsOn(tapeB)},
-          {"rollOnByDefault", withDefaultsOn(roll())}};
+std::string sample(const std::string& name) {
+  std::ostringstream text;
+  text << std::ifstream(CUTLINE_SOURCE_DIR "/samples/ppd/" + name + ".ppd").rdbuf();
+  return text.str();
 }
+
+std::vector<Kind> kinds() {
+  const TestPrinter tapeWithoutMarks =
+      withAutoCutShown(without(fullTapePrinter(), {"LxCutLabel", "LxCutMark"}));
+  return {{"sampleTapeA", sample("tape-a")},
+          {"sampleTapeB", sample("tape-b")},
+          {"sampleRoll", sample("roll")},
+          {"rollWithoutAutoCut", ppdText(without(roll(), {"LxAutoTapeCut"}))},
+          {"rollOnByDefault", ppdText(withDefaultsOn(roll()))},
+          {"tapeWithTwoAutoCutBoxes", ppdText(withAutoCutShown(fullTapePrinter()))},
+          {"tapeWithoutAnyAutoCutBox", ppdText(without(fullTapePrinter(), {"LxCutLabel"}))},
+          {"tapeOnByDefault", ppdText(withDefaultsOn(fullTapePrinter()))},
+          {"tapeWithoutMarksOnByDefault", ppdText(withDefaultsOn(tapeWithoutMarks))}};
+}
+
+// A printer with every combination of its cut options: a bit an option, the first choice or the
+// second; the number of labels is the first one or the third.
+class Printer {
+ public:
+  explicit Printer(const Kind& kind) : mPpd(ppdFromText(kind.text)) {
+    for (const OptionGroup& group : mPpd->optionGroups())
+      for (const PpdOption& option : group.options)
+        if (isCutKeyword(option.keyword)) mOptions.push_back(option);
+  }
+
+  const std::shared_ptr<PpdFile>& ppd() const { return mPpd; }
+  std::vector<PaperSize> papers() const { return mPpd->paperSizes(); }
+  unsigned combinations() const { return 1U << static_cast<unsigned>(mOptions.size()); }
+
+  Choices combination(unsigned number) const {
+    Choices choices;
+    for (const PpdOption& option : mOptions) {
+      const std::size_t second = option.keyword == "LxCutLabel" ? 2 : 1;
+      choices[option.keyword] = option.choices.at((number & 1U) != 0 ? second : 0).name;
+      number >>= 1U;
+    }
+    return choices;
+  }
+
+  Choices defaults() const {
+    Choices choices;
+    for (const PpdOption& option : mOptions) choices[option.keyword] = option.defaultChoice;
+    return choices;
+  }
+
+ private:
+  std::shared_ptr<PpdFile> mPpd;
+  std::vector<PpdOption> mOptions;
+};
 
 class EachKind : public testing::TestWithParam<Kind> {};
 INSTANTIATE_TEST_SUITE_P(Sequence, EachKind, testing::ValuesIn(kinds()),
@@ -79,12 +107,13 @@ Choices onPaper(Choices choices, const std::string& paper) {
 
 // Opening is the slower way, so each combination is opened on one paper, in turn.
 TEST_P(EachKind, AskedIsShownMarkedAndSentForEveryCombination) {
-  const std::shared_ptr<PpdFile> ppd = ppdFor(GetParam().printer);
-  for (unsigned number = 0; number < combinations(GetParam().printer); ++number) {
-    const Choices asked = combination(GetParam().printer, number);
-    const std::string paper = kTestPapers[number % std::size(kTestPapers)];
+  const Printer printer(GetParam());
+  const std::vector<PaperSize> papers = printer.papers();
+  for (unsigned number = 0; number < printer.combinations(); ++number) {
+    const Choices asked = printer.combination(number);
+    const std::string paper = papers[number % papers.size()].name;
     Dialog dialog({asList(onPaper(asked, paper)), {}, {}});
-    dialog.open(ppd);
+    dialog.open(printer.ppd());
     dialog.expectHeldTogether(asked);
     dialog.expectSettled();
     ASSERT_FALSE(HasFailure()) << "combination " << number << " on " << paper;
@@ -92,26 +121,32 @@ TEST_P(EachKind, AskedIsShownMarkedAndSentForEveryCombination) {
 }
 
 TEST_P(EachKind, PresetsAreShownMarkedAndSentForEveryCombinationAndPaper) {
+  const Printer printer(GetParam());
   Dialog dialog;
-  dialog.open(ppdFor(GetParam().printer));
-  for (const char* paper : kTestPapers)
-    for (unsigned number = 0; number < combinations(GetParam().printer); ++number) {
-      const Choices asked = combination(GetParam().printer, number);
-      ASSERT_TRUE(dialog.model().applyPreset(asList(onPaper(asked, paper))));
+  dialog.open(printer.ppd());
+  for (const PaperSize& paper : printer.papers())
+    for (unsigned number = 0; number < printer.combinations(); ++number) {
+      const Choices asked = printer.combination(number);
+      ASSERT_TRUE(dialog.model().applyPreset(asList(onPaper(asked, paper.name))));
       dialog.expectHeldTogether(asked);
-      ASSERT_FALSE(HasFailure()) << "combination " << number << " on " << paper;
+      ASSERT_FALSE(HasFailure()) << "combination " << number << " on " << paper.name;
     }
 }
 
 TEST_P(EachKind, WantedChoicesComeBackWhenTheRuleThatChangedThemIsGone) {
-  const Kind& kind = GetParam();
+  const Printer printer(GetParam());
   Dialog dialog;
-  dialog.open(ppdFor(kind.printer));
-  for (unsigned number = 0; number < combinations(kind.printer); ++number) {
-    const Choices asked = combination(kind.printer, number);
+  dialog.open(printer.ppd());
+  std::vector<PaperSize> papers = printer.papers();
+  papers.push_back(dialog.model().currentPaper());
+  // Every combination would take long for a printer with all nine options; a step that is no power
+  // of two meets each pair of choices.
+  const unsigned step = printer.combinations() > 100 ? 7 : 1;
+  for (unsigned number = 0; number < printer.combinations(); number += step) {
+    const Choices asked = printer.combination(number);
     ASSERT_TRUE(dialog.model().applyPreset(asList(asked)));
-    for (const char* paper : {"DC38", "HS12", "AV62", "W24"}) {
-      ASSERT_TRUE(dialog.model().setPaper(paper));
+    for (const PaperSize& paper : papers) {
+      ASSERT_TRUE(dialog.model().setPaper(paper.name));
       dialog.expectHeldTogether(asked);
     }
     Choices wanted = asked;
@@ -126,27 +161,28 @@ TEST_P(EachKind, WantedChoicesComeBackWhenTheRuleThatChangedThemIsGone) {
 }
 
 TEST_P(EachKind, EveryPrinterSwitchStartsFromTheNewPrintersOwnOptions) {
+  const Printer printer(GetParam());
+  const Choices saved = printer.combination(0xAA);
   Dialog dialog;
   dialog.open(ppdFor(withDefaultsOn(fullTapePrinter())));
-  const OptionList saved = asList(combination(GetParam().printer, 0xAA));
-  dialog.open(ppdFor(GetParam().printer), saved);
-  dialog.expectHeldTogether({saved.begin(), saved.end()});
+  dialog.open(printer.ppd(), asList(saved));
+  dialog.expectHeldTogether(saved);
   dialog.open(ppdFor(fullTapePrinter()));
   dialog.expectHeldTogether(fullTapePrinter().cutOptions);
+  dialog.open(printer.ppd());
+  dialog.expectHeldTogether(printer.defaults());
 }
 
 TEST_P(EachKind, ASavedPresetOpensAsItWasSaved) {
-  Choices asked = combination(GetParam().printer, 0x155);
-  asked.erase("LxSpecialTape");
-  const std::shared_ptr<PpdFile> ppd = ppdFor(GetParam().printer);
-  Dialog first({asList(asked), 3, {}});
-  first.open(ppd);
+  const Printer printer(GetParam());
+  Dialog first({asList(printer.combination(0x155)), 3, {}});
+  first.open(printer.ppd());
   const Result<OptionList> preset = first.model().savePreset();
   ASSERT_TRUE(preset);
   const Choices before = first.sent();
   first.model().close();
   Dialog second;
-  second.open(ppdFor(GetParam().printer), *preset);
+  second.open(printer.ppd(), *preset);
   EXPECT_EQ(second.sent(), before);
   EXPECT_EQ(second.model().copies(), 3);
 }

@@ -1,0 +1,125 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <vector>
+
+#include "host/core/CommandLine.h"
+
+namespace cutline {
+namespace {
+
+Result<CommandLine> parse(std::vector<const char*> words) {
+  words.insert(words.begin(), "cutline");
+  words.push_back(nullptr);
+  return parseCommandLine(static_cast<int>(words.size()) - 1, words.data());
+}
+
+TEST(CommandLineTest, NothingAsksForTheDialog) {
+  const auto line = parse({});
+  ASSERT_TRUE(line);
+  EXPECT_EQ(line->command, Command::dialog);
+  EXPECT_FALSE(line->file);
+  EXPECT_FALSE(line->destination);
+  EXPECT_FALSE(line->asked.copies);
+}
+
+TEST(CommandLineTest, ReadsWhatLpReads) {
+  const auto line = parse({"-d", "tape24/half", "-n", "3", "-P", "1-2", "-t", "My labels", "-h",
+                           "server:8631", "-E", "-U", "ann", "labels.pdf"});
+  ASSERT_TRUE(line) << line.error().message;
+  EXPECT_EQ(line->destination->printer, "tape24");
+  EXPECT_EQ(line->destination->instance, "half");
+  EXPECT_EQ(line->asked.copies, 3);
+  EXPECT_EQ(line->asked.pageRanges, "1-2");
+  EXPECT_EQ(line->title, "My labels");
+  EXPECT_EQ(line->server.server, "server:8631");
+  EXPECT_TRUE(line->server.encrypt);
+  EXPECT_EQ(line->server.user, "ann");
+  EXPECT_EQ(line->file, "labels.pdf");
+}
+
+TEST(CommandLineTest, OptionsMayStandAfterTheFileAndBeGivenAgain) {
+  const auto line = parse({"labels.pdf", "-o", "LxHalfCut=ON", "-o", "LxHalfCut=OFF"});
+  ASSERT_TRUE(line);
+  EXPECT_EQ(line->file, "labels.pdf");
+  EXPECT_EQ(line->asked.options.back(), (std::pair<std::string, std::string>("LxHalfCut", "OFF")));
+}
+
+TEST(CommandLineTest, OneWordHoldsSeveralOptionsAndQuotes) {
+  const auto line = parse({"-o", "a=b c='d e' landscape nocollate"});
+  ASSERT_TRUE(line);
+  OptionList options = line->asked.options;
+  std::sort(options.begin(), options.end());
+  const OptionList expected = {
+      {"a", "b"}, {"c", "d e"}, {"collate", "false"}, {"landscape", "true"}};
+  EXPECT_EQ(options, expected);
+}
+
+TEST(CommandLineTest, MediaNamesThePageSize) {
+  EXPECT_EQ(parse({"-o", "media=W24"})->asked.options, (OptionList{{"PageSize", "W24"}}));
+  EXPECT_EQ(parse({"-o", "media=W24,Roll"})->asked.options, (OptionList{{"media", "W24,Roll"}}));
+}
+
+TEST(CommandLineTest, CopiesAndPagesAmongTheOptionsTakeTheirOwnPlaces) {
+  const auto line = parse({"-o", "copies=4 page-ranges=2-3"});
+  ASSERT_TRUE(line);
+  EXPECT_EQ(line->asked.copies, 4);
+  EXPECT_EQ(line->asked.pageRanges, "2-3");
+  EXPECT_TRUE(line->asked.options.empty());
+}
+
+TEST(CommandLineTest, EachCommandHasItsOption) {
+  EXPECT_EQ(parse({"--print", "f"})->command, Command::print);
+  EXPECT_EQ(parse({"--summary"})->command, Command::summary);
+  EXPECT_EQ(parse({"--options"})->command, Command::options);
+  EXPECT_EQ(parse({"--list"})->command, Command::list);
+  EXPECT_EQ(parse({"--help"})->command, Command::help);
+  EXPECT_EQ(parse({"--version"})->command, Command::version);
+  const auto snapshot = parse({"--snapshot", "a.png", "--scale", "2", "--dark", "--marks"});
+  ASSERT_TRUE(snapshot);
+  EXPECT_EQ(snapshot->command, Command::snapshot);
+  EXPECT_EQ(snapshot->snapshotPath, "a.png");
+  EXPECT_EQ(snapshot->scale, 2);
+  EXPECT_TRUE(snapshot->dark);
+  EXPECT_TRUE(snapshot->marks);
+}
+
+TEST(CommandLineTest, WrongUsageIsNamed) {
+  const std::vector<std::vector<const char*>> wrong = {{"--foo"},
+                                                       {"-x"},
+                                                       {"-n"},
+                                                       {"-n", "0"},
+                                                       {"-n", "many"},
+                                                       {"-n", "10000"},
+                                                       {"-P", "4-1"},
+                                                       {"-o", ""},
+                                                       {"-d", ""},
+                                                       {"--scale", "3"},
+                                                       {"a", "b"},
+                                                       {"--print", "--summary"},
+                                                       {"--ppd"},
+                                                       {"--ppd", "a.ppd", "--print"},
+                                                       {"-o", "copies=x"},
+                                                       {"--ppd", "a.ppd", "-d", "tape"},
+                                                       {"--ppd", "a.ppd", "--list"}};
+  for (const auto& words : wrong) {
+    const auto line = parse(words);
+    ASSERT_FALSE(line) << words.front();
+    EXPECT_FALSE(line.error().message.empty());
+    EXPECT_EQ(line.error().message.find('\n'), std::string::npos);
+  }
+  EXPECT_NE(parse({"-n"}).error().message.find("-n"), std::string::npos);
+  EXPECT_NE(parse({"--foo"}).error().message.find("--foo"), std::string::npos);
+}
+
+TEST(CommandLineTest, AMinusStandsForStandardInput) { EXPECT_EQ(parse({"-"})->file, "-"); }
+
+TEST(CommandLineTest, TheHelpNamesEveryOption) {
+  for (const char* option : {"-d", "-n", "-P", "-t", "-o", "-h", "-E", "-U", "--ppd", "--print",
+                             "--summary", "--options", "--snapshot", "--scale", "--dark", "--list",
+                             "--plugin-dir", "--help", "--version"})
+    EXPECT_NE(helpText().find(option), std::string::npos) << option;
+}
+
+}  // namespace
+}  // namespace cutline

@@ -1,0 +1,43 @@
+#include <gtest/gtest.h>
+
+#include "host/core/DocumentRenderer.h"
+#include "host/core/Installation.h"
+#include "host/core/Module.h"
+
+namespace cutline {
+namespace {
+
+constexpr char kModule[] = CUTLINE_BUILD_DIR "/tests/modules/PlainModule.so";
+
+TEST(Module, AnswersTheSymbolsAddress) {
+  const auto address = loadModule(kModule, "TestModuleAbi", 7, "TestModuleAnswer");
+  ASSERT_TRUE(address) << address.error().message;
+  EXPECT_EQ(reinterpret_cast<int (*)()>(*address)(), 42);
+}
+
+TEST(Module, RefusesAnotherAbi) {
+  EXPECT_FALSE(loadModule(kModule, "TestModuleAbi", 8, "TestModuleAnswer"));
+}
+
+TEST(Module, RefusesAMissingSymbol) {
+  EXPECT_FALSE(loadModule(kModule, "NoSuchAbi", 7, "TestModuleAnswer"));
+  EXPECT_FALSE(loadModule(kModule, "TestModuleAbi", 7, "NoSuchAnswer"));
+}
+
+TEST(Module, AMissingModuleIsNamed) {
+  const Installation empty("/nonexistent");
+  const auto renderer = loadDocumentRenderer(empty);
+  ASSERT_FALSE(renderer);
+  EXPECT_NE(renderer.error().message.find(kDocumentModuleName), std::string::npos);
+}
+
+TEST(Installation, IsFoundFromTheProgramsOwnPlace) {
+  const Installation installation = Installation::ofThisProgram();
+  EXPECT_EQ(installation.prefix(), CUTLINE_BUILD_DIR);
+  EXPECT_EQ(installation.modulePath("x.so"), CUTLINE_BUILD_DIR "/lib/cutline/x.so");
+  EXPECT_EQ(installation.plugInDirectory(), CUTLINE_BUILD_DIR "/lib/cutline/plugins");
+  EXPECT_EQ(installation.sampleDirectory(), CUTLINE_BUILD_DIR "/share/cutline/samples");
+}
+
+}  // namespace
+}  // namespace cutline

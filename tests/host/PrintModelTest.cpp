@@ -1,0 +1,356 @@
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "host/core/HostPlatform.h"
+#include "host/core/PrintModel.h"
+#include "plain/PlainToolkit.h"
+#include "platform/PDEPluginCallback13_v400_.h"
+#include "tests/host/PpdText.h"
+
+namespace cutline {
+namespace {
+
+using Log = std::vector<std::string>;
+
+// A panel that writes down what it is asked.
+class ScriptedPanel final : public PrintDialogPanel {
+ public:
+  ScriptedPanel(std::string name, KeywordList keywords, Log& log)
+      : mName(std::move(name)), mKeywords(std::move(keywords)), mLog(log) {}
+  ~ScriptedPanel() override { note("gone"); }
+
+  std::shared_ptr<View> panelView() noexcept override {
+    note("panelView");
+    return std::make_shared<PlainView>(Rect{});
+  }
+  std::string panelName() noexcept override { return mName; }
+  std::string panelKind() noexcept override { return "org.cutline.test"; }
+  std::shared_ptr<const KeywordList> supportedPPDOptionKeys() noexcept override {
+    note("supportedPPDOptionKeys");
+    return std::make_shared<const KeywordList>(mKeywords);
+  }
+  void printWindowWillClose() noexcept override { note("printWindowWillClose"); }
+  void willShow() noexcept override { note("willShow"); }
+  bool shouldHide() noexcept override { return true; }
+  bool shouldPrint() noexcept override {
+    note("shouldPrint");
+    return agrees;
+  }
+  bool shouldShowHelp() noexcept override { return false; }
+  void PPDOptionKeyValueDidChange(const std::optional<std::string>& key,
+                                  const std::optional<std::string>& choice) noexcept override {
+    note("didChange " + key.value_or("") + "=" + choice.value_or(""));
+  }
+  bool restoreValuesAndReturnError(std::string*) noexcept override {
+    note("restore");
+    return true;
+  }
+  bool saveValuesAndReturnError(std::string*) noexcept override {
+    note("save");
+    return true;
+  }
+  std::shared_ptr<SummaryInfo> summaryInfo() noexcept override { return summary; }
+
+  bool agrees = true;
+  std::shared_ptr<SummaryInfo> summary;
+
+ private:
+  void note(const std::string& what) { mLog.push_back(mName + ": " + what); }
+
+  std::string mName;
+  KeywordList mKeywords;
+  Log& mLog;
+};
+
+struct ScriptedPlugIn final : public PrintDialogPlugIn {
+  bool initWithBundle(Bundle*) noexcept override { return true; }
+  std::shared_ptr<PanelList> PDEPanelsForType(
+      const std::string& type,
+      const std::shared_ptr<PDEPluginCallback13_v400_>& hostInfo) noexcept override {
+    EXPECT_EQ(type, kPrintDialogPanelType);
+    host = hostInfo;
+    return std::make_shared<PanelList>(PanelList{panel});
+  }
+  std::shared_ptr<ScriptedPanel> panel;
+  std::shared_ptr<PDEPluginCallback13_v400_> host;
+};
+
+struct ScriptedSource final : public PanelSource {
+  std::vector<std::shared_ptr<PrintDialogPlugIn>> plugInsForPpd(const PpdFile&) noexcept override {
+    return {plugIns.begin(), plugIns.end()};
+  }
+  std::vector<std::shared_ptr<ScriptedPlugIn>> plugIns;
+};
+
+class RecordingListener final : public PrintModelListener {
+ public:
+  void modelDidChange(ModelChange what) override { changes.insert(what); }
+  std::set<ModelChange> changes;
+};
+
+class PrintModelTest : public testing::Test {
+ protected:
+  PrintModelTest() : mPlatform(mToolkit) {
+    addPlugIn("first", {"LxHalfCut"});
+    addPlugIn("second", {"LxMirror"});
+  }
+
+  void addPlugIn(const std::string& name, const KeywordList& keywords) {
+    auto plugIn = std::make_shared<ScriptedPlugIn>();
+    plugIn->panel = std::make_shared<ScriptedPanel>(name, keywords, mLog);
+    mSource.plugIns.push_back(plugIn);
+  }
+
+  std::unique_ptr<PrintModel> open(const AskedSettings& asked = {}, const OptionList& saved = {}) {
+    auto model = std::make_unique<PrintModel>(mSource, asked);
+    Destination destination;
+    destination.name.printer = "test";
+    destination.savedOptions = saved;
+    model->openPrinter({destination, mPpd});
+    return model;
+  }
+
+  Log notesOf(const std::string& name) const {
+    Log notes;
+    for (const std::string& note : mLog)
+      if (note.starts_with(name + ": ")) notes.push_back(note.substr(name.size() + 2));
+    return notes;
+  }
+
+  static std::string valueOf(const OptionList& options, const std::string& name) {
+    for (const auto& [known, value] : options)
+      if (known == name) return value;
+    return "absent";
+  }
+
+  Log mLog;
+  PlainToolkit mToolkit;
+  HostPlatform mPlatform;
+  ScriptedSource mSource;
+  std::shared_ptr<PpdFile> mPpd = ppdFor(fullTapePrinter());
+};
+
+TEST_F(PrintModelTest, AsksForKeywordsThenTheViewThenShowsRestoresAndSaves) {
+  const auto model = open();
+  const Log expected = {"supportedPPDOptionKeys", "panelView", "willShow", "restore", "save"};
+  EXPECT_EQ(notesOf("first"), expected);
+}
+
+TEST_F(PrintModelTest, AChangeIsMarkedAndReportedToTheOtherPanelsOnly) {
+  const auto model = open();
+  mLog.clear();
+  mSource.plugIns[0]->host->willChangePPDOptionKeyValue("LxHalfCut", "ON");
+  EXPECT_EQ(mPpd->markedChoice("LxHalfCut"), "ON");
+  EXPECT_TRUE(notesOf("first").empty());
+  EXPECT_EQ(notesOf("second"), Log{"didChange LxHalfCut=ON"});
+}
+
+TEST_F(PrintModelTest, AChangeWithoutAChoiceMarksNothing) {
+  const auto model = open();
+  mLog.clear();
+  mSource.plugIns[0]->host->willChangePPDOptionKeyValue("LxHalfCut", std::nullopt);
+  EXPECT_EQ(mPpd->markedChoice("LxHalfCut"), "OFF");
+  EXPECT_TRUE(mLog.empty());
+}
+
+TEST_F(PrintModelTest, ThePanelsObjectsAreNeverNull) {
+  const auto model = open();
+  PDEPluginCallback13_v400_& host = *mSource.plugIns[0]->host;
+  EXPECT_NE(host.printSession(), nullptr);
+  EXPECT_NE(host.printSettings(), nullptr);
+  EXPECT_NE(host.pageFormat(), nullptr);
+  EXPECT_NE(host.PMPrinter(), nullptr);
+  EXPECT_EQ(host.ppdFile(), mPpd->get());
+}
+
+TEST_F(PrintModelTest, APanelThatOutlivesTheDialogChangesNothing) {
+  open();
+  mLog.clear();
+  mSource.plugIns[0]->host->willChangePPDOptionKeyValue("LxHalfCut", "ON");
+  mSource.plugIns[0]->host->panelViewDidResize();
+  EXPECT_EQ(mPpd->markedChoice("LxHalfCut"), "OFF");
+  EXPECT_TRUE(mLog.empty());
+}
+
+TEST_F(PrintModelTest, TheOldPpdOutlivesAPanelThatSomebodyKeeps) {
+  const std::weak_ptr<PpdFile> watched = mPpd;
+  auto model = open();
+  mPpd = ppdFor(fullTapePrinter());
+  auto kept = mSource.plugIns[0]->host;
+  Destination other;
+  other.name.printer = "other";
+  model->openPrinter({other, mPpd});
+  EXPECT_FALSE(watched.expired());
+  EXPECT_NE(kept->ppdFile(), nullptr);
+  kept = nullptr;
+  EXPECT_TRUE(watched.expired());
+}
+
+TEST_F(PrintModelTest, ARefusalToPrintNamesThePanel) {
+  const auto model = open();
+  mSource.plugIns[1]->panel->agrees = false;
+  const auto options = model->prepareToPrint();
+  ASSERT_FALSE(options);
+  EXPECT_NE(options.error().message.find("second"), std::string::npos);
+}
+
+TEST_F(PrintModelTest, EveryPanelIsAskedAndSavesBeforePrinting) {
+  const auto model = open();
+  mLog.clear();
+  ASSERT_TRUE(model->prepareToPrint());
+  const Log expected = {"shouldPrint", "save"};
+  EXPECT_EQ(notesOf("first"), expected);
+  EXPECT_EQ(notesOf("second"), expected);
+}
+
+TEST_F(PrintModelTest, WithoutAQueueNothingIsPrinted) {
+  PrintModel model(mSource, {});
+  model.openPrinter({Destination{}, mPpd});
+  EXPECT_FALSE(model.hasQueue());
+  EXPECT_FALSE(model.prepareToPrint());
+}
+
+TEST_F(PrintModelTest, PanelsAreToldThatTheDialogCloses) {
+  auto model = open();
+  mLog.clear();
+  model->close();
+  EXPECT_EQ(notesOf("first"), Log{"printWindowWillClose"});
+  EXPECT_FALSE(model->isOpen());
+}
+
+TEST_F(PrintModelTest, APaperChangeIsMarkedReportedAndTold) {
+  const auto model = open();
+  RecordingListener listener;
+  model->setListener(&listener);
+  ASSERT_TRUE(model->setPaper("W24"));
+  EXPECT_EQ(model->currentPaper().name, "W24");
+  EXPECT_TRUE(listener.changes.contains(ModelChange::paper));
+  EXPECT_TRUE(listener.changes.contains(ModelChange::options));
+  EXPECT_FALSE(model->setPaper("A4"));
+  EXPECT_EQ(valueOf(model->jobOptions(), "PageSize"), "W24");
+}
+
+TEST_F(PrintModelTest, TheLayoutIsRelayed) {
+  const auto model = open();
+  RecordingListener listener;
+  model->setListener(&listener);
+  PDEPluginCallback13_v400_& host = *mSource.plugIns[0]->host;
+  EXPECT_TRUE(host.respondsToPanelViewDidResize());
+  host.panelViewDidResize();
+  EXPECT_EQ(listener.changes, std::set<ModelChange>{ModelChange::layout});
+}
+
+TEST_F(PrintModelTest, OnlyOptionsThatNoPanelDeclaredAreGenerated) {
+  const auto model = open();
+  std::set<std::string> keywords;
+  for (const GeneratedGroup& group : model->generatedOptions())
+    for (const GeneratedOption& option : group.options) keywords.insert(option.option.keyword);
+  EXPECT_TRUE(keywords.contains("LxChainPrint"));
+  for (const char* other : {"LxHalfCut", "LxMirror", "PageSize", "PageRegion"})
+    EXPECT_FALSE(keywords.contains(other)) << other;
+}
+
+TEST_F(PrintModelTest, AGeneratedOptionIsMarkedReportedAndSent) {
+  const auto model = open();
+  mLog.clear();
+  ASSERT_TRUE(model->setOption("lxchainprint", "ON"));
+  EXPECT_EQ(notesOf("first"), Log{"didChange LxChainPrint=ON"});
+  EXPECT_EQ(valueOf(model->jobOptions(), "LxChainPrint"), "ON");
+  EXPECT_FALSE(model->setOption("LxChainPrint", "MAYBE"));
+  EXPECT_FALSE(model->setOption("LxNothing", "ON"));
+}
+
+TEST_F(PrintModelTest, CopiesAndPagesAreCheckedAndSent) {
+  const auto model = open();
+  EXPECT_EQ(valueOf(model->jobOptions(), "copies"), "1");
+  EXPECT_EQ(valueOf(model->jobOptions(), "page-ranges"), "absent");
+  EXPECT_TRUE(model->setCopies(9999));
+  EXPECT_FALSE(model->setCopies(0));
+  EXPECT_FALSE(model->setCopies(10000));
+  EXPECT_TRUE(model->setPageRanges("1 - 4"));
+  EXPECT_FALSE(model->setPageRanges("4-1"));
+  EXPECT_EQ(valueOf(model->jobOptions(), "copies"), "9999");
+  EXPECT_EQ(valueOf(model->jobOptions(), "page-ranges"), "1-4");
+}
+
+TEST_F(PrintModelTest, SavedCopiesAndPagesStandWhereNoneWereAskedFor) {
+  const OptionList saved = {{"copies", "5"}, {"page-ranges", "2"}};
+  EXPECT_EQ(open({}, saved)->copies(), 5);
+  EXPECT_EQ(open({}, saved)->pageRanges(), "2");
+  EXPECT_EQ(open({{}, 2, "1"}, saved)->copies(), 2);
+  EXPECT_EQ(open({{}, 2, "1"}, saved)->pageRanges(), "1");
+}
+
+TEST_F(PrintModelTest, OptionsBesideThePpdAreSentAsTheyWereGiven) {
+  const auto model =
+      open({{{"job-priority", "70"}}, {}, {}}, {{"job-priority", "30"}, {"fit-to-page", "true"}});
+  EXPECT_EQ(valueOf(model->jobOptions(), "job-priority"), "70");
+  EXPECT_EQ(valueOf(model->jobOptions(), "fit-to-page"), "true");
+}
+
+TEST_F(PrintModelTest, EveryCutOptionIsSentAlsoAtItsDefault) {
+  const OptionList options = open()->jobOptions();
+  for (const auto& [keyword, choice] : fullTapePrinter().cutOptions)
+    EXPECT_EQ(valueOf(options, keyword), choice);
+}
+
+TEST_F(PrintModelTest, OtherOptionsAreSentWhenTheyDifferOrWereAskedFor) {
+  TestPrinter printer = fullTapePrinter();
+  printer.more =
+      "*OpenUI *Speed: PickOne\n*DefaultSpeed: Slow\n*Speed Slow: \"\"\n*Speed Fast: \"\"\n"
+      "*CloseUI: *Speed\n";
+  mPpd = ppdFor(printer);
+  EXPECT_EQ(valueOf(open()->jobOptions(), "Speed"), "absent");
+  EXPECT_EQ(valueOf(open({{{"Speed", "Slow"}}, {}, {}})->jobOptions(), "Speed"), "Slow");
+  EXPECT_EQ(valueOf(open({{{"speed", "fast"}}, {}, {}})->jobOptions(), "Speed"), "Fast");
+}
+
+TEST_F(PrintModelTest, TheSummaryFollowsThePanelsOwnOrder) {
+  const auto model = open();
+  auto summary = std::make_shared<SummaryInfo>();
+  (*summary)["A"] = std::string("1");
+  (*summary)["B"] = std::string("2");
+  (*summary)[kSummaryDisplayOrderKey] = std::vector<std::string>{"B", "A"};
+  mSource.plugIns[0]->panel->summary = summary;
+  const std::vector<SummaryLine> lines = model->summary();
+  ASSERT_EQ(lines.size(), 2U);
+  EXPECT_EQ(lines[0].title + lines[0].value, "B2");
+  EXPECT_EQ(lines[1].title + lines[1].value, "A1");
+}
+
+class Constrained : public PrintModelTest {
+ protected:
+  Constrained() {
+    TestPrinter printer = fullTapePrinter();
+    printer.more =
+        "*OpenUI *Speed: PickOne\n*DefaultSpeed: Slow\n*Speed Slow: \"\"\n*Speed Fast: \"\"\n"
+        "*CloseUI: *Speed\n*UIConstraints: *Speed Fast *LxChainPrint ON\n"
+        "*UIConstraints: *LxChainPrint ON *Speed Fast\n";
+    mPpd = ppdFor(printer);
+  }
+};
+
+TEST_F(Constrained, ConflictsAreNamedInWords) {
+  const auto model = open();
+  EXPECT_TRUE(model->conflicts().empty());
+  ASSERT_TRUE(model->setOption("Speed", "Fast"));
+  ASSERT_TRUE(model->setOption("LxChainPrint", "ON"));
+  ASSERT_EQ(model->conflicts().size(), 1U);
+  for (const char* part : {"Speed", "Fast", "ChainPrint", "On"})
+    EXPECT_NE(model->conflicts().front().find(part), std::string::npos)
+        << model->conflicts().front();
+}
+
+TEST_F(Constrained, TheOptionThatWasChosenLastStays) {
+  const auto model = open();
+  ASSERT_TRUE(model->setOption("Speed", "Fast"));
+  ASSERT_TRUE(model->setOption("LxChainPrint", "ON"));
+  ASSERT_TRUE(model->resolveConflicts());
+  EXPECT_TRUE(model->conflicts().empty());
+  EXPECT_EQ(mPpd->markedChoice("LxChainPrint"), "ON");
+  EXPECT_EQ(mPpd->markedChoice("Speed"), "Slow");
+}
+
+}  // namespace
+}  // namespace cutline

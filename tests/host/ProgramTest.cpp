@@ -1,0 +1,188 @@
+// The real program, as a shell would run it.
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <sstream>
+
+#include "tests/host/PpdText.h"
+#include "tests/host/TemporaryDirectory.h"
+
+namespace cutline {
+namespace {
+
+struct Outcome {
+  int status;
+  std::string out;
+  std::string err;
+};
+
+class Program : public testing::Test {
+ protected:
+  Program() {
+    writePpd("tape.ppd", fullTapePrinter());
+    std::ofstream(file("labels.txt")) << "label\n";
+  }
+
+  void writePpd(const std::string& name, const TestPrinter& printer) {
+    std::ofstream(file(name)) << ppdText(printer);
+  }
+
+  std::string file(const std::string& name) const { return mDirectory.path() + "/" + name; }
+
+  // `words` as typed in a shell; the print server is one that does not run.
+  Outcome run(const std::string& words, const std::string& environment = "") const {
+    const std::string command =
+        "cd " + mDirectory.path() + " && HOME=. CUPS_SERVER=" + file("no.sock") + " " +
+        environment + " " CUTLINE_BUILD_DIR "/bin/cutline " + words + " >out 2>err </dev/null";
+    const int status = std::system(command.c_str());
+    return {WEXITSTATUS(status), contents("out"), contents("err")};
+  }
+
+  std::string contents(const std::string& name) const {
+    std::ostringstream text;
+    text << std::ifstream(file(name)).rdbuf();
+    return text.str();
+  }
+
+  static std::map<std::string, std::string> pairs(const std::string& text) {
+    std::map<std::string, std::string> pairs;
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);)
+      pairs[line.substr(0, line.find('='))] = line.substr(line.find('=') + 1);
+    return pairs;
+  }
+
+  // One line "cutline: ..." on standard error, nothing on standard output.
+  static void expectError(const Outcome& outcome, int status, const std::string& part) {
+    EXPECT_EQ(outcome.status, status) << outcome.err;
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_TRUE(outcome.err.starts_with("cutline: ")) << outcome.err;
+    EXPECT_EQ(std::count(outcome.err.begin(), outcome.err.end(), '\n'), 1) << outcome.err;
+    EXPECT_NE(outcome.err.find(part), std::string::npos) << outcome.err;
+  }
+
+  TemporaryDirectory mDirectory;
+};
+
+TEST_F(Program, ShowsWhatWouldBeSent) {
+  const Outcome outcome = run("--ppd tape.ppd --options -n 2 -P 1-3 -o 'LxHalfCut=ON media=W24'");
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.err, "");
+  auto sent = pairs(outcome.out);
+  EXPECT_EQ(sent["LxHalfCut"], "ON");
+  EXPECT_EQ(sent["LxMirror"], "OFF");
+  EXPECT_EQ(sent["LxCutLabel"], "1");
+  EXPECT_EQ(sent["PageSize"], "W24");
+  EXPECT_EQ(sent["copies"], "2");
+  EXPECT_EQ(sent["page-ranges"], "1-3");
+}
+
+TEST_F(Program, ShowsTheSummaryInDisplayOrder) {
+  const Outcome outcome = run("--ppd tape.ppd --summary -o LxHalfCut=ON");
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.err, "");
+  std::istringstream lines(outcome.out);
+  std::vector<std::string> summary;
+  for (std::string line; std::getline(lines, line);) summary.push_back(line);
+  ASSERT_EQ(summary.size(), 8U) << outcome.out;
+  for (const std::string& line : summary) EXPECT_NE(line.find(": "), std::string::npos) << line;
+  EXPECT_TRUE(summary[2].ends_with(": Yes")) << summary[2];
+  EXPECT_TRUE(summary[3].ends_with(": No")) << summary[3];
+}
+
+TEST_F(Program, NamesOnStandardErrorWhatTheRulesChange) {
+  for (const char* command : {"--options", "--summary"}) {
+    const Outcome outcome =
+        run(std::string("--ppd tape.ppd -o 'LxSpecialTape=ON LxHalfCut=ON' ") + command);
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_TRUE(outcome.err.starts_with("cutline: ")) << outcome.err;
+    EXPECT_NE(outcome.err.find("HalfCut"), std::string::npos) << outcome.err;
+    EXPECT_NE(outcome.err.find("special tape"), std::string::npos) << outcome.err;
+  }
+}
+
+TEST_F(Program, AnUnknownChoiceListsTheChoices) {
+  expectError(run("--ppd tape.ppd --options -o LxHalfCut=MAYBE"), 1, "OFF, ON");
+}
+
+TEST_F(Program, AnUnknownOptionNamesNearOnes) {
+  expectError(run("--ppd tape.ppd --options -o LxHalfCat=ON"), 1, "LxHalfCut");
+}
+
+TEST_F(Program, WrongUsageIsStatusTwo) {
+  expectError(run("--nonsense"), 2, "--nonsense");
+  expectError(run("-n 0"), 2, "copies");
+  expectError(run("--ppd tape.ppd --print labels.txt"), 2, "--ppd");
+}
+
+TEST_F(Program, AnUnreadablePpdIsNamed) {
+  expectError(run("--ppd missing.ppd --options"), 1, "missing.ppd");
+  expectError(run("--ppd labels.txt --options"), 1, "labels.txt");
+}
+
+TEST_F(Program, AnUnreadableDocumentIsNamedBeforeTheServerIsAsked) {
+  expectError(run("-d tape --print missing.pdf"), 1, "missing.pdf");
+  expectError(run("-d tape --print ."), 1, "is no document");
+  std::ofstream(file("empty.pdf"));
+  expectError(run("-d tape --print empty.pdf"), 1, "empty");
+}
+
+TEST_F(Program, StandardInputIsReadWhenNoDocumentIsNamed) {
+  expectError(run("-d tape --print"), 1, "standard input is empty");
+  expectError(run("-d tape --print -"), 1, "standard input is empty");
+}
+
+TEST_F(Program, ASpooledDocumentLeavesNothingBehind) {
+  const std::string temporary = file("tmp");
+  std::filesystem::create_directory(temporary);
+  const std::string command = "cd " + mDirectory.path() + " && echo text | TMPDIR=" + temporary +
+                              " CUPS_SERVER=" + file("no.sock") +
+                              " " CUTLINE_BUILD_DIR "/bin/cutline -d tape --print 2>err";
+  EXPECT_EQ(WEXITSTATUS(std::system(command.c_str())), 1);
+  EXPECT_NE(contents("err").find("server"), std::string::npos) << contents("err");
+  EXPECT_TRUE(std::filesystem::is_empty(temporary));
+}
+
+TEST_F(Program, NoServerIsAClearLine) {
+  expectError(run("-d tape --print labels.txt"), 1, "server");
+  expectError(run("--list"), 1, "server");
+  expectError(run("-d tape --options"), 1, "server");
+}
+
+TEST_F(Program, HelpAndVersionGoToStandardOutput) {
+  EXPECT_TRUE(run("--help").out.starts_with("Usage: cutline"));
+  EXPECT_TRUE(run("--version").out.starts_with("cutline "));
+  EXPECT_EQ(run("--help").status, 0);
+}
+
+TEST_F(Program, CommandsWithoutAWindowLoadNoGuiLibrary) {
+  const Outcome outcome = run("--ppd tape.ppd --options", "LD_DEBUG=files");
+  EXPECT_NE(outcome.err.find("libcutline-host.so"), std::string::npos);
+  EXPECT_NE(outcome.err.find("/proc/self/fd/"), std::string::npos) << "no bundle was loaded";
+  for (const char* library : {"libQt", "libpoppler", "libX11", "libwayland", "cutline-dialog"})
+    EXPECT_EQ(outcome.err.find(library), std::string::npos) << library;
+}
+
+TEST_F(Program, AnotherDirectoryOfPanelsIsLookedAtFirst) {
+  std::filesystem::create_directories(file("panels/CutOptions.plugin"));
+  const Outcome outcome = run("--ppd tape.ppd --options --plugin-dir panels");
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_NE(outcome.err.find("panels/CutOptions.plugin"), std::string::npos) << outcome.err;
+  EXPECT_EQ(pairs(outcome.out)["LxHalfCut"], "OFF") << "options are sent without a panel too";
+}
+
+TEST_F(Program, APrinterWithoutCutOptionsHasNoPanelAndNoCutOptions) {
+  writePpd("plain.ppd", TestPrinter());
+  const Outcome outcome = run("--ppd plain.ppd --options");
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.err, "");
+  EXPECT_EQ(outcome.out, "PageSize=W12\ncopies=1\n");
+  EXPECT_EQ(run("--ppd plain.ppd --summary").out, "");
+}
+
+}  // namespace
+}  // namespace cutline
