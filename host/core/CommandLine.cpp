@@ -122,7 +122,7 @@ Problem addOptions(CommandLine& line, const std::string& text) {
   const OptionList options = CupsOptions::parse(text.c_str()).list();
   if (options.empty()) return "-o needs NAME=VALUE, not \"" + text + "\"";
   for (const auto& [name, value] : options)
-    if (const Problem problem = setOption(line, name, value)) return problem;
+    if (Problem problem = setOption(line, name, value)) return problem;
   return std::nullopt;
 }
 
@@ -232,11 +232,11 @@ Result<CommandLine> parseCommandLine(int argc, const char* const* argv) {
     if (option == '?' || option == ':') return Error{complaint(option, words[optind - 1])};
     if (option == kHelp) return only(Command::help);
     if (option == kVersion) return only(Command::version);
-    if (const Problem problem = apply(line, option, optarg != nullptr ? optarg : ""))
+    if (Problem problem = apply(line, option, optarg != nullptr ? optarg : ""))
       return Error{*problem};
   }
-  if (const Problem problem = setFile(line, {words + optind, words + argc})) return Error{*problem};
-  if (const Problem problem = checkTogether(line)) return Error{*problem};
+  if (Problem problem = setFile(line, {words + optind, words + argc})) return Error{*problem};
+  if (Problem problem = checkTogether(line)) return Error{*problem};
   return line;
 }
 

@@ -62,7 +62,7 @@ struct Streams {
 
 Result<Done> showSummary(const CommandLine& line, PluginLoader& plugIns, const Streams& streams) {
   Session session(line, plugIns, streams.notes);
-  const Result<Done> opened = session.openSelected();
+  Result<Done> opened = session.openSelected();
   if (!opened) return opened;
   for (const SummaryLine& entry : session.model().summary())
     streams.out << entry.title << ": " << entry.value << "\n";
@@ -71,7 +71,7 @@ Result<Done> showSummary(const CommandLine& line, PluginLoader& plugIns, const S
 
 Result<Done> showOptions(const CommandLine& line, PluginLoader& plugIns, const Streams& streams) {
   Session session(line, plugIns, streams.notes);
-  const Result<Done> opened = session.openSelected();
+  Result<Done> opened = session.openSelected();
   if (!opened) return opened;
   for (const auto& [name, value] : session.model().jobOptions())
     streams.out << name << "=" << value << "\n";
@@ -93,10 +93,10 @@ std::string titleOf(const CommandLine& line) {
 }
 
 Result<Done> print(const CommandLine& line, PluginLoader& plugIns, const Streams& streams) {
-  const Result<Done> readable = checkDocument(*line.file);
+  Result<Done> readable = checkDocument(*line.file);
   if (!readable) return readable;
   Session session(line, plugIns, streams.notes);
-  const Result<Done> opened = session.openSelected();
+  Result<Done> opened = session.openSelected();
   if (!opened) return opened;
   const Result<OptionList> options = session.model().prepareToPrint();
   if (!options) return options.error();

@@ -177,7 +177,7 @@ void OpenPrinter::save() {
 
 Result<Done> OpenPrinter::askToPrint() {
   const HostCall call(*this);
-  const Result<Done> answer = mPanels->askToPrint();
+  Result<Done> answer = mPanels->askToPrint();
   if (!answer) return answer;
   settle();
   return Done{};

@@ -138,7 +138,7 @@ Result<Done> checkOption(const PpdFile& ppd, const OptionTable& table, const std
 Result<Done> checkOptions(const PpdFile& ppd, const OptionList& options) {
   const OptionTable table(ppd);
   for (const auto& [name, value] : options)
-    if (const Result<Done> checked = checkOption(ppd, table, name, value); !checked) return checked;
+    if (Result<Done> checked = checkOption(ppd, table, name, value); !checked) return checked;
   return Done{};
 }
 

@@ -117,7 +117,7 @@ std::vector<GeneratedGroup> PrintModel::generatedOptions() const {
 Result<Done> PrintModel::setOption(const std::string& keyword, const std::string& choice) {
   const PpdOption* option = mPrinter->options().find(keyword);
   if (option == nullptr) return Error{"this printer has no option \"" + keyword + "\""};
-  if (const Result<Done> known = mPrinter->ppd().checkChoice(keyword, choice); !known) return known;
+  if (Result<Done> known = mPrinter->ppd().checkChoice(keyword, choice); !known) return known;
   if (option->keyword == "PageSize") return setPaper(choice);
   mPrinter->chooseOption(option->keyword, choice);
   tell(ModelChange::options);
@@ -158,7 +158,7 @@ std::vector<Deviation> PrintModel::deviations() const { return mPrinter->deviati
 std::vector<std::string> PrintModel::conflicts() const { return conflictSentences(*mPrinter); }
 
 Result<Done> PrintModel::resolveConflicts() {
-  const Result<Done> resolved = cutline::resolveConflicts(*mPrinter);
+  Result<Done> resolved = cutline::resolveConflicts(*mPrinter);
   tell(ModelChange::paper);
   tell(ModelChange::options);
   return resolved;

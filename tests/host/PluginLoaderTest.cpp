@@ -22,7 +22,7 @@ class PluginLoaderTest : public testing::Test {
  protected:
   // Puts a whole bundle together; answers its path.
   fs::path makeBundle(const std::string& module, const std::string& name = "Test") {
-    const fs::path bundle = mDirectory.path() + "/" + name + ".plugin";
+    fs::path bundle = mDirectory.path() + "/" + name + ".plugin";
     fs::create_directories(bundle / "Contents/Resources");
     fs::create_directories(code(bundle).parent_path());
     std::ofstream(bundle / "Contents/Info.plist") << kInfo;

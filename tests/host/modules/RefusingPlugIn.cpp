@@ -1,4 +1,6 @@
 // A plug-in that refuses every system.
+#include <new>
+
 #include "platform/PrintDialogPlugIn.h"
 
 namespace {
@@ -13,7 +15,7 @@ class PlugIn final : public cutline::PrintDialogPlugIn {
   }
 };
 
-cutline::PrintDialogPlugIn* create() noexcept { return new PlugIn; }
+cutline::PrintDialogPlugIn* create() noexcept { return new (std::nothrow) PlugIn; }
 void destroy(cutline::PrintDialogPlugIn* plugIn) noexcept { delete plugIn; }
 
 }  // namespace
