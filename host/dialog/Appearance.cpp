@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <array>
 
+#include "host/dialog/OutlinedStyle.h"
+
 namespace cutline {
 namespace {
 
@@ -48,7 +50,7 @@ constexpr auto kDark = std::to_array<Colour>({
     {QPalette::BrightText, 0xffffffff, 0xffffffff},
     {QPalette::Light, 0xff4a4f55, 0xff4a4f55},
     {QPalette::Midlight, 0xff40454a, 0xff40454a},
-    {QPalette::Mid, 0xff5a6066, 0xff4a4f55},
+    {QPalette::Mid, 0xff858c93, 0xff5a6066},
     {QPalette::Dark, 0xff131517, 0xff131517},
     {QPalette::Shadow, 0xff08090a, 0xff08090a},
     {QPalette::Highlight, 0xff4c94e6, 0xff44515e},
@@ -77,6 +79,8 @@ QPalette darkPalette() { return paletteOf(kDark); }
 bool isDark(const QPalette& palette) {
   return palette.color(QPalette::Window).lightness() < kMiddleLightness;
 }
+
+void applyStyle() { QApplication::setStyle(new OutlinedStyle); }
 
 void applyAppearance(bool dark) {
   const bool useDark = dark || isDark(QApplication::palette());

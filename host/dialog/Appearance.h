@@ -10,6 +10,9 @@ QPalette darkPalette();
 
 bool isDark(const QPalette& palette);
 
+// The style of the whole program. Before the application is made it spares the loading of another.
+void applyStyle();
+
 // The palette of the whole program: dark when asked for, or when the desktop's own colours are
 // dark; light otherwise.
 void applyAppearance(bool dark);

@@ -57,7 +57,7 @@ int runDialog(const DialogRequest& request) {
   int argc = 1;
   char name[] = "cutline";
   char* argv[] = {name, nullptr};
-  QApplication::setStyle(QStringLiteral("fusion"));
+  applyStyle();
   const QApplication application(argc, argv);
   if (line.marks) printMark("qapp");
   applyAppearance(line.dark);

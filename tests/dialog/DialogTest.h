@@ -1,0 +1,88 @@
+// The print dialog with the real cut panel on a sample printer, a fake server, and a user's hands.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "host/core/HostPlatform.h"
+#include "host/core/PluginLoader.h"
+#include "host/core/PrintModel.h"
+#include "host/dialog/PrintDialog.h"
+#include "platform/View.h"
+#include "qt/QtToolkit.h"
+#include "tests/dialog/FakePrintServer.h"
+
+namespace cutline {
+
+// Paths of PPD files: samples for users, and odd ones for tests.
+std::string samplePpd(const std::string& name);
+std::string oddPpd(const std::string& name);
+
+// Runs the event loop until the condition holds; false after five seconds.
+bool waitUntil(const std::function<bool()>& condition);
+
+class DialogTest : public testing::Test {
+ protected:
+  DialogTest();
+  ~DialogTest() override;
+
+  // A dialog on the queue "tape" with this PPD, shown; the document is three empty pages.
+  void openQueue(const std::string& ppdPath, const AskedSettings& asked = {});
+  // The same on the PPD alone.
+  void openPpd(const std::string& ppdPath, const AskedSettings& asked = {});
+  void setOpener(DocumentLoader::Opener opener) { mOpener = std::move(opener); }
+
+  PrintDialog& dialog() { return *mDialog; }
+  PrintModel& model() { return *mModel; }
+  FakePrintServer& server() { return *mServer; }
+  void closeDialog();
+
+  // The shown control of this kind and accessible name; fails the test when there is none.
+  template <class Widget>
+  Widget* named(const char* accessibleName) {
+    for (Widget* widget : mDialog->findChildren<Widget*>()) {
+      if (widget->accessibleName() == QLatin1String(accessibleName)) return widget;
+    }
+    ADD_FAILURE() << "no control is called " << accessibleName;
+    return nullptr;
+  }
+  template <class Button>
+  Button* buttonWithText(const char* text) {
+    for (Button* button : mDialog->findChildren<Button*>()) {
+      if (button->text() == QLatin1String(text)) return button;
+    }
+    ADD_FAILURE() << "no button says " << text;
+    return nullptr;
+  }
+  // The panel's check box for a PPD option.
+  QWidget* box(const std::string& keyword);
+  void click(QWidget* widget);
+  void press(QWidget* widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+  // Every text that a shown label has.
+  QStringList shownTexts() const;
+  bool shows(const QString& part) const;
+  std::map<std::string, std::string> sent() const;
+  bool waitForClose();
+
+ private:
+  void makeDialog(const PrinterChoice& choice, const AskedSettings& asked);
+
+  QtToolkit mToolkit;
+  HostPlatform mPlatform;
+  std::shared_ptr<FakePrintServer> mServer = std::make_shared<FakePrintServer>();
+  DocumentLoader::Opener mOpener;
+  std::unique_ptr<PrintModel> mModel;
+  std::unique_ptr<PrintDialog> mDialog;
+};
+
+}  // namespace cutline

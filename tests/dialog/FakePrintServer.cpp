@@ -1,0 +1,170 @@
+#include "tests/dialog/FakePrintServer.h"
+
+#include <algorithm>
+#include <chrono>
+#include <thread>
+
+namespace cutline {
+
+namespace {
+
+constexpr int kJobId = 17;
+
+}  // namespace
+
+void FakePrintServer::addPrinter(const std::string& name, const std::string& ppdPath) {
+  Destination destination;
+  destination.name.printer = name;
+  destination.state = PrinterState::idle;
+  mDestinations.push_back(destination);
+  mPpdPaths[name] = ppdPath;
+}
+
+void FakePrintServer::addInstance(const std::string& printer, const std::string& instance,
+                                  const OptionList& options) {
+  Destination destination;
+  destination.name = {printer, instance};
+  destination.state = PrinterState::idle;
+  destination.savedOptions = options;
+  mDestinations.push_back(destination);
+}
+
+void FakePrintServer::setState(const std::string& name, PrinterState state, bool acceptsJobs) {
+  const std::scoped_lock lock(mMutex);
+  for (Destination& destination : mDestinations) {
+    if (destination.name.printer != name) continue;
+    destination.state = state;
+    destination.acceptsJobs = acceptsJobs;
+  }
+}
+
+void FakePrintServer::holdOpening(const std::string& name) {
+  const std::scoped_lock lock(mMutex);
+  mIsHeld[name] = true;
+}
+
+void FakePrintServer::releaseOpening(const std::string& name) {
+  const std::scoped_lock lock(mMutex);
+  mIsHeld[name] = false;
+  mReleased.notify_all();
+}
+
+void FakePrintServer::setStatuses(std::deque<JobStatus> statuses) {
+  const std::scoped_lock lock(mMutex);
+  mStatuses = std::move(statuses);
+}
+
+void FakePrintServer::refuseSubmission(const std::string& reason) {
+  const std::scoped_lock lock(mMutex);
+  mRefusal = reason;
+}
+
+void FakePrintServer::stallSubmission() {
+  const std::scoped_lock lock(mMutex);
+  mIsStalling = true;
+}
+
+void FakePrintServer::refusePresets(const std::string& reason) {
+  const std::scoped_lock lock(mMutex);
+  mPresetRefusal = reason;
+}
+
+Destination FakePrintServer::destination(const std::string& name) {
+  return *find(DestinationName::parse(name));
+}
+
+std::vector<PrintRequest> FakePrintServer::submissions() {
+  const std::scoped_lock lock(mMutex);
+  return mSubmissions;
+}
+
+std::vector<DestinationName> FakePrintServer::savedInstances() {
+  const std::scoped_lock lock(mMutex);
+  std::vector<DestinationName> names;
+  for (const auto& [name, options] : mSaved) names.push_back(name);
+  return names;
+}
+
+std::vector<DestinationName> FakePrintServer::removedInstances() {
+  const std::scoped_lock lock(mMutex);
+  return mRemoved;
+}
+
+OptionList FakePrintServer::savedOptions(const DestinationName& name) {
+  const std::scoped_lock lock(mMutex);
+  const auto found = std::find_if(mSaved.begin(), mSaved.end(),
+                                  [&](const auto& each) { return each.first == name; });
+  return found == mSaved.end() ? OptionList() : found->second;
+}
+
+int FakePrintServer::cancellations() {
+  const std::scoped_lock lock(mMutex);
+  return mCancellations;
+}
+
+Result<std::vector<Destination>> FakePrintServer::destinations() {
+  const std::scoped_lock lock(mMutex);
+  return mDestinations;
+}
+
+Result<Destination> FakePrintServer::find(const DestinationName& name) {
+  const std::scoped_lock lock(mMutex);
+  const auto found =
+      std::find_if(mDestinations.begin(), mDestinations.end(),
+                   [&](const Destination& destination) { return destination.name == name; });
+  if (found == mDestinations.end()) return Error{"unknown printer " + name.text()};
+  return *found;
+}
+
+Result<PrinterChoice> FakePrintServer::open(const Destination& destination) {
+  const std::string& name = destination.name.printer;
+  std::unique_lock lock(mMutex);
+  mReleased.wait(lock, [&] { return !mIsHeld[name]; });
+  const Result<std::shared_ptr<PpdFile>> ppd = PpdFile::open(mPpdPaths[name]);
+  if (!ppd) return ppd.error();
+  return PrinterChoice{destination, *ppd};
+}
+
+Result<Done> FakePrintServer::saveInstance(const DestinationName& name, const OptionList& options) {
+  const std::scoped_lock lock(mMutex);
+  if (mPresetRefusal) return Error{*mPresetRefusal};
+  mSaved.emplace_back(name, options);
+  return Done{};
+}
+
+Result<Done> FakePrintServer::removeInstance(const DestinationName& name) {
+  const std::scoped_lock lock(mMutex);
+  mRemoved.push_back(name);
+  return Done{};
+}
+
+Result<int> FakePrintServer::submit(const PrintRequest& request, const SpoolProgress& progress) {
+  std::unique_lock lock(mMutex);
+  if (mRefusal) return Error{*mRefusal};
+  if (mIsStalling) {
+    lock.unlock();
+    while (progress(50, 100)) std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    return Error{"given up"};
+  }
+  mSubmissions.push_back(request);
+  lock.unlock();
+  progress(100, 100);
+  return kJobId;
+}
+
+Result<JobStatus> FakePrintServer::status(const DestinationName& /*destination*/, int /*jobId*/) {
+  const std::scoped_lock lock(mMutex);
+  if (mIsCancelled) return jobStatus(JobState::canceled);
+  const JobStatus status = mStatuses.front();
+  if (mStatuses.size() > 1) mStatuses.pop_front();
+  return status;
+}
+
+Result<Done> FakePrintServer::cancel(const DestinationName& /*destination*/, int /*jobId*/) {
+  const std::scoped_lock lock(mMutex);
+  ++mCancellations;
+  mIsCancelled = true;
+  return Done{};
+}
+
+}  // namespace cutline

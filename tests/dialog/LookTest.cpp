@@ -1,0 +1,162 @@
+// The dialog's look: nothing is cut off, it fits small screens, both appearances draw something.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QImage>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+#include <QTest>
+#include <set>
+
+#include "host/dialog/Appearance.h"
+#include "tests/dialog/DialogTest.h"
+
+namespace cutline {
+
+namespace {
+
+constexpr QSize kSmallScreen{1280, 760};  // 1280 x 800 without a title bar
+
+// Sets the program's font for as long as it lives.
+class FontSize {
+ public:
+  explicit FontSize(int points) : mBefore(QApplication::font()) {
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPointSize(points);
+    QApplication::setFont(font);
+  }
+  ~FontSize() { QApplication::setFont(mBefore); }
+  FontSize(const FontSize&) = delete;
+  FontSize& operator=(const FontSize&) = delete;
+
+ private:
+  QFont mBefore;
+};
+
+class LookTest : public DialogTest, public testing::WithParamInterface<int> {
+ protected:
+  LookTest() : mFont(GetParam()) {}
+
+  void expectNothingCutOff() {
+    for (const QLabel* label : dialog().findChildren<QLabel*>()) {
+      if (!label->isVisible()) continue;
+      const int height =
+          label->wordWrap() ? label->heightForWidth(label->width()) : label->sizeHint().height();
+      const int width = label->wordWrap() ? 0 : label->minimumSizeHint().width();
+      EXPECT_GE(label->width(), width) << label->text().toStdString();
+      EXPECT_GE(label->height(), qMin(height, label->fontMetrics().height()))
+          << label->text().toStdString();
+    }
+    for (const QAbstractButton* button : dialog().findChildren<QAbstractButton*>()) {
+      if (!button->isVisible() || button->text().isEmpty()) continue;
+      const int text = button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width();
+      EXPECT_GE(button->width(), text) << button->text().toStdString();
+      EXPECT_GE(button->height(), button->fontMetrics().height()) << button->text().toStdString();
+    }
+  }
+
+ private:
+  FontSize mFont;
+};
+
+TEST_P(LookTest, TheWholeDialogFitsASmallScreen) {
+  for (const char* name : {"tape-a", "tape-b", "roll"}) {
+    openQueue(samplePpd(name));
+    const QSize least = dialog().minimumSizeHint();
+    EXPECT_LE(least.width(), kSmallScreen.width()) << name;
+    EXPECT_LE(least.height(), kSmallScreen.height()) << name;
+    closeDialog();
+  }
+  openQueue(oddPpd("tape-all-shown"));
+  EXPECT_LE(dialog().minimumSizeHint().height(), kSmallScreen.height());
+}
+
+TEST_P(LookTest, NoTextIsCutOffAtTheSmallestSize) {
+  for (const char* name : {"tape-a", "roll"}) {
+    openQueue(samplePpd(name));
+    dialog().resize(dialog().minimumSizeHint());
+    QTest::qWait(20);
+    expectNothingCutOff();
+    closeDialog();
+  }
+}
+
+TEST_P(LookTest, NoTextIsCutOffWithMoreOptionsAndNotices) {
+  openQueue(oddPpd("tape-all-shown"));
+  click(buttonWithText<QPushButton>("&More printer options"));
+  click(box("LxHalfCut"));
+  click(box("LxSpecialTape"));
+  dialog().resize(kSmallScreen);
+  QTest::qWait(20);
+  expectNothingCutOff();
+}
+
+TEST_P(LookTest, ThePreviewTakesTheSpaceThatIsLeft) {
+  openQueue(samplePpd("tape-a"));
+  auto* preview = named<QWidget>("Preview of the labels");
+  const QSize before = preview->size();
+  const QSize growth(300, 200);
+  dialog().resize(dialog().size() + growth);
+  QTest::qWait(20);
+  EXPECT_EQ(preview->size(), before + growth);
+}
+
+TEST_P(LookTest, ThePanelKeepsItsOwnSize) {
+  openQueue(samplePpd("tape-a"));
+  View& view = *model().panels().front().view;
+  const QWidget* panel = QtToolkit::widgetOf(view);
+  const QSize designed(static_cast<int>(view.frame().size.width),
+                       static_cast<int>(view.frame().size.height));
+  EXPECT_EQ(panel->size(), designed);
+  dialog().resize(kSmallScreen);
+  QTest::qWait(20);
+  EXPECT_EQ(panel->size(), designed);
+  EXPECT_TRUE(panel->isVisible());
+}
+
+INSTANTIATE_TEST_SUITE_P(FontSizes, LookTest, testing::Values(9, 12));
+
+class AppearanceTest : public DialogTest {
+ protected:
+  ~AppearanceTest() override { applyAppearance(false); }
+};
+
+TEST_F(AppearanceTest, LightAndDarkDifferInTheirGround) {
+  openQueue(samplePpd("tape-a"));
+  const QImage light = dialog().grab().toImage();
+  applyAppearance(true);
+  const QImage dark = dialog().grab().toImage();
+  const QPoint corner(3, 3);
+  EXPECT_GT(light.pixelColor(corner).lightness(), 200);
+  EXPECT_LT(dark.pixelColor(corner).lightness(), 80);
+}
+
+TEST_F(AppearanceTest, TextStandsOutInBothAppearances) {
+  for (const QPalette& palette : {lightPalette(), darkPalette()}) {
+    for (const auto& [text, ground] : {std::pair{QPalette::WindowText, QPalette::Window},
+                                       {QPalette::Text, QPalette::Base},
+                                       {QPalette::ButtonText, QPalette::Button},
+                                       {QPalette::HighlightedText, QPalette::Highlight}}) {
+      const int contrast =
+          std::abs(qGray(palette.color(text).rgb()) - qGray(palette.color(ground).rgb()));
+      EXPECT_GT(contrast, 110) << text;
+    }
+  }
+}
+
+TEST_F(AppearanceTest, ThePreviewShowsTheDocumentsPages) {
+  openQueue(samplePpd("tape-a"));
+  const QImage picture = named<QWidget>("Preview of the labels")->grab().toImage();
+  int pixels = 0;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) pixels += picture.pixel(x, y) == 0xff2060a0 ? 1 : 0;
+  }
+  EXPECT_GT(pixels, 10000);
+}
+
+}  // namespace
+
+}  // namespace cutline

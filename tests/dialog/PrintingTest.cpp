@@ -1,0 +1,168 @@
+// From Print to the dialog's end.
+#include <gtest/gtest.h>
+
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTest>
+
+#include "host/core/CommandLine.h"
+#include "tests/dialog/DialogTest.h"
+
+namespace cutline {
+
+namespace {
+
+class PrintingTest : public DialogTest {
+ protected:
+  QPushButton* printButton() { return buttonWithText<QPushButton>("Pr&int"); }
+};
+
+TEST_F(PrintingTest, WhatIsShownIsWhatIsSent) {
+  openQueue(samplePpd("tape-a"));
+  click(box("LxMirror"));
+  const OptionList shown = model().jobOptions();
+  click(printButton());
+  ASSERT_TRUE(waitForClose());
+  ASSERT_EQ(server().submissions().size(), 1u);
+  const PrintRequest request = server().submissions().front();
+  EXPECT_EQ(request.options, shown);
+  EXPECT_EQ(request.destination.text(), "tape");
+  EXPECT_EQ(request.path, "/nowhere/labels.pdf");
+  EXPECT_EQ(request.title, "labels");
+}
+
+TEST_F(PrintingTest, AFinishedJobEndsTheDialogWithSuccess) {
+  openQueue(samplePpd("roll"));
+  server().setStatuses({jobStatus(JobState::pending),
+                        jobStatus(JobState::processing, "Printing label 1"),
+                        jobStatus(JobState::completed)});
+  click(printButton());
+  EXPECT_TRUE(waitForClose());
+  EXPECT_EQ(dialog().exitStatus(), kExitDone);
+}
+
+TEST_F(PrintingTest, ReturnPrints) {
+  openQueue(samplePpd("tape-a"));
+  press(named<QWidget>("Copies"), Qt::Key_Return);
+  EXPECT_TRUE(waitForClose());
+  EXPECT_EQ(server().submissions().size(), 1u);
+}
+
+TEST_F(PrintingTest, EscapeCancels) {
+  openQueue(samplePpd("tape-a"));
+  press(&dialog(), Qt::Key_Escape);
+  EXPECT_TRUE(waitForClose());
+  EXPECT_EQ(dialog().exitStatus(), kExitCancelled);
+  EXPECT_TRUE(server().submissions().empty());
+}
+
+TEST_F(PrintingTest, ClosingTheWindowCancels) {
+  openQueue(samplePpd("tape-a"));
+  dialog().close();
+  EXPECT_TRUE(waitForClose());
+  EXPECT_EQ(dialog().exitStatus(), kExitCancelled);
+}
+
+TEST_F(PrintingTest, TheStateOfTheJobIsShownWhileItPrints) {
+  openQueue(samplePpd("tape-a"));
+  server().setStatuses({jobStatus(JobState::processing, "Printing label 7")});
+  click(printButton());
+  EXPECT_TRUE(waitUntil([this] { return shows(QStringLiteral("Printing label 7")); }));
+  EXPECT_FALSE(box("LxHalfCut")->isEnabled());
+  server().setStatuses({jobStatus(JobState::completed)});
+  EXPECT_TRUE(waitForClose());
+}
+
+TEST_F(PrintingTest, AJobThatIsSentCanBeCancelled) {
+  openQueue(samplePpd("tape-a"));
+  server().setStatuses({jobStatus(JobState::processing)});
+  click(printButton());
+  ASSERT_TRUE(waitUntil([this] { return shows(QStringLiteral("Job 17")); }));
+  click(buttonWithText<QPushButton>("Cancel &job"));
+  EXPECT_TRUE(waitUntil([this] { return shows(QStringLiteral("was cancelled")); }));
+  EXPECT_EQ(server().cancellations(), 1);
+  EXPECT_TRUE(dialog().isVisible());
+  EXPECT_TRUE(printButton()->isEnabled());
+}
+
+TEST_F(PrintingTest, SpoolingShowsItsProgressAndCanBeGivenUp) {
+  openQueue(samplePpd("tape-a"));
+  server().stallSubmission();
+  click(printButton());
+  auto* bar = named<QProgressBar>("Progress of the job");
+  EXPECT_TRUE(waitUntil([bar] { return bar->isVisible() && bar->value() == 50; }));
+  click(buttonWithText<QPushButton>("Cancel &job"));
+  EXPECT_TRUE(waitUntil([this] { return printButton()->isVisible(); }));
+  EXPECT_TRUE(server().submissions().empty());
+  EXPECT_TRUE(dialog().isVisible());
+}
+
+TEST_F(PrintingTest, AJobMayBeLeftToPrint) {
+  openQueue(samplePpd("tape-a"));
+  server().setStatuses({jobStatus(JobState::pending)});
+  click(printButton());
+  ASSERT_TRUE(waitUntil([this] { return shows(QStringLiteral("Job 17")); }));
+  click(buttonWithText<QPushButton>("Close and &let it print"));
+  EXPECT_TRUE(waitForClose());
+  EXPECT_EQ(dialog().exitStatus(), kExitDone);
+  EXPECT_EQ(server().cancellations(), 0);
+}
+
+TEST_F(PrintingTest, ARefusedJobIsNamedAndCanBeTriedAgain) {
+  openQueue(samplePpd("tape-a"));
+  server().refuseSubmission("tape: the server has no room; remove old jobs");
+  click(printButton());
+  EXPECT_TRUE(waitUntil([this] { return shows(QStringLiteral("the server has no room")); }));
+  EXPECT_TRUE(dialog().isVisible());
+  EXPECT_TRUE(printButton()->isVisible() && printButton()->isEnabled());
+}
+
+TEST_F(PrintingTest, AnAbortedJobLeavesTheDialogOpenWithTheReason) {
+  openQueue(samplePpd("tape-a"));
+  server().setStatuses({jobStatus(JobState::aborted, "cutter jammed")});
+  click(printButton());
+  EXPECT_TRUE(waitUntil([this] { return shows(QStringLiteral("cutter jammed")); }));
+  EXPECT_TRUE(shows(QStringLiteral("print again")));
+  EXPECT_TRUE(dialog().isVisible());
+}
+
+TEST_F(PrintingTest, AnAbortedJobCanBePrintedAgain) {
+  openQueue(samplePpd("tape-a"));
+  server().setStatuses({jobStatus(JobState::aborted, "cutter jammed")});
+  click(printButton());
+  ASSERT_TRUE(waitUntil([this] { return shows(QStringLiteral("cutter jammed")); }));
+  server().setStatuses({jobStatus(JobState::completed)});
+  click(printButton());
+  EXPECT_TRUE(waitForClose());
+  EXPECT_EQ(server().submissions().size(), 2u);
+  EXPECT_EQ(dialog().exitStatus(), kExitDone);
+}
+
+TEST_F(PrintingTest, APpdAlonePrintsNothingAndSaysWhy) {
+  openPpd(samplePpd("tape-a"));
+  EXPECT_FALSE(printButton()->isEnabled());
+  EXPECT_TRUE(shows(QStringLiteral("PPD file, no printer: printing is switched off")));
+  press(named<QWidget>("Copies"), Qt::Key_Return);
+  QTest::qWait(50);
+  EXPECT_TRUE(server().submissions().empty());
+  EXPECT_TRUE(dialog().isVisible());
+}
+
+TEST_F(PrintingTest, ADamagedDocumentIsNotPrinted) {
+  setOpener([]() -> Result<std::shared_ptr<Document>> {
+    return Error{"labels.pdf: the PDF is damaged"};
+  });
+  openQueue(samplePpd("tape-a"));
+  EXPECT_TRUE(shows(QStringLiteral("labels.pdf: the PDF is damaged")));
+  EXPECT_FALSE(printButton()->isEnabled());
+}
+
+TEST_F(PrintingTest, WithoutTheDocumentModuleTheJobIsPrintedUnseen) {
+  setOpener([]() -> Result<std::shared_ptr<Document>> { return std::shared_ptr<Document>(); });
+  openQueue(samplePpd("tape-a"));
+  EXPECT_TRUE(printButton()->isEnabled());
+}
+
+}  // namespace
+
+}  // namespace cutline

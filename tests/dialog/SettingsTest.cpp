@@ -1,0 +1,176 @@
+// A user's doings in the dialog reach the job, and what is shown follows.
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTest>
+
+#include "tests/dialog/DialogTest.h"
+
+namespace cutline {
+
+namespace {
+
+void chooseByText(QComboBox* combo, const QString& text) {
+  ASSERT_NE(combo, nullptr);
+  const int index = combo->findText(text);
+  ASSERT_GE(index, 0) << text.toStdString();
+  combo->setFocus();
+  const int step = index > combo->currentIndex() ? Qt::Key_Down : Qt::Key_Up;
+  while (combo->currentIndex() != index) QTest::keyClick(combo, static_cast<Qt::Key>(step));
+}
+
+class SettingsTest : public DialogTest {};
+
+TEST_F(SettingsTest, AClickOnHalfCutReachesTheJob) {
+  openQueue(samplePpd("tape-a"));
+  ASSERT_EQ(sent()["LxHalfCut"], "OFF");
+  click(box("LxHalfCut"));
+  EXPECT_EQ(sent()["LxHalfCut"], "ON");
+}
+
+TEST_F(SettingsTest, TheSummaryFollowsAClick) {
+  openQueue(samplePpd("tape-b"));
+  const QStringList before = shownTexts();
+  click(box("LxHalfCut"));
+  EXPECT_EQ(shownTexts().count(QStringLiteral("Yes")), before.count(QStringLiteral("Yes")) + 1);
+}
+
+TEST_F(SettingsTest, EveryBoxOfThePanelTakesAClick) {
+  openQueue(samplePpd("tape-b"));
+  for (const char* keyword :
+       {"LxHalfCut", "LxChainPrint", "LxMirror", "LxRemoveBlkSpace", "LxCutAtEnd"}) {
+    const std::string before = sent()[keyword];
+    click(box(keyword));
+    EXPECT_NE(sent()[keyword], before) << keyword;
+  }
+}
+
+TEST_F(SettingsTest, AnotherPaperIsSentAndShown) {
+  openQueue(samplePpd("tape-a"));
+  chooseByText(named<QComboBox>("Paper"), QStringLiteral("Tape 24 mm, label 100 mm"));
+  EXPECT_EQ(sent()["PageSize"], "W24H100");
+  EXPECT_TRUE(shows(QStringLiteral("Label 1 of 3, Tape 24 mm, label 100 mm")));
+}
+
+TEST_F(SettingsTest, CopiesAreSent) {
+  openQueue(samplePpd("tape-a"));
+  auto* copies = named<QSpinBox>("Copies");
+  copies->setFocus();
+  copies->selectAll();
+  QTest::keyClicks(copies, "12");
+  EXPECT_EQ(sent()["copies"], "12");
+}
+
+TEST_F(SettingsTest, TypedPagesAreSentAsTheyAreTyped) {
+  openQueue(samplePpd("tape-a"));
+  auto* pages = named<QLineEdit>("Pages");
+  pages->setFocus();
+  QTest::keyClicks(pages, "1-2, 3");
+  EXPECT_EQ(sent()["page-ranges"], "1-2,3");
+}
+
+TEST_F(SettingsTest, AWrongPageRangeIsNamedWhenTheFieldIsLeft) {
+  openQueue(samplePpd("tape-a"));
+  auto* pages = named<QLineEdit>("Pages");
+  pages->setFocus();
+  QTest::keyClicks(pages, "3-1");
+  EXPECT_FALSE(shows(QStringLiteral("3-1")));
+  press(pages, Qt::Key_Tab);
+  EXPECT_TRUE(shows(QStringLiteral("page range \"3-1\"")));
+  EXPECT_TRUE(pages->accessibleDescription().contains(QStringLiteral("3-1")));
+}
+
+TEST_F(SettingsTest, AWrongPageRangeIsNotPrinted) {
+  openQueue(samplePpd("tape-a"));
+  auto* pages = named<QLineEdit>("Pages");
+  pages->setFocus();
+  QTest::keyClicks(pages, "all of them");
+  click(buttonWithText<QPushButton>("Pr&int"));
+  QTest::qWait(50);
+  EXPECT_TRUE(server().submissions().empty());
+  EXPECT_TRUE(pages->hasFocus());
+}
+
+TEST_F(SettingsTest, ACorrectedPageRangeLosesItsMessage) {
+  openQueue(samplePpd("tape-a"));
+  auto* pages = named<QLineEdit>("Pages");
+  pages->setFocus();
+  QTest::keyClicks(pages, "0");
+  press(pages, Qt::Key_Tab);
+  pages->setFocus();
+  pages->selectAll();
+  QTest::keyClicks(pages, "2");
+  EXPECT_FALSE(shows(QStringLiteral("page range")));
+  EXPECT_EQ(sent()["page-ranges"], "2");
+}
+
+TEST_F(SettingsTest, WhatARuleChangesIsNamedBesideThePanel) {
+  openQueue(samplePpd("tape-b"));
+  click(box("LxHalfCut"));
+  ASSERT_TRUE(model().deviations().empty());
+  click(box("LxSpecialTape"));
+  ASSERT_FALSE(model().deviations().empty());
+  for (const Deviation& deviation : model().deviations()) {
+    EXPECT_TRUE(shows(QString::fromStdString(deviation.sentence))) << deviation.sentence;
+  }
+}
+
+TEST_F(SettingsTest, ConflictsAreNamedAndSortedOutAtAClick) {
+  openQueue(samplePpd("tape-a"));
+  click(box("LxHalfCut"));
+  ASSERT_TRUE(model().setOption("TapeMaterial", "Fabric"));
+  ASSERT_EQ(model().conflicts().size(), 1u);
+  EXPECT_TRUE(shows(QString::fromStdString(model().conflicts().front())));
+  click(buttonWithText<QPushButton>("Chan&ge the others"));
+  EXPECT_TRUE(model().conflicts().empty());
+  EXPECT_EQ(sent()["LxHalfCut"], "OFF");
+}
+
+TEST_F(SettingsTest, MoreOptionsOpenAtAClick) {
+  openQueue(samplePpd("tape-a"));
+  QWidget* darkness = dialog().findChild<QWidget*>(QStringLiteral("PrintDensity"));
+  ASSERT_NE(darkness, nullptr);
+  EXPECT_FALSE(darkness->isVisible());
+  click(buttonWithText<QPushButton>("&More printer options"));
+  EXPECT_TRUE(darkness->isVisible());
+}
+
+TEST_F(SettingsTest, AChoiceAmongMoreOptionsIsSent) {
+  openQueue(samplePpd("tape-a"));
+  click(buttonWithText<QPushButton>("&More printer options"));
+  auto* speed = dialog().findChild<QComboBox*>(QStringLiteral("PrintSpeed"));
+  ASSERT_NE(speed, nullptr);
+  speed->setFocus();
+  const QString before = speed->currentData().toString();
+  press(speed, Qt::Key_Down);
+  press(speed, Qt::Key_Up);
+  press(speed, speed->currentIndex() == 0 ? Qt::Key_Down : Qt::Key_Up);
+  EXPECT_NE(speed->currentData().toString(), before);
+  EXPECT_EQ(sent()["PrintSpeed"], speed->currentData().toString().toStdString());
+}
+
+TEST_F(SettingsTest, APrinterWithoutPanelSaysWhereItsOptionsAre) {
+  openQueue(oddPpd("without-cut-options"));
+  EXPECT_TRUE(shows(QStringLiteral("no panel of its own")));
+  EXPECT_TRUE(buttonWithText<QPushButton>("&More printer options")->isEnabled());
+}
+
+TEST_F(SettingsTest, WhatWasAskedForIsShown) {
+  AskedSettings asked;
+  asked.options = {{"LxHalfCut", "ON"}, {"PageSize", "W12H50"}};
+  asked.copies = 3;
+  asked.pageRanges = "2-3";
+  openQueue(samplePpd("tape-a"), asked);
+  EXPECT_TRUE(qobject_cast<QCheckBox*>(box("LxHalfCut"))->isChecked());
+  EXPECT_EQ(named<QSpinBox>("Copies")->value(), 3);
+  EXPECT_EQ(named<QLineEdit>("Pages")->text(), QStringLiteral("2-3"));
+  EXPECT_EQ(named<QComboBox>("Paper")->currentData().toString(), QStringLiteral("W12H50"));
+}
+
+}  // namespace
+
+}  // namespace cutline

@@ -1,0 +1,122 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QScrollBar>
+#include <QTest>
+
+#include "host/dialog/StripView.h"
+
+namespace cutline {
+
+namespace {
+
+class StripViewTest : public testing::Test {
+ protected:
+  StripViewTest() {
+    QObject::connect(&mStrip, &StripView::pagesWanted,
+                     [this](const std::deque<PageRequest>& wanted) { mWanted = wanted; });
+    mStrip.setPaper({"W24", "24 mm", 70, 280, 2, 5, 68, 275}, StripDirection::across);
+    mStrip.resize(500, 400);
+    mStrip.show();
+    mStrip.setPages(std::vector<Size>(12, Size{280, 70}));
+  }
+
+  // Draws the page as one half red, one half blue, from left to right.
+  void drawHalves(int page) {
+    QImage image(40, 10, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::blue);
+    for (int y = 0; y < 10; ++y) {
+      for (int x = 0; x < 20; ++x) image.setPixelColor(x, y, Qt::red);
+    }
+    mStrip.showPage(page, 1, image);
+  }
+  int leftmost(Qt::GlobalColor colour) {
+    const QImage picture = mStrip.viewport()->grab().toImage();
+    for (int x = 0; x < picture.width(); ++x) {
+      for (int y = 0; y < picture.height(); ++y) {
+        if (picture.pixelColor(x, y) == QColor(colour)) return x;
+      }
+    }
+    return -1;
+  }
+
+  StripView mStrip;
+  std::deque<PageRequest> mWanted;
+};
+
+TEST_F(StripViewTest, WantsTheVisiblePagesOnly) {
+  ASSERT_FALSE(mWanted.empty());
+  EXPECT_EQ(mWanted.front().page, 0);
+  EXPECT_LT(mWanted.size(), 12u);
+}
+
+TEST_F(StripViewTest, WantsThePagesThatItIsScrolledTo) {
+  mStrip.verticalScrollBar()->setValue(mStrip.verticalScrollBar()->maximum());
+  EXPECT_EQ(mWanted.back().page, 11);
+}
+
+TEST_F(StripViewTest, WantsNoPageTwice) {
+  for (const PageRequest& request : std::deque<PageRequest>(mWanted)) {
+    QImage image(10, 10, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    mStrip.showPage(request.page, request.scale, image);
+  }
+  mStrip.setPaper({"W24", "24 mm", 70, 280, 2, 5, 68, 275}, StripDirection::across);
+  EXPECT_TRUE(mWanted.empty());
+}
+
+TEST_F(StripViewTest, KeysStepThroughThePages) {
+  QTest::keyClick(&mStrip, Qt::Key_PageDown);
+  EXPECT_EQ(mStrip.currentPage(), 1);
+  QTest::keyClick(&mStrip, Qt::Key_End);
+  EXPECT_EQ(mStrip.currentPage(), 11);
+  QTest::keyClick(&mStrip, Qt::Key_PageDown);
+  EXPECT_EQ(mStrip.currentPage(), 11);
+  QTest::keyClick(&mStrip, Qt::Key_PageUp);
+  EXPECT_EQ(mStrip.currentPage(), 10);
+  QTest::keyClick(&mStrip, Qt::Key_Home);
+  EXPECT_EQ(mStrip.currentPage(), 0);
+}
+
+TEST_F(StripViewTest, AClickChoosesAPage) {
+  QTest::mouseClick(mStrip.viewport(), Qt::LeftButton, Qt::NoModifier, {250, 200});
+  EXPECT_GT(mStrip.currentPage(), 0);
+}
+
+TEST_F(StripViewTest, KeysZoomWithinBounds) {
+  QTest::keyClick(&mStrip, Qt::Key_Plus);
+  EXPECT_GT(mStrip.zoom(), 1);
+  QTest::keyClick(&mStrip, Qt::Key_0);
+  EXPECT_EQ(mStrip.zoom(), 1);
+  for (int i = 0; i < 50; ++i) QTest::keyClick(&mStrip, Qt::Key_Plus);
+  EXPECT_FALSE(mStrip.canZoomIn());
+  for (int i = 0; i < 50; ++i) QTest::keyClick(&mStrip, Qt::Key_Minus);
+  EXPECT_FALSE(mStrip.canZoomOut());
+}
+
+TEST_F(StripViewTest, MirroringTurnsTheTextRound) {
+  drawHalves(0);
+  const int before = leftmost(Qt::red);
+  ASSERT_GE(before, 0);
+  ASSERT_LT(before, leftmost(Qt::blue));
+  mStrip.setMirrored(true);
+  EXPECT_GT(leftmost(Qt::red), leftmost(Qt::blue));
+}
+
+TEST_F(StripViewTest, SkippedPagesAreDimmed) {
+  drawHalves(0);
+  ASSERT_GE(leftmost(Qt::red), 0);
+  mStrip.setSelection(PageSelection("2-"));
+  EXPECT_EQ(leftmost(Qt::red), -1);
+}
+
+TEST_F(StripViewTest, WithoutADocumentAnEmptyLabelIsShown) {
+  mStrip.setPages({});
+  EXPECT_EQ(mStrip.pageCount(), 0);
+  const QImage picture = mStrip.viewport()->grab().toImage();
+  EXPECT_NE(picture.pixel(250, 60), picture.pixel(250, 390));
+}
+
+}  // namespace
+
+}  // namespace cutline
