@@ -170,6 +170,7 @@ const std::shared_ptr<KeywordList>& BasePDE13_v400_::supportedOptions() const no
 }
 
 NotificationObject BasePDE13_v400_::viewAsNotificationObject() const noexcept {
+  if (!kPDEView) return {};
   return static_cast<const void*>(static_cast<const View*>(kPDEView.get()));
 }
 

@@ -1,10 +1,12 @@
 // The one symbol through which a host finds the principal class.
+#include <new>
+
 #include "bundle/plugin/LXKMWNOptions14PlugIn13_v400_.h"
 
 namespace {
 
 cutline::PrintDialogPlugIn* create() noexcept {
-  return new cutline::LXKMWNOptions14PlugIn13_v400_();
+  return new (std::nothrow) cutline::LXKMWNOptions14PlugIn13_v400_();
 }
 
 void destroy(cutline::PrintDialogPlugIn* plugIn) noexcept { delete plugIn; }

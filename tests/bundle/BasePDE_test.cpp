@@ -389,6 +389,14 @@ TEST_F(BasePDEResize, AHostThatDoesNotListenChangesNothing) {
   EXPECT_EQ(callback->resizes, 0);
 }
 
+TEST_F(BasePDEResize, WithoutAViewItHearsOfAnyView) {
+  panel->kPDEView.reset();
+  setKeyWindowHeight(100);
+  panel->setViewFrameSize({560, 404});
+  platform.center.postNotificationName(kTrackingAreas, static_cast<const void*>(&platform));
+  EXPECT_EQ(callback->resizes, 1);
+}
+
 TEST_F(BasePDEResize, APanelThatGoesBeforeTheDialogGrowsIsNotCalled) {
   setKeyWindowHeight(100);
   panel->setViewFrameSize({560, 404});
