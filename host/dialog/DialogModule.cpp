@@ -2,39 +2,41 @@
 
 #include <QApplication>
 #include <QLoggingCategory>
-#include <filesystem>
-#include <future>
+#include <cstdlib>
 #include <iostream>
-#include <optional>
-#include <thread>
 
-#include "host/core/PrinterSelection.h"
 #include "host/dialog/Appearance.h"
 #include "host/dialog/DialogSession.h"
+#include "host/dialog/FirstPrinter.h"
 #include "host/dialog/Marks.h"
 
 namespace cutline {
 namespace {
 
-std::optional<Error> problemOfDocument(const std::optional<std::string>& path) {
-  std::error_code problem;
-  if (!path || std::filesystem::is_regular_file(*path, problem)) return std::nullopt;
-  return Error{*path + ": there is no such document"};
-}
+// The toolkit ends the process where it finds no display; this makes it a plain error. Lives while
+// the toolkit looks for one.
+class DisplayErrors {
+ public:
+  DisplayErrors() { sBefore = qInstallMessageHandler(handle); }
+  ~DisplayErrors() { qInstallMessageHandler(sBefore); }
+  DisplayErrors(const DisplayErrors&) = delete;
+  DisplayErrors& operator=(const DisplayErrors&) = delete;
 
-Result<PrinterChoice> findPrinter(const CommandLine& line) {
-  if (const std::optional<Error> problem = problemOfDocument(line.file)) return *problem;
-  return selectPrinter(line);
-}
+ private:
+  static void handle(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (type != QtFatalMsg) {
+      if (sBefore != nullptr && !text.contains(QLatin1String("display"))) {
+        sBefore(type, context, text);
+      }
+      return;
+    }
+    std::cerr << "cutline: no display can be opened; set DISPLAY, or print with --print"
+              << std::endl;
+    std::_Exit(kExitError);
+  }
 
-// The server is asked while the toolkit is being made. The thread is left alone when the dialog
-// ends before the server has answered.
-FirstPrinter startFinding(const CommandLine& line) {
-  std::packaged_task<Result<PrinterChoice>()> task([line] { return findPrinter(line); });
-  FirstPrinter printer = task.get_future().share();
-  std::thread(std::move(task)).detach();
-  return printer;
-}
+  static inline QtMessageHandler sBefore = nullptr;
+};
 
 // Before any thread is started, because it changes the environment.
 void prepareEnvironment(const CommandLine& line) {
@@ -50,15 +52,20 @@ void prepareEnvironment(const CommandLine& line) {
   }
 }
 
+std::unique_ptr<QApplication> makeApplication() {
+  static int argc = 1;
+  static char name[] = "cutline";
+  static char* argv[] = {name, nullptr};
+  const DisplayErrors errors;
+  applyStyle();
+  return std::make_unique<QApplication>(argc, argv);
+}
+
 int runDialog(const DialogRequest& request) {
   const CommandLine& line = *request.commandLine;
   prepareEnvironment(line);
-  const FirstPrinter printer = startFinding(line);
-  int argc = 1;
-  char name[] = "cutline";
-  char* argv[] = {name, nullptr};
-  applyStyle();
-  const QApplication application(argc, argv);
+  const FirstPrinter printer = startFindingFirstPrinter(line);
+  const std::unique_ptr<QApplication> application = makeApplication();
   if (line.marks) printMark("qapp");
   applyAppearance(line.dark);
   return DialogSession(request, printer).run();

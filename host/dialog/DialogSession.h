@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QObject>
-#include <future>
 #include <memory>
 #include <string>
 #include <vector>
@@ -13,14 +12,11 @@
 #include "host/core/HostPlatform.h"
 #include "host/core/PrintModel.h"
 #include "host/dialog/Background.h"
+#include "host/dialog/FirstPrinter.h"
 #include "host/dialog/PrintDialog.h"
 #include "qt/QtToolkit.h"
 
 namespace cutline {
-
-// What is known once the server has answered: the printer, or why there is none. Found on another
-// thread while the toolkit is being made.
-using FirstPrinter = std::shared_future<Result<PrinterChoice>>;
 
 class DialogSession : public QObject {
   Q_OBJECT

@@ -93,6 +93,11 @@ void JobForm::setPagesProblem(const QString& problem) {
 
 bool JobForm::hasPagesProblem() const { return !mProblemText->text().isEmpty(); }
 
+void JobForm::focusCopies() {
+  mCopies->setFocus();
+  mCopies->selectAll();
+}
+
 void JobForm::focusPages() {
   mPages->setFocus();
   mPages->selectAll();

@@ -32,6 +32,7 @@ class JobForm : public QWidget {
   // What is wrong with the pages as typed; empty when nothing is.
   void setPagesProblem(const QString& problem);
   bool hasPagesProblem() const;
+  void focusCopies();
   void focusPages();
   QString pages() const;
 

@@ -31,6 +31,8 @@ JobProgress::JobProgress(QWidget* parent)
   row->addWidget(mBar, 1);
   row->addWidget(mLeave);
   row->addWidget(mCancel);
+  // Whoever presses Return twice to print must not cancel the job by it.
+  for (QPushButton* button : {mCancel, mLeave}) button->setAutoDefault(false);
   connect(mCancel, &QPushButton::clicked, this, &JobProgress::cancelRequested);
   connect(mLeave, &QPushButton::clicked, this, &JobProgress::leaveRequested);
 }

@@ -38,6 +38,11 @@ QString fileNameOf(const std::string& path) {
   return toQString(path.substr(path.find_last_of('/') + 1));
 }
 
+QString asSentence(QString text) {
+  if (!text.isEmpty()) text[0] = text[0].toUpper();
+  return text;
+}
+
 QStringList sentencesOf(const std::vector<Deviation>& deviations) {
   QStringList lines;
   for (const Deviation& deviation : deviations) lines.append(toQString(deviation.sentence));
@@ -81,10 +86,14 @@ PrintDialog::PrintDialog(PrintModel& model, std::shared_ptr<PrintServer> server,
   connectDocument();
   connectServer();
   connectJob();
+  mJobForm->focusCopies();
   mModel.setListener(this);
 }
 
+// The widgets outlive this part of the dialog by a moment, and one that loses the focus then still
+// reports what was typed into it.
 PrintDialog::~PrintDialog() {
+  for (QObject* child : findChildren<QObject*>()) child->disconnect(this);
   mModel.setListener(nullptr);
   mPanelFrame->releasePanels();
 }
@@ -329,7 +338,7 @@ void PrintDialog::editPages(const QString& text) {
 
 void PrintDialog::finishPages(const QString& text) {
   const Result<Done> set = mModel.setPageRanges(toUtf8(text));
-  mJobForm->setPagesProblem(set ? QString() : toQString(set.error().message));
+  mJobForm->setPagesProblem(set ? QString() : asSentence(toQString(set.error().message)));
 }
 
 void PrintDialog::showPresets(const QString& current) {
@@ -414,7 +423,11 @@ void PrintDialog::showJobRunning(bool isRunning) {
   mSettings->setEnabled(!isRunning);
   mMoreOptions->setEnabled(!isRunning);
   mBottom->setCurrentIndex(isRunning ? 1 : 0);
-  if (!isRunning) mPrint->setFocus();
+  if (isRunning) {
+    mStripPane->strip().setFocus();
+  } else {
+    mPrint->setFocus();
+  }
 }
 
 // A job that the server has goes on without the dialog; one that is being sent is given up first.

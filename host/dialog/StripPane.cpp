@@ -6,6 +6,11 @@
 #include <QVBoxLayout>
 
 namespace cutline {
+namespace {
+
+const QString kSeparator = QStringLiteral(" \u00b7 ");
+
+}  // namespace
 
 StripPane::StripPane(QWidget* parent)
     : QWidget(parent),
@@ -66,7 +71,7 @@ QString StripPane::pageText() const {
 void StripPane::refresh() {
   const QString page = pageText();
   mPosition->setText(page.isEmpty() || mPaperText.isEmpty() ? page + mPaperText
-                                                            : tr("%1, %2").arg(page, mPaperText));
+                                                            : page + kSeparator + mPaperText);
   mPrevious->setEnabled(mStrip->currentPage() > 0);
   mNext->setEnabled(mStrip->currentPage() + 1 < mStrip->pageCount());
   mZoomOut->setEnabled(mStrip->canZoomOut());

@@ -332,12 +332,12 @@ void StripView::paintNumber(QPainter& painter, int page) const {
   numberFont.setBold(page == mCurrentPage);
   painter.setFont(numberFont);
   painter.setPen(page == mCurrentPage ? palette().color(QPalette::Text) : colours.number);
-  const QString number =
-      mSelection.contains(page) ? QString::number(page + 1) : tr("%1 - not printed").arg(page + 1);
+  const QString number = QString::number(page + 1);
+  const QString caption = mSelection.contains(page) ? number : tr("%1 - not printed").arg(number);
   const double height = painter.fontMetrics().height();
   if (mDirection == StripDirection::across) {
     painter.drawText(QRectF(label.left(), label.bottom() + 3, label.width(), height),
-                     Qt::AlignHCenter | Qt::AlignTop, number);
+                     Qt::AlignHCenter | Qt::AlignTop, caption);
   } else {
     painter.drawText(QRectF(label.right() + 8, label.top(), viewport()->width(), label.height()),
                      Qt::AlignLeft | Qt::AlignVCenter, number);

@@ -153,7 +153,8 @@ TEST_F(PrintingTest, ADamagedDocumentIsNotPrinted) {
     return Error{"labels.pdf: the PDF is damaged"};
   });
   openQueue(samplePpd("tape-a"));
-  EXPECT_TRUE(shows(QStringLiteral("labels.pdf: the PDF is damaged")));
+  EXPECT_TRUE(
+      waitUntil([this] { return shows(QStringLiteral("labels.pdf: the PDF is damaged")); }));
   EXPECT_FALSE(printButton()->isEnabled());
 }
 

@@ -53,7 +53,7 @@ TEST_F(SettingsTest, AnotherPaperIsSentAndShown) {
   openQueue(samplePpd("tape-a"));
   chooseByText(named<QComboBox>("Paper"), QStringLiteral("Tape 24 mm, label 100 mm"));
   EXPECT_EQ(sent()["PageSize"], "W24H100");
-  EXPECT_TRUE(shows(QStringLiteral("Label 1 of 3, Tape 24 mm, label 100 mm")));
+  EXPECT_TRUE(shows(QStringLiteral("Label 1 of 3 \u00b7 Tape 24 mm, label 100 mm")));
 }
 
 TEST_F(SettingsTest, CopiesAreSent) {
@@ -80,7 +80,7 @@ TEST_F(SettingsTest, AWrongPageRangeIsNamedWhenTheFieldIsLeft) {
   QTest::keyClicks(pages, "3-1");
   EXPECT_FALSE(shows(QStringLiteral("3-1")));
   press(pages, Qt::Key_Tab);
-  EXPECT_TRUE(shows(QStringLiteral("page range \"3-1\"")));
+  EXPECT_TRUE(shows(QStringLiteral("Page range \"3-1\"")));
   EXPECT_TRUE(pages->accessibleDescription().contains(QStringLiteral("3-1")));
 }
 
@@ -104,7 +104,7 @@ TEST_F(SettingsTest, ACorrectedPageRangeLosesItsMessage) {
   pages->setFocus();
   pages->selectAll();
   QTest::keyClicks(pages, "2");
-  EXPECT_FALSE(shows(QStringLiteral("page range")));
+  EXPECT_FALSE(shows(QStringLiteral("Page range")));
   EXPECT_EQ(sent()["page-ranges"], "2");
 }
 
