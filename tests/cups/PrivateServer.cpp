@@ -26,11 +26,12 @@ std::string outputOf(const std::string& command) {
   return output;
 }
 
-PrivateServer::PrivateServer() {
+PrivateServer::PrivateServer(const std::string& arguments) {
   // The server's filters run as another user when this one is root.
   std::filesystem::permissions(mFolder.path(), std::filesystem::perms(0755));
   // The server lives on, so it must not hold the pipe's end.
-  outputOf(script("start") + " >" + quoted(mFolder.path() + "/start.log") + " </dev/null");
+  outputOf(script("start") + ' ' + arguments + " >" + quoted(mFolder.path() + "/start.log") +
+           " </dev/null");
   mSocket = variable("CUPS_SERVER");
   mHome = variable("HOME");
   mRoot = variable("CUPS_SERVERROOT");
@@ -54,7 +55,21 @@ void PrivateServer::enterEnvironment() const {
 }
 
 bool PrivateServer::hasPrinted(int jobId) const {
-  return std::filesystem::exists(mFolder.path() + "/printed/job-" + std::to_string(jobId) + ".png");
+  return std::filesystem::exists(printedFile(jobId, ".png"));
+}
+
+std::string PrivateServer::printedFile(int jobId, const std::string& ending) const {
+  return mFolder.path() + "/printed/job-" + std::to_string(jobId) + ending;
+}
+
+// The list is stored last, so where it is the picture is too.
+std::set<int> PrivateServer::printedJobs() const {
+  std::set<int> jobs;
+  for (const auto& file : std::filesystem::directory_iterator(mFolder.path() + "/printed")) {
+    const std::string name = file.path().filename();
+    if (name.starts_with("job-") && name.ends_with(".txt")) jobs.insert(std::stoi(name.substr(4)));
+  }
+  return jobs;
 }
 
 void PrivateServer::stop() {

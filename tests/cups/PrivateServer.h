@@ -2,6 +2,7 @@
 // the object lives.
 #pragma once
 
+#include <set>
 #include <string>
 
 #include "cups/ServerOptions.h"
@@ -11,8 +12,9 @@ namespace cutline::test {
 
 class PrivateServer {
  public:
-  // Throws where the server does not start.
-  PrivateServer();
+  // Throws where the server does not start. `arguments` are those of the script's "start" behind
+  // the folder, such as "--pace 500".
+  explicit PrivateServer(const std::string& arguments = {});
   ~PrivateServer();
   PrivateServer(const PrivateServer&) = delete;
   PrivateServer& operator=(const PrivateServer&) = delete;
@@ -27,6 +29,10 @@ class PrivateServer {
 
   // Whether the virtual printer has stored what the job printed.
   bool hasPrinted(int jobId) const;
+  // What it stored, as a picture (".png") or as a list of facts (".txt").
+  std::string printedFile(int jobId, const std::string& ending) const;
+  // The jobs whose picture and list it has stored.
+  std::set<int> printedJobs() const;
 
   void stop();
   // Waits until no job is left to do.

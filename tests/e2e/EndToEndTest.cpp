@@ -1,0 +1,90 @@
+#include "tests/e2e/EndToEndTest.h"
+
+#include <filesystem>
+
+#include "host/core/CutRules.h"
+#include "host/core/OptionTable.h"
+
+namespace cutline::test {
+
+namespace {
+
+struct PpdRow {
+  const char* printer;
+  const char* file;
+};
+constexpr PpdRow kPpds[] = {{"tape24", "tape-a"}, {"tapeb", "tape-b"}, {"roll62", "roll"}};
+
+}  // namespace
+
+PluginLoader& plugIns() {
+  static PluginLoader loader({built("lib/cutline/plugins")});
+  return loader;
+}
+
+std::string built(const std::string& path) { return std::string(CUTLINE_BUILD_DIR "/") + path; }
+
+std::string labels() { return built("share/cutline/samples/documents/labels.pdf"); }
+
+std::shared_ptr<PpdFile> samplePpd(const std::string& printer) {
+  for (const PpdRow& row : kPpds)
+    if (printer == row.printer)
+      return *PpdFile::open(built("share/cutline/samples/ppd/") + row.file + ".ppd");
+  return nullptr;
+}
+
+Choices cutDefaults(const PpdFile& ppd) {
+  Choices choices;
+  const OptionTable table(ppd);
+  for (const std::string_view keyword : kCutKeywords)
+    if (const PpdOption* option = table.find(std::string(keyword)))
+      choices[option->keyword] = option->defaultChoice;
+  return choices;
+}
+
+std::vector<std::string> cutSwitches(const PpdFile& ppd) {
+  std::vector<std::string> keywords;
+  for (const std::string_view keyword : kCutKeywords)
+    if (keyword != "LxCutLabel" && keyword != "LxSpecialTape" &&
+        ppd.hasOption(std::string(keyword)))
+      keywords.emplace_back(keyword);
+  if (ppd.hasOption("LxSpecialTape")) keywords.emplace_back("LxSpecialTape");
+  return keywords;
+}
+
+Choices asChoices(const OptionList& options) {
+  Choices choices;
+  for (const auto& [name, value] : options) choices[name] = value;
+  return choices;
+}
+
+OptionList asList(const Choices& choices) { return {choices.begin(), choices.end()}; }
+
+Choices only(const Choices& options, const Choices& names) {
+  Choices chosen;
+  for (const auto& [name, value] : options)
+    if (names.contains(name)) chosen[name] = value;
+  return chosen;
+}
+
+EndToEndTest::EndToEndTest() : mBefore(server().printedJobs()) {
+  std::filesystem::remove(server().home() + "/.cups/lpoptions");
+}
+
+PrintedJob EndToEndTest::newJob() {
+  server().waitUntilIdle();
+  const std::set<int> now = server().printedJobs();
+  std::set<int> fresh;
+  for (const int job : now)
+    if (!mBefore.contains(job)) fresh.insert(job);
+  EXPECT_EQ(fresh.size(), 1U);
+  mBefore = now;
+  return {server(), fresh.size() == 1 ? *fresh.begin() : 0};
+}
+
+bool EndToEndTest::nothingNew() const {
+  server().waitUntilIdle();
+  return server().printedJobs() == mBefore;
+}
+
+}  // namespace cutline::test

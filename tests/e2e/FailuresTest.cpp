@@ -1,0 +1,214 @@
+// When something is wrong it is said, nothing is printed, and the dialog goes on.
+#include <gtest/gtest.h>
+
+#include <QPushButton>
+#include <QTest>
+#include <chrono>
+#include <filesystem>
+#include <thread>
+
+#include "tests/cups/TemporaryFolder.h"
+#include "tests/e2e/DialogOnServer.h"
+#include "tests/e2e/EndToEndTest.h"
+#include "tests/e2e/Program.h"
+
+namespace cutline::test {
+
+namespace {
+
+// Undoes a command on the server when the test ends, however it ends.
+class QueueState {
+ public:
+  QueueState(const std::string& change, std::string back) : mBack(std::move(back)) {
+    outputOf(change);
+  }
+  ~QueueState() { tests::run(mBack); }
+  QueueState(const QueueState&) = delete;
+  QueueState& operator=(const QueueState&) = delete;
+
+ private:
+  std::string mBack;
+};
+
+class Failures : public EndToEndTest {
+ protected:
+  // The dialog is as it was before Print, and takes a click.
+  static void expectUsable(DialogOnServer& dialog) {
+    EXPECT_TRUE(dialog.dialog().isVisible());
+    const std::string before = dialog.sent()["LxMirror"];
+    click(dialog.box("LxMirror"));
+    EXPECT_NE(dialog.sent()["LxMirror"], before);
+  }
+
+  static void expectFailureOf(const std::string& words, const std::string& part,
+                              const std::string& environment = {}) {
+    const tests::Result program = runProgram(words, environment);
+    EXPECT_EQ(program.status, kExitError) << words;
+    EXPECT_EQ(program.output, "") << words;
+    EXPECT_TRUE(program.errors.starts_with("cutline: ")) << program.errors;
+    EXPECT_EQ(std::count(program.errors.begin(), program.errors.end(), '\n'), 1) << program.errors;
+    EXPECT_NE(program.errors.find(part), std::string::npos) << program.errors;
+  }
+};
+
+TEST_F(Failures, WithoutAServerEachCommandSaysSo) {
+  for (const char* command : {"--print ", "--options ", "--summary ", ""})
+    expectFailureOf(std::string(command) + "-d tape24 " + labels(), "no.sock",
+                    "CUPS_SERVER=/nowhere/no.sock");
+  expectFailureOf("--list", "no.sock", "CUPS_SERVER=/nowhere/no.sock");
+}
+
+TEST_F(Failures, AnUnknownPrinterIsNamed) {
+  for (const char* command : {"--print ", "--options ", "--snapshot /nowhere/a.png ", ""})
+    expectFailureOf(std::string(command) + "-d nosuch " + labels(), "nosuch");
+  EXPECT_TRUE(nothingNew());
+}
+
+TEST_F(Failures, AnUnknownChoiceIsNotPrinted) {
+  expectFailureOf("--print -d tape24 -o LxHalfCut=MAYBE " + labels(), "MAYBE");
+  expectFailureOf("-d tape24 -o LxHalfCut=MAYBE " + labels(), "MAYBE");
+  EXPECT_TRUE(nothingNew());
+}
+
+TEST_F(Failures, WrongUsageIsToldApart) {
+  const tests::Result program = runProgram("--print -d tape24 -n 0 " + labels());
+  EXPECT_EQ(program.status, kExitUsage);
+  EXPECT_TRUE(nothingNew());
+}
+
+TEST_F(Failures, ARejectingQueueIsShownAndRefusesUntilItAcceptsAgain) {
+  DialogOnServer dialog("tape24");
+  {
+    const QueueState closed("cupsreject tape24", "cupsaccept tape24");
+    dialog.press("Pr&int");
+    EXPECT_TRUE(waitUntil([&] { return dialog.shows(QStringLiteral("not accepting jobs")); }));
+    expectUsable(dialog);
+    EXPECT_TRUE(nothingNew());
+  }
+  dialog.print();
+  EXPECT_EQ(newJob().options().at("LxMirror"), "ON");
+}
+
+TEST_F(Failures, ADialogOnARejectingQueueSaysSoBeforePrinting) {
+  const QueueState closed("cupsreject tapeb", "cupsaccept tapeb");
+  const DialogOnServer dialog("tapeb");
+  EXPECT_TRUE(dialog.shows(QStringLiteral("tapeb does not accept jobs")));
+}
+
+TEST_F(Failures, AStoppedQueueIsShownAndItsJobMayBeLeftThere) {
+  {
+    const QueueState stopped("cupsdisable tape24", "cupsenable tape24");
+    DialogOnServer dialog("tape24");
+    EXPECT_TRUE(dialog.shows(QStringLiteral("tape24 does not print now")));
+    dialog.press("Pr&int");
+    ASSERT_TRUE(waitUntil([&] { return dialog.shows(QStringLiteral("the printer is paused")); }));
+    dialog.press("Close and &let it print");
+    EXPECT_TRUE(dialog.waitForClose());
+    EXPECT_EQ(dialog.dialog().exitStatus(), kExitDone);
+  }
+  EXPECT_EQ(newJob().number("labels"), kLabels);
+}
+
+TEST_F(Failures, AServerThatEndsWhileTheDialogIsOpenIsNamed) {
+  PrivateServer ending;
+  CommandLine line = dialogOn("tape24");
+  line.server = ending.options();
+  DialogOnServer dialog(line);
+  ending.stop();
+  dialog.press("Pr&int");
+  EXPECT_TRUE(waitUntil([&] { return dialog.shows(QString::fromStdString(*line.server.server)); }));
+  expectUsable(dialog);
+  EXPECT_TRUE(ending.printedJobs().empty());
+}
+
+TEST_F(Failures, ADocumentThatVanishesBeforePrintIsNamed) {
+  const TemporaryFolder folder;
+  CommandLine line = dialogOn("tape24");
+  line.file = folder.path() + "/gone.pdf";
+  std::filesystem::copy_file(labels(), *line.file);
+  DialogOnServer dialog(line);
+  std::filesystem::remove(*line.file);
+  dialog.press("Pr&int");
+  EXPECT_TRUE(waitUntil([&] { return dialog.shows(QStringLiteral("gone.pdf")); }));
+  expectUsable(dialog);
+  EXPECT_TRUE(nothingNew());
+  std::filesystem::copy_file(labels(), *line.file);
+  dialog.print();
+  EXPECT_EQ(newJob().number("labels"), kLabels);
+}
+
+TEST_F(Failures, EscapePrintsNothing) {
+  DialogOnServer dialog("tape24");
+  click(dialog.box("LxHalfCut"));
+  QTest::keyClick(&dialog.dialog(), Qt::Key_Escape);
+  EXPECT_TRUE(dialog.waitForClose());
+  EXPECT_EQ(dialog.dialog().exitStatus(), kExitCancelled);
+  EXPECT_TRUE(nothingNew());
+}
+
+// Sends half of a document, and then goes on only when it has been given up.
+class HalfwayServer : public PrintServer {
+ public:
+  Result<std::vector<Destination>> destinations() override { return mServer.destinations(); }
+  Result<Destination> find(const DestinationName& name) override { return mServer.find(name); }
+  Result<PrinterChoice> open(const Destination& destination) override {
+    return mServer.open(destination);
+  }
+  Result<Done> saveInstance(const DestinationName& name, const OptionList& options) override {
+    return mServer.saveInstance(name, options);
+  }
+  Result<Done> removeInstance(const DestinationName& name) override {
+    return mServer.removeInstance(name);
+  }
+  Result<JobStatus> status(const DestinationName& destination, int jobId) override {
+    return mServer.status(destination, jobId);
+  }
+  Result<Done> cancel(const DestinationName& destination, int jobId) override {
+    return mServer.cancel(destination, jobId);
+  }
+
+  Result<int> submit(const PrintRequest& request, const SpoolProgress& progress) override {
+    return mServer.submit(request, [&](std::uint64_t sent, std::uint64_t total) {
+      if (sent < total / 2) return progress(sent, total);
+      const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+      while (progress(sent, total) && std::chrono::steady_clock::now() < deadline)
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+      return false;
+    });
+  }
+
+ private:
+  CupsPrintServer mServer{ServerOptions()};
+};
+
+TEST_F(Failures, CancellingWhileTheDocumentIsSentLeavesNoJob) {
+  const TemporaryFolder folder;
+  CommandLine line = dialogOn("tape24");
+  line.file = folder.write("long.txt", std::string(4U << 20U, 'x'));
+  DialogOnServer dialog(line, std::make_shared<HalfwayServer>());
+  dialog.press("Pr&int");
+  ASSERT_TRUE(waitUntil([&] { return dialog.shows(QStringLiteral("Sending to tape24")); }));
+  dialog.press("Cancel &job");
+  EXPECT_TRUE(waitUntil([&] { return dialog.shows(QStringLiteral("The job was cancelled")); }));
+  EXPECT_EQ(outputOf("lpstat -o"), "");
+  expectUsable(dialog);
+  EXPECT_TRUE(nothingNew());
+}
+
+TEST_F(Failures, AJobThatIsCancelledAfterSendingIsNotPrinted) {
+  const PrivateServer slow("--pace 1000");
+  CommandLine line = dialogOn("tape24");
+  line.server = slow.options();
+  DialogOnServer dialog(line);
+  dialog.press("Pr&int");
+  ASSERT_TRUE(waitUntil([&] { return dialog.shows(QStringLiteral("Printing")); }));
+  dialog.press("Cancel &job");
+  EXPECT_TRUE(waitUntil([&] { return dialog.shows(QStringLiteral("The job was cancelled")); }));
+  expectUsable(dialog);
+  slow.waitUntilIdle();
+  EXPECT_TRUE(slow.printedJobs().empty());
+}
+
+}  // namespace
+
+}  // namespace cutline::test

@@ -1,0 +1,104 @@
+// Settings that the dialog saves are the printer's instances, for other programs too.
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+
+#include "host/dialog/PresetBar.h"
+#include "host/dialog/PresetNameDialog.h"
+#include "tests/e2e/DialogOnServer.h"
+#include "tests/e2e/EndToEndTest.h"
+#include "tests/samples/Command.h"
+
+namespace cutline::test {
+
+namespace {
+
+class Presets : public EndToEndTest {
+ protected:
+  // The settings, and under which name they are saved.
+  static void change(DialogOnServer& dialog) {
+    click(dialog.box("LxHalfCut"));
+    click(dialog.box("LxMirror"));
+    type(dialog.named<QLineEdit>("Number of labels between cuts"), QStringLiteral("4"));
+    choose(dialog.named<QComboBox>("Paper"), QStringLiteral("W24H30"));
+    type(dialog.named<QSpinBox>("Copies"), QStringLiteral("2"));
+  }
+
+  static void save(DialogOnServer& dialog, const QString& name) {
+    dialog.press("&Save...");
+    const auto* question = dialog.dialog().findChild<PresetNameDialog*>();
+    ASSERT_NE(question, nullptr);
+    type(question->findChild<QLineEdit*>(), name);
+    QPushButton* button = nullptr;
+    for (QPushButton* each : question->findChildren<QPushButton*>())
+      if (each->text().contains(QStringLiteral("Save"))) button = each;
+    click(button);
+    const auto* presets = dialog.dialog().findChild<PresetBar*>();
+    EXPECT_TRUE(waitUntil([&] { return presets->presets().contains(name); }));
+  }
+
+  static void saveChanged(const QString& name) {
+    DialogOnServer dialog("tape24");
+    change(dialog);
+    save(dialog, name);
+  }
+};
+
+Choices savedChoices() {
+  return {{"LxHalfCut", "ON"}, {"LxMirror", "ON"}, {"LxCutLabel", "4"}, {"PageSize", "W24H30"}};
+}
+
+TEST_F(Presets, OtherProgramsPrintWhatTheDialogSaved) {
+  Choices wanted;
+  {
+    DialogOnServer dialog("tape24");
+    change(dialog);
+    wanted = dialog.sent();
+    save(dialog, QStringLiteral("shelf"));
+  }
+  ASSERT_EQ(only(wanted, savedChoices()), savedChoices());
+  wanted.erase("copies");
+  const tests::Result printed = tests::run("lp -d tape24/shelf " + labels());
+  ASSERT_EQ(printed.status, 0) << printed.errors;
+  const PrintedJob job = newJob();
+  EXPECT_EQ(only(job.options(), wanted), wanted);
+  EXPECT_EQ(job.number("labels"), 2 * kLabels);
+}
+
+TEST_F(Presets, ADialogThatIsOpenedAgainShowsWhatWasSaved) {
+  saveChanged(QStringLiteral("shelf"));
+  DialogOnServer dialog("tape24/shelf");
+  EXPECT_EQ(dialog.checkBox("LxHalfCut")->state(), CheckBox::kOn);
+  EXPECT_EQ(dialog.checkBox("LxMirror")->state(), CheckBox::kOn);
+  EXPECT_EQ(dialog.named<QLineEdit>("Number of labels between cuts")->text(), QStringLiteral("4"));
+  EXPECT_EQ(dialog.named<QComboBox>("Paper")->currentData().toString(), QStringLiteral("W24H30"));
+  EXPECT_EQ(dialog.named<QSpinBox>("Copies")->value(), 2);
+  EXPECT_EQ(dialog.summary()["Mirror printing"], "Yes");
+  dialog.print();
+  EXPECT_EQ(only(newJob().options(), savedChoices()), savedChoices());
+}
+
+TEST_F(Presets, TheListOffersWhatWasSavedAndBringsItBack) {
+  saveChanged(QStringLiteral("shelf"));
+  DialogOnServer dialog("tape24");
+  const auto* bar = dialog.dialog().findChild<PresetBar*>();
+  ASSERT_TRUE(waitUntil([&] { return bar->presets().contains(QStringLiteral("shelf")); }));
+  EXPECT_NE(only(dialog.sent(), savedChoices()), savedChoices());
+  choose(dialog.named<QComboBox>("Preset"), QStringLiteral("shelf"));
+  EXPECT_EQ(only(dialog.sent(), savedChoices()), savedChoices());
+  EXPECT_EQ(dialog.checkBox("LxHalfCut")->state(), CheckBox::kOn);
+}
+
+TEST_F(Presets, ThePrinterItselfPrintsAsBefore) {
+  saveChanged(QStringLiteral("shelf"));
+  DialogOnServer dialog("tape24");
+  EXPECT_EQ(only(dialog.sent(), cutDefaults(*samplePpd("tape24"))),
+            cutDefaults(*samplePpd("tape24")));
+}
+
+}  // namespace
+
+}  // namespace cutline::test

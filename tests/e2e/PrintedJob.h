@@ -1,0 +1,35 @@
+// What a sample printer has stored of one job.
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "tests/cups/PrivateServer.h"
+#include "tests/samples/Facts.h"
+
+namespace cutline::test {
+
+using Choices = std::map<std::string, std::string>;  // by keyword
+
+class PrintedJob {
+ public:
+  PrintedJob(const PrivateServer& server, int jobId);
+
+  // The options that the printer's driver was started with, without those that the server adds to
+  // tell one job from the next.
+  const Choices& options() const noexcept { return mOptions; }
+  // One line of the printer's list; empty when it has none of the name.
+  std::string fact(const std::string& name) const;
+  int number(const std::string& name) const;
+  // How many labels of the stored picture have something printed on them.
+  int printedLabels() const;
+  // The first label's place in the picture, in dots.
+  printer::Place firstLabel() const;
+
+ private:
+  std::string mPicturePath;
+  tests::Facts mFacts;
+  Choices mOptions;
+};
+
+}  // namespace cutline::test
