@@ -1,0 +1,74 @@
+#include "bundle/diag/settings_file.h"
+
+#include <errno.h>
+#include <fcntl.h>
+#include <stdio.h>
+#include <sys/random.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdint>
+#include <string>
+
+#include "bundle/diag/SafeFormat.h"
+#include "bundle/diag/write_all.h"
+
+namespace cutline {
+namespace {
+
+constexpr mode_t kMode = S_IRUSR | S_IWUSR;
+
+// A new file of a name that nobody can foresee, gone with this object unless it was given another.
+class NewFile {
+ public:
+  explicit NewFile(int directory) : mDirectory(directory) {
+    constexpr int kAttempts = 16;  // another file may have the name
+    for (int i = 0; i < kAttempts && !create(); ++i) {
+      if (errno != EEXIST) return;
+    }
+  }
+  ~NewFile() {
+    if (mDescriptor < 0) return;
+    close(mDescriptor);
+    if (!mName.empty()) unlinkat(mDirectory, mName.c_str(), 0);
+  }
+  NewFile(const NewFile&) = delete;
+  NewFile& operator=(const NewFile&) = delete;
+
+  bool exists() const noexcept { return mDescriptor >= 0; }
+  // The mode is set once more, as the process's mask may have taken from it.
+  bool write(std::string_view contents) const noexcept {
+    return fchmod(mDescriptor, kMode) == 0 && writeAll(mDescriptor, contents) &&
+           fsync(mDescriptor) == 0;
+  }
+  bool rename(const std::string& name) noexcept {
+    if (renameat(mDirectory, mName.c_str(), mDirectory, name.c_str()) != 0) return false;
+    mName.clear();
+    return true;
+  }
+
+ private:
+  bool create() {
+    std::uint64_t number = 0;
+    if (getrandom(&number, sizeof number, 0) != sizeof number) return false;
+    mName = safeFormat(".LxPDE_%016llx", {number});
+    constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+    mDescriptor = openat(mDirectory, mName.c_str(), kFlags, kMode);
+    return mDescriptor >= 0;
+  }
+
+  int mDirectory;
+  int mDescriptor = -1;
+  std::string mName;
+};
+
+}  // namespace
+
+bool writeSettingsFile(int directory, std::string_view name, std::string_view contents) {
+  if (name.find('/') != name.npos || name.find('\0') != name.npos) return false;
+  NewFile file(directory);
+  if (!file.exists() || !file.write(contents)) return false;
+  return file.rename(safeFormat("LxPDE_%@.plist", {name}));
+}
+
+}  // namespace cutline

@@ -1,0 +1,84 @@
+// Messages and hex dumps to standard error and to file descriptors.
+#include <unistd.h>
+
+#include <algorithm>
+#include <span>
+#include <string>
+
+#include "bundle/diag/SafeFormat.h"
+#include "bundle/diag/convertible_text.h"
+#include "bundle/diag/diagnostics.h"
+#include "bundle/diag/quietly.h"
+#include "bundle/diag/write_all.h"
+
+namespace {
+
+using cutline::FormatArguments;
+using cutline::quietly;
+using cutline::safeFormat;
+using cutline::writeAll;
+
+constexpr std::size_t kBytesPerLine = 16;
+
+bool isSilent(int level) noexcept { return level >= 1; }
+
+std::string message(const char* format, FormatArguments arguments) {
+  return cutline::convertibleText(safeFormat(format, arguments));
+}
+
+std::span<const unsigned char> dumpedBytes(const void* bytes, int count) noexcept {
+  if (!bytes || count <= 0) return {};
+  return {static_cast<const unsigned char*>(bytes), static_cast<std::size_t>(count)};
+}
+
+// Calls print(digits) for each 16 bytes and for what is left.
+template <typename Print>
+void dumpLines(std::span<const unsigned char> bytes, const Print& print) {
+  while (!bytes.empty()) {
+    const auto line = bytes.first(std::min(bytes.size(), kBytesPerLine));
+    std::string digits;
+    for (const unsigned char byte : line) digits += safeFormat("%02hhx", {byte});
+    print(digits);
+    bytes = bytes.subspan(line.size());
+  }
+}
+
+void printDump(const std::string& digits) {
+  writeAll(STDERR_FILENO, safeFormat("DEBUG:%s", {digits}));
+}
+
+}  // namespace
+
+void debugLog(int level, const char* format, FormatArguments arguments) noexcept {
+  if (isSilent(level)) return;
+  writeAll(STDERR_FILENO, "DEBUG: ");
+  if (!format) return;
+  // The line is printed as a NUL-terminated string.
+  quietly([&] { writeAll(STDERR_FILENO, message(format, arguments).c_str() + std::string("\n")); });
+}
+
+void debugLogFd(int level, int descriptor, const char* format, FormatArguments arguments) noexcept {
+  if (isSilent(level) || !format) return;
+  quietly([&] {
+    writeAll(descriptor, message(format, arguments));
+    writeAll(descriptor, "\n");
+  });
+}
+
+void memoryCheck(int level, const void* bytes, int count) noexcept {
+  if (isSilent(level)) return;
+  const auto dumped = dumpedBytes(bytes, count);
+  quietly([&] {
+    dumpLines(dumped, printDump);
+    // What is left behind the last line is printed even when it is nothing.
+    if (!dumped.empty() && dumped.size() % kBytesPerLine == 0) printDump("");
+  });
+}
+
+void memoryCheckFd(int level, int descriptor, const void* bytes, int count) noexcept {
+  if (isSilent(level)) return;
+  quietly([&] {
+    dumpLines(dumpedBytes(bytes, count),
+              [&](const std::string& digits) { writeAll(descriptor, digits + "\n"); });
+  });
+}
