@@ -44,7 +44,8 @@ bool StripJob::read(CommandReader& reader, const volatile int& cancelled) {
   while (!mEnded) {
     std::optional<Command> command = reader.next();
     if (cancelled != 0) return refuse("The job was cancelled.");
-    if (!command) return refuse("The job's data broke off.");
+    mBrokeOff = !command;
+    if (mBrokeOff) return refuse("The job's data broke off.");
     std::visit([this](auto& what) { take(std::move(what)); }, *command);
   }
   mStrip.finish();

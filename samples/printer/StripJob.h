@@ -23,6 +23,8 @@ class StripJob {
   // Writes STEM.png and then STEM.txt; both or, where one fails, none.
   bool store(const std::string& stem, const volatile int& cancelled);
   const std::string& problem() const { return mProblem; }
+  // The data ended early: the filter that made it has failed, and has told why.
+  bool brokeOff() const { return mBrokeOff; }
 
  private:
   bool refuse(std::string problem);
@@ -39,6 +41,7 @@ class StripJob {
   Strip mStrip;
   unsigned mLabels = 0;
   bool mEnded = false;
+  bool mBrokeOff = false;
   std::string mProblem;
 };
 

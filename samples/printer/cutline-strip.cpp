@@ -36,8 +36,9 @@ void handleSignals() {
   std::signal(SIGXFSZ, SIG_IGN);
 }
 
-int fail(const std::string& problem) {
-  std::fprintf(stderr, "ERROR: %s\n", problem.c_str());
+// A message for the debugging log doesn't replace what another program told the user.
+int fail(const std::string& problem, const char* level = "ERROR") {
+  std::fprintf(stderr, "%s: %s\n", level, problem.c_str());
   return CUPS_BACKEND_FAILED;
 }
 
@@ -63,7 +64,8 @@ int print(int input, const DeviceUri& device, StripJob::Facts facts, const std::
   const std::string stem = device.folder + "/job-" + number;
   if (job.read(reader, cancelled) && job.store(stem, cancelled)) return CUPS_BACKEND_OK;
   // Nobody needs to be told of what was asked for.
-  return cancelled != 0 ? CUPS_BACKEND_OK : fail(job.problem());
+  if (cancelled != 0) return CUPS_BACKEND_OK;
+  return fail(job.problem(), job.brokeOff() ? "DEBUG" : "ERROR");
 }
 
 int printFrom(int count, char* arguments[], const DeviceUri& device, const char* uri) {

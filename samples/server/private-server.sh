@@ -14,7 +14,8 @@ Usage: private-server.sh start DIR [--pace MS] [--printer FOLDER] [--ppds FOLDER
              starts the server. A label takes MS milliseconds at the printers (0).
   env        prints the lines that turn a shell's printing commands to the server:
              eval "$(private-server.sh env DIR)"
-  wait-idle  waits until no job is left, by default for 60 seconds at most.
+  wait-idle  waits until no job is left, by default for 60 seconds at most; a job that
+             stopped on an error ends the waiting, too.
   stop       ends the server and everything that it runs. The folder stays.
 
 Each job leaves DIR/printed/job-NUMBER.png and job-NUMBER.txt.
@@ -264,6 +265,16 @@ start() {
   print_env
 }
 
+# A job whose filter failed stands still until somebody restarts or cancels it; only the log tells.
+# stopped_job JOBS: the number of the first such of those that lpstat -o lists.
+stopped_job() {
+  local name number
+  while read -r name _; do
+    number=${name##*-}
+    ! grep -q "^E.*\[Job $number\] Job stopped" "$place/log/error_log" || { echo "$number"; return; }
+  done <<<"$1"
+}
+
 # signal_all SIGNAL PID: the server and whatever is left of what it started.
 signal_all() {
   local pid
@@ -288,13 +299,14 @@ stop() {
 }
 
 wait_idle() {
-  local seconds=${1:-60} deadline
+  local seconds=${1:-60} deadline left stopped
   [[ $seconds =~ ^[0-9]{1,6}$ ]] || fail "$seconds is no number of seconds"
   running >/dev/null || fail "no server runs in $place"
   deadline=$((SECONDS + seconds))
-  local left
   while left=$(client lpstat -o 2>&1); [ -n "$left" ]; do
-    [ "$SECONDS" -lt "$deadline" ] || fail "not idle after $seconds seconds: $left"
+    stopped=$(stopped_job "$left")
+    [ -z "$stopped" ] || fail "job $stopped stopped on an error; see $place/log/error_log"
+    [ "$SECONDS" -le "$deadline" ] || fail "not idle after $seconds seconds: $left"
     sleep 0.05
   done
 }

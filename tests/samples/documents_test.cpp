@@ -11,6 +11,13 @@ namespace {
 
 constexpr const char* kFonts = "/usr/share/fonts/truetype/dejavu";
 
+std::string textOf(int page) {
+  const std::string number = std::to_string(page);
+  return run("pdftotext -f " + number + " -l " + number + " " +
+             source("samples/documents/labels.pdf") + " -")
+      .output;
+}
+
 TEST(Documents, AreWhatTheGeneratorDraws) {
   const Folder folder;
   const Result result =
@@ -30,10 +37,7 @@ TEST(Documents, HaveTwelveLabelsOfTheDefaultSize) {
   EXPECT_NE(info.output.find("Pages:           12\n"), std::string::npos) << info.output;
   EXPECT_NE(info.output.find("Page size:       141.73 x 68.03 pts"), std::string::npos);
   for (int page = 1; page <= 12; ++page) {
-    const std::string number = std::to_string(page);
-    const Result text = run("pdftotext -f " + number + " -l " + number + ' ' +
-                            source("samples/documents/labels.pdf") + " -");
-    EXPECT_NE(text.output.find("No. " + std::to_string(104200 + page)), std::string::npos);
+    EXPECT_NE(textOf(page).find("No. " + std::to_string(104200 + page)), std::string::npos);
   }
 }
 

@@ -142,7 +142,23 @@ TEST(PrivateServer, TellsOfAJobThatCannotBePrinted) {
   const Server server;
   server.print("-d tape24 -o raw " + kLabels);
   EXPECT_NE(server.log().find("The data was not made by the printer's driver."), std::string::npos);
+  server.print("-d tape24 -P 50 " + kLabels);
+  EXPECT_NE(server.client("lpstat -p tape24").output.find("The document has no pages to print."),
+            std::string::npos);
   EXPECT_TRUE(server.folder().names("s/printed").empty());
+}
+
+TEST(PrivateServer, DoesNotWaitForAJobThatStopped) {
+  const Server server;
+  // A filter that fails although the printer got all.
+  const std::string filter = server.place() + "/programs/filter/rastertocutline";
+  ASSERT_EQ(run("mv " + filter + ' ' + filter + ".real").status, 0);
+  write(filter, "#!/bin/sh\n" + filter + ".real \"$@\"\nexit 1\n");
+  ASSERT_EQ(run("chmod 755 " + filter).status, 0);
+  ASSERT_EQ(server.client("lp -d tape24 -P 1 " + kLabels).status, 0);
+  const Result idle = server.script("wait-idle", "30");
+  EXPECT_EQ(idle.status, 1);
+  EXPECT_NE(idle.errors.find("job 1 stopped on an error"), std::string::npos) << idle.errors;
 }
 
 TEST(PrivateServer, RunsBesideOthers) {

@@ -33,7 +33,7 @@ int main(int count, char* arguments[]) {
   if (given.size() != 3) return fail("give the folder with the DejaVu fonts and one to write to");
   const Faces faces{Face(given[1] + "/DejaVuSans.ttf"), Face(given[1] + "/DejaVuSans-Bold.ttf")};
   if (!faces.regular.isValid() || !faces.bold.isValid()) return fail("no fonts in " + given[1]);
-  const QString folder = given[2];
+  const QString& folder = given[2];
   const std::string pdf = pdfOf(assetLabels(faces), faces, "Asset labels");
   if (!write(folder + "/labels.pdf", pdf) ||
       !pictureOf(parcelLabel(faces), faces, kDotsPerInch).save(folder + "/label.png"))
