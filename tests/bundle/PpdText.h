@@ -15,7 +15,7 @@ struct PpdCloser {
 using OpenPpd = std::unique_ptr<ppd_file_t, PpdCloser>;
 
 struct PpdChoice {
-  PpdChoice(std::string choiceKeyword) : keyword(choiceKeyword), text(choiceKeyword) {}
+  PpdChoice(const std::string& choiceKeyword) : keyword(choiceKeyword), text(choiceKeyword) {}
   PpdChoice(const char* choiceKeyword) : PpdChoice(std::string(choiceKeyword)) {}
   PpdChoice(std::string choiceKeyword, std::string choiceText)
       : keyword(std::move(choiceKeyword)), text(std::move(choiceText)) {}
