@@ -71,7 +71,7 @@ TEST_F(QtPictureTest, DrawsIntoItsTargetOnly) {
 TEST_F(QtPictureTest, ManySizesAreAllDrawnRight) {
   QtPicture picture(files.addPlain("plain.svg", "#00ff00"));
   for (const int width : {80, 60, 40, 20, 80, 20}) {
-    const QImage image = painted(picture, QRectF(0, 0, width, width / 2));
+    const QImage image = painted(picture, QRectF(0, 0, width, width / 2.0));
     EXPECT_EQ(image.pixel(width - 1, width / 2 - 1), 0xff00ff00) << width;
   }
 }

@@ -112,7 +112,7 @@ TEST_F(QtToolkitTest, TabVisitsRowsFromTopToBottomThenTheNextColumn) {
   preset->addItem({"A", 1, {}, {}});
   root->addSubview(preset);
   const auto last = boxAt(10, 60);
-  const auto stepper = toolkit.createStepper({{80, 119}, {22, 24}});
+  const auto stepper = toolkit.createStepper({{80, 120}, {22, 24}});
   root->addSubview(stepper);
   const auto field = toolkit.createTextField({{30, 120}, {40, 22}});
   root->addSubview(field);
