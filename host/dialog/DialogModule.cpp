@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QLoggingCategory>
+#include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <iostream>
 
@@ -13,6 +15,9 @@
 namespace cutline {
 namespace {
 
+constexpr char kNoDisplay[] =
+    "cutline: no display can be opened; set DISPLAY, or print with --print";
+
 // The toolkit ends the process where it finds no display; this makes it a plain error. Lives while
 // the toolkit looks for one.
 class DisplayErrors {
@@ -23,20 +28,26 @@ class DisplayErrors {
   DisplayErrors& operator=(const DisplayErrors&) = delete;
 
  private:
+  // What it says before that is of plug-ins and of no help.
   static void handle(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-    if (type != QtFatalMsg) {
-      if (sBefore != nullptr && !text.contains(QLatin1String("display"))) {
-        sBefore(type, context, text);
-      }
-      return;
+    if (type == QtFatalMsg) {
+      std::cerr << kNoDisplay << std::endl;
+      std::_Exit(kExitError);
     }
-    std::cerr << "cutline: no display can be opened; set DISPLAY, or print with --print"
-              << std::endl;
-    std::_Exit(kExitError);
+    if (!QLatin1String(context.category).startsWith(QLatin1String("qt.qpa"))) {
+      sBefore(type, context, text);
+    }
   }
 
   static inline QtMessageHandler sBefore = nullptr;
 };
+
+bool mayHaveDisplay(const CommandLine& line) {
+  if (line.command == Command::snapshot) return true;
+  constexpr std::array kNames = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+  return std::any_of(kNames.begin(), kNames.end(),
+                     [](const char* name) { return !qEnvironmentVariableIsEmpty(name); });
+}
 
 // Before any thread is started, because it changes the environment.
 void prepareEnvironment(const CommandLine& line) {
@@ -63,6 +74,10 @@ std::unique_ptr<QApplication> makeApplication() {
 
 int runDialog(const DialogRequest& request) {
   const CommandLine& line = *request.commandLine;
+  if (!mayHaveDisplay(line)) {
+    std::cerr << kNoDisplay << std::endl;
+    return kExitError;
+  }
   prepareEnvironment(line);
   const FirstPrinter printer = startFindingFirstPrinter(line);
   const std::unique_ptr<QApplication> application = makeApplication();
