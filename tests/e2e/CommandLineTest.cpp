@@ -119,6 +119,25 @@ TEST_P(WithoutWindow, PrintsWhatTheDialogPrints) {
   }
 }
 
+constexpr const char* kGuiLibraries[] = {"libQt6", "libX11", "libxcb", "libwayland", "libpoppler"};
+
+TEST_F(EndToEndTest, CommandsWithoutAWindowLoadNoGuiLibrary) {
+  const std::string document = labels();
+  for (const std::string& command :
+       {std::string("--list"), std::string("--options -d tape24"),
+        std::string("--summary -d tape24"), "--print -d tape24 -P 1 " + document}) {
+    const tests::Result result = runProgram(command, "LD_DEBUG=files");
+    EXPECT_EQ(result.status, kExitDone) << command;
+    EXPECT_NE(result.errors.find("libcutline-host.so"), std::string::npos) << command;
+    for (const char* library : kGuiLibraries)
+      EXPECT_EQ(result.errors.find(library), std::string::npos) << command << ": " << library;
+  }
+  // A command with a window does, so the names above are those to look for.
+  const tests::Result shown = runProgram("--marks -d tape24", "LD_DEBUG=files");
+  EXPECT_EQ(shown.status, kExitDone) << shown.output;
+  EXPECT_NE(shown.errors.find("libQt6Widgets"), std::string::npos);
+}
+
 }  // namespace
 
 }  // namespace cutline::test

@@ -191,6 +191,10 @@ bool DialogOnServer::shows(const QString& part) const {
   });
 }
 
+bool DialogOnServer::willShow(const QString& part) const {
+  return waitUntil([&] { return shows(part); });
+}
+
 Choices DialogOnServer::sent() const { return asChoices(mModel->jobOptions()); }
 
 // Titles and values stand in turn.

@@ -60,7 +60,9 @@ class DialogOnServer {
   void print();
   bool waitForClose();
 
+  // A label on the screen has the text, at once or within the time that waitUntil gives.
   bool shows(const QString& part) const;
+  bool willShow(const QString& part) const;
   Choices sent() const;
   // The summary as it is on the screen.
   Choices summary() const;

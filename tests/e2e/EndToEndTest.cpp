@@ -67,7 +67,9 @@ Choices only(const Choices& options, const Choices& names) {
   return chosen;
 }
 
-EndToEndTest::EndToEndTest() : mBefore(server().printedJobs()) {
+EndToEndTest::EndToEndTest() {
+  server().waitUntilIdle();
+  mBefore = server().printedJobs();
   std::filesystem::remove(server().home() + "/.cups/lpoptions");
 }
 

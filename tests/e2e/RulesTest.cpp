@@ -65,7 +65,7 @@ TEST_P(Rules, AreNamedInTheDialogAndKept) {
   line.asked.options = asList(GetParam().asked);
   DialogOnServer dialog(line);
   for (const std::string& notice : GetParam().notices)
-    EXPECT_TRUE(dialog.shows(QString::fromStdString(notice))) << notice;
+    EXPECT_TRUE(dialog.willShow(QString::fromStdString(notice))) << notice;
   EXPECT_EQ(dialog.model().deviations().size(), GetParam().notices.size());
   dialog.print();
   EXPECT_EQ(only(newJob().options(), GetParam().sent), GetParam().sent);
@@ -92,10 +92,11 @@ TEST_F(RulesByHand, SpecialTapeGreysWhatItTurnsOffAndGivesItBack) {
   click(dialog.box("LxHalfCut"));
   click(dialog.box("LxSpecialTape"));
   EXPECT_FALSE(dialog.box("LxHalfCut")->isEnabled());
-  EXPECT_TRUE(dialog.shows(QString::fromStdString(kRules[0].notices[0])));
+  EXPECT_TRUE(dialog.willShow(QString::fromStdString(kRules[0].notices[0])));
   EXPECT_EQ(dialog.sent()["LxHalfCut"], "OFF");
   EXPECT_EQ(dialog.picture(), "SPMROnOff");
   click(dialog.box("LxSpecialTape"));
+  EXPECT_TRUE(dialog.model().deviations().empty());
   EXPECT_FALSE(dialog.shows(QString::fromStdString(kRules[0].notices[0])));
   dialog.print();
   const PrintedJob job = newJob();
@@ -117,9 +118,10 @@ TEST_F(RulesByHand, TubeTurnsAutoCutOffAndTapeTurnsItOnAgain) {
   DialogOnServer dialog("tape24");
   auto* papers = dialog.named<QComboBox>("Paper");
   choose(papers, QStringLiteral("HS24H50"));
-  EXPECT_TRUE(dialog.shows(QString::fromStdString(kRules[3].notices[0])));
+  EXPECT_TRUE(dialog.willShow(QString::fromStdString(kRules[3].notices[0])));
   EXPECT_EQ(dialog.checkBox("LxAutoTapeCut")->state(), CheckBox::kOff);
   choose(papers, QStringLiteral("W24H50"));
+  EXPECT_TRUE(dialog.model().deviations().empty());
   EXPECT_FALSE(dialog.shows(QString::fromStdString(kRules[3].notices[0])));
   dialog.print();
   EXPECT_EQ(newJob().options().at("LxAutoTapeCut"), "ON");

@@ -1,0 +1,113 @@
+// The real program on a display, with real events of the display's own.
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QStyle>
+#include <QStyleOptionButton>
+
+#include "tests/e2e/DialogOnServer.h"
+#include "tests/e2e/Display.h"
+#include "tests/e2e/EndToEndTest.h"
+
+namespace cutline::test {
+
+namespace {
+
+constexpr int kPatience = 20000;
+const QString kTitle = QStringLiteral("^Print labels.pdf$");
+const QPoint kAside(1, 1);
+
+QRect indicatorOf(const QCheckBox& box, const QWidget& dialog) {
+  QStyleOptionButton option;
+  option.initFrom(&box);
+  const QRect indicator = box.style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, &box);
+  return {box.mapTo(&dialog, indicator.topLeft()), indicator.size()};
+}
+
+// The dialog as it has to look: the same dialog in this process says where its controls are and
+// what they look like.
+struct Likeness {
+  QSize size;
+  QRect box;  // the tick's place
+  QPoint print;
+  QImage unticked;
+  QImage ticked;
+};
+
+Likeness likeness() {
+  DialogOnServer dialog("tape24");
+  const QWidget& window = dialog.dialog();
+  const auto* box = qobject_cast<QCheckBox*>(dialog.box("LxHalfCut"));
+  Likeness likeness{window.size(), indicatorOf(*box, window), {}, {}, {}};
+  for (const QPushButton* button : window.findChildren<QPushButton*>())
+    if (button->text() == QStringLiteral("Pr&int"))
+      likeness.print = button->mapTo(&window, button->rect().center());
+  const auto picture = [&] {
+    return dialog.dialog().grab(likeness.box).toImage().convertToFormat(QImage::Format_RGB32);
+  };
+  likeness.unticked = picture();
+  click(dialog.box("LxHalfCut"));
+  likeness.ticked = picture();
+  return likeness;
+}
+
+class OnDisplay : public EndToEndTest {
+ protected:
+  OnDisplay() {
+    mDisplay.movePointer(kAside);
+    mDisplay.start(
+        mProgram, QString::fromStdString(built("bin/cutline")),
+        {QStringLiteral("-d"), QStringLiteral("tape24"), QString::fromStdString(labels())});
+    mWindow = mDisplay.waitForWindow(kTitle);
+  }
+  ~OnDisplay() override {
+    mProgram.kill();
+    mProgram.waitForFinished(kPatience);
+  }
+
+  const Display& display() const { return mDisplay; }
+  const QRect& window() const { return mWindow; }
+  bool willLook(const QRect& place, const QImage& like) const {
+    return waitUntil(
+        [&] { return mDisplay.picture().copy(place.translated(mWindow.topLeft())) == like; });
+  }
+  int exitStatus() {
+    if (!mProgram.waitForFinished(kPatience)) return -1;
+    EXPECT_EQ(mProgram.exitStatus(), QProcess::NormalExit);
+    return mProgram.exitCode();
+  }
+
+ private:
+  Display mDisplay;
+  QProcess mProgram;
+  QRect mWindow;
+};
+
+TEST_F(OnDisplay, AClickOnHalfCutAndOneOnPrintReachThePrinter) {
+  const Likeness like = likeness();
+  ASSERT_NE(like.ticked, like.unticked);
+  ASSERT_EQ(window().size(), like.size);
+  ASSERT_TRUE(willLook(like.box, like.unticked)) << "the dialog does not come up";
+  display().click(window().topLeft() + like.box.center());
+  display().movePointer(kAside);
+  EXPECT_TRUE(willLook(like.box, like.ticked)) << "the box does not get its tick";
+  display().click(window().topLeft() + like.print);
+  EXPECT_EQ(exitStatus(), kExitDone);
+  const PrintedJob job = newJob();
+  EXPECT_EQ(job.options().at("LxHalfCut"), "ON");
+  EXPECT_EQ(job.number("labels"), kLabels);
+}
+
+TEST_F(OnDisplay, EscapeCancels) {
+  const Likeness like = likeness();
+  ASSERT_TRUE(willLook(like.box, like.unticked)) << "the dialog does not come up";
+  display().press(kTitle, QStringLiteral("Escape"));
+  EXPECT_EQ(exitStatus(), kExitCancelled);
+  EXPECT_TRUE(nothingNew());
+}
+
+}  // namespace
+
+}  // namespace cutline::test

@@ -1,0 +1,139 @@
+// An installation works wherever it is moved to, and of the build nothing is left in it.
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <filesystem>
+#include <memory>
+
+#include "tests/e2e/EndToEndTest.h"
+#include "tests/samples/Command.h"
+#include "tests/samples/Folder.h"
+
+namespace cutline::test {
+
+namespace {
+
+// A machine's library path must not help.
+constexpr char kClean[] = "env -u LD_LIBRARY_PATH QT_QPA_PLATFORM=offscreen ";
+
+class Installation : public EndToEndTest {
+ protected:
+  // Symbols for debugging name the build, so they are left out.
+  static void SetUpTestSuite() {
+    folder = std::make_unique<tests::Folder>();
+    const tests::Result installed =
+        tests::run(std::string(CUTLINE_CMAKE " --install " CUTLINE_BUILD_DIR " --strip --prefix ") +
+                   *folder / "first");
+    ASSERT_EQ(installed.status, 0) << installed.errors;
+    std::filesystem::rename(*folder / "first", prefix());
+  }
+  static void TearDownTestSuite() { folder.reset(); }
+
+  static std::string prefix() { return *folder / "moved"; }
+  static std::string place(const std::string& path) { return prefix() + "/" + path; }
+  static tests::Result program(const std::string& words, const std::string& before = {}) {
+    return tests::run(kClean + before + " " + place("bin/cutline") + " " + words);
+  }
+  // The folders that a file looks for libraries in; empty when it names none.
+  static std::string runPath(const std::string& path) {
+    return tests::run("readelf -d " + place(path) +
+                      " | sed -nE 's/.*\\((RUNPATH|RPATH)\\).*\\[(.*)\\]/\\2/p' | tr -d '\\n'")
+        .output;
+  }
+  static std::string cutOptions() {
+    const std::string found =
+        tests::run("find " + prefix() + " -name CutOptions.so -printf %P").output;
+    EXPECT_NE(found, "");
+    return found;
+  }
+
+ private:
+  static inline std::unique_ptr<tests::Folder> folder;
+};
+
+TEST_F(Installation, SaysItsVersion) {
+  const tests::Result result = program("--version");
+  EXPECT_EQ(result.status, 0) << result.errors;
+  EXPECT_TRUE(result.output.starts_with("cutline ")) << result.output;
+}
+
+TEST_F(Installation, FindsItsOwnLibrariesPanelsAndSamples) {
+  const tests::Result result =
+      program("--options -o LxHalfCut=ON --ppd " + place("share/cutline/samples/ppd/tape-a.ppd"),
+              "LD_DEBUG=files");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_NE(result.output.find("LxHalfCut=ON\n"), std::string::npos) << result.output;
+  EXPECT_NE(result.errors.find(place("bin/../lib/cutline/libcutline-host.so")), std::string::npos);
+  EXPECT_EQ(result.errors.find(CUTLINE_BUILD_DIR), std::string::npos);
+  const tests::Result summary =
+      program("--summary --ppd " + place("share/cutline/samples/ppd/tape-a.ppd"));
+  EXPECT_NE(summary.output.find("Half cut between labels: No"), std::string::npos)
+      << summary.output << summary.errors;
+}
+
+TEST_F(Installation, DrawsItsDialog) {
+  const std::string picture = place("picture.png");
+  const tests::Result result =
+      program("--snapshot " + picture + " --ppd " + place("share/cutline/samples/ppd/tape-a.ppd") +
+                  " " + place("share/cutline/samples/documents/labels.pdf"),
+              "LD_DEBUG=files");
+  EXPECT_EQ(result.status, 0) << result.errors;
+  EXPECT_EQ(result.errors.find(CUTLINE_BUILD_DIR), std::string::npos);
+  EXPECT_NE(result.errors.find("cutline-document.so"), std::string::npos);
+  const QImage shown(QString::fromStdString(picture));
+  EXPECT_GE(shown.width(), 1000);
+  EXPECT_GE(shown.height(), 600);
+  std::filesystem::remove(picture);
+}
+
+TEST_F(Installation, ListsThePrintersWithTheirPanels) {
+  const tests::Result result = program("--list");
+  EXPECT_EQ(result.status, 0) << result.errors;
+  for (const char* line :
+       {"tape24 (default): tape; panels: Cut Options\n", "tapeb: tape; panels: Cut Options\n",
+        "roll62: label roll; panels: Cut Options\n"})
+    EXPECT_NE(result.output.find(line), std::string::npos) << result.output;
+}
+
+TEST_F(Installation, PrintsOnItsOwnSampleServer) {
+  const tests::Folder folder;
+  const std::string script = place("share/cutline/samples/server/private-server.sh");
+  const std::string server = folder / "s";
+  const std::string unset = "env -u CUTLINE_PREFIX -u CUPS_SERVER ";
+  const tests::Result started = tests::run(unset + script + " start " + server);
+  ASSERT_EQ(started.status, 0) << started.errors;
+  const tests::Result printed =
+      tests::run("eval \"$(" + script + " env " + server + ")\"; " + place("bin/cutline") +
+                 " --print -d tapeb -o LxHalfCut=ON -P 1-2 " +
+                 place("share/cutline/samples/documents/labels.pdf") + " && " + script +
+                 " wait-idle " + server);
+  EXPECT_EQ(tests::run(script + " stop " + server).status, 0);
+  EXPECT_EQ(printed.status, 0) << printed.errors;
+  tests::Facts facts = tests::factsOf(server + "/printed/job-1.txt");
+  EXPECT_EQ(facts["LxHalfCut"], "ON");
+  EXPECT_EQ(facts["labels"], "2");
+}
+
+TEST_F(Installation, LooksForLibrariesBesideItself) {
+  EXPECT_EQ(runPath("bin/cutline"), "$ORIGIN/../lib/cutline");
+  for (const char* file : {"libcutline-host.so", "cutline-dialog.so", "cutline-document.so"})
+    EXPECT_EQ(runPath(std::string("lib/cutline/") + file), "$ORIGIN") << file;
+}
+
+// The program has the platform's library already; the panel must not bring another.
+TEST_F(Installation, ThePanelLooksNowhereForLibraries) { EXPECT_EQ(runPath(cutOptions()), ""); }
+
+TEST_F(Installation, NothingNamesTheBuild) {
+  int files = 0;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(prefix())) {
+    if (!entry.is_regular_file()) continue;
+    ++files;
+    EXPECT_EQ(tests::contentsOf(entry.path()).find(CUTLINE_BUILD_DIR), std::string::npos)
+        << entry.path();
+  }
+  EXPECT_GT(files, 40);
+}
+
+}  // namespace
+
+}  // namespace cutline::test
