@@ -13,6 +13,7 @@ namespace cutline {
 namespace {
 
 constexpr int kLongestName = 127;
+constexpr int kNameWidth = 280;
 
 QString translated(const char* text) {
   return QCoreApplication::translate("cutline::PresetNameDialog", text);
@@ -43,6 +44,7 @@ PresetNameDialog::PresetNameDialog(const QString& suggestion, QStringList taken,
   auto* caption = new QLabel(tr("&Name of the preset:"), this);
   caption->setBuddy(mName);
   mName->setAccessibleName(tr("Name of the preset"));
+  mName->setMinimumWidth(kNameWidth);
   mHint->setWordWrap(true);
   mHint->setTextFormat(Qt::PlainText);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel, this);

@@ -1,0 +1,164 @@
+// One run of the program's dialog, from the printer that is looked for to the exit status.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QImage>
+#include <QLabel>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <future>
+
+#include "host/core/CommandLine.h"
+#include "host/core/Installation.h"
+#include "host/core/PluginLoader.h"
+#include "host/dialog/DialogSession.h"
+#include "tests/dialog/DialogTest.h"
+
+namespace cutline {
+
+namespace {
+
+class DialogSessionTest : public testing::Test {
+ protected:
+  DialogSessionTest()
+      : mPlugIns({CUTLINE_BUILD_DIR "/lib/cutline/plugins"}), mInstallation(CUTLINE_BUILD_DIR) {
+    mLine.command = Command::dialog;
+    mLine.ppdPath = samplePpd("tape-a");
+    mLine.file = CUTLINE_SOURCE_DIR "/samples/documents/labels.pdf";
+  }
+
+  int run(const FirstPrinter& printer) {
+    testing::internal::CaptureStderr();
+    const int status = DialogSession({&mLine, &mPlugIns, &mInstallation}, printer).run();
+    mErrors = testing::internal::GetCapturedStderr();
+    return status;
+  }
+  int run() { return run(startFindingFirstPrinter(mLine)); }
+
+  static PrintDialog* shownDialog() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      auto* dialog = qobject_cast<PrintDialog*>(window);
+      if (dialog && dialog->isVisible()) return dialog;
+    }
+    return nullptr;
+  }
+  static bool shows(const char* part) {
+    const PrintDialog* dialog = shownDialog();
+    if (!dialog) return false;
+    for (const QLabel* label : dialog->findChildren<QLabel*>()) {
+      if (label->isVisible() && label->text().contains(QLatin1String(part))) return true;
+    }
+    return false;
+  }
+  // Runs the action once the condition holds, and ends the session when it never does.
+  void when(std::function<bool()> condition, std::function<void()> action) {
+    auto* timer = new QTimer(&mTimers);
+    timer->setInterval(10);
+    QObject::connect(timer, &QTimer::timeout, [=, tries = 0]() mutable {
+      if (++tries > 500) QApplication::exit(-1);
+      if (!condition()) return;
+      timer->stop();
+      action();
+    });
+    timer->start();
+  }
+  void closeWhen(std::function<bool()> condition) {
+    when(std::move(condition), [] { shownDialog()->close(); });
+  }
+
+  CommandLine mLine;
+  PluginLoader mPlugIns;
+  Installation mInstallation;
+  std::string mErrors;
+  QObject mTimers;
+};
+
+TEST_F(DialogSessionTest, TheSnapshotHoldsPanelAndDocument) {
+  const QTemporaryDir directory;
+  mLine.command = Command::snapshot;
+  mLine.snapshotPath = directory.filePath(QStringLiteral("dialog.png")).toStdString();
+  EXPECT_EQ(run(), kExitDone);
+  const QImage picture(QString::fromStdString(mLine.snapshotPath));
+  ASSERT_FALSE(picture.isNull());
+  EXPECT_GE(picture.width(), 1100);
+  int black = 0;
+  for (int x = 0; x < picture.width() / 2; ++x) {
+    black += qGray(picture.pixel(x, 120)) < 40 ? 1 : 0;
+  }
+  EXPECT_GT(black, 20) << "the document's black bars are missing";
+  EXPECT_EQ(mErrors, "");
+}
+
+TEST_F(DialogSessionTest, ASnapshotThatCannotBeWrittenIsAnError) {
+  mLine.command = Command::snapshot;
+  mLine.snapshotPath = "/nowhere/dialog.png";
+  EXPECT_EQ(run(), kExitError);
+  EXPECT_EQ(mErrors,
+            "cutline: /nowhere/dialog.png: the picture cannot be written; "
+            "name another file\n");
+}
+
+TEST_F(DialogSessionTest, AMissingDocumentIsAnErrorBeforeAnythingIsShown) {
+  mLine.file = "/nowhere/labels.pdf";
+  EXPECT_EQ(run(), kExitError);
+  EXPECT_EQ(mErrors, "cutline: /nowhere/labels.pdf: there is no such document\n");
+}
+
+TEST_F(DialogSessionTest, AnUnreadablePpdIsAnErrorBeforeAnythingIsShown) {
+  mLine.ppdPath = "/nowhere/printer.ppd";
+  EXPECT_EQ(run(), kExitError);
+  EXPECT_NE(mErrors.find("/nowhere/printer.ppd"), std::string::npos);
+}
+
+TEST_F(DialogSessionTest, ClosingTheDialogCancels) {
+  closeWhen([] { return shownDialog() != nullptr; });
+  EXPECT_EQ(run(), kExitCancelled);
+}
+
+TEST_F(DialogSessionTest, ADialogWithoutADocumentSaysSo) {
+  mLine.file.reset();
+  closeWhen([] { return shows("PPD file, no printer"); });
+  EXPECT_EQ(run(), kExitCancelled);
+}
+
+TEST_F(DialogSessionTest, ASlowServerIsWaitedForOnTheScreen) {
+  std::promise<Result<PrinterChoice>> answer;
+  closeWhen([] { return shows("Waiting for the print server"); });
+  EXPECT_EQ(run(answer.get_future().share()), kExitCancelled);
+  answer.set_value(Error{"too late"});
+}
+
+TEST_F(DialogSessionTest, TheLateAnswerOfAServerOpensThePrinter) {
+  std::promise<Result<PrinterChoice>> answer;
+  when([] { return shows("Waiting for the print server"); },
+       [&] { answer.set_value(findFirstPrinter(mLine)); });
+  closeWhen([] { return shows("Label 1 of 12"); });
+  EXPECT_EQ(run(answer.get_future().share()), kExitCancelled);
+}
+
+TEST_F(DialogSessionTest, TheLateFailureOfAServerIsShownAndIsAnError) {
+  std::promise<Result<PrinterChoice>> answer;
+  when([] { return shows("Waiting for the print server"); },
+       [&] { answer.set_value(Error{"the print server does not answer"}); });
+  closeWhen([] { return shows("the print server does not answer"); });
+  EXPECT_EQ(run(answer.get_future().share()), kExitError);
+  EXPECT_EQ(mErrors, "cutline: the print server does not answer\n");
+}
+
+TEST_F(DialogSessionTest, MarksAreTimesInTheirOrderAndEndTheProgram) {
+  mLine.marks = true;
+  testing::internal::CaptureStdout();
+  EXPECT_EQ(run(), kExitDone);
+  const std::string output = testing::internal::GetCapturedStdout();
+  std::size_t place = 0;
+  for (const char* name :
+       {"MARK constructed ", "MARK painted ", "MARK complete ", "MARK rss_MiB "}) {
+    const std::size_t found = output.find(name, place);
+    ASSERT_NE(found, std::string::npos) << name << " in " << output;
+    place = found;
+  }
+}
+
+}  // namespace
+
+}  // namespace cutline
