@@ -85,8 +85,9 @@ TEST_F(Streams, WithoutAFormatThereIsNoMessage) {
 TEST_F(Streams, AMessageAndItsLineFeedAreTwoWrites) {
   std::array<int, 2> ends{};
   ASSERT_EQ(socketpair(AF_UNIX, SOCK_SEQPACKET, 0, ends.data()), 0);
-  const Channel channel(ends);
+  Channel channel(ends);
   debugLogFd(0, channel.input(), "message", {});
+  channel.closeInput();
   EXPECT_EQ(channel.next(), "message");
   EXPECT_EQ(channel.next(), "\n");
 }
@@ -164,9 +165,9 @@ TEST_F(Streams, ALongMessageOutlastsShortAndInterruptedWrites) {
   pthread_sigmask(SIG_BLOCK, &alarm, nullptr);
   auto reader = std::async(std::launch::async, [&] {
     std::string read;
-    while (read.size() <= text.size()) {
+    for (std::string part = channel.next(); !part.empty(); part = channel.next()) {
+      read += part;
       usleep(1000);
-      read += channel.next();
     }
     return read;
   });
@@ -175,6 +176,7 @@ TEST_F(Streams, ALongMessageOutlastsShortAndInterruptedWrites) {
   debugLogFd(0, channel.input(), "%s", {text});
   const itimerval never{};
   setitimer(ITIMER_REAL, &never, nullptr);
+  channel.closeInput();
   EXPECT_TRUE(reader.get() == text + "\n");
   sigaction(SIGALRM, &before, nullptr);
 }
