@@ -3,7 +3,6 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTimer>
-#include <algorithm>
 #include <utility>
 
 #include "host/core/CommandLine.h"
@@ -15,6 +14,7 @@
 #include "host/dialog/NoticeView.h"
 #include "host/dialog/PanelFrame.h"
 #include "host/dialog/PresetBar.h"
+#include "host/dialog/PresetKeeper.h"
 #include "host/dialog/PrinterBar.h"
 #include "host/dialog/StripPane.h"
 #include "host/dialog/SummaryView.h"
@@ -71,6 +71,7 @@ PrintDialog::PrintDialog(PrintModel& model, std::shared_ptr<PrintServer> server,
       mPanelFrame(new PanelFrame(mSettings)),
       mSummary(new SummaryView(mSettings)),
       mNotices(new NoticeView(mSettings)),
+      mPresets(new PresetKeeper(model, *mServer, *mPresetBar, *mNotices, this)),
       mStripPane(new StripPane(this)),
       mMoreOptions(new MoreOptionsPanel(this)),
       mMoreButton(new QPushButton(tr("&More printer options"), this)),
@@ -82,7 +83,6 @@ PrintDialog::PrintDialog(PrintModel& model, std::shared_ptr<PrintServer> server,
                                        : tr("Print %1").arg(toQString(mSource.title)));
   makeLayout();
   connectSettings();
-  connectPresets();
   connectDocument();
   connectServer();
   connectJob();
@@ -115,14 +115,6 @@ void PrintDialog::connectSettings() {
   connect(mCancel, &QPushButton::clicked, this, &PrintDialog::reject);
 }
 
-void PrintDialog::connectPresets() {
-  connect(mPresetBar, &PresetBar::presetChosen, this, &PrintDialog::choosePreset);
-  connect(mPresetBar, &PresetBar::saveRequested, this, &PrintDialog::savePreset);
-  connect(mPresetBar, &PresetBar::removalRequested, this, [this](const QString& name) {
-    mServer->removePreset({mModel.destination().name.printer, toUtf8(name)});
-  });
-}
-
 void PrintDialog::connectDocument() {
   StripView& strip = mStripPane->strip();
   connect(&strip, &StripView::pagesWanted, mDocument, &DocumentLoader::request);
@@ -147,13 +139,11 @@ void PrintDialog::connectDocument() {
 
 void PrintDialog::connectServer() {
   connect(mServer, &ServerClient::printersListed, this, &PrintDialog::takePrinters);
+  connect(mServer, &ServerClient::listingFailed, this,
+          [this](const QString& reason) { mNotices->setNotice(NoticeTopic::failure, reason); });
   connect(mServer, &ServerClient::printerOpened, this, &PrintDialog::openPrinter);
   connect(mServer, &ServerClient::openingFailed, this, &PrintDialog::openingFailed);
   connect(mServer, &ServerClient::stateKnown, this, &PrintDialog::takeState);
-  connect(mServer, &ServerClient::presetSaved, this, &PrintDialog::presetSaved);
-  connect(mServer, &ServerClient::presetRemoved, this, &PrintDialog::presetRemoved);
-  connect(mServer, &ServerClient::presetFailed, this,
-          [this](const QString& reason) { mNotices->setNotice(NoticeTopic::failure, reason); });
   mStateTimer.setInterval(kStateMilliseconds);
   connect(&mStateTimer, &QTimer::timeout, this, [this] {
     if (mModel.hasQueue()) mServer->askState(mModel.destination().name);
@@ -228,8 +218,7 @@ void PrintDialog::showPrinter() {
   } else {
     mPrinterBar->setPpdFile(toQString(destination.info));
   }
-  mPresetBar->setEnabled(mModel.hasQueue());
-  showPresets(toQString(destination.name.instance.value_or("")));
+  mPresets->showPrinter();
   mPanelFrame->setPanels(mModel.panels());
   mJobForm->setPapers(mModel.papers());
   mMoreOptions->setGroups(mModel.generatedOptions());
@@ -283,10 +272,9 @@ void PrintDialog::startWatching() {
 }
 
 void PrintDialog::takePrinters(const std::vector<Destination>& destinations) {
-  mDestinations = destinations;
   mPrinterBar->setPrinters(destinations);
   mPrinterBar->setCurrent(mModel.destination());
-  showPresets(toQString(mModel.destination().name.instance.value_or("")));
+  mPresets->setDestinations(destinations);
 }
 
 void PrintDialog::takeState(const Destination& destination) {
@@ -307,12 +295,9 @@ void PrintDialog::takeState(const Destination& destination) {
 }
 
 void PrintDialog::choosePrinter(const QString& name) {
-  const DestinationName wanted{toUtf8(name), std::nullopt};
-  const auto found =
-      std::find_if(mDestinations.begin(), mDestinations.end(),
-                   [&](const Destination& destination) { return destination.name == wanted; });
-  if (found == mDestinations.end()) return;
-  mServer->openPrinter(*found);
+  const Destination* printer = mPresets->find({toUtf8(name), std::nullopt});
+  if (!printer) return;
+  mServer->openPrinter(*printer);
   mPrinterBar->setWaiting(tr("Opening %1...").arg(name));
   mNotices->clear(NoticeTopic::printer);
   refreshPrintButton();
@@ -339,50 +324,6 @@ void PrintDialog::editPages(const QString& text) {
 void PrintDialog::finishPages(const QString& text) {
   const Result<Done> set = mModel.setPageRanges(toUtf8(text));
   mJobForm->setPagesProblem(set ? QString() : asSentence(toQString(set.error().message)));
-}
-
-void PrintDialog::showPresets(const QString& current) {
-  QStringList names;
-  for (const Destination& each : mDestinations) {
-    if (each.name.printer != mModel.destination().name.printer || !each.name.instance) continue;
-    names.append(toQString(*each.name.instance));
-  }
-  if (!current.isEmpty() && !names.contains(current)) names.append(current);
-  mPresetBar->setPresets(names, current);
-}
-
-void PrintDialog::choosePreset(const QString& name) {
-  const std::string& printer = mModel.destination().name.printer;
-  const DestinationName wanted{printer,
-                               name.isEmpty() ? std::nullopt : std::optional(toUtf8(name))};
-  const auto found =
-      std::find_if(mDestinations.begin(), mDestinations.end(),
-                   [&](const Destination& destination) { return destination.name == wanted; });
-  if (found == mDestinations.end()) return;
-  mModel.applyPreset(found->savedOptions);
-}
-
-void PrintDialog::savePreset(const QString& name) {
-  const Result<OptionList> options = mModel.savePreset();
-  if (!options)
-    return mNotices->setNotice(NoticeTopic::failure, toQString(options.error().message));
-  mPresetToBe = *options;
-  mServer->savePreset({mModel.destination().name.printer, toUtf8(name)}, *options);
-}
-
-void PrintDialog::presetSaved(const QString& name) {
-  Destination saved = mModel.destination();
-  saved.name.instance = toUtf8(name);
-  saved.savedOptions = mPresetToBe;
-  std::erase_if(mDestinations, [&](const Destination& each) { return each.name == saved.name; });
-  mDestinations.push_back(saved);
-  showPresets(name);
-}
-
-void PrintDialog::presetRemoved(const QString& name) {
-  const DestinationName removed{mModel.destination().name.printer, toUtf8(name)};
-  std::erase_if(mDestinations, [&](const Destination& each) { return each.name == removed; });
-  showPresets({});
 }
 
 void PrintDialog::showMoreOptions(bool shown) { mMoreOptions->setVisible(shown); }

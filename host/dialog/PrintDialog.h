@@ -27,6 +27,7 @@ class MoreOptionsPanel;
 class NoticeView;
 class PanelFrame;
 class PresetBar;
+class PresetKeeper;
 class PrinterBar;
 class StripPane;
 class SummaryView;
@@ -79,7 +80,6 @@ class PrintDialog : public QDialog, private PrintModelListener {
   QWidget* makeRightSide();
   QWidget* makeButtons();
   void connectSettings();
-  void connectPresets();
   void connectDocument();
   void connectServer();
   void connectJob();
@@ -90,15 +90,10 @@ class PrintDialog : public QDialog, private PrintModelListener {
   void chooseOption(const QString& keyword, const QString& choice);
   void editPages(const QString& text);
   void finishPages(const QString& text);
-  void choosePreset(const QString& name);
-  void savePreset(const QString& name);
-  void presetSaved(const QString& name);
-  void presetRemoved(const QString& name);
   void showMoreOptions(bool shown);
 
   void takePrinters(const std::vector<Destination>& destinations);
   void takeState(const Destination& destination);
-  void showPresets(const QString& current);
   void openingFailed(const QString& reason);
 
   QString refusal() const;
@@ -109,9 +104,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
 
   PrintModel& mModel;
   PrintSource mSource;
-  std::vector<Destination> mDestinations;  // as the server listed them, instances too
   int mExitStatus;
-  OptionList mPresetToBe;
   QTimer mStateTimer;
 
   ServerClient* mServer;
@@ -125,6 +118,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
   PanelFrame* mPanelFrame;
   SummaryView* mSummary;
   NoticeView* mNotices;
+  PresetKeeper* mPresets;
   StripPane* mStripPane;
   MoreOptionsPanel* mMoreOptions;
   QPushButton* mMoreButton;

@@ -1,0 +1,87 @@
+#include "host/dialog/PresetKeeper.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "host/core/PrintModel.h"
+#include "host/dialog/NoticeView.h"
+#include "host/dialog/PresetBar.h"
+#include "host/dialog/ServerClient.h"
+#include "qt/QtText.h"
+
+namespace cutline {
+
+PresetKeeper::PresetKeeper(PrintModel& model, ServerClient& server, PresetBar& bar,
+                           NoticeView& notices, QObject* parent)
+    : QObject(parent), mModel(model), mServer(server), mBar(bar), mNotices(notices) {
+  connect(&bar, &PresetBar::presetChosen, this, &PresetKeeper::choose);
+  connect(&bar, &PresetBar::saveRequested, this, &PresetKeeper::save);
+  connect(&bar, &PresetBar::removalRequested, this,
+          [this](const QString& preset) { mServer.removePreset(nameOf(preset)); });
+  connect(&server, &ServerClient::presetSaved, this, &PresetKeeper::didSave);
+  connect(&server, &ServerClient::presetRemoved, this, &PresetKeeper::didRemove);
+  connect(&server, &ServerClient::presetFailed, this,
+          [this](const QString& reason) { mNotices.setNotice(NoticeTopic::failure, reason); });
+}
+
+void PresetKeeper::setDestinations(std::vector<Destination> destinations) {
+  mDestinations = std::move(destinations);
+  showPrinter();
+}
+
+const Destination* PresetKeeper::find(const DestinationName& name) const {
+  const auto found = std::find_if(mDestinations.begin(), mDestinations.end(),
+                                  [&](const Destination& each) { return each.name == name; });
+  return found == mDestinations.end() ? nullptr : &*found;
+}
+
+DestinationName PresetKeeper::nameOf(const QString& preset) const {
+  DestinationName name{mModel.destination().name.printer, std::nullopt};
+  if (!preset.isEmpty()) name.instance = toUtf8(preset);
+  return name;
+}
+
+void PresetKeeper::showPrinter() {
+  mBar.setEnabled(mModel.hasQueue());
+  show(toQString(mModel.destination().name.instance.value_or("")));
+}
+
+void PresetKeeper::show(const QString& current) {
+  QStringList names;
+  for (const Destination& each : mDestinations) {
+    if (each.name.printer != mModel.destination().name.printer || !each.name.instance) continue;
+    names.append(toQString(*each.name.instance));
+  }
+  if (!current.isEmpty() && !names.contains(current)) names.append(current);
+  mBar.setPresets(names, current);
+}
+
+void PresetKeeper::choose(const QString& preset) {
+  if (const Destination* found = find(nameOf(preset))) mModel.applyPreset(found->savedOptions);
+}
+
+void PresetKeeper::save(const QString& preset) {
+  const Result<OptionList> options = mModel.savePreset();
+  mNotices.setNotice(NoticeTopic::failure,
+                     options ? QString() : toQString(options.error().message));
+  if (!options) return;
+  mBeingSaved = *options;
+  mServer.savePreset(nameOf(preset), *options);
+}
+
+void PresetKeeper::didSave(const QString& preset) {
+  Destination saved = mModel.destination();
+  saved.name = nameOf(preset);
+  saved.savedOptions = mBeingSaved;
+  std::erase_if(mDestinations, [&](const Destination& each) { return each.name == saved.name; });
+  mDestinations.push_back(saved);
+  show(preset);
+}
+
+void PresetKeeper::didRemove(const QString& preset) {
+  const DestinationName removed = nameOf(preset);
+  std::erase_if(mDestinations, [&](const Destination& each) { return each.name == removed; });
+  show({});
+}
+
+}  // namespace cutline
