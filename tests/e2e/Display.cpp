@@ -30,11 +30,12 @@ QStringList words(const QPoint& place) {
 }  // namespace
 
 Display::Display() {
+  // Without -noreset it starts afresh, deaf for a moment, whenever its last client has gone.
   mServer.start(QStringLiteral("Xvfb"),
                 {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
                  QStringLiteral("0"), QLatin1String(kScreen), QStringLiteral("-dpi"),
                  QStringLiteral("96"), QStringLiteral("-nolisten"), QStringLiteral("tcp"),
-                 QStringLiteral("-fbdir"), mFolder.path()});
+                 QStringLiteral("-noreset"), QStringLiteral("-fbdir"), mFolder.path()});
   while (!mServer.canReadLine() && mServer.waitForReadyRead(kPatience)) {
   }
   const QString number = QString::fromLatin1(mServer.readLine()).trimmed();

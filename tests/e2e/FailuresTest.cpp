@@ -127,6 +127,7 @@ TEST_F(Failures, ADocumentThatVanishesBeforePrintIsNamed) {
   line.file = folder.path() + "/gone.pdf";
   std::filesystem::copy_file(labels(), *line.file);
   DialogOnServer dialog(line);
+  ASSERT_TRUE(dialog.willShow(QStringLiteral("Label 1 of 12")));
   std::filesystem::remove(*line.file);
   dialog.press("Pr&int");
   EXPECT_TRUE(dialog.willShow(QStringLiteral("cannot read the document")));
