@@ -26,7 +26,16 @@ PresetKeeper::PresetKeeper(PrintModel& model, ServerClient& server, PresetBar& b
 
 void PresetKeeper::setDestinations(std::vector<Destination> destinations) {
   mDestinations = std::move(destinations);
-  showPrinter();
+  for (const DestinationName& name : mRemoved) forget(name);
+  for (const Destination& saved : mSaved) {
+    forget(saved.name);
+    mDestinations.push_back(saved);
+  }
+  show(mCurrent);
+}
+
+void PresetKeeper::forget(const DestinationName& name) {
+  std::erase_if(mDestinations, [&](const Destination& each) { return each.name == name; });
 }
 
 const Destination* PresetKeeper::find(const DestinationName& name) const {
@@ -47,6 +56,7 @@ void PresetKeeper::showPrinter() {
 }
 
 void PresetKeeper::show(const QString& current) {
+  mCurrent = current;
   QStringList names;
   for (const Destination& each : mDestinations) {
     if (each.name.printer != mModel.destination().name.printer || !each.name.instance) continue;
@@ -57,6 +67,7 @@ void PresetKeeper::show(const QString& current) {
 }
 
 void PresetKeeper::choose(const QString& preset) {
+  mCurrent = preset;
   if (const Destination* found = find(nameOf(preset))) mModel.applyPreset(found->savedOptions);
 }
 
@@ -73,14 +84,19 @@ void PresetKeeper::didSave(const QString& preset) {
   Destination saved = mModel.destination();
   saved.name = nameOf(preset);
   saved.savedOptions = mBeingSaved;
-  std::erase_if(mDestinations, [&](const Destination& each) { return each.name == saved.name; });
+  std::erase(mRemoved, saved.name);
+  std::erase_if(mSaved, [&](const Destination& each) { return each.name == saved.name; });
+  mSaved.push_back(saved);
+  forget(saved.name);
   mDestinations.push_back(saved);
   show(preset);
 }
 
 void PresetKeeper::didRemove(const QString& preset) {
   const DestinationName removed = nameOf(preset);
-  std::erase_if(mDestinations, [&](const Destination& each) { return each.name == removed; });
+  mRemoved.push_back(removed);
+  std::erase_if(mSaved, [&](const Destination& each) { return each.name == removed; });
+  forget(removed);
   show({});
 }
 

@@ -33,6 +33,7 @@ class PresetKeeper : public QObject {
  private:
   DestinationName nameOf(const QString& preset) const;
   void show(const QString& current);
+  void forget(const DestinationName& name);
   void choose(const QString& preset);
   void save(const QString& preset);
   void didSave(const QString& preset);
@@ -43,6 +44,10 @@ class PresetKeeper : public QObject {
   PresetBar& mBar;
   NoticeView& mNotices;
   std::vector<Destination> mDestinations;
+  // Newer than a list that the server was asked for before.
+  std::vector<Destination> mSaved;
+  std::vector<DestinationName> mRemoved;
+  QString mCurrent;  // the preset in force; empty for the printer's own settings
   OptionList mBeingSaved;
 };
 

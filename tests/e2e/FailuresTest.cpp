@@ -3,14 +3,13 @@
 
 #include <QPushButton>
 #include <QTest>
-#include <chrono>
 #include <filesystem>
-#include <thread>
 
 #include "tests/cups/TemporaryFolder.h"
 #include "tests/e2e/DialogOnServer.h"
 #include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Program.h"
+#include "tests/e2e/ServerInBetween.h"
 
 namespace cutline::test {
 
@@ -148,38 +147,15 @@ TEST_F(Failures, EscapePrintsNothing) {
 }
 
 // Sends half of a document, and then goes on only when it has been given up.
-class HalfwayServer : public PrintServer {
+class HalfwayServer : public ServerInBetween {
  public:
-  Result<std::vector<Destination>> destinations() override { return mServer.destinations(); }
-  Result<Destination> find(const DestinationName& name) override { return mServer.find(name); }
-  Result<PrinterChoice> open(const Destination& destination) override {
-    return mServer.open(destination);
-  }
-  Result<Done> saveInstance(const DestinationName& name, const OptionList& options) override {
-    return mServer.saveInstance(name, options);
-  }
-  Result<Done> removeInstance(const DestinationName& name) override {
-    return mServer.removeInstance(name);
-  }
-  Result<JobStatus> status(const DestinationName& destination, int jobId) override {
-    return mServer.status(destination, jobId);
-  }
-  Result<Done> cancel(const DestinationName& destination, int jobId) override {
-    return mServer.cancel(destination, jobId);
-  }
-
   Result<int> submit(const PrintRequest& request, const SpoolProgress& progress) override {
-    return mServer.submit(request, [&](std::uint64_t sent, std::uint64_t total) {
+    return ServerInBetween::submit(request, [&](std::uint64_t sent, std::uint64_t total) {
       if (sent < total / 2) return progress(sent, total);
-      const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
-      while (progress(sent, total) && std::chrono::steady_clock::now() < deadline)
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+      waitInBackground([&] { return !progress(sent, total); });
       return false;
     });
   }
-
- private:
-  CupsPrintServer mServer{ServerOptions()};
 };
 
 TEST_F(Failures, CancellingWhileTheDocumentIsSentLeavesNoJob) {

@@ -5,11 +5,13 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
+#include <atomic>
 
 #include "host/dialog/PresetBar.h"
 #include "host/dialog/PresetNameDialog.h"
 #include "tests/e2e/DialogOnServer.h"
 #include "tests/e2e/EndToEndTest.h"
+#include "tests/e2e/ServerInBetween.h"
 #include "tests/samples/Command.h"
 
 namespace cutline::test {
@@ -97,6 +99,34 @@ TEST_F(Presets, ThePrinterItselfPrintsAsBefore) {
   DialogOnServer dialog("tape24");
   EXPECT_EQ(only(dialog.sent(), cutDefaults(*samplePpd("tape24"))),
             cutDefaults(*samplePpd("tape24")));
+}
+
+// Has listed its printers before, and tells so only later.
+class SlowLister : public ServerInBetween {
+ public:
+  Result<std::vector<Destination>> destinations() override {
+    const Result<std::vector<Destination>> list = ServerInBetween::destinations();
+    waitInBackground([this] { return mMayTell.load(); });
+    return list;
+  }
+  void tell() { mMayTell = true; }
+
+ private:
+  std::atomic<bool> mMayTell = false;
+};
+
+TEST_F(Presets, WhatIsSavedWhileThePrintersAreListedStaysInTheList) {
+  const auto lister = std::make_shared<SlowLister>();
+  DialogOnServer dialog(dialogOn("tape24"), lister);
+  change(dialog);
+  save(dialog, QStringLiteral("shelf"));
+  lister->tell();
+  // The list is there when it names the other printers.
+  auto* printers = dialog.named<QComboBox>("Printer");
+  ASSERT_TRUE(waitUntil([&] { return printers->count() == 3; }));
+  const auto* presets = dialog.named<QComboBox>("Preset");
+  EXPECT_GE(presets->findText(QStringLiteral("shelf")), 0);
+  EXPECT_EQ(presets->currentText(), QStringLiteral("shelf"));
 }
 
 }  // namespace
