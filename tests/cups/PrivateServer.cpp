@@ -32,6 +32,10 @@ PrivateServer::PrivateServer(const std::string& arguments) {
   // The server lives on, so it must not hold the pipe's end.
   outputOf(script("start") + ' ' + arguments + " >" + quoted(mFolder.path() + "/start.log") +
            " </dev/null");
+  mGuard.reset(popen(("trap '' INT TERM HUP; cat >/dev/null; " + script("stop") + "; rm -rf " +
+                      quoted(mFolder.path()))
+                         .c_str(),
+                     "we"));
   mSocket = variable("CUPS_SERVER");
   mHome = variable("HOME");
   mRoot = variable("CUPS_SERVERROOT");

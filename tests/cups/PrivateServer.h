@@ -2,6 +2,8 @@
 // the object lives.
 #pragma once
 
+#include <cstdio>
+#include <memory>
 #include <set>
 #include <string>
 
@@ -39,10 +41,16 @@ class PrivateServer {
   void waitUntilIdle() const;
 
  private:
+  struct ClosePipe {
+    void operator()(FILE* pipe) const noexcept { pclose(pipe); }
+  };
+
   std::string script(const std::string& verb) const;
   std::string variable(const std::string& name) const;
 
   TemporaryFolder mFolder;
+  // Waits for the pipe's end, which comes however this process ends, and stops the server then.
+  std::unique_ptr<FILE, ClosePipe> mGuard;
   std::string mSocket, mHome, mRoot;
 };
 

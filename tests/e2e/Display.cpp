@@ -1,8 +1,11 @@
 #include "tests/e2e/Display.h"
 
+#include <sys/prctl.h>
+
 #include <QFile>
 #include <QtEndian>
-#include <array>
+#include <csignal>
+#include <map>
 #include <stdexcept>
 
 #include "tests/e2e/DialogOnServer.h"
@@ -23,6 +26,11 @@ quint32 field(const QByteArray& file, HeaderField which) {
   return qFromBigEndian<quint32>(file.constData() + 4 * static_cast<std::ptrdiff_t>(which));
 }
 
+// However this process ends, what it started ends with it.
+void endWithUs(QProcess& process) {
+  process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
+}
+
 QStringList words(const QPoint& place) {
   return {QString::number(place.x()), QString::number(place.y())};
 }
@@ -30,6 +38,7 @@ QStringList words(const QPoint& place) {
 }  // namespace
 
 Display::Display() {
+  endWithUs(mServer);
   // Without -noreset it starts afresh, deaf for a moment, whenever its last client has gone.
   mServer.start(QStringLiteral("Xvfb"),
                 {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
@@ -57,6 +66,7 @@ QProcessEnvironment Display::environment() const {
 }
 
 void Display::start(QProcess& process, const QString& program, const QStringList& words) const {
+  endWithUs(process);
   process.setProcessEnvironment(environment());
   process.start(program, words);
   if (!process.waitForStarted(kPatience))
