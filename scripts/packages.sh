@@ -13,6 +13,15 @@ cutline_missing_packages() {
   comm -23 <(printf '%s\n' "$wanted") <(printf '%s\n' "$installed")
 }
 
+# cutline_disable_print_server [sudo]: takes the units out of what the next start of the system brings
+# up. The packages' own helper disables nothing before they are removed, and systemctl need not be there.
+cutline_disable_print_server() {
+  local unit
+  for unit in "${cutline_print_units[@]}"; do
+    "$@" find /etc/systemd/system -type l -path '*.wants/*' -name "$unit" -delete
+  done
+}
+
 cutline_install_packages() {
   local list=$1 missing as_root=() had_server=yes made_policy=
   missing=$(cutline_missing_packages "$list")
@@ -34,12 +43,7 @@ cutline_install_packages() {
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
       apt-get install -y -qq --no-install-recommends $missing >/dev/null || status=1
   [ -z "$made_policy" ] || "${as_root[@]}" rm -f /usr/sbin/policy-rc.d
-  if [ -z "$had_server" ] && command -v deb-systemd-helper >/dev/null; then
-    local unit
-    for unit in "${cutline_print_units[@]}"; do
-      "${as_root[@]}" deb-systemd-helper disable "$unit" >/dev/null 2>&1 || true
-    done
-  fi
+  [ -n "$had_server" ] || cutline_disable_print_server "${as_root[@]}"
   [ "$status" = 0 ] || echo "cutline: the packages could not be installed; see the messages above" >&2
   return "$status"
 }
