@@ -197,12 +197,20 @@ TEST(PrivateServer, RunsForAPlainUserToo) {
   const Folder folder;
   const std::string place = folder / "s";
   run("mkdir -m 777 " + place);
+  // The build can lie where only its owner may look, as below root's home.
+  const std::string prefix = folder / "prefix";
+  run("mkdir -p " + prefix + "/share " + prefix + "/lib/cutline && cp -r " +
+      built("share/cutline") + ' ' + prefix + "/share/ && cp -r " + built("lib/cutline/printer") +
+      ' ' + prefix + "/lib/cutline/ && chmod -R a+rX " + prefix);
+  const std::string samples = prefix + "/share/cutline/samples/";
+  const std::string script = quoted(samples + "server/private-server.sh");
   const std::string as =
       run("id -u").output == "0\n" ? "setpriv --reuid=65534 --regid=65534 --clear-groups " : "";
-  const Result result = run(
-      "cd /; " + as + quoted(kScript) + " start " + place + " && eval \"$(" + quoted(kScript) +
-      " env " + place + ")\" && " + as + "lp -d tape24 -P 1 " + kLabels + " && " + as +
-      quoted(kScript) + " wait-idle " + place + " 30; " + as + quoted(kScript) + " stop " + place);
+  const Result result =
+      run("cd /; export CUTLINE_PREFIX=" + prefix + "; " + as + script + " start " + place +
+          " && eval \"$(" + script + " env " + place + ")\" && " + as + "lp -d tape24 -P 1 " +
+          samples + "documents/labels.pdf && " + as + script + " wait-idle " + place + " 30; " +
+          as + script + " stop " + place);
   EXPECT_EQ(factsOf(place + "/printed/job-1.txt")["labels"], "1") << result.errors;
 }
 
