@@ -4,6 +4,20 @@
 
 namespace cutline {
 
+void PlainTextField::setFormatter(std::shared_ptr<Formatter> formatter) noexcept {
+  mFormatter = std::move(formatter);
+}
+
+void PlainTextField::setClient(std::shared_ptr<TextFieldClient> client) noexcept {
+  mClient = std::move(client);
+}
+
+void PlainTextField::selectText(View* sender) noexcept {
+  if (mClient) mClient->selectText(sender);
+}
+
+void PlainTextField::superTextDidEndEditing(const Notification&) {}
+
 void PlainTextField::setTextDidChange(std::function<void()> handler) noexcept {
   mTextDidChange = std::move(handler);
 }

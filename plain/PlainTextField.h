@@ -2,10 +2,13 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "plain/PlainText.h"
+#include "platform/Formatter.h"
 #include "platform/TextField.h"
+#include "platform/TextFieldClient.h"
 
 namespace cutline {
 
@@ -13,6 +16,13 @@ class PlainTextField final : public PlainText<TextField> {
  public:
   using PlainText<TextField>::PlainText;
 
+  void setFormatter(std::shared_ptr<Formatter> formatter) noexcept override;
+  Formatter* formatter() const noexcept override { return mFormatter.get(); }
+  void setClient(std::shared_ptr<TextFieldClient> client) noexcept override;
+  void selectText(View* sender) noexcept override;
+  bool superBecomeFirstResponder() noexcept override { return isEnabled(); }
+  bool superResignFirstResponder() noexcept override { return true; }
+  void superTextDidEndEditing(const Notification& notification) override;
   void setTextDidChange(std::function<void()> handler) noexcept override;
 
   // What a user does who selects the whole text and types this one: one change, reported once, and
@@ -23,6 +33,8 @@ class PlainTextField final : public PlainText<TextField> {
   void pressReturn() noexcept;
 
  private:
+  std::shared_ptr<Formatter> mFormatter;
+  std::shared_ptr<TextFieldClient> mClient;
   std::function<void()> mTextDidChange;
 };
 

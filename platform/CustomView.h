@@ -2,6 +2,8 @@
 // the client by the class that gives it its behaviour.
 #pragma once
 
+#include <string>
+
 #include "platform/View.h"
 
 namespace cutline {
@@ -16,6 +18,9 @@ class CustomViewClient {
   virtual bool isFlipped() const noexcept = 0;
   // drawRect:  `dirty` is in the view's own coordinates.
   virtual void drawRect(const Rect& dirty, DrawingContext& context) noexcept = 0;
+  // What the drawing shows, in words (UTF-8), for those who cannot see it; empty when it has
+  // nothing to say. Asked anew whenever it is needed: the drawing may have changed.
+  virtual std::string accessibilityLabel() const noexcept { return {}; }
 };
 
 class CustomView : public virtual View {

@@ -35,6 +35,17 @@ struct ItemDescription {
   std::string description;  // a key of the string table
 };
 
+// The formatter of a text field. What the file doesn't say is left to the class.
+struct FormatterDescription {
+  std::string className;
+  std::optional<std::string> formatString;
+  std::optional<int> textStyle;
+  std::optional<int> maxLength;  // bytes of the system's encoding; 0 means no limit
+  std::optional<int> minValue;   // given: the class checks it
+  std::optional<int> maxValue;   // given: the class checks it
+  std::vector<std::string> invalidCharacters;
+};
+
 struct ViewDescription {
   ViewKind kind = ViewKind::view;
   Rect frame;
@@ -42,6 +53,8 @@ struct ViewDescription {
   std::string title;
   std::string accessibilityLabel;
   std::string action;
+  std::string className;  // of a text field; empty for the toolkit's own
+  std::optional<FormatterDescription> formatter;
   bool delegate = false;
   std::string ppdKeyword;
   int minValue = 0;

@@ -11,6 +11,8 @@
 
 namespace cutline {
 
+class InterfaceClasses;
+
 class InterfaceOwner {
  public:
   virtual ~InterfaceOwner();
@@ -23,6 +25,10 @@ class InterfaceOwner {
 
   // The owner's action of that full name ("changeOption:"); empty when it has none.
   virtual ActionHandler actionNamed(const std::string& name) noexcept = 0;
+
+  // The owner's bundle's own classes, for views of the file that name one; null when it has none.
+  // Borrowed: it outlives the loading.
+  virtual const InterfaceClasses* interfaceClasses() const noexcept { return nullptr; }
 
   // controlTextDidChange:  For text fields that name the owner as their delegate; the
   // notification's object is the field.

@@ -2,12 +2,17 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "platform/Control.h"
 #include "platform/TextColored.h"
 
 namespace cutline {
+
+class Formatter;
+class TextFieldClient;
+struct Notification;
 
 class TextField : public virtual Control, public TextColored {
  public:
@@ -22,7 +27,29 @@ class TextField : public virtual Control, public TextColored {
   // clamped to 32 bits.
   int intValue() const noexcept;
 
-  // Called after every change that the user makes to the text. Must not throw.
+  // The formatter vets each edit of the user: typing, deleting, paste, drop, an input method's
+  // commit, assistive technology. A refused edit leaves text, selection and undo history as they
+  // were and reports no change; undo and redo are not vetted. It also says what is shown for a text
+  // that is set, and for what the user typed when editing ends. Null removes it.
+  virtual void setFormatter(std::shared_ptr<Formatter> formatter) noexcept = 0;
+  virtual Formatter* formatter() const noexcept = 0;  // borrowed; null without one
+
+  // The behaviour of a bundle's own class, which then decides what comes of the events that it is
+  // told of. Null gives the toolkit's own back.
+  virtual void setClient(std::shared_ptr<TextFieldClient> client) noexcept = 0;
+
+  // selectText:  Asks the field to select its whole text, by way of its client.
+  virtual void selectText(View* sender) noexcept = 0;
+
+  // What the toolkit's own field does when it is asked to take the keyboard or give it up; true
+  // when it does.
+  virtual bool superBecomeFirstResponder() noexcept = 0;
+  virtual bool superResignFirstResponder() noexcept = 0;
+  // What the toolkit's own field does when editing ends. May raise the toolkit's exceptions.
+  virtual void superTextDidEndEditing(const Notification& notification) = 0;
+
+  // Called after every change that the user makes to the text, unless the field's client keeps the
+  // change to itself. Must not throw.
   virtual void setTextDidChange(std::function<void()> handler) noexcept = 0;
 };
 

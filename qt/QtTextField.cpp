@@ -48,6 +48,29 @@ void QtTextField::setStringValue(const std::string& text) noexcept {
   }
 }
 
+void QtTextField::setFormatter(std::shared_ptr<Formatter> formatter) noexcept {
+  mFormatter = std::move(formatter);
+}
+
+void QtTextField::setClient(std::shared_ptr<TextFieldClient> client) noexcept {
+  mClient = std::move(client);
+}
+
+void QtTextField::selectText(View* sender) noexcept {
+  if (mClient) return mClient->selectText(sender);
+  if (widget()) widget()->selectAll();
+}
+
+bool QtTextField::superBecomeFirstResponder() noexcept {
+  if (!widget() || !isEnabled()) return false;
+  widget()->setFocus();
+  return true;
+}
+
+bool QtTextField::superResignFirstResponder() noexcept { return true; }
+
+void QtTextField::superTextDidEndEditing(const Notification&) {}
+
 void QtTextField::setTextDidChange(std::function<void()> handler) noexcept {
   mTextDidChange = std::move(handler);
 }

@@ -1,0 +1,7 @@
+#include "platform/Formatter.h"
+
+namespace cutline {
+
+Formatter::~Formatter() = default;
+
+}  // namespace cutline

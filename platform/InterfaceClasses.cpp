@@ -1,0 +1,7 @@
+#include "platform/InterfaceClasses.h"
+
+namespace cutline {
+
+InterfaceClasses::~InterfaceClasses() = default;
+
+}  // namespace cutline

@@ -1,0 +1,7 @@
+#include "platform/TextFieldClient.h"
+
+namespace cutline {
+
+TextFieldClient::~TextFieldClient() = default;
+
+}  // namespace cutline
