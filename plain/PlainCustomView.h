@@ -1,6 +1,8 @@
 // A view in memory that has its client draw when it is told to.
 #pragma once
 
+#include <string>
+
 #include "plain/PlainView.h"
 #include "platform/CustomView.h"
 
@@ -13,6 +15,9 @@ class PlainCustomView final : public virtual CustomView, public PlainView {
   void setClient(CustomViewClient* client) noexcept override { mClient = client; }
   // The view class in memory has nothing of its own to draw.
   void drawSuper(const Rect& dirty, DrawingContext& context) noexcept override;
+
+  // The label that was set, or else what the client says of its drawing.
+  std::string accessibilityLabel() const noexcept override;
 
   // Has the client draw the whole view, unless the view is hidden.
   void draw(DrawingContext& context) noexcept;

@@ -59,6 +59,7 @@ OptionView13_v400_* OptionView13_v400_::initWithFrame(const Rect& frame, const B
   } else {
     loadPictures(bundle, kPicturesKM, mOptionImgKM);
   }
+  mWords = PictureWords(bundle);
   clearBoxes();
   return this;
 }
@@ -73,25 +74,32 @@ bool OptionView13_v400_::isFlipped() const noexcept { return false; }
 
 // Special tape overrides the cuts. Either of the two cut boxes counts: the box that cuts every so
 // many labels drives the automatic cutter, too.
-OptionView13_v400_::Shown OptionView13_v400_::readBoxes() const noexcept {
+ShownOptions OptionView13_v400_::readBoxes() const noexcept {
   const bool special = isShownAndOn(specialTapeChkBx());
-  return {.specialTape = special,
+  return {.isWN = isWN(),
+          .specialTape = special,
           .cut = !special && (isShownAndOn(cutEveryChkBx()) || isShownAndOn(autoCutChkBx())),
           .cutAtEnd = isShownAndOn(cutAndEndChkBx()),
           .mirror = isShownAndOn(mirrorPrintChkBx()),
           .halfCut = !special && isShownAndOn(halfCutChkBx()),
-          .chainPrint = !special && isShownAndOn(chainPrintChkBx())};
+          .chainPrint = !special && isShownAndOn(chainPrintChkBx()),
+          .offersHalfCut = isShown(halfCutChkBx()),
+          .offersMirror = isShown(mirrorPrintChkBx())};
 }
 
 std::shared_ptr<Image> OptionView13_v400_::targetDrawImage() const noexcept {
-  const Shown shown = readBoxes();
+  const ShownOptions shown = readBoxes();
   const std::size_t mirror = shown.mirror;
-  if (isWN()) {
+  if (shown.isWN) {
     const std::size_t cut = shown.cut ? 2 : (shown.cutAtEnd ? 1 : 0);
     return mOptionImgWN[kFirstMirroredSlotWN * mirror + cut];
   }
   if (shown.specialTape) return mOptionImgKM[kFirstSpecialTapeSlotKM + mirror];
   return mOptionImgKM[8U * shown.cut + 4U * shown.halfCut + 2U * shown.chainPrint + mirror];
+}
+
+std::string OptionView13_v400_::accessibilityLabel() const noexcept {
+  return mWords.describe(readBoxes());
 }
 
 void OptionView13_v400_::drawRect(const Rect& dirty, DrawingContext& context) noexcept {

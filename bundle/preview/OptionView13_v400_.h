@@ -4,7 +4,10 @@
 
 #include <array>
 #include <memory>
+#include <string>
 
+#include "bundle/preview/PictureWords.h"
+#include "bundle/preview/ShownOptions.h"
 #include "platform/CustomView.h"
 #include "platform/Geometry.h"
 #include "platform/Image.h"
@@ -34,6 +37,8 @@ class OptionView13_v400_ : public CustomViewClient {
   void drawRect(const Rect& dirty, DrawingContext& context) noexcept override;
   // The picture for the boxes as they are now; null when the bundle lacks it.
   std::shared_ptr<Image> targetDrawImage() const noexcept;
+  // That picture in words, in the user's language.
+  std::string accessibilityLabel() const noexcept override;
 
   void setIsWN(bool isWN) noexcept { mIsWN = isWN; }
   bool isWN() const noexcept { return mIsWN; }
@@ -73,14 +78,11 @@ class OptionView13_v400_ : public CustomViewClient {
   CheckBox* mCutMarkChkBx = nullptr;
 
  private:
-  // What is ticked, as far as pictures show it.
-  struct Shown {
-    bool specialTape, cut, cutAtEnd, mirror, halfCut, chainPrint;
-  };
-  Shown readBoxes() const noexcept;
+  ShownOptions readBoxes() const noexcept;
   void clearBoxes() noexcept;
 
   std::shared_ptr<CustomView> mNativeView;
+  PictureWords mWords;
 };
 
 }  // namespace cutline

@@ -11,6 +11,9 @@ inline int stateOf(const CheckBox* box) noexcept { return box ? box->state() : C
 
 inline bool isHidden(const View* view) noexcept { return view && view->isHidden(); }
 
+// A view that isn't there is not shown either.
+inline bool isShown(const View* view) noexcept { return view && !view->isHidden(); }
+
 inline bool isEnabled(const Control* control) noexcept { return control && control->isEnabled(); }
 
 // On as the user sees it: shown and ticked; the mixed state is not on.

@@ -267,5 +267,61 @@ TEST_F(OptionView, ThePictureForEveryCombinationOfBoxes) {
   }
 }
 
+// What the words must say of a picture, from the picture's own name and what the printer offers.
+std::string wordsOf(const ExpectedPicture& picture, bool offersHalfCut, bool offersMirror) {
+  const auto mirror = [&] {
+    if (picture.mirror) return std::string(" mirrored");
+    return std::string(offersMirror ? " straight" : "");
+  };
+  const std::string name = picture.name();
+  if (name.starts_with("EveryEndMirrorOn")) return "every" + mirror();
+  if (name.starts_with("EveryEndMirrorOffOn")) return "end" + mirror();
+  if (picture.isWN) return "uncut" + mirror();
+  if (picture.special) return "special" + mirror();
+  const std::string cut = name.starts_with("AHCMOn") ? "auto" : "manual";
+  const std::string half = picture.half ? " half" : (offersHalfCut ? " whole" : "");
+  return cut + half + (picture.chain ? " chain" : "") + mirror();
+}
+
+// Every state of every box, shown, hidden and missing, in both families: the words and the picture
+// are about the same.
+TEST_F(OptionView, TheWordsAgreeWithThePictureForEveryCombinationOfBoxes) {
+  bundle->strings = {{"RS_Picture_AutoCutOn", "auto"},       {"RS_Picture_AutoCutOff", "manual"},
+                     {"RS_Picture_HalfCutOn", "half"},       {"RS_Picture_HalfCutOff", "whole"},
+                     {"RS_Picture_ChainPrint", "chain"},     {"RS_Picture_SpecialTape", "special"},
+                     {"RS_Picture_CutEvery", "every"},       {"RS_Picture_CutAtEnd", "end"},
+                     {"RS_Picture_NoCut", "uncut"},          {"RS_Picture_Mirrored", "mirrored"},
+                     {"RS_Picture_NotMirrored", "straight"}, {"RS_Picture_Separator", " "}};
+  const std::vector<CheckBox*> boxes = {special.get(), every.get(),   end.get(),  mirror.get(),
+                                        half.get(),    autoCut.get(), chain.get()};
+  for (const bool isWN : {false, true}) {
+    makeViewWithBoxes(isWN);
+    for (std::size_t code = 0; code < combinationsOf(boxes.size()); ++code) {
+      const auto on = applyBoxStates(code, boxes);
+      const ExpectedPicture expected{isWN, on[0], on[1], on[2], on[3], on[4], on[5], on[6]};
+      ASSERT_EQ(shown(), fileOf(expected.name()));
+      ASSERT_EQ(view->accessibilityLabel(),
+                wordsOf(expected, !half->isHidden(), !mirror->isHidden()))
+          << "family " << isWN << ", code " << code;
+    }
+  }
+}
+
+TEST_F(OptionView, TheWordsFollowTheBoxesWithoutADrawing) {
+  bundle->strings = {{"RS_Picture_AutoCutOn", "auto"}, {"RS_Picture_AutoCutOff", "manual"}};
+  makeViewWithBoxes(false);
+  half->setHidden(true);
+  mirror->setHidden(true);
+  EXPECT_EQ(view->nativeView()->accessibilityLabel(), "manual");
+  every->setState(CheckBox::kOn);
+  EXPECT_EQ(view->nativeView()->accessibilityLabel(), "auto");
+}
+
+TEST_F(OptionView, WithoutBoxesTheWordsSayWhatIsDrawn) {
+  bundle->strings = {{"RS_Picture_AutoCutOff", "manual"}};
+  makeView(false);
+  EXPECT_EQ(view->accessibilityLabel(), "manual");
+}
+
 }  // namespace
 }  // namespace cutline::test

@@ -16,7 +16,9 @@ class Client : public CustomViewClient {
     const PlainImage image("/tape.svg", {264, 84});
     context.drawAtPoint(image, {1, 2}, {}, CompositingOperation::sourceOver, 1);
   }
+  std::string accessibilityLabel() const noexcept override { return words; }
   int draws = 0;
+  std::string words;
   Rect lastDirty;
 };
 
@@ -50,6 +52,24 @@ TEST_F(PlainCustomViewTest, TheViewClassItselfDrawsNothing) {
   view.drawSuper({}, context);
   EXPECT_EQ(client.draws, 0);
   EXPECT_TRUE(context.drawnImages().empty());
+}
+
+TEST_F(PlainCustomViewTest, SaysWhatItsClientShowsNow) {
+  EXPECT_EQ(view.accessibilityLabel(), "");
+  client.words = "Auto cut on";
+  EXPECT_EQ(view.accessibilityLabel(), "Auto cut on");
+  client.words = "Auto cut off";
+  EXPECT_EQ(view.accessibilityLabel(), "Auto cut off");
+  view.setClient(nullptr);
+  EXPECT_EQ(view.accessibilityLabel(), "");
+}
+
+TEST_F(PlainCustomViewTest, ALabelThatWasSetGoesBeforeTheClientsWords) {
+  client.words = "Auto cut on";
+  view.setAccessibilityLabel("Tape");
+  EXPECT_EQ(view.accessibilityLabel(), "Tape");
+  view.setAccessibilityLabel("");
+  EXPECT_EQ(view.accessibilityLabel(), "Auto cut on");
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QPainter>
 #include <QSvgRenderer>
 #include <functional>
@@ -20,6 +21,8 @@ struct Client : CustomViewClient {
     ++drawn;
     if (draw) draw(context);
   }
+  std::string accessibilityLabel() const noexcept override { return words; }
+  std::string words;
   bool flipped = false;
   int drawn = 0;
   Rect lastDirty;
@@ -211,6 +214,39 @@ TEST_F(QtCustomViewTest, ImageOfAnotherToolkitIsNotDrawn) {
   const QImage drawn = shown();
   client.draw = {};
   EXPECT_EQ(drawn, shown());
+}
+
+QAccessibleInterface* spokenOf(QWidget* widget) {
+  return QAccessible::queryAccessibleInterface(widget);
+}
+
+TEST_F(QtCustomViewTest, IsAGraphicThatSaysWhatItShowsNow) {
+  client.words = "Auto cut on, mirrored";
+  EXPECT_EQ(spokenOf(widget)->role(), QAccessible::Graphic);
+  EXPECT_EQ(spokenOf(widget)->text(QAccessible::Name), "Auto cut on, mirrored");
+  EXPECT_EQ(view->accessibilityLabel(), "Auto cut on, mirrored");
+  client.words = "D\u00e9coupe";
+  EXPECT_EQ(spokenOf(widget)->text(QAccessible::Name), QString::fromUtf8("D\u00e9coupe"));
+}
+
+TEST_F(QtCustomViewTest, WithoutAClientItSaysNothing) {
+  client.words = "Auto cut on";
+  view->setClient(nullptr);
+  EXPECT_EQ(spokenOf(widget)->text(QAccessible::Name), "");
+  EXPECT_EQ(view->accessibilityLabel(), "");
+}
+
+TEST_F(QtCustomViewTest, ALabelThatWasSetIsTheNameAndTheWordsDescribeIt) {
+  client.words = "Auto cut on";
+  view->setAccessibilityLabel("Tape");
+  EXPECT_EQ(view->accessibilityLabel(), "Tape");
+  EXPECT_EQ(spokenOf(widget)->text(QAccessible::Name), "Tape");
+  EXPECT_EQ(spokenOf(widget)->text(QAccessible::Description), "Auto cut on");
+}
+
+TEST_F(QtCustomViewTest, OtherPlainViewsAreNoGraphics) {
+  const auto plain = toolkit.createView({{0, 0}, {10, 10}});
+  EXPECT_NE(spokenOf(put<QWidget>(plain))->role(), QAccessible::Graphic);
 }
 
 }  // namespace
