@@ -4,6 +4,7 @@
 
 #include "bundle/ppd/PDEUtilsMethod13.h"
 #include "bundle/ppd/text_bytes.h"
+#include "bundle/textinput/interface_classes.h"
 #include "platform/Bundle.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Platform.h"
@@ -215,6 +216,10 @@ bool BasePDE13_v400_::connectOutlet(const std::string& name,
 }
 
 ActionHandler BasePDE13_v400_::actionNamed(const std::string& /*name*/) noexcept { return {}; }
+
+const InterfaceClasses* BasePDE13_v400_::interfaceClasses() const noexcept {
+  return &bundleInterfaceClasses();
+}
 
 void BasePDE13_v400_::controlTextDidChange(const Notification& /*notification*/) noexcept {}
 

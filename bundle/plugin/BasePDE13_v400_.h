@@ -100,6 +100,7 @@ class BasePDE13_v400_ : public PrintDialogPanel, public InterfaceOwner {
   // The interface file's owner.
   bool connectOutlet(const std::string& name, const std::shared_ptr<View>& view) noexcept override;
   ActionHandler actionNamed(const std::string& name) noexcept override;
+  const InterfaceClasses* interfaceClasses() const noexcept override;
   void controlTextDidChange(const Notification& notification) noexcept override;
   void awakeFromNib() noexcept override {}
 

@@ -1,0 +1,35 @@
+// A text field that tells observers of each change that the user makes to its text.
+#pragma once
+
+#include "platform/TextFieldClient.h"
+
+namespace cutline {
+
+class TextField;
+
+// Posted about the field, known by the address of its View.
+inline constexpr char kTextFieldResignFirstResponderNotification[] =
+    "TextFieldResignFirstResponderNotification";
+
+class PDETextField13_v400_ final : public TextFieldClient {
+ public:
+  // The field is borrowed; it owns its client.
+  explicit PDETextField13_v400_(TextField& field) noexcept : mField(field) {}
+
+  // sendFirstResponderNotification:  Posts when the flag is false. True says that the field still
+  // has the keyboard, whatever the notification's name says, and posts nothing.
+  void sendFirstResponderNotification(bool flag) noexcept;
+
+  // Takes the keyboard as the toolkit's field does; posts nothing.
+  bool becomeFirstResponder() noexcept override;
+  // Ends editing as the toolkit's field does, and gives the keyboard up; posts nothing.
+  void textDidEndEditing(const Notification& notification) override;
+  // Post, and keep the event from the toolkit's field: no text is selected, no delegate told.
+  void selectText(View* sender) noexcept override;
+  void textDidChange(const Notification& notification) noexcept override;
+
+ private:
+  TextField& mField;
+};
+
+}  // namespace cutline
