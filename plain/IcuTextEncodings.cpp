@@ -61,6 +61,11 @@ std::optional<std::string> fromUnits(UConverter* to, std::u16string_view units) 
   return bytes;
 }
 
+// Lets the error that it is called for stand. ICU's own callback of that kind drops what is
+// invisible, such as a soft hyphen, where the encoding lacks it.
+void stopEncoding(const void*, UConverterFromUnicodeArgs*, const UChar*, std::int32_t, UChar32,
+                  UConverterCallbackReason, UErrorCode*) {}
+
 }  // namespace
 
 std::string codesetOfUserLocale() {
@@ -90,8 +95,7 @@ IcuTextEncodings::Converter IcuTextEncodings::open(const std::string& name) noex
   Converter converter(ucnv_open(name.c_str(), &status));
   if (U_FAILURE(status)) return nullptr;
   ucnv_setToUCallBack(converter.get(), UCNV_TO_U_CALLBACK_STOP, nullptr, nullptr, nullptr, &status);
-  ucnv_setFromUCallBack(converter.get(), UCNV_FROM_U_CALLBACK_STOP, nullptr, nullptr, nullptr,
-                        &status);
+  ucnv_setFromUCallBack(converter.get(), stopEncoding, nullptr, nullptr, nullptr, &status);
   ucnv_setFallback(converter.get(), false);
   return U_FAILURE(status) ? nullptr : std::move(converter);
 }

@@ -66,6 +66,16 @@ TEST(IcuTextEncodings, TextThatWouldLoseSomethingIsNotEncoded) {
   EXPECT_FALSE(encodings.encode("\xFF", TextEncoding::utf8));
 }
 
+TEST(IcuTextEncodings, InvisibleCharactersAreNotDroppedWhereAnEncodingLacksThem) {
+  const IcuTextEncodings encodings("ISO-8859-1");
+  EXPECT_EQ(encodings.encode("\u00AD", TextEncoding::system), "\xAD");
+  for (const char* text : {"\u00AD", "\u200B", "a\u200Db", "\u2060", "\uFE0F"}) {
+    EXPECT_FALSE(encodings.encode(text, TextEncoding::ascii)) << text;
+    EXPECT_FALSE(encodings.encode(text, TextEncoding::macRoman)) << text;
+  }
+  EXPECT_FALSE(encodings.encode("\u200B", TextEncoding::system));
+}
+
 TEST(IcuTextEncodings, AnErrorDoesNotSpoilTheNextConversion) {
   const IcuTextEncodings encodings("ISO-2022-JP");
   EXPECT_FALSE(encodings.encode("日\xFF", TextEncoding::system));
