@@ -10,46 +10,48 @@ namespace {
 
 struct ReasonText {
   std::string_view keyword;
-  std::string_view text;
+  Phrase text;
   bool stopsPrinting;  // an idle printer with this reason is not ready
 };
 
 constexpr std::array kReasonTexts = std::to_array<ReasonText>({
-    {"media-empty", "label roll or tape is empty", true},
-    {"media-needed", "labels or tape needed", true},
-    {"media-jam", "label or tape is jammed", true},
-    {"media-low", "labels or tape nearly used up", false},
-    {"cover-open", "cover is open", true},
-    {"door-open", "door is open", true},
-    {"interlock-open", "cover is not locked", true},
-    {"input-tray-missing", "cassette is missing", true},
-    {"offline", "printer is switched off or not connected", true},
-    {"shutdown", "printer is switched off", true},
-    {"timed-out", "printer does not answer", true},
-    {"connecting-to-device", "connecting to the printer", false},
-    {"moving-to-paused", "pausing after the current label", false},
-    {"stopping", "stopping", false},
-    {"stopped-partly", "partly stopped", false},
-    {"cutter", "cutter needs attention", true},
-    {"cutter-error", "cutter failed", true},
-    {"cutter-jam", "cutter is jammed", true},
-    {"trimmer-jam", "cutter is jammed", true},
-    {"trimmer-failure", "cutter failed", true},
-    {"trimmer-near-end-of-life", "cutter is nearly worn out", false},
-    {"trimmer-end-of-life", "cutter is worn out", true},
-    {"marker-supply-empty", "ink ribbon is used up", true},
-    {"marker-supply-low", "ink ribbon is nearly used up", false},
-    {"toner-empty", "ink ribbon is used up", true},
-    {"toner-low", "ink ribbon is nearly used up", false},
-    {"fuser-over-temp", "print head is too hot", true},
-    {"spool-area-full", "print server has no room for more jobs", true},
-    {"hold-new-jobs", "new jobs are held", false},
-    {"other", "printer needs attention", true},
-    {"cups-missing-filter", "printer's driver is missing on the print server", true},
-    {"cups-insecure-filter", "printer's driver is not safely installed on the print server", true},
-    {"cups-remote-stopped", "remote printer is paused", true},
-    {"cups-remote-pending", "waiting for the remote printer", false},
-    {"cups-waiting-for-job-completed", "waiting for the printer to finish", false},
+    {"media-empty", Phrase("cups", "label roll or tape is empty"), true},
+    {"media-needed", Phrase("cups", "labels or tape needed"), true},
+    {"media-jam", Phrase("cups", "label or tape is jammed"), true},
+    {"media-low", Phrase("cups", "labels or tape nearly used up"), false},
+    {"cover-open", Phrase("cups", "cover is open"), true},
+    {"door-open", Phrase("cups", "door is open"), true},
+    {"interlock-open", Phrase("cups", "cover is not locked"), true},
+    {"input-tray-missing", Phrase("cups", "cassette is missing"), true},
+    {"offline", Phrase("cups", "printer is switched off or not connected"), true},
+    {"shutdown", Phrase("cups", "printer is switched off"), true},
+    {"timed-out", Phrase("cups", "printer does not answer"), true},
+    {"connecting-to-device", Phrase("cups", "connecting to the printer"), false},
+    {"moving-to-paused", Phrase("cups", "pausing after the current label"), false},
+    {"stopping", Phrase("cups", "stopping"), false},
+    {"stopped-partly", Phrase("cups", "partly stopped"), false},
+    {"cutter", Phrase("cups", "cutter needs attention"), true},
+    {"cutter-error", Phrase("cups", "cutter failed"), true},
+    {"cutter-jam", Phrase("cups", "cutter is jammed"), true},
+    {"trimmer-jam", Phrase("cups", "cutter is jammed"), true},
+    {"trimmer-failure", Phrase("cups", "cutter failed"), true},
+    {"trimmer-near-end-of-life", Phrase("cups", "cutter is nearly worn out"), false},
+    {"trimmer-end-of-life", Phrase("cups", "cutter is worn out"), true},
+    {"marker-supply-empty", Phrase("cups", "ink ribbon is used up"), true},
+    {"marker-supply-low", Phrase("cups", "ink ribbon is nearly used up"), false},
+    {"toner-empty", Phrase("cups", "ink ribbon is used up"), true},
+    {"toner-low", Phrase("cups", "ink ribbon is nearly used up"), false},
+    {"fuser-over-temp", Phrase("cups", "print head is too hot"), true},
+    {"spool-area-full", Phrase("cups", "print server has no room for more jobs"), true},
+    {"hold-new-jobs", Phrase("cups", "new jobs are held"), false},
+    {"other", Phrase("cups", "printer needs attention"), true},
+    {"cups-missing-filter", Phrase("cups", "printer's driver is missing on the print server"),
+     true},
+    {"cups-insecure-filter",
+     Phrase("cups", "printer's driver is not safely installed on the print server"), true},
+    {"cups-remote-stopped", Phrase("cups", "remote printer is paused"), true},
+    {"cups-remote-pending", Phrase("cups", "waiting for the remote printer"), false},
+    {"cups-waiting-for-job-completed", Phrase("cups", "waiting for the printer to finish"), false},
 });
 
 constexpr std::array<std::string_view, 3> kSeverities{"-report", "-warning", "-error"};
@@ -70,25 +72,25 @@ const ReasonText* findReason(std::string_view reason) {
   return nullptr;
 }
 
-std::string textOfReason(const std::string& reason) {
-  if (const ReasonText* row = findReason(reason)) return std::string(row->text);
+Sentence textOfReason(const std::string& reason) {
+  if (const ReasonText* row = findReason(reason)) return row->text;
   std::string words(withoutSeverity(reason));
   std::ranges::replace(words, '-', ' ');
   return words;
 }
 
-std::string headText(PrinterState state) {
+Phrase headText(PrinterState state) {
   switch (state) {
     case PrinterState::idle:
-      return "Ready";
+      return Phrase("cups", "Ready");
     case PrinterState::processing:
-      return "Printing";
+      return Phrase("cups", "Printing");
     case PrinterState::stopped:
-      return "Paused";
+      return Phrase("cups", "Paused");
     case PrinterState::unknown:
       break;
   }
-  return "State unknown";
+  return Phrase("cups", "State unknown");
 }
 
 bool stopsPrinting(const std::string& reason) {
@@ -106,20 +108,15 @@ DestinationName DestinationName::parse(const std::string& text) {
 
 std::string DestinationName::text() const { return instance ? printer + '/' + *instance : printer; }
 
-std::string Destination::stateText() const {
+Sentence Destination::stateText() const {
   const bool isUnready =
       state == PrinterState::idle && std::ranges::any_of(stateReasons, stopsPrinting);
-  std::string text = isUnready ? "Not ready" : headText(state);
-  const char* separator = " - ";
-  const auto add = [&](const std::string& words) {
-    text += separator + words;
-    separator = ", ";
-  };
+  std::vector<Sentence> remarks;
   for (const std::string& reason : stateReasons) {
-    if (withoutSeverity(reason) != "paused") add(textOfReason(reason));
+    if (withoutSeverity(reason) != "paused") remarks.push_back(textOfReason(reason));
   }
-  if (!acceptsJobs) add("not accepting jobs");
-  return text;
+  if (!acceptsJobs) remarks.push_back(Phrase("cups", "not accepting jobs"));
+  return withRemarks(isUnready ? Phrase("cups", "Not ready") : headText(state), remarks);
 }
 
 }  // namespace cutline

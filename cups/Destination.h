@@ -6,6 +6,8 @@
 #include <utility>
 #include <vector>
 
+#include "cups/Sentence.h"
+
 namespace cutline {
 
 // NAME=VALUE pairs in order; a later pair of the same name wins.
@@ -34,7 +36,7 @@ struct Destination {
   OptionList savedOptions;  // the user's saved options for this destination or instance only
 
   // The state in plain words, such as "Ready" or "Paused - label roll is empty".
-  std::string stateText() const;
+  Sentence stateText() const;
 };
 
 }  // namespace cutline

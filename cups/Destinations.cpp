@@ -72,7 +72,7 @@ Result<std::vector<Destination>> listOn(http_t* http) {
   // A server without any queue answers "not found".
   if (count == 0 && cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE &&
       cupsLastError() != IPP_STATUS_ERROR_NOT_FOUND) {
-    return serverError("the printers cannot be listed");
+    return serverError(Phrase("cups", "the printers cannot be listed"));
   }
   std::vector<Destination> list;
   for (const cups_dest_t& dest : array) list.push_back(destinationOf(dest));
@@ -86,18 +86,19 @@ std::string joined(const std::vector<std::string>& names) {
 }
 
 // What follows a colon in an error: the names that would have been right.
-std::string knownPrinters(const std::vector<Destination>& list) {
+Sentence knownPrinters(const std::vector<Destination>& list) {
   std::vector<std::string> names;
   names.reserve(list.size());
   for (const Destination& destination : list) names.push_back(destination.name.text());
-  return names.empty() ? "it has no printers" : "it has " + joined(names);
+  if (names.empty()) return Phrase("cups", "it has no printers");
+  return {Phrase("cups", "it has %1"), {joined(names)}};
 }
 
 Error unknownPrinter(http_t* http, const std::string& printer) {
   const auto list = listOn(http);
   if (!list) return list.error();
-  return {"the print server at \"" + serverText() + "\" has no printer \"" + printer +
-          "\": " + knownPrinters(*list)};
+  return Sentence(Phrase("cups", "the print server at \"%1\" has no printer \"%2\": %3"),
+                  {serverText(), printer, knownPrinters(*list)});
 }
 
 Error noDefault(http_t* http) {
@@ -106,15 +107,25 @@ Error noDefault(http_t* http) {
       cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND ? cupsLastErrorString() : "";
   const auto list = listOn(http);
   if (!list) return list.error();
-  return {"there is no default printer" + (reason.empty() ? "" : " (" + reason + ")") +
-          ": name one with -d; the print server at \"" + serverText() +
-          "\": " + knownPrinters(*list)};
+  if (reason.empty()) {
+    return Sentence(Phrase("cups",
+                           "there is no default printer: name one with -d; the print server at "
+                           "\"%1\": %2"),
+                    {serverText(), knownPrinters(*list)});
+  }
+  return Sentence(Phrase("cups",
+                         "there is no default printer (%1): name one with -d; the print server at "
+                         "\"%2\": %3"),
+                  {reason, serverText(), knownPrinters(*list)});
 }
 
 Error unknownInstance(const DestinationName& name) {
   const std::vector<std::string> instances = savedInstances(name.printer);
-  return {"the printer \"" + name.printer + "\" has no saved settings \"" + *name.instance +
-          "\": " + (instances.empty() ? "none are saved" : "saved are " + joined(instances))};
+  const Sentence saved = instances.empty()
+                             ? Phrase("cups", "none are saved")
+                             : Sentence(Phrase("cups", "saved are %1"), {joined(instances)});
+  return Sentence(Phrase("cups", "the printer \"%1\" has no saved settings \"%2\": %3"),
+                  {name.printer, *name.instance, saved});
 }
 
 Result<Destination> findNamed(http_t* http, const DestinationName& name) {
@@ -168,12 +179,17 @@ Result<Done> saveDestinationOptions(const ServerOptions& server, const Destinati
   replaceEntry(entries, name, options);
   if (const auto problem = writeSavedEntries(connection->get(), entries)) return *problem;
   if (!name.instance || hasEntry(readSavedEntries(userOptionsPath()), name)) return Done{};
-  return Error{"settings that are all the print server's own defaults cannot be saved as \"" +
-               name.text() + "\": choose one that differs"};
+  return Error{Sentence(Phrase("cups",
+                               "settings that are all the print server's own defaults cannot be "
+                               "saved as \"%1\": choose one that differs"),
+                        {name.text()})};
 }
 
 Result<Done> removeInstance(const ServerOptions& server, const DestinationName& name) {
-  if (!name.instance) return Error{"\"" + name.printer + "\" is a printer, not saved settings"};
+  if (!name.instance) {
+    return Error{
+        Sentence(Phrase("cups", "\"%1\" is a printer, not saved settings"), {name.printer})};
+  }
   if (!savedOptionsFor(name)) return unknownInstance(name);
   const auto connection = ServerConnection::open(server);
   if (!connection) return connection.error();
@@ -181,9 +197,11 @@ Result<Done> removeInstance(const ServerOptions& server, const DestinationName& 
   std::erase_if(entries, [&](const SavedEntry& entry) { return entry.name == name; });
   if (const auto problem = writeSavedEntries(connection->get(), entries)) return *problem;
   if (!savedOptionsFor(name)) return Done{};
-  return Error{"the settings \"" + name.text() +
-               "\" are the administrator's: only lpoptions as root "
-               "removes them"};
+  return Error{
+      Sentence(Phrase("cups",
+                      "the settings \"%1\" are the administrator's: only lpoptions as root "
+                      "removes them"),
+               {name.text()})};
 }
 
 }  // namespace cutline

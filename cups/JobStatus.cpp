@@ -16,37 +16,38 @@ struct StateText {
   JobState state;
   ipp_jstate_t ipp;
   bool isFinal;
-  std::string_view text;
+  Phrase text;
 };
 
 constexpr std::array kStateTexts = std::to_array<StateText>({
-    {JobState::pending, IPP_JSTATE_PENDING, false, "Waiting"},
-    {JobState::held, IPP_JSTATE_HELD, false, "Held"},
-    {JobState::processing, IPP_JSTATE_PROCESSING, false, "Printing"},
-    {JobState::stopped, IPP_JSTATE_STOPPED, false, "Stopped"},
-    {JobState::canceled, IPP_JSTATE_CANCELED, true, "Cancelled"},
-    {JobState::aborted, IPP_JSTATE_ABORTED, true, "Failed"},
-    {JobState::completed, IPP_JSTATE_COMPLETED, true, "Printed"},
+    {JobState::pending, IPP_JSTATE_PENDING, false, Phrase("cups", "Waiting")},
+    {JobState::held, IPP_JSTATE_HELD, false, Phrase("cups", "Held")},
+    {JobState::processing, IPP_JSTATE_PROCESSING, false, Phrase("cups", "Printing")},
+    {JobState::stopped, IPP_JSTATE_STOPPED, false, Phrase("cups", "Stopped")},
+    {JobState::canceled, IPP_JSTATE_CANCELED, true, Phrase("cups", "Cancelled")},
+    {JobState::aborted, IPP_JSTATE_ABORTED, true, Phrase("cups", "Failed")},
+    {JobState::completed, IPP_JSTATE_COMPLETED, true, Phrase("cups", "Printed")},
 });
 
 struct ReasonText {
   std::string_view keyword;
-  std::string_view text;
+  Phrase text;
 };
 
 // The reasons that tell more than the state does.
 constexpr std::array kReasonTexts = std::to_array<ReasonText>({
-    {"printer-stopped", "the printer is paused"},
-    {"printer-stopped-partly", "the printer is partly paused"},
-    {"job-incoming", "the document is being received"},
-    {"job-hold-until-specified", "until it is released"},
-    {"resources-are-not-ready", "the printer needs attention"},
-    {"document-format-error", "the document cannot be read"},
-    {"unsupported-document-format", "the printer cannot print this kind of document"},
-    {"document-unprintable-error", "the document cannot be printed"},
-    {"job-canceled-by-operator", "by the operator"},
-    {"job-canceled-at-device", "at the printer"},
-    {"aborted-by-system", "by the print server"},
+    {"printer-stopped", Phrase("cups", "the printer is paused")},
+    {"printer-stopped-partly", Phrase("cups", "the printer is partly paused")},
+    {"job-incoming", Phrase("cups", "the document is being received")},
+    {"job-hold-until-specified", Phrase("cups", "until it is released")},
+    {"resources-are-not-ready", Phrase("cups", "the printer needs attention")},
+    {"document-format-error", Phrase("cups", "the document cannot be read")},
+    {"unsupported-document-format",
+     Phrase("cups", "the printer cannot print this kind of document")},
+    {"document-unprintable-error", Phrase("cups", "the document cannot be printed")},
+    {"job-canceled-by-operator", Phrase("cups", "by the operator")},
+    {"job-canceled-at-device", Phrase("cups", "at the printer")},
+    {"aborted-by-system", Phrase("cups", "by the print server")},
 });
 
 const StateText& rowOf(JobState state) {
@@ -132,15 +133,12 @@ void addPause(http_t* http, const DestinationName& destination, JobStatus& statu
 
 bool JobStatus::isFinal() const noexcept { return rowOf(state).isFinal; }
 
-std::string JobStatus::text() const {
-  std::string text(rowOf(state).text);
-  const char* separator = " - ";
+Sentence JobStatus::text() const {
+  std::vector<Sentence> remarks;
   for (const ReasonText& row : kReasonTexts) {
-    if (std::ranges::find(reasons, row.keyword) == reasons.end()) continue;
-    text += separator + std::string(row.text);
-    separator = ", ";
+    if (std::ranges::find(reasons, row.keyword) != reasons.end()) remarks.push_back(row.text);
   }
-  return text;
+  return withRemarks(rowOf(state).text, remarks);
 }
 
 Result<JobStatus> jobStatus(const ServerOptions& server, const DestinationName& destination,
@@ -149,10 +147,12 @@ Result<JobStatus> jobStatus(const ServerOptions& server, const DestinationName& 
   if (!connection) return connection.error();
   const IppMessage answer = answerTo(connection->get(), jobRequest(destination, jobId));
   if (!answer)
-    return serverError("the state of the job " + jobName(destination, jobId) + " is not known");
+    return serverError(
+        {Phrase("cups", "the state of the job %1 is not known"), {jobName(destination, jobId)}});
   auto status = statusOf(answer.get());
   if (!status)
-    return Error{"the print server told no state of the job " + jobName(destination, jobId)};
+    return Error{Sentence(Phrase("cups", "the print server told no state of the job %1"),
+                          {jobName(destination, jobId)})};
   addPause(connection->get(), destination, *status);
   return *status;
 }

@@ -19,7 +19,7 @@ struct JobStatus {
 
   bool isFinal() const noexcept;
   // The state in plain words, such as "Printing" or "Waiting - the printer is paused".
-  std::string text() const;
+  Sentence text() const;
 };
 
 // Asks the server, so it may block.

@@ -50,25 +50,27 @@ std::string choiceToSend(ppd_file_t* ppd, const ppd_option_t& option, const ppd_
   return custom ? customValue(custom) : kCustomChoice;
 }
 
-std::string choiceNames(const ppd_option_t& option) {
+Sentence choiceNames(const ppd_option_t& option) {
   std::string names;
   for (const ppd_choice_t& choice : choicesOf(option)) {
     names += (names.empty() ? "" : ", ") + std::string(choice.choice);
   }
-  return names.empty() ? "it has none" : "its choices are " + names;
+  if (names.empty()) return Phrase("cups", "it has none");
+  return {Phrase("cups", "its choices are %1"), {names}};
 }
 
 Result<Done> checkCustomSize(const ppd_file_t* ppd, const std::string& choice) {
   const auto size = CustomSize::parse(choice);
   if (!size) {
-    return Error{"\"" + choice + "\" is no paper size: write it as Custom.WIDTHxLENGTHmm"};
+    return Error{Sentence(
+        Phrase("cups", "\"%1\" is no paper size: write it as Custom.WIDTHxLENGTHmm"), {choice})};
   }
   const bool fits = size->width >= ppd->custom_min[0] && size->width <= ppd->custom_max[0] &&
                     size->length >= ppd->custom_min[1] && size->length <= ppd->custom_max[1];
   if (fits) return Done{};
-  return Error{"the printer does not take paper of " + size->text() + ": it takes " +
-               CustomSize{ppd->custom_min[0], ppd->custom_min[1]}.text() + " to " +
-               CustomSize{ppd->custom_max[0], ppd->custom_max[1]}.text()};
+  return Error{Sentence(Phrase("cups", "the printer does not take paper of %1: it takes %2 to %3"),
+                        {size->text(), CustomSize{ppd->custom_min[0], ppd->custom_min[1]}.text(),
+                         CustomSize{ppd->custom_max[0], ppd->custom_max[1]}.text()})};
 }
 
 Result<Done> checkCustom(ppd_file_t* ppd, const ppd_option_t& option, const std::string& choice) {
@@ -101,8 +103,8 @@ Result<Done> checkChoiceOf(ppd_file_t* ppd, const ppd_option_t& option, const st
     return strcasecmp(known.choice, choice.c_str()) == 0;
   });
   if (isKnown) return Done{};
-  return Error{"the option " + std::string(option.keyword) + " has no choice \"" + choice +
-               "\": " + choiceNames(option)};
+  return Error{Sentence(Phrase("cups", "the option %1 has no choice \"%2\": %3"),
+                        {std::string(option.keyword), choice, choiceNames(option)})};
 }
 
 }  // namespace cutline

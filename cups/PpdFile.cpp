@@ -87,24 +87,38 @@ PaperSize paperOf(ppd_file_t* ppd, const ppd_size_t& size) {
   return paper;
 }
 
+Error unopened(const Sentence& name, Sentence why) {
+  return Sentence(Phrase("cups", "cannot open %1: %2"), {name, std::move(why)});
+}
+
 Error notFetched(http_t* http, const std::string& printer, http_status_t status) {
-  const std::string server = "the print server at \"" + serverText() + "\"";
-  if (status == HTTP_STATUS_ERROR) return {"the connection to " + server + " was lost: try again"};
+  if (status == HTTP_STATUS_ERROR) {
+    return Sentence(
+        Phrase("cups", "the connection to the print server at \"%1\" was lost: try again"),
+        {serverText()});
+  }
   if (status != HTTP_STATUS_NOT_FOUND) {
-    return {server + " does not hand out the PPD of \"" + printer + "\": " + httpStatus(status)};
+    return Sentence(
+        Phrase("cups", "the print server at \"%1\" does not hand out the PPD of \"%2\": %3"),
+        {serverText(), printer, std::string(httpStatus(status))});
   }
   cups_dest_t* dest = cupsGetNamedDest(http, printer.c_str(), nullptr);
   cupsFreeDests(dest ? 1 : 0, dest);
-  if (!dest) return {server + " has no printer \"" + printer + "\""};
-  return {"the printer \"" + printer + "\" has no PPD on " + server +
-          ": choose a printer that was set up with its driver"};
+  if (!dest) {
+    return Sentence(Phrase("cups", "the print server at \"%1\" has no printer \"%2\""),
+                    {serverText(), printer});
+  }
+  return Sentence(Phrase("cups",
+                         "the printer \"%1\" has no PPD on the print server at \"%2\": choose a "
+                         "printer that was set up with its driver"),
+                  {printer, serverText()});
 }
 
 }  // namespace
 
 PpdFile::~PpdFile() { ppdClose(mPpd); }
 
-Result<std::shared_ptr<PpdFile>> PpdFile::read(int fd, const std::string& name) {
+Result<std::shared_ptr<PpdFile>> PpdFile::read(int fd, const Sentence& name) {
   // The library closes what it reads; the copy is for explaining a failure.
   const Descriptor copy(fcntl(fd, F_DUPFD_CLOEXEC, 0));
   ppd_file_t* ppd = ppdOpenFd(fd);
@@ -114,13 +128,13 @@ Result<std::shared_ptr<PpdFile>> PpdFile::read(int fd, const std::string& name) 
 }
 
 Result<std::shared_ptr<PpdFile>> PpdFile::open(const std::string& path) {
-  const std::string name = "the PPD \"" + path + "\"";
+  const Sentence name(Phrase("cups", "the PPD \"%1\""), {path});
   const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-  if (fd < 0) return Error{"cannot open " + name + ": " + std::strerror(errno)};
+  if (fd < 0) return unopened(name, std::string(std::strerror(errno)));
   struct stat status {};
   if (fstat(fd, &status) == 0 && !S_ISDIR(status.st_mode)) return read(fd, name);
   close(fd);
-  return Error{"cannot open " + name + ": it is a folder"};
+  return unopened(name, Phrase("cups", "it is a folder"));
 }
 
 // The PPD is asked from the server itself, into memory. libcups' own call would take a file of the
@@ -130,11 +144,12 @@ Result<std::shared_ptr<PpdFile>> PpdFile::fetch(const ServerOptions& server,
   const auto connection = ServerConnection::open(server);
   if (!connection) return connection.error();
   const int fd = memfd_create("ppd", MFD_CLOEXEC);
-  if (fd < 0) return Error{"no memory for the PPD of \"" + printer + "\""};
+  const Sentence name(Phrase("cups", "the PPD of \"%1\""), {printer});
+  if (fd < 0) return Error{Sentence(Phrase("cups", "no memory for %1"), {name})};
   const std::string resource = "/printers/" + printer + ".ppd";
   const http_status_t status = cupsGetFd(connection->get(), resource.c_str(), fd);
   if (status == HTTP_STATUS_OK && lseek(fd, 0, SEEK_SET) == 0) {
-    return read(fd, "the PPD of \"" + printer + "\"");
+    return read(fd, name);
   }
   close(fd);
   return notFetched(connection->get(), printer, status);

@@ -95,7 +95,7 @@ class PpdFile {
 
  private:
   // Takes the descriptor over. `name` is what errors call the PPD.
-  static Result<std::shared_ptr<PpdFile>> read(int fd, const std::string& name);
+  static Result<std::shared_ptr<PpdFile>> read(int fd, const Sentence& name);
   explicit PpdFile(ppd_file_s* ppd) : mPpd(ppd) {}
   ppd_file_s* mPpd;
 };

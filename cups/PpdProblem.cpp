@@ -3,6 +3,7 @@
 #include <cups/ppd.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace cutline {
 
@@ -38,20 +39,25 @@ LongName findLongName(std::string_view text) {
   return {};
 }
 
-std::string inLine(int line) { return line > 0 ? "line " + std::to_string(line) + ": " : ""; }
+Error unusable(const Sentence& name, int line, Sentence why) {
+  if (line <= 0) return Sentence(Phrase("cups", "cannot use %1: %2"), {name, std::move(why)});
+  return Sentence(Phrase("cups", "cannot use %1: line %2: %3"),
+                  {name, std::to_string(line), std::move(why)});
+}
 
 }  // namespace
 
-Error ppdProblem(const std::string& name, std::string_view text) {
+Error ppdProblem(const Sentence& name, std::string_view text) {
   int line = 0;
   const ppd_status_t status = ppdLastError(&line);
-  const std::string what = "cannot use " + name + ": ";
   if (const LongName tooLong = findLongName(text); !tooLong.name.empty()) {
-    return {what + inLine(tooLong.line) + "the name \"" + std::string(tooLong.name) + "\" has " +
-            std::to_string(tooLong.name.size()) + " bytes, and a PPD's names have at most " +
-            std::to_string(kLongestName)};
+    return unusable(
+        name, tooLong.line,
+        {Phrase("cups", "the name \"%1\" has %2 bytes, and a PPD's names have at most %3"),
+         {std::string(tooLong.name), std::to_string(tooLong.name.size()),
+          std::to_string(kLongestName)}});
   }
-  return {what + inLine(line) + ppdErrorString(status)};
+  return unusable(name, line, std::string(ppdErrorString(status)));
 }
 
 }  // namespace cutline

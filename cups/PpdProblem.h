@@ -10,6 +10,6 @@ namespace cutline {
 
 // To be called right after the reading failed, on the same thread. `name` is what people call the
 // PPD; `text` is its contents, or empty where they cannot be read again.
-Error ppdProblem(const std::string& name, std::string_view text);
+Error ppdProblem(const Sentence& name, std::string_view text);
 
 }  // namespace cutline

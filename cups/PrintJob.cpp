@@ -24,18 +24,19 @@ struct Document {
   std::uint64_t size = 0;
 };
 
-Error unreadable(const std::string& path, const std::string& reason) {
-  return {"cannot read the document \"" + path + "\": " + reason};
+Error unreadable(const std::string& path, Sentence reason) {
+  return Sentence(Phrase("cups", "cannot read the document \"%1\": %2"), {path, std::move(reason)});
 }
 
 Result<Document> openDocument(const std::string& path) {
   std::error_code problem;
-  if (std::filesystem::is_directory(path, problem)) return unreadable(path, "it is a folder");
+  if (std::filesystem::is_directory(path, problem))
+    return unreadable(path, Phrase("cups", "it is a folder"));
   Document document{std::ifstream(path, std::ios::binary), "", "", 0};
-  if (!document.file) return unreadable(path, std::strerror(errno));
+  if (!document.file) return unreadable(path, std::string(std::strerror(errno)));
   document.size = std::filesystem::file_size(path, problem);
   if (problem) return unreadable(path, problem.message());
-  if (document.size == 0) return unreadable(path, "it is empty");
+  if (document.size == 0) return unreadable(path, Phrase("cups", "it is empty"));
   std::string start(std::min<std::uint64_t>(kBlockSize, document.size), '\0');
   document.file.read(start.data(), static_cast<std::streamsize>(start.size()));
   document.format =
@@ -79,26 +80,29 @@ Sending sendDocument(http_t* http, const char* printer, int jobId, Document& doc
   return isTaken ? Sending::done : Sending::refused;
 }
 
-Error givenUp() { return {"printing was cancelled, nothing was printed"}; }
+Error givenUp() { return Sentence(Phrase("cups", "printing was cancelled, nothing was printed")); }
 
 Error whyNotSent(Sending sending, const PrintRequest& request) {
   switch (sending) {
     case Sending::givenUp:
       return givenUp();
     case Sending::unreadable:
-      return unreadable(request.path, "it changed while it was sent; nothing was printed");
+      return unreadable(request.path,
+                        Phrase("cups", "it changed while it was sent; nothing was printed"));
     default:
-      return serverError("the document \"" + request.path + "\" could not be sent to \"" +
-                         request.destination.text() + "\"");
+      return serverError({Phrase("cups", "the document \"%1\" could not be sent to \"%2\""),
+                          {request.path, request.destination.text()}});
   }
 }
 
 // Takes a job back whose document did not arrive. The broken request's connection is closed by
 // then, so this is a new one; the first error is what the user hears, with what is left to do.
-Error takenBack(const ServerOptions& server, const PrintRequest& request, int jobId, Error error) {
+Error takenBack(const ServerOptions& server, const PrintRequest& request, int jobId,
+                const Error& error) {
   if (cancelJob(server, request.destination, jobId)) return error;
   const std::string id = jobName(request.destination, jobId);
-  return {error.message + "; the job " + id + " may still be there: remove it with cancel " + id};
+  return Sentence(Phrase("cups", "%1; the job %2 may still be there: remove it with cancel %2"),
+                  {error.sentence, id});
 }
 
 }  // namespace
@@ -115,13 +119,14 @@ Result<int> submitJob(const ServerOptions& server, const PrintRequest& request,
   const CupsOptions options(request.options);
   const int jobId = cupsCreateJob(connection->get(), printer, request.title.c_str(), options.size(),
                                   options.data());
-  if (jobId == 0) return serverError("\"" + request.destination.text() + "\" takes no job");
+  if (jobId == 0)
+    return serverError({Phrase("cups", "\"%1\" takes no job"), {request.destination.text()}});
 
   const Sending sending = sendDocument(connection->get(), printer, jobId, *document, progress);
   if (sending == Sending::done) return jobId;
-  Error error = whyNotSent(sending, request);
+  const Error error = whyNotSent(sending, request);
   connection = Error{};  // hangs up in the middle of the request, so the server drops it
-  return takenBack(server, request, jobId, std::move(error));
+  return takenBack(server, request, jobId, error);
 }
 
 Result<Done> cancelJob(const ServerOptions& server, const DestinationName& destination, int jobId) {
@@ -130,7 +135,8 @@ Result<Done> cancelJob(const ServerOptions& server, const DestinationName& desti
   const ipp_status_t status =
       cupsCancelJob2(connection->get(), destination.printer.c_str(), jobId, /*purge=*/0);
   if (status <= IPP_STATUS_OK_EVENTS_COMPLETE) return Done{};
-  return serverError("the job " + jobName(destination, jobId) + " cannot be cancelled");
+  return serverError(
+      {Phrase("cups", "the job %1 cannot be cancelled"), {jobName(destination, jobId)}});
 }
 
 }  // namespace cutline

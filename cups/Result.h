@@ -5,10 +5,18 @@
 #include <utility>
 #include <variant>
 
+#include "cups/Sentence.h"
+
 namespace cutline {
 
 struct Error {
-  std::string message;  // one line, no final stop needed, no "cutline: " prefix
+  Error() = default;
+  // Words that are the same in every language.
+  Error(std::string words) : Error(Sentence(std::move(words))) {}
+  Error(Sentence what) : message(what.english()), sentence(std::move(what)) {}
+
+  std::string message;  // in English; one line, no final stop needed, no "cutline: " prefix
+  Sentence sentence;    // the same for whoever can say it in another language
 };
 
 template <typename T>

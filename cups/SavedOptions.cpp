@@ -117,15 +117,21 @@ std::vector<std::string> savedInstances(const std::string& printer) {
 }
 
 std::optional<Error> whyNotSaved(const DestinationName& name, const OptionList& options) {
-  if (!isPlainName(name.printer)) return Error{"\"" + name.printer + "\" is no printer's name"};
+  if (!isPlainName(name.printer)) {
+    return Sentence(Phrase("cups", "\"%1\" is no printer's name"), {name.printer});
+  }
   if (name.instance && !isPlainName(*name.instance)) {
-    return Error{"settings cannot be saved as \"" + *name.instance +
-                 "\": choose a name without spaces, \"/\" and \"#\""};
+    return Sentence(
+        Phrase("cups",
+               "settings cannot be saved as \"%1\": choose a name without spaces, \"/\" "
+               "and \"#\""),
+        {*name.instance});
   }
   const auto bad = std::ranges::find_if_not(options, canBeSaved);
   if (bad == options.end()) return std::nullopt;
-  return Error{"the option " + bad->first +
-               " cannot be saved: its value has a \"#\" or a line end"};
+  return Sentence(
+      Phrase("cups", "the option %1 cannot be saved: its value has a \"#\" or a line end"),
+      {bad->first});
 }
 
 void replaceEntry(std::vector<SavedEntry>& entries, const DestinationName& name,
@@ -150,8 +156,8 @@ std::optional<Error> writeSavedEntries(http_t* http, std::vector<SavedEntry> ent
                      entry.isDefault ? 1 : 0, own.size(), own.data()});
   }
   if (cupsSetDests2(http, static_cast<int>(dests.size()), dests.data()) == 0) return std::nullopt;
-  return Error{"the options cannot be saved in \"" + userOptionsPath() +
-               "\": " + cupsLastErrorString()};
+  return Sentence(Phrase("cups", "the options cannot be saved in \"%1\": %2"),
+                  {userOptionsPath(), std::string(cupsLastErrorString())});
 }
 
 }  // namespace cutline

@@ -2,6 +2,8 @@
 
 #include <sys/socket.h>
 
+#include <utility>
+
 namespace cutline {
 
 namespace {
@@ -11,10 +13,15 @@ constexpr int kUsualPort = 631;
 
 Error noServer() {
   if (cupsEncryption() == HTTP_ENCRYPTION_REQUIRED) {
-    return {"no print server gives an encrypted connection at \"" + serverText() + "\" (" +
-            cupsLastErrorString() + "): start one or leave out -E"};
+    return Sentence(
+        Phrase("cups",
+               "no print server gives an encrypted connection at \"%1\" (%2): start one "
+               "or leave out -E"),
+        {serverText(), std::string(cupsLastErrorString())});
   }
-  return {"no print server answers at \"" + serverText() + "\": start it or name another with -h"};
+  return Sentence(
+      Phrase("cups", "no print server answers at \"%1\": start it or name another with -h"),
+      {serverText()});
 }
 
 }  // namespace
@@ -34,10 +41,11 @@ std::string serverText() {
   return server + ':' + std::to_string(ippPort());
 }
 
-Error serverError(const std::string& what) {
+Error serverError(Sentence what) {
   const char* reason = cupsLastErrorString();
-  return {what + ": the print server at \"" + serverText() +
-          "\" says: " + (reason && *reason ? reason : "nothing")};
+  const Sentence words = reason && *reason ? Sentence(reason) : Phrase("cups", "nothing");
+  return Sentence(Phrase("cups", "%1: the print server at \"%2\" says: %3"),
+                  {std::move(what), serverText(), words});
 }
 
 }  // namespace cutline

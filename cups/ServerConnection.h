@@ -30,6 +30,6 @@ class ServerConnection {
 std::string serverText();
 
 // The error of a call that failed on this thread: what was tried, and the server's own words.
-Error serverError(const std::string& what);
+Error serverError(Sentence what);
 
 }  // namespace cutline

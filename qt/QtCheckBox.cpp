@@ -16,24 +16,23 @@ class ElidingCheckBox : public QCheckBox {
  protected:
   void initStyleOption(QStyleOptionButton* option) const override {
     QCheckBox::initStyleOption(option);
-    option->text = withoutMnemonics(elided(*option));
+    option->text = elided(*option);
   }
 
   bool event(QEvent* event) override {
     if (event->type() != QEvent::ToolTip || !toolTip().isEmpty()) return QCheckBox::event(event);
     QStyleOptionButton option;
     QCheckBox::initStyleOption(&option);
-    const bool fits = elided(option) == fullText();
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), fits ? QString() : fullText(),
-                       this);
+    const bool fits = elided(option) == text();
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
+                       fits ? QString() : withoutMark(text()), this);
     return true;
   }
 
  private:
-  QString fullText() const { return text().replace(QLatin1String("&&"), QLatin1String("&")); }
   QString elided(const QStyleOptionButton& option) const {
     const QRect room = style()->subElementRect(QStyle::SE_CheckBoxContents, &option, this);
-    return fontMetrics().elidedText(fullText(), Qt::ElideRight, room.width());
+    return fontMetrics().elidedText(text(), Qt::ElideRight, room.width(), Qt::TextShowMnemonic);
   }
 };
 

@@ -12,4 +12,13 @@ QString withoutMnemonics(QString text) noexcept {
   return text.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
+QString withoutMark(const QString& text) noexcept {
+  QString plain;
+  for (qsizetype at = 0; at < text.size(); ++at) {
+    if (text[at] == QLatin1Char('&') && ++at == text.size()) break;
+    plain += text[at];
+  }
+  return plain;
+}
+
 }  // namespace cutline

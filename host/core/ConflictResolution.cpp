@@ -10,15 +10,13 @@ namespace {
 
 constexpr int kMaxChanges = 32;
 
-std::string described(const OpenPrinter& printer, const std::string& keyword,
-                      const std::string& choice) {
+Sentence sentence(const OpenPrinter& printer, const Conflict& conflict) {
   const OptionTable& options = printer.options();
-  return "\"" + options.optionText(keyword) + ": " + options.choiceText(keyword, choice) + "\"";
-}
-
-std::string sentence(const OpenPrinter& printer, const Conflict& conflict) {
-  return described(printer, conflict.keyword, conflict.choice) + " cannot be used together with " +
-         described(printer, conflict.otherKeyword, conflict.otherChoice) + ".";
+  return {
+      Phrase("host", "\"%1: %2\" cannot be used together with \"%3: %4\"."),
+      {options.optionText(conflict.keyword), options.choiceText(conflict.keyword, conflict.choice),
+       options.optionText(conflict.otherKeyword),
+       options.choiceText(conflict.otherKeyword, conflict.otherChoice)}};
 }
 
 // Choices to try instead, the default first.
@@ -52,8 +50,8 @@ std::optional<std::pair<std::string, std::string>> nextChange(const OpenPrinter&
 
 }  // namespace
 
-std::vector<std::string> conflictSentences(const OpenPrinter& printer) {
-  std::vector<std::string> sentences;
+std::vector<Sentence> conflictSentences(const OpenPrinter& printer) {
+  std::vector<Sentence> sentences;
   for (const Conflict& conflict : printer.ppd().conflicts())
     sentences.push_back(sentence(printer, conflict));
   return sentences;
@@ -73,7 +71,8 @@ Result<Done> resolveConflicts(OpenPrinter& printer) {
     changes.push_back(*change);
   }
   for (const auto& [keyword, choice] : marksBefore) printer.ppd().markChoice(keyword, choice);
-  return Error{conflictSentences(printer).front() + " Change one of them."};
+  return Error{
+      Sentence(Phrase("host", "%1 Change one of them."), {conflictSentences(printer).front()})};
 }
 
 }  // namespace cutline

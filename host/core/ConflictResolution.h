@@ -10,7 +10,7 @@ namespace cutline {
 
 class OpenPrinter;
 
-std::vector<std::string> conflictSentences(const OpenPrinter& printer);
+std::vector<Sentence> conflictSentences(const OpenPrinter& printer);
 
 // Changes other options than the one chosen last until nothing conflicts, defaults first. An error,
 // and no change, when that cannot be done.

@@ -47,21 +47,22 @@ CutRule cutRuleFor(const PpdFile& ppd, const OptionTable& options, std::string_v
   return fixed ? CutRule::fixedPaper : CutRule::none;
 }
 
-std::string sentenceForRule(CutRule rule, const std::string& option, const std::string& choice,
-                            const std::string& paper) {
+Sentence sentenceForRule(CutRule rule, const std::string& option, const std::string& choice,
+                         const std::string& paper) {
   switch (rule) {
     case CutRule::specialTape:
-      return option + ": sent as \"" + choice + "\" because special tape is on.";
+      return {Phrase("host", "%1: sent as \"%2\" because special tape is on."), {option, choice}};
     case CutRule::fixedPaper:
-      return option + ": stays \"" + choice + "\" because it cannot be changed on the paper \"" +
-             paper + "\".";
+      return {Phrase("host", "%1: stays \"%2\" because it cannot be changed on the paper \"%3\"."),
+              {option, choice, paper}};
     case CutRule::uncutPaper:
-      return option + ": sent as \"" + choice + "\" because the paper \"" + paper +
-             "\" must not be cut automatically.";
+      return {Phrase("host",
+                     "%1: sent as \"%2\" because the paper \"%3\" must not be cut automatically."),
+              {option, choice, paper}};
     case CutRule::none:
       break;
   }
-  return option + ": sent as \"" + choice + "\".";
+  return {Phrase("host", "%1: sent as \"%2\"."), {option, choice}};
 }
 
 }  // namespace cutline

@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "cups/Sentence.h"
+
 namespace cutline {
 
 class OptionTable;
@@ -36,7 +38,7 @@ CutRule cutRuleFor(const PpdFile& ppd, const OptionTable& options, std::string_v
                    bool isShown);
 
 // The rule in words; `option`, `choice` and `paper` are texts for people.
-std::string sentenceForRule(CutRule rule, const std::string& option, const std::string& choice,
-                            const std::string& paper);
+Sentence sentenceForRule(CutRule rule, const std::string& option, const std::string& choice,
+                         const std::string& paper);
 
 }  // namespace cutline

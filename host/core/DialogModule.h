@@ -11,7 +11,7 @@ class Installation;
 class PluginLoader;
 
 // Changes whenever a header of host/core/ that the module uses changes.
-inline constexpr std::uint32_t kDialogAbiVersion = 1;
+inline constexpr std::uint32_t kDialogAbiVersion = 2;
 
 // Everything is borrowed and outlives the call.
 struct DialogRequest {

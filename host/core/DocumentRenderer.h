@@ -44,7 +44,7 @@ class DocumentRenderer {
   virtual Result<std::shared_ptr<Document>> open(const std::string& path) noexcept = 0;
 };
 
-inline constexpr std::uint32_t kDocumentAbiVersion = 1;
+inline constexpr std::uint32_t kDocumentAbiVersion = 2;
 inline constexpr char kDocumentModuleName[] = "cutline-document.so";
 inline constexpr char kDocumentAbiSymbol[] = "CutlineDocumentAbi";
 inline constexpr char kDocumentRendererSymbol[] = "CutlineDocumentRenderer";

@@ -39,8 +39,8 @@ class Session {
     const Result<PrinterChoice> choice = selectPrinter(mLine);
     if (!choice) return choice.error();
     open(*choice);
-    for (const Deviation& deviation : mModel.deviations()) note(deviation.sentence);
-    for (const std::string& conflict : mModel.conflicts()) note(conflict);
+    for (const Deviation& deviation : mModel.deviations()) note(deviation.sentence.english());
+    for (const Sentence& conflict : mModel.conflicts()) note(conflict.english());
     return Done{};
   }
 

@@ -18,4 +18,8 @@ std::string Installation::plugInDirectory() const { return mPrefix + "/lib/cutli
 
 std::string Installation::sampleDirectory() const { return mPrefix + "/share/cutline/samples"; }
 
+std::string Installation::translationDirectory() const {
+  return mPrefix + "/share/cutline/translations";
+}
+
 }  // namespace cutline

@@ -16,6 +16,7 @@ class Installation {
   std::string modulePath(const std::string& fileName) const;  // PREFIX/lib/cutline/FILENAME
   std::string plugInDirectory() const;                        // PREFIX/lib/cutline/plugins
   std::string sampleDirectory() const;                        // PREFIX/share/cutline/samples
+  std::string translationDirectory() const;                   // PREFIX/share/cutline/translations
 
  private:
   std::string mPrefix;

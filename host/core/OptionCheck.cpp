@@ -108,8 +108,11 @@ Error unknownOption(const OptionTable& table, const std::string& name) {
   std::string names;
   for (const std::string& known : knownNames(table))
     if (distance(name, known) <= near) names += (names.empty() ? "" : ", ") + known;
-  const std::string hint = names.empty() ? "this printer has no such option" : "is it " + names;
-  return Error{"unknown option \"" + name + "\"; " + hint + (names.empty() ? "" : "?")};
+  if (names.empty()) {
+    return Sentence(Phrase("host", "unknown option \"%1\"; this printer has no such option"),
+                    {name});
+  }
+  return Sentence(Phrase("host", "unknown option \"%1\"; is it %2?"), {name, names});
 }
 
 // A list such as "24mm,Roll": each part names a size, a kind or a source of paper.

@@ -6,6 +6,7 @@
 #include <limits>
 #include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace cutline {
@@ -37,8 +38,9 @@ std::optional<Range> parseRange(std::string_view text) {
   return Range{*first, *last};
 }
 
-Error badRanges(const std::string& text, const std::string& why) {
-  return Error{"page range \"" + text + "\": " + why + "; write pages like 1-4,7"};
+Error badRanges(const std::string& text, Sentence why) {
+  return Sentence(Phrase("host", "page range \"%1\": %2; write pages like 1-4,7"),
+                  {text, std::move(why)});
 }
 
 }  // namespace
@@ -55,8 +57,10 @@ Result<std::string> normalizedPageRanges(const std::string& text) {
     const std::size_t end = std::min(compact.find(',', start), compact.size());
     const std::string part = compact.substr(start, end - start);
     const std::optional<Range> range = parseRange(part);
-    if (!range) return badRanges(text, "\"" + part + "\" is no page or range of pages");
-    if (range->first <= previous) return badRanges(text, "pages must be in ascending order");
+    if (!range)
+      return badRanges(text, {Phrase("host", "\"%1\" is no page or range of pages"), {part}});
+    if (range->first <= previous)
+      return badRanges(text, Phrase("host", "pages must be in ascending order"));
     previous = range->last;
     start = end + 1;
   }

@@ -78,8 +78,10 @@ void PanelSet::save() {
 Result<Done> PanelSet::askToPrint() {
   for (const PanelEntry& entry : mEntries)
     if (!entry.panel->shouldPrint())
-      return Error{"the panel \"" + entry.name +
-                   "\" does not agree to print with these settings; change them and print again"};
+      return Error{Sentence(Phrase("host",
+                                   "the panel \"%1\" does not agree to print with these settings; "
+                                   "change them and print again"),
+                            {entry.name})};
   return Done{};
 }
 

@@ -93,7 +93,8 @@ Result<Done> PrintModel::setPaper(const std::string& name) {
   const auto known = std::find_if(papers().begin(), papers().end(),
                                   [&](const PaperSize& paper) { return paper.name == name; });
   if (known == papers().end())
-    return Error{"unknown paper \"" + name + "\"; this printer has " + listOf(papers())};
+    return Error{Sentence(Phrase("host", "unknown paper \"%1\"; this printer has %2"),
+                          {name, listOf(papers())})};
   mPrinter->choosePaper(name);
   tell(ModelChange::paper);
   tell(ModelChange::options);
@@ -116,7 +117,9 @@ std::vector<GeneratedGroup> PrintModel::generatedOptions() const {
 
 Result<Done> PrintModel::setOption(const std::string& keyword, const std::string& choice) {
   const PpdOption* option = mPrinter->options().find(keyword);
-  if (option == nullptr) return Error{"this printer has no option \"" + keyword + "\""};
+  if (option == nullptr) {
+    return Error{Sentence(Phrase("host", "this printer has no option \"%1\""), {keyword})};
+  }
   if (Result<Done> known = mPrinter->ppd().checkChoice(keyword, choice); !known) return known;
   if (option->keyword == "PageSize") return setPaper(choice);
   mPrinter->chooseOption(option->keyword, choice);
@@ -131,8 +134,8 @@ int PrintModel::copies() const noexcept {
 
 Result<Done> PrintModel::setCopies(int copies) {
   if (copies < 1 || copies > kMaxCopies)
-    return Error{"copies: " + std::to_string(copies) + " is not between 1 and " +
-                 std::to_string(kMaxCopies)};
+    return Error{Sentence(Phrase("host", "copies: %1 is not between 1 and %2"),
+                          {std::to_string(copies), std::to_string(kMaxCopies)})};
   mAsked.copies = copies;
   tell(ModelChange::job);
   return Done{};
@@ -155,7 +158,7 @@ std::vector<SummaryLine> PrintModel::summary() const { return mPrinter->panels()
 
 std::vector<Deviation> PrintModel::deviations() const { return mPrinter->deviations(); }
 
-std::vector<std::string> PrintModel::conflicts() const { return conflictSentences(*mPrinter); }
+std::vector<Sentence> PrintModel::conflicts() const { return conflictSentences(*mPrinter); }
 
 Result<Done> PrintModel::resolveConflicts() {
   Result<Done> resolved = cutline::resolveConflicts(*mPrinter);
@@ -190,7 +193,7 @@ Result<Done> PrintModel::applyPreset(const OptionList& options) {
 }
 
 Result<OptionList> PrintModel::prepareToPrint() {
-  if (!hasQueue()) return Error{"a PPD file alone cannot print; choose a printer"};
+  if (!hasQueue()) return Error{Phrase("host", "a PPD file alone cannot print; choose a printer")};
   const Result<Done> agreed = mPrinter->askToPrint();
   tell(ModelChange::options);
   if (!agreed) return agreed.error();

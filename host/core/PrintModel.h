@@ -59,9 +59,9 @@ struct SummaryLine {
 // One thing that a panel's rule changes against what was asked.
 struct Deviation {
   std::string keyword;
-  std::string asked;     // the choice that was asked for
-  std::string sent;      // the choice that will be sent
-  std::string sentence;  // for people
+  std::string asked;  // the choice that was asked for
+  std::string sent;   // the choice that will be sent
+  Sentence sentence;  // for people
 };
 
 enum class ModelChange {
@@ -125,7 +125,7 @@ class PrintModel final : public ActionObserver {
   // What the panels' rules change against what was asked or clicked, now.
   std::vector<Deviation> deviations() const;
   // Pairs of choices that the PPD does not allow together, each in a sentence.
-  std::vector<std::string> conflicts() const;
+  std::vector<Sentence> conflicts() const;
   // Gives way in the other options until the conflicts are gone; an error when that is impossible.
   Result<Done> resolveConflicts();
 

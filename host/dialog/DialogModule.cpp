@@ -7,10 +7,14 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "host/core/Installation.h"
 #include "host/dialog/Appearance.h"
 #include "host/dialog/DialogSession.h"
 #include "host/dialog/FirstPrinter.h"
+#include "host/dialog/Language.h"
 #include "host/dialog/Marks.h"
+#include "platform/Languages.h"
+#include "qt/QtText.h"
 
 namespace cutline {
 namespace {
@@ -79,9 +83,13 @@ int runDialog(const DialogRequest& request) {
     return kExitError;
   }
   prepareEnvironment(line);
+  const QString tables = toQString(request.installation->translationDirectory());
+  const Language language = chooseLanguage(preferredLocalizations(), tables);
+  preferFontsFor(language);
   const FirstPrinter printer = startFindingFirstPrinter(line);
   const std::unique_ptr<QApplication> application = makeApplication();
   if (line.marks) printMark("qapp");
+  const LanguageInForce inForce(language, tables);
   applyAppearance(line.dark);
   return DialogSession(request, printer).run();
 }

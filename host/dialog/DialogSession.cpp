@@ -13,6 +13,7 @@
 #include "host/core/Module.h"
 #include "host/core/PluginLoader.h"
 #include "host/dialog/Marks.h"
+#include "host/dialog/translated.h"
 #include "qt/QtText.h"
 
 namespace cutline {
@@ -83,13 +84,13 @@ void DialogSession::awaitPrinter() {
 
 void DialogSession::takePrinter(const Result<PrinterChoice>& printer) {
   if (printer) return open(*printer);
-  fail(printer.error().message);
+  fail(printer.error());
 }
 
-void DialogSession::fail(const std::string& message) {
-  tell(message);
+void DialogSession::fail(const Error& error) {
+  tell(error.message);
   if (!mDialog->isVisible()) return QApplication::exit(kExitError);
-  mDialog->showFailure(toQString(message));
+  mDialog->showFailure(translated(error.sentence));
 }
 
 void DialogSession::open(const PrinterChoice& printer) {

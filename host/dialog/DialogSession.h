@@ -37,7 +37,7 @@ class DialogSession : public QObject {
   void show();
   void didPaintFirst();
   void takeSnapshot();
-  void fail(const std::string& message);
+  void fail(const Error& error);
   PrintSource source() const;
 
   const CommandLine& mLine;

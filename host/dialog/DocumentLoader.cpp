@@ -3,6 +3,7 @@
 #include <cstring>
 #include <utility>
 
+#include "host/dialog/translated.h"
 #include "qt/QtText.h"
 
 namespace cutline {
@@ -49,7 +50,7 @@ void DocumentLoader::take(const Result<std::shared_ptr<Document>>& document,
                           std::vector<Size> sizes) {
   mIsBusy = false;
   mHasFailed = !document;
-  if (!document) emit failed(toQString(document.error().message));
+  if (!document) emit failed(translated(document.error().sentence));
   if (document && !*document) emit unavailable();
   if (document && *document) {
     mDocument = *document;
@@ -83,7 +84,7 @@ void DocumentLoader::deliver(const PageRequest& request, const Result<QImage>& i
   if (image) {
     emit pageDrawn(request.page, request.scale, *image);
   } else {
-    emit pageFailed(request.page, toQString(image.error().message));
+    emit pageFailed(request.page, translated(image.error().sentence));
   }
   if (!mIsBusy) drawNext();
 }

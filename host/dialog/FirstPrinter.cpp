@@ -13,7 +13,7 @@ namespace {
 std::optional<Error> problemOfDocument(const std::optional<std::string>& path) {
   std::error_code problem;
   if (!path || std::filesystem::is_regular_file(*path, problem)) return std::nullopt;
-  return Error{*path + ": there is no such document"};
+  return Error{Sentence(Phrase("host", "%1: there is no such document"), {*path})};
 }
 
 bool namesPrinter(const CommandLine& line) { return line.ppdPath || line.destination; }

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <algorithm>
 
+#include "host/dialog/translated.h"
 #include "qt/QtText.h"
 
 namespace cutline {
@@ -19,7 +20,7 @@ JobProgress::JobProgress(QWidget* parent)
     : QWidget(parent),
       mText(new QLabel(this)),
       mBar(new QProgressBar(this)),
-      mCancel(new QPushButton(this)),
+      mCancel(new QPushButton(tr("Cancel &job"), this)),
       mLeave(new QPushButton(tr("Close and &let it print"), this)) {
   mText->setTextFormat(Qt::PlainText);
   mBar->setTextVisible(false);
@@ -46,18 +47,16 @@ void JobProgress::showSpooling(const QString& printer, quint64 sent, quint64 tot
   showText(tr("Sending to %1...").arg(printer));
   mBar->setRange(0, total > 0 ? kWhole : 0);
   if (total > 0) mBar->setValue(static_cast<int>(std::min(sent, total) * kWhole / total));
-  mCancel->setText(tr("Cancel &job"));
   mCancel->setEnabled(true);
   mLeave->hide();
 }
 
 void JobProgress::showState(int jobId, const JobStatus& status) {
   const QString message = toQString(status.message);
-  const QString state = toQString(status.text());
+  const QString state = translated(status.text());
   showText(message.isEmpty() ? tr("Job %1: %2").arg(jobId).arg(state)
                              : tr("Job %1: %2 - %3").arg(QString::number(jobId), state, message));
   mBar->setRange(0, 0);
-  mCancel->setText(tr("Cancel &job"));
   mLeave->show();
 }
 

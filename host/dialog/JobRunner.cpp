@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "host/dialog/translated.h"
 #include "qt/QtText.h"
 
 namespace cutline {
@@ -39,7 +40,7 @@ void JobRunner::takeJob(const Result<int>& jobId) {
   if (!jobId) {
     mIsRunning = false;
     if (mIsGivenUp->load()) return emit cancelled();
-    return emit failed(toQString(jobId.error().message));
+    return emit failed(translated(jobId.error().sentence));
   }
   mJobId = *jobId;
   emit submitted(mJobId);
@@ -60,7 +61,7 @@ void JobRunner::askToCancel() {
       mIsGivenUp->store(false);
       mIsRunning = false;
       mTimer.stop();
-      emit failed(toQString(asked.error().message));
+      emit failed(translated(asked.error().sentence));
     };
   });
 }
@@ -74,7 +75,7 @@ void JobRunner::poll() {
 
 void JobRunner::takeStatus(const Result<JobStatus>& status) {
   if (!mIsRunning) return;
-  if (!status) return missStatus(toQString(status.error().message));
+  if (!status) return missStatus(translated(status.error().sentence));
   mMissed = 0;
   emit stateChanged(*status);
   if (status->isFinal()) return endWith(*status);
@@ -98,7 +99,7 @@ void JobRunner::endWith(const JobStatus& status) {
   const QString what =
       status.state == JobState::canceled
           ? tr("Job %1 was cancelled at the printer").arg(mJobId)
-          : tr("%1 gave job %2 up").arg(toQString(mDestination.printer)).arg(mJobId);
+          : tr("%1 gave job %2 up").arg(toQString(mDestination.printer), QString::number(mJobId));
   const QString why = words.isEmpty() ? QString() : tr(" (%1)").arg(words);
   emit failed(tr("%1%2. See that the printer is ready, then print again.").arg(what, why));
 }

@@ -88,7 +88,7 @@ void MoreOptionsPanel::addGroup(QFormLayout& form, const GeneratedGroup& group) 
     if (qobject_cast<QCheckBox*>(control)) {
       form.addRow(control);
     } else {
-      form.addRow(withoutMnemonics(title) + QLatin1Char(':'), control);
+      form.addRow(tr("%1:").arg(withoutMnemonics(title)), control);
     }
   }
 }

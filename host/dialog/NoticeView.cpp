@@ -54,6 +54,8 @@ QStringList NoticeView::notices(NoticeTopic topic) const {
   return found == mLines.end() ? QStringList() : found->second;
 }
 
+QString NoticeView::resolveTitle() { return tr("Chan&ge the others"); }
+
 void NoticeView::rebuild() {
   emptyLayout(*mRows);
   for (const auto& [topic, lines] : mLines) {
@@ -77,7 +79,7 @@ QWidget* NoticeView::makeRow(Severity severity, const QString& line, bool isReso
   text->setWordWrap(true);
   layout->addWidget(text, 1);
   if (!isResolvable) return row;
-  auto* resolve = new QPushButton(tr("Chan&ge the others"), row);
+  auto* resolve = new QPushButton(resolveTitle(), row);
   resolve->setToolTip(tr("Keep the latest choice and change those that exclude it"));
   connect(resolve, &QPushButton::clicked, this, &NoticeView::resolveRequested);
   layout->addWidget(resolve, 0, Qt::AlignTop);

@@ -29,6 +29,9 @@ class NoticeView : public QWidget {
 
   QStringList notices(NoticeTopic topic) const;
 
+  // What the button says that may come with conflicts.
+  static QString resolveTitle();
+
  signals:
   // The user wants the conflicting choices sorted out.
   void resolveRequested();

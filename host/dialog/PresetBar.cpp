@@ -68,6 +68,7 @@ void PresetBar::askRemoval() {
                                    tr("Delete the preset \"%1\" of this printer?").arg(name),
                                    QMessageBox::Cancel, this);
   question->setAttribute(Qt::WA_DeleteOnClose);
+  question->button(QMessageBox::Cancel)->setText(tr("Cancel"));
   const QPushButton* remove = question->addButton(tr("&Delete"), QMessageBox::DestructiveRole);
   connect(remove, &QPushButton::clicked, this, [this, name] { emit removalRequested(name); });
   question->open();

@@ -7,6 +7,7 @@
 #include "host/dialog/NoticeView.h"
 #include "host/dialog/PresetBar.h"
 #include "host/dialog/ServerClient.h"
+#include "host/dialog/translated.h"
 #include "qt/QtText.h"
 
 namespace cutline {
@@ -74,7 +75,7 @@ void PresetKeeper::choose(const QString& preset) {
 void PresetKeeper::save(const QString& preset) {
   const Result<OptionList> options = mModel.savePreset();
   mNotices.setNotice(NoticeTopic::failure,
-                     options ? QString() : toQString(options.error().message));
+                     options ? QString() : translated(options.error().sentence));
   if (!options) return;
   mBeingSaved = *options;
   mServer.savePreset(nameOf(preset), *options);

@@ -1,6 +1,5 @@
 #include "host/dialog/PresetNameDialog.h"
 
-#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -15,10 +14,6 @@ namespace {
 constexpr int kLongestName = 127;
 constexpr int kNameWidth = 280;
 
-QString translated(const char* text) {
-  return QCoreApplication::translate("cutline::PresetNameDialog", text);
-}
-
 bool isForbidden(QChar character) {
   return character.isSpace() || !character.isPrint() ||
          QStringLiteral("/#\"'\\?").contains(character);
@@ -27,10 +22,10 @@ bool isForbidden(QChar character) {
 }  // namespace
 
 QString problemOfPresetName(const QString& name) {
-  if (name.isEmpty()) return translated("Type a name.");
-  if (name.toUtf8().size() > kLongestName) return translated("The name is too long.");
+  if (name.isEmpty()) return PresetNameDialog::tr("Type a name.");
+  if (name.toUtf8().size() > kLongestName) return PresetNameDialog::tr("The name is too long.");
   if (std::any_of(name.begin(), name.end(), isForbidden)) {
-    return translated("Use letters, digits, dashes and underscores, without blanks.");
+    return PresetNameDialog::tr("Use letters, digits, dashes and underscores, without blanks.");
   }
   return {};
 }
@@ -49,6 +44,8 @@ PresetNameDialog::PresetNameDialog(const QString& suggestion, QStringList taken,
   mHint->setTextFormat(Qt::PlainText);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel, this);
   mSave = buttons->button(QDialogButtonBox::Save);
+  mSave->setText(tr("&Save"));
+  buttons->button(QDialogButtonBox::Cancel)->setText(tr("Cancel"));
   auto* column = new QVBoxLayout(this);
   column->addWidget(caption);
   column->addWidget(mName);

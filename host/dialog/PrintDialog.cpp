@@ -18,6 +18,9 @@
 #include "host/dialog/PrinterBar.h"
 #include "host/dialog/StripPane.h"
 #include "host/dialog/SummaryView.h"
+#include "host/dialog/mnemonics.h"
+#include "host/dialog/translated.h"
+#include "host/dialog/window_mnemonics.h"
 #include "qt/QtText.h"
 
 namespace cutline {
@@ -45,13 +48,13 @@ QString asSentence(QString text) {
 
 QStringList sentencesOf(const std::vector<Deviation>& deviations) {
   QStringList lines;
-  for (const Deviation& deviation : deviations) lines.append(toQString(deviation.sentence));
+  for (const Deviation& deviation : deviations) lines.append(translated(deviation.sentence));
   return lines;
 }
 
-QStringList toStringList(const std::vector<std::string>& list) {
+QStringList sentencesOf(const std::vector<Sentence>& sentences) {
   QStringList lines;
-  for (const std::string& each : list) lines.append(toQString(each));
+  for (const Sentence& each : sentences) lines.append(translated(each));
   return lines;
 }
 
@@ -107,7 +110,7 @@ void PrintDialog::connectSettings() {
   connect(mNotices, &NoticeView::resolveRequested, this, [this] {
     const Result<Done> resolved = mModel.resolveConflicts();
     mNotices->setNotice(NoticeTopic::failure,
-                        resolved ? QString() : toQString(resolved.error().message));
+                        resolved ? QString() : translated(resolved.error().sentence));
   });
   connect(mMoreOptions, &MoreOptionsPanel::optionChosen, this, &PrintDialog::chooseOption);
   connect(mMoreButton, &QPushButton::toggled, this, &PrintDialog::showMoreOptions);
@@ -228,13 +231,14 @@ void PrintDialog::showPrinter() {
   showPaper();
   showJob();
   setTabOrders();
+  setMnemonics();
   refreshPrintButton();
 }
 
 void PrintDialog::showOptions() {
   mSummary->setLines(mModel.summary());
   mMoreOptions->setMarks(mModel.generatedOptions());
-  mNotices->setNotices(NoticeTopic::conflicts, toStringList(mModel.conflicts()));
+  mNotices->setNotices(NoticeTopic::conflicts, sentencesOf(mModel.conflicts()));
   mNotices->setNotices(NoticeTopic::deviations, sentencesOf(mModel.deviations()));
   mStripPane->strip().setMirrored(isMirrored(*mModel.ppdFile()));
 }
@@ -252,7 +256,10 @@ void PrintDialog::showJob() {
   mStripPane->strip().setSelection(PageSelection(mModel.pageRanges()));
 }
 
-void PrintDialog::fitToPanels() { setTabOrders(); }
+void PrintDialog::fitToPanels() {
+  setTabOrders();
+  setMnemonics();
+}
 
 void PrintDialog::loadDocument() {
   StripView& strip = mStripPane->strip();
@@ -284,7 +291,7 @@ void PrintDialog::takeState(const Destination& destination) {
   QString notice;
   if (destination.state == PrinterState::stopped) {
     notice = tr("%1 does not print now (%2). A job waits until the printer is ready again.")
-                 .arg(name, toQString(destination.stateText()));
+                 .arg(name, translated(destination.stateText()));
   }
   if (!destination.acceptsJobs) {
     notice = tr("%1 does not accept jobs. Choose another printer, or ask whoever looks after this "
@@ -313,7 +320,8 @@ void PrintDialog::choosePaper(const QString& name) { mModel.setPaper(toUtf8(name
 
 void PrintDialog::chooseOption(const QString& keyword, const QString& choice) {
   const Result<Done> chosen = mModel.setOption(toUtf8(keyword), toUtf8(choice));
-  mNotices->setNotice(NoticeTopic::failure, chosen ? QString() : toQString(chosen.error().message));
+  mNotices->setNotice(NoticeTopic::failure,
+                      chosen ? QString() : translated(chosen.error().sentence));
 }
 
 // A half-typed range is no mistake yet.
@@ -323,10 +331,21 @@ void PrintDialog::editPages(const QString& text) {
 
 void PrintDialog::finishPages(const QString& text) {
   const Result<Done> set = mModel.setPageRanges(toUtf8(text));
-  mJobForm->setPagesProblem(set ? QString() : asSentence(toQString(set.error().message)));
+  mJobForm->setPagesProblem(set ? QString() : asSentence(translated(set.error().sentence)));
 }
 
-void PrintDialog::showMoreOptions(bool shown) { mMoreOptions->setVisible(shown); }
+void PrintDialog::showMoreOptions(bool shown) {
+  mMoreOptions->setVisible(shown);
+  setMnemonics();
+}
+
+// The panels first: their options are what the dialog is opened for.
+void PrintDialog::setMnemonics() {
+  const QString reserved = mnemonicIn(NoticeView::resolveTitle());
+  for (QWidget* root : {static_cast<QWidget*>(mPanelFrame), static_cast<QWidget*>(mMoreOptions)}) {
+    assignMnemonics(*this, *root, reserved);
+  }
+}
 
 QString PrintDialog::refusal() const {
   if (!mModel.isOpen()) return tr("No printer is open.");
@@ -351,7 +370,7 @@ void PrintDialog::print() {
   if (!refusal().isEmpty() || mServer->isOpening() || mJob->isRunning()) return;
   const Result<OptionList> options = mModel.prepareToPrint();
   mNotices->setNotice(NoticeTopic::failure,
-                      options ? QString() : toQString(options.error().message));
+                      options ? QString() : translated(options.error().sentence));
   if (!options) return;
   mNotices->clear(NoticeTopic::refusal);
   showJobRunning(true);

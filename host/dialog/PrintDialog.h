@@ -84,6 +84,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
   void connectServer();
   void connectJob();
   void setTabOrders();
+  void setMnemonics();
 
   void choosePrinter(const QString& name);
   void choosePaper(const QString& name);

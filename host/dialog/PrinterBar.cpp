@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
+#include "host/dialog/translated.h"
 #include "qt/QtText.h"
 
 namespace cutline {
@@ -83,7 +84,7 @@ void PrinterBar::setPpdFile(const QString& name) {
 }
 
 void PrinterBar::setState(const Destination& printer) {
-  showState(severityOfState(printer), toQString(printer.stateText()));
+  showState(severityOfState(printer), translated(printer.stateText()));
 }
 
 void PrinterBar::setWaiting(const QString& text) { showState(Severity::info, text); }

@@ -9,6 +9,7 @@
 #include "host/document/ImageDocument.h"
 #include "host/document/PdfDocument.h"
 #include "host/document/PlaceholderDocument.h"
+#include "host/document/file_error.h"
 
 namespace cutline {
 namespace {
@@ -21,14 +22,14 @@ bool isPostScript(const QByteArray& head) { return head.startsWith("%!"); }
 
 Result<QByteArray> readHead(const QString& path) {
   if (QFileInfo(path).isDir()) {
-    return Error{path.toStdString() + ": is a directory; name a document"};
+    return aboutFile(path, Phrase("document", "is a directory; name a document"));
   }
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) {
-    return Error{path.toStdString() + ": " + file.errorString().toStdString()};
+    return aboutFile(path, file.errorString().toStdString());
   }
   QByteArray head = file.read(kHeadLength);
-  if (head.isEmpty()) return Error{path.toStdString() + ": the file is empty"};
+  if (head.isEmpty()) return aboutFile(path, Phrase("document", "the file is empty"));
   return head;
 }
 
@@ -46,7 +47,7 @@ Result<std::shared_ptr<Document>> FileRenderer::open(const std::string& path) no
   try {
     return openFile(QString::fromStdString(path));
   } catch (const std::exception& reason) {
-    return Error{path + ": " + reason.what()};
+    return aboutFile(QString::fromStdString(path), std::string(reason.what()));
   }
 }
 

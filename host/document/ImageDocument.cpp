@@ -5,6 +5,7 @@
 #include <cmath>
 #include <exception>
 
+#include "host/document/file_error.h"
 #include "host/document/page_image.h"
 
 namespace cutline {
@@ -30,8 +31,8 @@ Result<std::shared_ptr<Document>> ImageDocument::open(const QString& path) {
   reader.setDecideFormatFromContent(true);
   QImage image = reader.read();
   if (image.isNull()) {
-    return Error{path.toStdString() +
-                 ": the picture cannot be read: " + reader.errorString().toStdString()};
+    return aboutFile(path, {Phrase("document", "the picture cannot be read: %1"),
+                            {reader.errorString().toStdString()}});
   }
   return std::shared_ptr<Document>(std::make_shared<ImageDocument>(std::move(image)));
 }
@@ -49,7 +50,8 @@ Result<PageImage> ImageDocument::render(int page, double scale) noexcept {
     return pageImageFrom(
         mImage.scaled(pixelsAt(size, scale), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
   } catch (const std::exception& reason) {
-    return Error{std::string("the picture cannot be drawn: ") + reason.what()};
+    return Error{Sentence(Phrase("document", "the picture cannot be drawn: %1"),
+                          {std::string(reason.what())})};
   }
 }
 

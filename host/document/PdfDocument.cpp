@@ -6,6 +6,7 @@
 #include <QVariant>
 #include <exception>
 
+#include "host/document/file_error.h"
 #include "host/document/page_image.h"
 
 namespace cutline {
@@ -31,18 +32,29 @@ std::vector<Size> sizesOfPages(const Poppler::Document& document) {
   return sizes;
 }
 
+Error undrawable(int page) {
+  return Sentence(Phrase("document", "page %1 cannot be drawn"), {std::to_string(page + 1)});
+}
+
+Error undrawable(int page, const std::string& reason) {
+  return Sentence(Phrase("document", "page %1 cannot be drawn: %2"),
+                  {std::to_string(page + 1), reason});
+}
+
 }  // namespace
 
 Result<std::shared_ptr<Document>> PdfDocument::open(const QString& path) {
   Poppler::setDebugErrorFunction(ignoreFlaw, {});
   std::unique_ptr<Poppler::Document> document = Poppler::Document::load(path);
   if (!document) {
-    return Error{path.toStdString() + ": the PDF is damaged; open it elsewhere and save it again"};
+    return aboutFile(path,
+                     Phrase("document", "the PDF is damaged; open it elsewhere and save it again"));
   }
   if (document->isLocked()) {
-    return Error{path.toStdString() + ": the PDF is locked with a password; save it without one"};
+    return aboutFile(path,
+                     Phrase("document", "the PDF is locked with a password; save it without one"));
   }
-  if (document->numPages() < 1) return Error{path.toStdString() + ": the PDF has no pages"};
+  if (document->numPages() < 1) return aboutFile(path, Phrase("document", "the PDF has no pages"));
   document->setRenderHint(Poppler::Document::Antialiasing);
   document->setRenderHint(Poppler::Document::TextAntialiasing);
   return std::shared_ptr<Document>(std::make_shared<PdfDocument>(std::move(document)));
@@ -63,10 +75,10 @@ Result<PageImage> PdfDocument::render(int page, double scale) noexcept {
     const std::unique_ptr<Poppler::Page> found = mDocument->page(page);
     const double resolution = kPointsPerInch * scale;
     const QImage image = found ? found->renderToImage(resolution, resolution) : QImage();
-    if (image.isNull()) return Error{"page " + std::to_string(page + 1) + " cannot be drawn"};
+    if (image.isNull()) return undrawable(page);
     return pageImageFrom(image);
   } catch (const std::exception& reason) {
-    return Error{"page " + std::to_string(page + 1) + " cannot be drawn: " + reason.what()};
+    return undrawable(page, reason.what());
   }
 }
 

@@ -48,7 +48,8 @@ Result<PageImage> PlaceholderDocument::render(int page, double scale) noexcept {
   try {
     return pageImageFrom(paint(scale));
   } catch (const std::exception& reason) {
-    return Error{std::string("the page cannot be drawn: ") + reason.what()};
+    return Error{
+        Sentence(Phrase("document", "the page cannot be drawn: %1"), {std::string(reason.what())})};
   }
 }
 

@@ -32,10 +32,10 @@ PageImage pageImageFrom(const QImage& image) {
 }
 
 Result<Done> checkPageImage(const Size& pageSize, double scale) {
-  if (pageSize == Size{}) return Error{"there is no such page"};
+  if (pageSize == Size{}) return Error{Phrase("document", "there is no such page")};
   const double pixels = pageSize.width * pageSize.height * scale * scale;
   if (scale > 0 && pixels > 0 && pixels <= kMostPixels) return Done{};
-  return Error{"the page cannot be drawn at this size"};
+  return Error{Phrase("document", "the page cannot be drawn at this size")};
 }
 
 }  // namespace cutline

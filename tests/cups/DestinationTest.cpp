@@ -10,7 +10,7 @@ std::string stateText(PrinterState state, std::vector<std::string> reasons, bool
   destination.state = state;
   destination.stateReasons = std::move(reasons);
   destination.acceptsJobs = accepts;
-  return destination.stateText();
+  return destination.stateText().english();
 }
 
 TEST(DestinationName, IsAPrinterOrAnInstanceOfIt) {

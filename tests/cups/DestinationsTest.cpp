@@ -27,7 +27,7 @@ TEST_F(DestinationsTest, EveryPrinterIsListedWithItsFacts) {
     EXPECT_FALSE(destination.info.empty());
     EXPECT_FALSE(destination.deviceURI.empty());
     EXPECT_TRUE(destination.acceptsJobs);
-    EXPECT_EQ(destination.stateText(), "Ready");
+    EXPECT_EQ(destination.stateText().english(), "Ready");
     EXPECT_TRUE(destination.savedOptions.empty());
   }
 }
@@ -182,7 +182,7 @@ TEST_F(DestinationsTest, APausedPrinterSaysSo) {
   outputOf("cupsenable " + otherPrinter());
   outputOf("cupsaccept " + otherPrinter());
   ASSERT_TRUE(found) << found.error().message;
-  EXPECT_EQ(found->stateText(), "Paused - not accepting jobs");
+  EXPECT_EQ(found->stateText().english(), "Paused - not accepting jobs");
 }
 
 }  // namespace

@@ -17,7 +17,7 @@ TEST(JobStatus, EveryStateHasWordsAndAnEnd) {
         Row{JobState::canceled, "Cancelled", true}, Row{JobState::aborted, "Failed", true},
         Row{JobState::completed, "Printed", true}}) {
     const JobStatus status{row.state, "", {}};
-    EXPECT_EQ(status.text(), row.text);
+    EXPECT_EQ(status.text().english(), row.text);
     EXPECT_EQ(status.isFinal(), row.isFinal) << row.text;
   }
 }

@@ -8,6 +8,7 @@
 #include <QSpinBox>
 #include <QTest>
 
+#include "host/dialog/translated.h"
 #include "tests/dialog/DialogTest.h"
 
 namespace cutline {
@@ -115,7 +116,7 @@ TEST_F(SettingsTest, WhatARuleChangesIsNamedBesideThePanel) {
   click(box("LxSpecialTape"));
   ASSERT_FALSE(model().deviations().empty());
   for (const Deviation& deviation : model().deviations()) {
-    EXPECT_TRUE(shows(QString::fromStdString(deviation.sentence))) << deviation.sentence;
+    EXPECT_TRUE(shows(translated(deviation.sentence))) << deviation.sentence.english();
   }
 }
 
@@ -124,7 +125,7 @@ TEST_F(SettingsTest, ConflictsAreNamedAndSortedOutAtAClick) {
   click(box("LxHalfCut"));
   ASSERT_TRUE(model().setOption("TapeMaterial", "Fabric"));
   ASSERT_EQ(model().conflicts().size(), 1u);
-  EXPECT_TRUE(shows(QString::fromStdString(model().conflicts().front())));
+  EXPECT_TRUE(shows(translated(model().conflicts().front())));
   click(buttonWithText<QPushButton>("Chan&ge the others"));
   EXPECT_TRUE(model().conflicts().empty());
   EXPECT_EQ(sent()["LxHalfCut"], "OFF");

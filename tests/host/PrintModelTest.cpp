@@ -337,9 +337,9 @@ TEST_F(Constrained, ConflictsAreNamedInWords) {
   ASSERT_TRUE(model->setOption("Speed", "Fast"));
   ASSERT_TRUE(model->setOption("LxChainPrint", "ON"));
   ASSERT_EQ(model->conflicts().size(), 1U);
+  const std::string sentence = model->conflicts().front().english();
   for (const char* part : {"Speed", "Fast", "ChainPrint", "On"})
-    EXPECT_NE(model->conflicts().front().find(part), std::string::npos)
-        << model->conflicts().front();
+    EXPECT_NE(sentence.find(part), std::string::npos) << sentence;
 }
 
 TEST_F(Constrained, TheOptionThatWasChosenLastStays) {

@@ -1,0 +1,92 @@
+#include "host/dialog/Language.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QGuiApplication>
+#include <QLibraryInfo>
+#include <algorithm>
+#include <array>
+
+#include "qt/QtText.h"
+
+namespace cutline {
+namespace {
+
+constexpr char kFontLanguage[] = "FC_LANG";
+
+// Names of languages by their script, as bundles have them, whose tables are named by a place.
+struct ScriptName {
+  const char* name;
+  const char* code;
+};
+constexpr std::array kScriptNames =
+    std::to_array<ScriptName>({{"zh-Hans", "zh_CN"}, {"zh-Hant", "zh_TW"}});
+
+// Where the toolkit knows a language by one of its countries only.
+constexpr std::array kToolkitNames = std::to_array<ScriptName>({{"pt", "pt_BR"}});
+
+QString english() { return QStringLiteral("en"); }
+
+QString codeOf(const std::string& name) {
+  const auto* row = std::find_if(kScriptNames.begin(), kScriptNames.end(),
+                                 [&](const ScriptName& script) { return script.name == name; });
+  return row != kScriptNames.end() ? QString::fromLatin1(row->code) : toQString(name);
+}
+
+QString tablePath(const QString& directory, const QString& code) {
+  return directory + QStringLiteral("/cutline_%1.qm").arg(code);
+}
+
+QString languageOf(const QString& name) {
+  return name.section(QLatin1Char('_'), 0, 0).section(QLatin1Char('-'), 0, 0);
+}
+
+// The user's own variety, which may have no table: the names go from the particular to the general.
+QLocale localeFor(const QString& code, const std::vector<std::string>& names) {
+  const auto name = std::find_if(names.begin(), names.end(), [&](const std::string& each) {
+    return languageOf(toQString(each)) == languageOf(code);
+  });
+  const QLocale own(name != names.end() ? toQString(*name) : code);
+  return own.language() == QLocale::C ? QLocale(code) : own;
+}
+
+QString toolkitTable(const QString& code) {
+  const auto* row =
+      std::find_if(kToolkitNames.begin(), kToolkitNames.end(),
+                   [&](const ScriptName& known) { return code == QLatin1String(known.name); });
+  const QString name = row != kToolkitNames.end() ? QString::fromLatin1(row->code) : code;
+  return QLibraryInfo::path(QLibraryInfo::TranslationsPath) + QStringLiteral("/qtbase_") + name;
+}
+
+// Without a table of the toolkit's own its few texts stay English.
+void install(QTranslator& texts, const QString& path) {
+  if (texts.load(path)) QCoreApplication::installTranslator(&texts);
+}
+
+}  // namespace
+
+Language chooseLanguage(const std::vector<std::string>& names, const QString& directory) {
+  for (const std::string& name : names) {
+    const QString code = codeOf(name);
+    if (code == english()) break;
+    if (QFile::exists(tablePath(directory, code))) return {code, localeFor(code, names)};
+  }
+  return {english(), localeFor(english(), names)};
+}
+
+void preferFontsFor(const Language& language) {
+  if (qEnvironmentVariableIsEmpty(kFontLanguage)) qputenv(kFontLanguage, language.code.toLatin1());
+}
+
+LanguageInForce::LanguageInForce(const Language& language, const QString& directory) {
+  QLocale::setDefault(language.locale);
+  QGuiApplication::setLayoutDirection(language.locale.textDirection());
+  if (language.code == english()) return;
+  install(mToolkitTexts, toolkitTable(language.code));
+  install(mTexts, tablePath(directory, language.code));
+}
+
+// The translators take themselves out.
+LanguageInForce::~LanguageInForce() { QLocale::setDefault(mBefore); }
+
+}  // namespace cutline

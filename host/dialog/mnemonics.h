@@ -1,0 +1,18 @@
+// Letters that, pressed with Alt, reach a control: they are underlined in its title. '&' stands
+// before one in a text for the toolkit, and "&&" for itself.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace cutline {
+
+// The letter in upper case; null when the text has none.
+QChar mnemonicIn(const QString& text);
+
+// Texts for the toolkit of these titles, each with a letter that is neither in `taken` (upper case)
+// nor another's: one of its own, the start of a word rather than another. As many titles as
+// possible get one. A title without a Latin letter gets a free one in parentheses behind it.
+QStringList withMnemonics(const QStringList& titles, const QString& taken);
+
+}  // namespace cutline

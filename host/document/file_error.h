@@ -1,0 +1,13 @@
+// The error of a file that cannot be shown.
+#pragma once
+
+#include "cups/Result.h"
+
+class QString;
+
+namespace cutline {
+
+// "FILE: REASON".
+Error aboutFile(const QString& path, Sentence reason);
+
+}  // namespace cutline
