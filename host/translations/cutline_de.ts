@@ -1,4 +1,902 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>cups</name>
+    <message>
+        <source>label roll or tape is empty</source>
+        <translation>Etikettenrolle oder Band ist leer</translation>
+    </message>
+    <message>
+        <source>labels or tape needed</source>
+        <translation>Etiketten oder Band werden benötigt</translation>
+    </message>
+    <message>
+        <source>label or tape is jammed</source>
+        <translation>Etikett oder Band klemmt</translation>
+    </message>
+    <message>
+        <source>labels or tape nearly used up</source>
+        <translation>Etiketten oder Band sind fast verbraucht</translation>
+    </message>
+    <message>
+        <source>cover is open</source>
+        <translation>Abdeckung ist offen</translation>
+    </message>
+    <message>
+        <source>door is open</source>
+        <translation>Klappe ist offen</translation>
+    </message>
+    <message>
+        <source>cover is not locked</source>
+        <translation>Abdeckung ist nicht verriegelt</translation>
+    </message>
+    <message>
+        <source>cassette is missing</source>
+        <translation>Kassette fehlt</translation>
+    </message>
+    <message>
+        <source>printer is switched off or not connected</source>
+        <translation>Drucker ist ausgeschaltet oder nicht angeschlossen</translation>
+    </message>
+    <message>
+        <source>printer is switched off</source>
+        <translation>Drucker ist ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>printer does not answer</source>
+        <translation>Drucker antwortet nicht</translation>
+    </message>
+    <message>
+        <source>connecting to the printer</source>
+        <translation>Verbindung zum Drucker wird hergestellt</translation>
+    </message>
+    <message>
+        <source>pausing after the current label</source>
+        <translation>hält nach dem aktuellen Etikett an</translation>
+    </message>
+    <message>
+        <source>stopping</source>
+        <translation>hält an</translation>
+    </message>
+    <message>
+        <source>partly stopped</source>
+        <translation>teilweise angehalten</translation>
+    </message>
+    <message>
+        <source>cutter needs attention</source>
+        <translation>Schneidwerk prüfen</translation>
+    </message>
+    <message>
+        <source>cutter failed</source>
+        <translation>Schneidwerk ist gestört</translation>
+    </message>
+    <message>
+        <source>cutter is jammed</source>
+        <translation>Schneidwerk klemmt</translation>
+    </message>
+    <message>
+        <source>cutter is nearly worn out</source>
+        <translation>Schneidwerk ist fast verschlissen</translation>
+    </message>
+    <message>
+        <source>cutter is worn out</source>
+        <translation>Schneidwerk ist verschlissen</translation>
+    </message>
+    <message>
+        <source>ink ribbon is used up</source>
+        <translation>Farbband ist verbraucht</translation>
+    </message>
+    <message>
+        <source>ink ribbon is nearly used up</source>
+        <translation>Farbband ist fast verbraucht</translation>
+    </message>
+    <message>
+        <source>print head is too hot</source>
+        <translation>Druckkopf ist zu heiß</translation>
+    </message>
+    <message>
+        <source>print server has no room for more jobs</source>
+        <translation>Druckserver hat keinen Platz für weitere Aufträge</translation>
+    </message>
+    <message>
+        <source>new jobs are held</source>
+        <translation>neue Aufträge werden zurückgehalten</translation>
+    </message>
+    <message>
+        <source>printer needs attention</source>
+        <translation>Drucker prüfen</translation>
+    </message>
+    <message>
+        <source>printer&apos;s driver is missing on the print server</source>
+        <translation>Druckertreiber fehlt auf dem Druckserver</translation>
+    </message>
+    <message>
+        <source>printer&apos;s driver is not safely installed on the print server</source>
+        <translation>Druckertreiber ist auf dem Druckserver nicht sicher installiert</translation>
+    </message>
+    <message>
+        <source>remote printer is paused</source>
+        <translation>entfernter Drucker ist angehalten</translation>
+    </message>
+    <message>
+        <source>waiting for the remote printer</source>
+        <translation>wartet auf den entfernten Drucker</translation>
+    </message>
+    <message>
+        <source>waiting for the printer to finish</source>
+        <translation>wartet, bis der Drucker fertig ist</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Druckt</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>State unknown</source>
+        <translation>Zustand unbekannt</translation>
+    </message>
+    <message>
+        <source>not accepting jobs</source>
+        <translation>nimmt keine Aufträge an</translation>
+    </message>
+    <message>
+        <source>Not ready</source>
+        <translation>Nicht bereit</translation>
+    </message>
+    <message>
+        <source>the printers cannot be listed</source>
+        <translation>die Drucker können nicht aufgelistet werden</translation>
+    </message>
+    <message>
+        <source>it has no printers</source>
+        <translation>er hat keine Drucker</translation>
+    </message>
+    <message>
+        <source>it has %1</source>
+        <translation>er hat %1</translation>
+    </message>
+    <message>
+        <source>the print server at &quot;%1&quot; has no printer &quot;%2&quot;: %3</source>
+        <translation>der Druckserver auf „%1“ hat keinen Drucker „%2“: %3</translation>
+    </message>
+    <message>
+        <source>there is no default printer: name one with -d; the print server at &quot;%1&quot;: %2</source>
+        <translation>es gibt keinen Standarddrucker: geben Sie einen mit -d an; der Druckserver auf „%1“: %2</translation>
+    </message>
+    <message>
+        <source>there is no default printer (%1): name one with -d; the print server at &quot;%2&quot;: %3</source>
+        <translation>es gibt keinen Standarddrucker (%1): geben Sie einen mit -d an; der Druckserver auf „%2“: %3</translation>
+    </message>
+    <message>
+        <source>none are saved</source>
+        <translation>es sind keine gespeichert</translation>
+    </message>
+    <message>
+        <source>saved are %1</source>
+        <translation>gespeichert sind %1</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; has no saved settings &quot;%2&quot;: %3</source>
+        <translation>der Drucker „%1“ hat keine gespeicherten Einstellungen „%2“: %3</translation>
+    </message>
+    <message>
+        <source>settings that are all the print server&apos;s own defaults cannot be saved as &quot;%1&quot;: choose one that differs</source>
+        <translation>Einstellungen, die alle den Vorgaben des Druckservers entsprechen, können nicht als „%1“ gespeichert werden: wählen Sie eine andere Einstellung</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a printer, not saved settings</source>
+        <translation>„%1“ ist ein Drucker, keine gespeicherte Einstellung</translation>
+    </message>
+    <message>
+        <source>the settings &quot;%1&quot; are the administrator&apos;s: only lpoptions as root removes them</source>
+        <translation>die Einstellungen „%1“ gehören der Systemverwaltung: nur lpoptions als root entfernt sie</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>Wartet</translation>
+    </message>
+    <message>
+        <source>Held</source>
+        <translation>Zurückgehalten</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Abgebrochen</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Printed</source>
+        <translation>Gedruckt</translation>
+    </message>
+    <message>
+        <source>the printer is paused</source>
+        <translation>der Drucker ist angehalten</translation>
+    </message>
+    <message>
+        <source>the printer is partly paused</source>
+        <translation>der Drucker ist teilweise angehalten</translation>
+    </message>
+    <message>
+        <source>the document is being received</source>
+        <translation>das Dokument wird empfangen</translation>
+    </message>
+    <message>
+        <source>until it is released</source>
+        <translation>bis er freigegeben wird</translation>
+    </message>
+    <message>
+        <source>the printer needs attention</source>
+        <translation>der Drucker braucht Aufmerksamkeit</translation>
+    </message>
+    <message>
+        <source>the document cannot be read</source>
+        <translation>das Dokument kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>the printer cannot print this kind of document</source>
+        <translation>der Drucker kann diese Art von Dokument nicht drucken</translation>
+    </message>
+    <message>
+        <source>the document cannot be printed</source>
+        <translation>das Dokument kann nicht gedruckt werden</translation>
+    </message>
+    <message>
+        <source>by the operator</source>
+        <translation>durch die Bedienung</translation>
+    </message>
+    <message>
+        <source>at the printer</source>
+        <translation>am Drucker</translation>
+    </message>
+    <message>
+        <source>by the print server</source>
+        <translation>durch den Druckserver</translation>
+    </message>
+    <message>
+        <source>the state of the job %1 is not known</source>
+        <translation>der Zustand des Auftrags %1 ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>the print server told no state of the job %1</source>
+        <translation>der Druckserver hat keinen Zustand des Auftrags %1 genannt</translation>
+    </message>
+    <message>
+        <source>it has none</source>
+        <translation>sie hat keine</translation>
+    </message>
+    <message>
+        <source>its choices are %1</source>
+        <translation>möglich sind %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no paper size: write it as Custom.WIDTHxLENGTHmm</source>
+        <translation>„%1“ ist kein Papierformat: schreiben Sie es als Custom.BREITExLÄNGEmm</translation>
+    </message>
+    <message>
+        <source>the printer does not take paper of %1: it takes %2 to %3</source>
+        <translation>der Drucker nimmt kein Papier von %1 an: möglich sind %2 bis %3</translation>
+    </message>
+    <message>
+        <source>the option %1 has no choice &quot;%2&quot;: %3</source>
+        <translation>die Option %1 hat keine Auswahl „%2“: %3</translation>
+    </message>
+    <message>
+        <source>cannot open %1: %2</source>
+        <translation>%1 kann nicht geöffnet werden: %2</translation>
+    </message>
+    <message>
+        <source>the connection to the print server at &quot;%1&quot; was lost: try again</source>
+        <translation>die Verbindung zum Druckserver auf „%1“ ist abgebrochen: versuchen Sie es noch einmal</translation>
+    </message>
+    <message>
+        <source>the print server at &quot;%1&quot; does not hand out the PPD of &quot;%2&quot;: %3</source>
+        <translation>der Druckserver auf „%1“ gibt die PPD-Datei von „%2“ nicht heraus: %3</translation>
+    </message>
+    <message>
+        <source>the print server at &quot;%1&quot; has no printer &quot;%2&quot;</source>
+        <translation>der Druckserver auf „%1“ hat keinen Drucker „%2“</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; has no PPD on the print server at &quot;%2&quot;: choose a printer that was set up with its driver</source>
+        <translation>der Drucker „%1“ hat keine PPD-Datei auf dem Druckserver auf „%2“: wählen Sie einen Drucker, der mit seinem Treiber eingerichtet wurde</translation>
+    </message>
+    <message>
+        <source>the PPD &quot;%1&quot;</source>
+        <translation>die PPD-Datei „%1“</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>das ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>the PPD of &quot;%1&quot;</source>
+        <translation>die PPD-Datei von „%1“</translation>
+    </message>
+    <message>
+        <source>no memory for %1</source>
+        <translation>kein Speicher für %1</translation>
+    </message>
+    <message>
+        <source>cannot use %1: %2</source>
+        <translation>%1 kann nicht verwendet werden: %2</translation>
+    </message>
+    <message>
+        <source>cannot use %1: line %2: %3</source>
+        <translation>%1 kann nicht verwendet werden: Zeile %2: %3</translation>
+    </message>
+    <message>
+        <source>the name &quot;%1&quot; has %2 bytes, and a PPD&apos;s names have at most %3</source>
+        <translation>der Name „%1“ hat %2 Byte, Namen in einer PPD-Datei haben höchstens %3</translation>
+    </message>
+    <message>
+        <source>cannot read the document &quot;%1&quot;: %2</source>
+        <translation>das Dokument „%1“ kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>es ist leer</translation>
+    </message>
+    <message>
+        <source>printing was cancelled, nothing was printed</source>
+        <translation>der Druck wurde abgebrochen, es wurde nichts gedruckt</translation>
+    </message>
+    <message>
+        <source>it changed while it was sent; nothing was printed</source>
+        <translation>es hat sich während des Sendens geändert; es wurde nichts gedruckt</translation>
+    </message>
+    <message>
+        <source>the document &quot;%1&quot; could not be sent to &quot;%2&quot;</source>
+        <translation>das Dokument „%1“ konnte nicht an „%2“ gesendet werden</translation>
+    </message>
+    <message>
+        <source>%1; the job %2 may still be there: remove it with cancel %2</source>
+        <translation>%1; der Auftrag %2 ist vielleicht noch vorhanden: entfernen Sie ihn mit cancel %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; takes no job</source>
+        <translation>„%1“ nimmt keinen Auftrag an</translation>
+    </message>
+    <message>
+        <source>the job %1 cannot be cancelled</source>
+        <translation>der Auftrag %1 kann nicht abgebrochen werden</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no printer&apos;s name</source>
+        <translation>„%1“ ist kein Druckername</translation>
+    </message>
+    <message>
+        <source>settings cannot be saved as &quot;%1&quot;: choose a name without spaces, &quot;/&quot; and &quot;#&quot;</source>
+        <translation>Einstellungen können nicht als „%1“ gespeichert werden: wählen Sie einen Namen ohne Leerzeichen, „/“ und „#“</translation>
+    </message>
+    <message>
+        <source>the option %1 cannot be saved: its value has a &quot;#&quot; or a line end</source>
+        <translation>die Option %1 kann nicht gespeichert werden: ihr Wert enthält „#“ oder ein Zeilenende</translation>
+    </message>
+    <message>
+        <source>the options cannot be saved in &quot;%1&quot;: %2</source>
+        <translation>die Optionen können nicht in „%1“ gespeichert werden: %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>no print server gives an encrypted connection at &quot;%1&quot; (%2): start one or leave out -E</source>
+        <translation>kein Druckserver bietet auf „%1“ eine verschlüsselte Verbindung an (%2): starten Sie einen, oder lassen Sie -E weg</translation>
+    </message>
+    <message>
+        <source>no print server answers at &quot;%1&quot;: start it or name another with -h</source>
+        <translation>kein Druckserver antwortet auf „%1“: starten Sie ihn, oder geben Sie mit -h einen anderen an</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>%1: the print server at &quot;%2&quot; says: %3</source>
+        <translation>%1: der Druckserver auf „%2“ meldet: %3</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::DialogSession</name>
+    <message>
+        <source>Waiting for the print server...</source>
+        <translation>Auf den Druckserver wird gewartet …</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::JobForm</name>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>&amp;Kopien:</translation>
+    </message>
+    <message>
+        <source>P&amp;ages:</source>
+        <translation>S&amp;eiten:</translation>
+    </message>
+    <message>
+        <source>Pape&amp;r:</source>
+        <translation>&amp;Papier:</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Kopien</translation>
+    </message>
+    <message>
+        <source>All, or such as 1-3,5</source>
+        <translation>Alle, oder z. B. 1-3,5</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::JobProgress</name>
+    <message>
+        <source>Cancel &amp;job</source>
+        <translation>Auftra&amp;g abbrechen</translation>
+    </message>
+    <message>
+        <source>Close and &amp;let it print</source>
+        <translation>S&amp;chließen und weiter drucken</translation>
+    </message>
+    <message>
+        <source>Progress of the job</source>
+        <translation>Fortschritt des Auftrags</translation>
+    </message>
+    <message>
+        <source>Sending to %1...</source>
+        <translation>Wird an %1 gesendet …</translation>
+    </message>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>Auftrag %1: %2</translation>
+    </message>
+    <message>
+        <source>Job %1: %2 - %3</source>
+        <translation>Auftrag %1: %2 – %3</translation>
+    </message>
+    <message>
+        <source>Cancelling...</source>
+        <translation>Wird abgebrochen …</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::JobRunner</name>
+    <message>
+        <source>Job %1 was sent, but the server no longer tells its state: %2. It may still be printed.</source>
+        <translation>Auftrag %1 wurde gesendet, aber der Server nennt seinen Zustand nicht mehr: %2. Vielleicht wird er noch gedruckt.</translation>
+    </message>
+    <message>
+        <source>Job %1 was cancelled at the printer</source>
+        <translation>Auftrag %1 wurde am Drucker abgebrochen</translation>
+    </message>
+    <message>
+        <source>%1 gave job %2 up</source>
+        <translation>%1 hat Auftrag %2 aufgegeben</translation>
+    </message>
+    <message>
+        <source> (%1)</source>
+        <translation> (%1)</translation>
+    </message>
+    <message>
+        <source>%1%2. See that the printer is ready, then print again.</source>
+        <translation>%1%2. Sorgen Sie dafür, dass der Drucker bereit ist, und drucken Sie noch einmal.</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::MoreOptionsPanel</name>
+    <message>
+        <source>More printer options</source>
+        <translation>Weitere Druckeroptionen</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::NoticeView</name>
+    <message>
+        <source>Chan&amp;ge the others</source>
+        <translation>&amp;Andere ändern</translation>
+    </message>
+    <message>
+        <source>Keep the latest choice and change those that exclude it</source>
+        <translation>Die letzte Wahl behalten und ändern, was sie ausschließt</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::PanelFrame</name>
+    <message>
+        <source>This printer has no panel of its own. Its options are under &quot;More printer options&quot;.</source>
+        <translation>Dieser Drucker hat kein eigenes Bedienfeld. Seine Optionen stehen unter „Weitere Druckeroptionen“.</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::PlaceholderDocument</name>
+    <message>
+        <source>No preview for this kind of document; it prints as it is</source>
+        <translation>Keine Vorschau für diese Art von Dokument; gedruckt wird es wie es ist</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::PresetBar</name>
+    <message>
+        <source>Pr&amp;eset:</source>
+        <translation>&amp;Vorgabe:</translation>
+    </message>
+    <message>
+        <source>&amp;Save...</source>
+        <translation>&amp;Speichern …</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation>Vorgabe</translation>
+    </message>
+    <message>
+        <source>Save these settings as a preset</source>
+        <translation>Diese Einstellungen als Vorgabe speichern</translation>
+    </message>
+    <message>
+        <source>Delete the chosen preset</source>
+        <translation>Die gewählte Vorgabe löschen</translation>
+    </message>
+    <message>
+        <source>Printer&apos;s own settings</source>
+        <translation>Einstellungen des Druckers</translation>
+    </message>
+    <message>
+        <source>Delete preset</source>
+        <translation>Vorgabe löschen</translation>
+    </message>
+    <message>
+        <source>Delete the preset &quot;%1&quot; of this printer?</source>
+        <translation>Die Vorgabe „%1“ dieses Druckers löschen?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::PresetNameDialog</name>
+    <message>
+        <source>Type a name.</source>
+        <translation>Geben Sie einen Namen ein.</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>Der Name ist zu lang.</translation>
+    </message>
+    <message>
+        <source>Use letters, digits, dashes and underscores, without blanks.</source>
+        <translation>Verwenden Sie Buchstaben, Ziffern, Binde- und Unterstriche ohne Leerzeichen.</translation>
+    </message>
+    <message>
+        <source>Save preset</source>
+        <translation>Vorgabe speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the preset:</source>
+        <translation>&amp;Name der Vorgabe:</translation>
+    </message>
+    <message>
+        <source>Name of the preset</source>
+        <translation>Name der Vorgabe</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Replaces the preset of this name.</source>
+        <translation>Ersetzt die Vorgabe dieses Namens.</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::PrintDialog</name>
+    <message>
+        <source>&amp;More printer options</source>
+        <translation>&amp;Weitere Druckeroptionen</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int</source>
+        <translation>Dr&amp;ucken</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>%1 drucken</translation>
+    </message>
+    <message>
+        <source>No preview: its module is not installed</source>
+        <translation>Keine Vorschau: das Modul dafür ist nicht installiert</translation>
+    </message>
+    <message>
+        <source>This document cannot be shown</source>
+        <translation>Dieses Dokument kann nicht angezeigt werden</translation>
+    </message>
+    <message>
+        <source>Label %1: %2</source>
+        <translation>Etikett %1: %2</translation>
+    </message>
+    <message>
+        <source>The job was cancelled.</source>
+        <translation>Der Auftrag wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>No printer</source>
+        <translation>Kein Drucker</translation>
+    </message>
+    <message>
+        <source>No document</source>
+        <translation>Kein Dokument</translation>
+    </message>
+    <message>
+        <source>Opening %1...</source>
+        <translation>%1 wird geöffnet …</translation>
+    </message>
+    <message>
+        <source>%1 does not print now (%2). A job waits until the printer is ready again.</source>
+        <translation>%1 druckt zurzeit nicht (%2). Ein Auftrag wartet, bis der Drucker wieder bereit ist.</translation>
+    </message>
+    <message>
+        <source>%1 does not accept jobs. Choose another printer, or ask whoever looks after this one.</source>
+        <translation>%1 nimmt keine Aufträge an. Wählen Sie einen anderen Drucker, oder fragen Sie, wer diesen betreut.</translation>
+    </message>
+    <message>
+        <source>No printer is open.</source>
+        <translation>Es ist kein Drucker geöffnet.</translation>
+    </message>
+    <message>
+        <source>This is a PPD file, no printer: printing is switched off.</source>
+        <translation>Dies ist eine PPD-Datei, kein Drucker: Drucken ist nicht möglich.</translation>
+    </message>
+    <message>
+        <source>There is no document to print: start with &quot;cutline FILE&quot;.</source>
+        <translation>Es gibt kein Dokument zu drucken: starten Sie mit „cutline DATEI“.</translation>
+    </message>
+    <message>
+        <source>This document cannot be printed.</source>
+        <translation>Dieses Dokument kann nicht gedruckt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::PrinterBar</name>
+    <message>
+        <source>&amp;Printer:</source>
+        <translation>&amp;Drucker:</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>PPD file, no printer</source>
+        <translation>PPD-Datei, kein Drucker</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::StripPane</name>
+    <message>
+        <source>Previous label</source>
+        <translation>Vorheriges Etikett</translation>
+    </message>
+    <message>
+        <source>Next label</source>
+        <translation>Nächstes Etikett</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Einpassen</translation>
+    </message>
+    <message>
+        <source>Fit a label into the view</source>
+        <translation>Ein Etikett in die Ansicht einpassen</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>No preview</source>
+        <translation>Keine Vorschau</translation>
+    </message>
+    <message>
+        <source>Label %1 of %2</source>
+        <translation>Etikett %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::StripView</name>
+    <message>
+        <source>Preview of the labels</source>
+        <translation>Vorschau der Etiketten</translation>
+    </message>
+    <message>
+        <source>%1 - not printed</source>
+        <translation>%1 – wird nicht gedruckt</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::SummaryView</name>
+    <message>
+        <source>Summary</source>
+        <translation>Zusammenfassung</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+</context>
+<context>
+    <name>document</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>is a directory; name a document</source>
+        <translation>ist ein Ordner; geben Sie ein Dokument an</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>the picture cannot be read: %1</source>
+        <translation>das Bild kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>the picture cannot be drawn: %1</source>
+        <translation>das Bild kann nicht gezeichnet werden: %1</translation>
+    </message>
+    <message>
+        <source>there is no such page</source>
+        <translation>diese Seite gibt es nicht</translation>
+    </message>
+    <message>
+        <source>the page cannot be drawn at this size</source>
+        <translation>die Seite kann in dieser Größe nicht gezeichnet werden</translation>
+    </message>
+    <message>
+        <source>page %1 cannot be drawn</source>
+        <translation>Seite %1 kann nicht gezeichnet werden</translation>
+    </message>
+    <message>
+        <source>page %1 cannot be drawn: %2</source>
+        <translation>Seite %1 kann nicht gezeichnet werden: %2</translation>
+    </message>
+    <message>
+        <source>the PDF is damaged; open it elsewhere and save it again</source>
+        <translation>die PDF-Datei ist beschädigt; öffnen Sie sie in einem anderen Programm, und speichern Sie sie neu</translation>
+    </message>
+    <message>
+        <source>the PDF is locked with a password; save it without one</source>
+        <translation>die PDF-Datei ist mit einem Kennwort gesperrt; speichern Sie sie ohne Kennwort</translation>
+    </message>
+    <message>
+        <source>the PDF has no pages</source>
+        <translation>die PDF-Datei hat keine Seiten</translation>
+    </message>
+    <message>
+        <source>the page cannot be drawn: %1</source>
+        <translation>die Seite kann nicht gezeichnet werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host</name>
+    <message>
+        <source>&quot;%1: %2&quot; cannot be used together with &quot;%3: %4&quot;.</source>
+        <translation>„%1: %2“ kann nicht zusammen mit „%3: %4“ verwendet werden.</translation>
+    </message>
+    <message>
+        <source>%1 Change one of them.</source>
+        <translation>%1 Ändern Sie eine der beiden Einstellungen.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot; because special tape is on.</source>
+        <translation>%1: wird als „%2“ gesendet, weil Spezialband eingeschaltet ist.</translation>
+    </message>
+    <message>
+        <source>%1: stays &quot;%2&quot; because it cannot be changed on the paper &quot;%3&quot;.</source>
+        <translation>%1: bleibt „%2“, weil es beim Papier „%3“ nicht geändert werden kann.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; must not be cut automatically.</source>
+        <translation>%1: wird als „%2“ gesendet, weil das Papier „%3“ nicht automatisch geschnitten werden darf.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot;.</source>
+        <translation>%1: wird als „%2“ gesendet.</translation>
+    </message>
+    <message>
+        <source>unknown option &quot;%1&quot;; this printer has no such option</source>
+        <translation>unbekannte Option „%1“; dieser Drucker hat keine solche Option</translation>
+    </message>
+    <message>
+        <source>unknown option &quot;%1&quot;; is it %2?</source>
+        <translation>unbekannte Option „%1“; gemeint ist vielleicht %2</translation>
+    </message>
+    <message>
+        <source>page range &quot;%1&quot;: %2; write pages like 1-4,7</source>
+        <translation>Seitenbereich „%1“: %2; schreiben Sie Seiten wie 1-4,7</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no page or range of pages</source>
+        <translation>„%1“ ist keine Seite und kein Seitenbereich</translation>
+    </message>
+    <message>
+        <source>pages must be in ascending order</source>
+        <translation>die Seiten müssen in aufsteigender Reihenfolge stehen</translation>
+    </message>
+    <message>
+        <source>the panel &quot;%1&quot; does not agree to print with these settings; change them and print again</source>
+        <translation>das Bedienfeld „%1“ stimmt dem Druck mit diesen Einstellungen nicht zu; ändern Sie sie, und drucken Sie noch einmal</translation>
+    </message>
+    <message>
+        <source>unknown paper &quot;%1&quot;; this printer has %2</source>
+        <translation>unbekanntes Papier „%1“; dieser Drucker hat %2</translation>
+    </message>
+    <message>
+        <source>this printer has no option &quot;%1&quot;</source>
+        <translation>dieser Drucker hat keine Option „%1“</translation>
+    </message>
+    <message>
+        <source>copies: %1 is not between 1 and %2</source>
+        <translation>Kopien: %1 liegt nicht zwischen 1 und %2</translation>
+    </message>
+    <message>
+        <source>a PPD file alone cannot print; choose a printer</source>
+        <translation>eine PPD-Datei allein kann nicht drucken; wählen Sie einen Drucker</translation>
+    </message>
+    <message>
+        <source>%1: there is no such document</source>
+        <translation>%1: dieses Dokument gibt es nicht</translation>
+    </message>
+</context>
 </TS>

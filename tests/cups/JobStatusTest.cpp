@@ -23,9 +23,10 @@ TEST(JobStatus, EveryStateHasWordsAndAnEnd) {
 }
 
 TEST(JobStatus, ReasonsThatTellMoreFollowTheState) {
-  EXPECT_EQ((JobStatus{JobState::pending, "", {"printer-stopped"}}).text(),
+  EXPECT_EQ((JobStatus{JobState::pending, "", {"printer-stopped"}}).text().english(),
             "Waiting - the printer is paused");
-  EXPECT_EQ((JobStatus{JobState::completed, "", {"job-completed-successfully"}}).text(), "Printed");
+  EXPECT_EQ((JobStatus{JobState::completed, "", {"job-completed-successfully"}}).text().english(),
+            "Printed");
 }
 
 }  // namespace

@@ -75,7 +75,7 @@ TEST_F(PrintJobTest, ADocumentIsPrinted) {
   const auto job = submitJob({}, request("Shelf 12\n"), nullptr);
   ASSERT_TRUE(job) << job.error().message;
   EXPECT_GT(*job, 0);
-  EXPECT_EQ(finalStatus(*job).text(), "Printed");
+  EXPECT_EQ(finalStatus(*job).text().english(), "Printed");
   EXPECT_TRUE(server().hasPrinted(*job));
 }
 
@@ -122,7 +122,7 @@ TEST_F(PrintJobTest, AWaitingJobIsShownAndCancelled) {
   EXPECT_EQ(waiting->text(), "Waiting - the printer is paused");
   const auto cancelled = cancelJob({}, destination(), *job);
   ASSERT_TRUE(cancelled) << cancelled.error().message;
-  EXPECT_EQ(finalStatus(*job).text(), "Cancelled");
+  EXPECT_EQ(finalStatus(*job).text().english(), "Cancelled");
   const auto again = cancelJob({}, destination(), *job);
   ASSERT_FALSE(again);
   EXPECT_NE(again.error().message.find("the job " + printer() + '-' + std::to_string(*job) +
