@@ -18,7 +18,7 @@ void PlainControl::sendAction() noexcept {
 
 void PlainControl::perform(std::function<void()> handler) noexcept {
   if (!handler) return;
-  const std::weak_ptr<const bool> exists = mExists;
+  const std::weak_ptr<const bool> exists = existence();
   handler();
   if (!exists.expired() && mActions->observer) mActions->observer->actionDidFinish(*this);
 }

@@ -31,6 +31,8 @@ class PlainControl : public virtual Control, public PlainView {
   // Runs what answers a user's doing and then tells the observer. The handler may replace itself
   // and may let the control go; the observer isn't told of a control that is gone.
   void perform(std::function<void()> handler) noexcept;
+  // Expires with the control, for one whose handlers may let it go.
+  std::weak_ptr<const bool> existence() const noexcept { return mExists; }
 
  private:
   std::shared_ptr<const PlainActions> mActions;

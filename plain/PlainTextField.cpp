@@ -1,8 +1,50 @@
 #include "plain/PlainTextField.h"
 
+#include <algorithm>
+#include <optional>
 #include <utility>
 
+#include "platform/NotificationCenter.h"
+#include "platform/Utf16.h"
+
 namespace cutline {
+namespace {
+
+bool isHigh(char16_t unit) { return (unit & 0xFC00U) == 0xD800U; }
+bool isLow(char16_t unit) { return (unit & 0xFC00U) == 0xDC00U; }
+
+// Units of the character that ends at `position`; 0 at the start of the text.
+std::size_t lengthBefore(const std::u16string& text, std::size_t position) {
+  if (position < 2) return position;
+  return isLow(text[position - 1]) && isHigh(text[position - 2]) ? 2 : 1;
+}
+
+// Units of the character that begins at `position`; 0 at the end of the text.
+std::size_t lengthAfter(const std::u16string& text, std::size_t position) {
+  const std::size_t left = text.size() - position;
+  if (left < 2) return left;
+  return isHigh(text[position]) && isLow(text[position + 1]) ? 2 : 1;
+}
+
+}  // namespace
+
+void PlainTextField::setStringValue(const std::string& text) noexcept {
+  const std::string shown = displayedText(mFormatter.get(), text);
+  if (shown == stringValue()) return;
+  if (mInUserEdit) return showCorrected(shown);
+  show(shown, {utf16FromUtf8(shown).size(), 0});
+}
+
+void PlainTextField::show(const std::string& text, TextRange selection) noexcept {
+  PlainText<TextField>::setStringValue(text);
+  mSelection = selection;
+}
+
+void PlainTextField::showCorrected(const std::string& text) noexcept {
+  const std::size_t caret = mSelection.location + mSelection.length;
+  const std::size_t editedLength = utf16FromUtf8(stringValue()).size();
+  show(text, selectionAfterCorrection(editedLength, caret, utf16FromUtf8(text).size()));
+}
 
 void PlainTextField::setFormatter(std::shared_ptr<Formatter> formatter) noexcept {
   mFormatter = std::move(formatter);
@@ -13,23 +55,132 @@ void PlainTextField::setClient(std::shared_ptr<TextFieldClient> client) noexcept
 }
 
 void PlainTextField::selectText(View* sender) noexcept {
-  if (mClient) mClient->selectText(sender);
+  if (const auto client = mClient) return client->selectText(sender);
+  mSelection = {0, utf16FromUtf8(stringValue()).size()};
 }
 
-void PlainTextField::superTextDidEndEditing(const Notification&) {}
+bool PlainTextField::superBecomeFirstResponder() noexcept {
+  mFocused = mFocused || isEnabled();
+  return mFocused;
+}
+
+void PlainTextField::superTextDidChange(const Notification& /*notification*/) noexcept {
+  perform(mTextDidChange);
+}
+
+void PlainTextField::superTextDidEndEditing(const Notification& /*notification*/) {
+  if (!std::exchange(mEditedSinceAction, false)) return;
+  const std::string shown = displayedText(mFormatter.get(), stringValue());
+  if (shown != stringValue()) showCorrected(shown);
+  sendAction();
+}
 
 void PlainTextField::setTextDidChange(std::function<void()> handler) noexcept {
   mTextDidChange = std::move(handler);
 }
 
-void PlainTextField::typeText(const std::string& text) noexcept {
-  if (!isEnabled() || text == stringValue()) return;
-  setStringValue(text);
-  perform(mTextDidChange);
+void PlainTextField::setSelectedRange(TextRange range) noexcept {
+  const std::size_t size = utf16FromUtf8(stringValue()).size();
+  mSelection.location = std::min(range.location, size);
+  mSelection.length = std::min(range.length, size - mSelection.location);
 }
 
-void PlainTextField::pressReturn() noexcept {
-  if (isEnabled()) sendAction();
+bool PlainTextField::focus() noexcept {
+  if (!isEnabled()) return false;
+  if (mFocused) return true;
+  const auto client = mClient;
+  return client ? client->becomeFirstResponder() : superBecomeFirstResponder();
+}
+
+void PlainTextField::leave() {
+  if (std::exchange(mFocused, false)) endEditing();
+}
+
+void PlainTextField::typeText(const std::string& text) noexcept {
+  const TextRange whole{0, utf16FromUtf8(stringValue()).size()};
+  edit(whole, whole, utf16FromUtf8(text));
+}
+
+void PlainTextField::type(const std::string& text) noexcept {
+  const std::weak_ptr<const bool> exists = existence();
+  const std::u16string units = utf16FromUtf8(text);
+  for (std::size_t at = 0; at < units.size() && !exists.expired();) {
+    const std::size_t length = lengthAfter(units, at);
+    edit(mSelection, mSelection, units.substr(at, length));
+    at += length;
+  }
+}
+
+void PlainTextField::paste(const std::string& text) noexcept {
+  edit(mSelection, mSelection, utf16FromUtf8(text));
+}
+
+void PlainTextField::deleteBackward() noexcept {
+  TextRange replaced = mSelection;
+  if (replaced.length == 0) {
+    replaced.length = lengthBefore(utf16FromUtf8(stringValue()), replaced.location);
+    replaced.location -= replaced.length;
+  }
+  edit(mSelection, replaced, {});
+}
+
+void PlainTextField::deleteForward() noexcept {
+  TextRange replaced = mSelection;
+  if (replaced.length == 0) {
+    replaced.length = lengthAfter(utf16FromUtf8(stringValue()), replaced.location);
+  }
+  edit(mSelection, replaced, {});
+}
+
+void PlainTextField::pressReturn() {
+  if (focus()) endEditing();
+}
+
+void PlainTextField::edit(TextRange madeAt, TextRange replaced,
+                          const std::u16string& with) noexcept {
+  const std::weak_ptr<const bool> exists = existence();
+  if (!focus() || exists.expired()) return;
+  const std::u16string before = utf16FromUtf8(stringValue());
+  std::u16string after = before;
+  after.replace(replaced.location, replaced.length, with);
+  const TextRange selection{replaced.location + with.size(), 0};
+  if (after == before || !mayEdit(before, madeAt, after, selection) || exists.expired()) return;
+  // A text that was set meanwhile stands.
+  if (utf16FromUtf8(stringValue()) != before) return;
+  show(utf8FromUtf16(after), selection);
+  tellOfChange();
+}
+
+bool PlainTextField::mayEdit(const std::u16string& before, TextRange madeAt,
+                             const std::u16string& after, TextRange selection) noexcept {
+  const auto formatter = mFormatter;
+  if (!formatter) return true;
+  std::optional<std::u16string> proposed = after;
+  std::u16string error;
+  return formatter->isPartialStringValid(&proposed, &selection, before, madeAt, &error);
+}
+
+void PlainTextField::tellOfChange() noexcept {
+  const std::weak_ptr<const bool> exists = existence();
+  mEditedSinceAction = true;
+  mInUserEdit = true;
+  const auto client = mClient;
+  if (client) {
+    client->textDidChange(notification(kTextDidChange));
+  } else {
+    superTextDidChange(notification(kTextDidChange));
+  }
+  if (!exists.expired()) mInUserEdit = false;
+}
+
+void PlainTextField::endEditing() {
+  const auto client = mClient;
+  if (client) return client->textDidEndEditing(notification(kTextDidEndEditing));
+  superTextDidEndEditing(notification(kTextDidEndEditing));
+}
+
+Notification PlainTextField::notification(const char* name) const {
+  return {name, static_cast<const void*>(static_cast<const View*>(this))};
 }
 
 }  // namespace cutline

@@ -2,19 +2,12 @@
 // NSFormatter). Implemented by bundles; called by a toolkit's text field, on the main thread.
 #pragma once
 
-#include <cstddef>
 #include <optional>
 #include <string>
 
+#include "platform/TextRange.h"
+
 namespace cutline {
-
-// A part of a text. Both are counted in UTF-16 units.
-struct TextRange {
-  std::size_t location = 0;
-  std::size_t length = 0;
-
-  friend bool operator==(const TextRange&, const TextRange&) = default;
-};
 
 class Formatter {
  public:
@@ -24,9 +17,10 @@ class Formatter {
   virtual ~Formatter();
 
   // isPartialStringValid:proposedSelectedRange:originalString:originalSelectedRange:errorDescription:
-  // True when the edit that leads from the original text to the proposed one may stand. The caller
-  // undoes a refused edit whole; a formatter may replace the proposed text and selection then. Any
-  // pointer may be null; the proposed text may be absent.
+  // True when the edit that leads from the original text to the proposed one may stand. The
+  // original range is the selection that the edit was made at; the proposed one is the selection
+  // after it. The caller undoes a refused edit whole, and looks at nothing that was written through
+  // the pointers. Any pointer may be null; the proposed text may be absent.
   virtual bool isPartialStringValid(std::optional<std::u16string>* partialString,
                                     TextRange* proposedSelectedRange,
                                     const std::u16string& originalString,
@@ -43,5 +37,9 @@ class Formatter {
                               const std::optional<std::string>& string,
                               std::string* errorDescription) noexcept = 0;
 };
+
+// What a field with this formatter, or with none, shows for a text: its value as the formatter
+// shows it, and the text itself where it stands for no value or the formatter cannot show that.
+std::string displayedText(Formatter* formatter, const std::string& text) noexcept;
 
 }  // namespace cutline

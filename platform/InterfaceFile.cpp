@@ -104,6 +104,14 @@ bool read(const PropertyList& from, const char* key, int* value) {
   return true;
 }
 
+bool read(const PropertyList& from, const char* key, std::optional<std::string>* value) {
+  return !from.objectForKey(key) || read(from, key, &value->emplace());
+}
+
+bool read(const PropertyList& from, const char* key, std::optional<int>* value) {
+  return !from.objectForKey(key) || read(from, key, &value->emplace());
+}
+
 template <typename Value, std::size_t rows>
 bool read(const PropertyList& from, const char* key,
           const std::pair<std::string_view, Value> (&names)[rows], Value* value) {
@@ -122,6 +130,11 @@ bool read(const PropertyList& from, const char* key, Rect* value) {
   const auto frame = entry && entry->string() ? FrameReader(*entry->string()).read() : std::nullopt;
   if (frame) *value = *frame;
   return frame.has_value();
+}
+
+bool readOne(const PropertyList& from, std::string* text) {
+  if (from.string()) *text = *from.string();
+  return from.string() != nullptr;
 }
 
 bool readOne(const PropertyList& from, ItemDescription* item) {
@@ -143,6 +156,22 @@ bool read(const PropertyList& from, const char* key, std::vector<Element>* eleme
   return true;
 }
 
+bool read(const PropertyList& from, FormatterDescription* formatter) {
+  return from.objectForKey("class") && read(from, "class", &formatter->className) &&
+         read(from, "formatString", &formatter->formatString) &&
+         read(from, "textStyle", &formatter->textStyle) &&
+         read(from, "maxLength", &formatter->maxLength) &&
+         read(from, "minValue", &formatter->minValue) &&
+         read(from, "maxValue", &formatter->maxValue) &&
+         read(from, "invalidCharacters", &formatter->invalidCharacters);
+}
+
+bool readTextInput(const PropertyList& from, ViewDescription* view) {
+  const PropertyList* formatter = from.objectForKey("formatter");
+  return read(from, "delegate", &view->delegate) && read(from, "class", &view->className) &&
+         (!formatter || read(*formatter, &view->formatter.emplace()));
+}
+
 bool readTexts(const PropertyList& from, ViewDescription* view) {
   return read(from, "outlet", &view->outlet) && read(from, "title", &view->title) &&
          read(from, "accessibilityLabel", &view->accessibilityLabel) &&
@@ -152,7 +181,7 @@ bool readTexts(const PropertyList& from, ViewDescription* view) {
 bool readOne(const PropertyList& from, ViewDescription* view) {
   if (!from.objectForKey("kind")) return false;
   return read(from, "kind", kKinds, &view->kind) && read(from, "frame", &view->frame) &&
-         readTexts(from, view) && read(from, "delegate", &view->delegate) &&
+         readTexts(from, view) && readTextInput(from, view) &&
          read(from, "minValue", &view->minValue) && read(from, "maxValue", &view->maxValue) &&
          view->minValue <= view->maxValue && read(from, "resizing", kResizings, &view->resizing) &&
          read(from, "items", &view->items) && read(from, "subviews", &view->subviews);

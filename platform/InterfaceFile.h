@@ -1,18 +1,27 @@
 // The description of a view tree as an interface file gives it: a property list whose entry `view`
-// is the top-level view. Each view is a dictionary of
+// is the top-level view. A view is a dictionary with these entries, of which only `kind` and
+// `frame` must be there:
 //
-//   kind                string, one of View, Button, CheckBox, Label, TextField, Stepper,
-//   PopUpButton frame               string "{{x, y}, {width, height}}" in the superview's
-//   coordinates outlet              string: the owner's field; optional, no two the same title
-//   string: text or a key of the string table; optional accessibilityLabel  string: text or a key
-//   of the string table; optional action              string: the owner's action by its full name;
-//   optional delegate            boolean: the owner hears of changes to the text; optional
-//   ppdKeyword          string; optional
-//   minValue, maxValue  integers, the bounds of a stepper; optional
-//   resizing            string, "none" or "minYMargin"; "minYMargin" when absent, except that the
-//                       top-level view has "none"
-//   items               array of {title, tag, description}: the entries of a pop-up button;
-//   optional subviews            array of views; optional
+// - kind: string, one of View, Button, CheckBox, Label, TextField, Stepper, PopUpButton
+// - frame: string "{{x, y}, {width, height}}" in the superview's coordinates
+// - outlet: string, the owner's field; no two the same
+// - title: string, text or a key of the string table
+// - accessibilityLabel: string, text or a key of the string table
+// - action: string, the owner's action by its full name
+// - delegate: boolean, the owner hears of changes to the text
+// - class: string, the bundle's own class of a text field
+// - formatter: dictionary, the formatter of a text field
+// - ppdKeyword: string
+// - minValue, maxValue: integers, the bounds of a stepper
+// - resizing: string, "none" or "minYMargin"; "minYMargin" when absent, except that the top-level
+//   view has "none"
+// - items: array of dictionaries, the entries of a pop-up button: strings `title` and
+//   `description` (may be absent), integer `tag`
+// - subviews: array of views
+//
+// A formatter's dictionary has a string `class`, which must be there, a string `formatString`, the
+// integers `textStyle`, `maxLength`, `minValue` and `maxValue`, and `invalidCharacters`, an array
+// of strings.
 //
 // Entries of other names are ignored.
 #pragma once

@@ -8,19 +8,23 @@
 
 #include "platform/Bundle.h"
 #include "platform/CheckBox.h"
+#include "platform/Formatter.h"
+#include "platform/InterfaceClasses.h"
 #include "platform/InterfaceFile.h"
 #include "platform/InterfaceOwner.h"
 #include "platform/Label.h"
 #include "platform/Platform.h"
 #include "platform/PopUpButton.h"
 #include "platform/Stepper.h"
+#include "platform/SystemLog.h"
 #include "platform/TextField.h"
+#include "platform/TextFieldClient.h"
 #include "platform/Toolkit.h"
 
 namespace cutline {
 namespace {
 
-constexpr char kTextDidChange[] = "NSControlTextDidChangeNotification";
+constexpr char kControlTextDidChange[] = "NSControlTextDidChangeNotification";
 
 std::shared_ptr<View> createView(Toolkit& toolkit, ViewKind kind, const Rect& frame) {
   switch (kind) {
@@ -42,10 +46,16 @@ std::shared_ptr<View> createView(Toolkit& toolkit, ViewKind kind, const Rect& fr
   return nullptr;
 }
 
+void logMissingClass(const std::string& className, const std::string& outlet) {
+  SystemLog* log = currentPlatform().systemLog;
+  if (log) log->log("interface file: no class \"" + className + "\" for \"" + outlet + "\"");
+}
+
 // Makes the views of a file, then connects them: an owner never sees half a tree.
 class InterfaceBuilder {
  public:
-  InterfaceBuilder(Toolkit& toolkit, const Bundle& bundle) : mToolkit(toolkit), mBundle(bundle) {}
+  InterfaceBuilder(Toolkit& toolkit, const Bundle& bundle, const InterfaceClasses* classes)
+      : mToolkit(toolkit), mBundle(bundle), mClasses(classes) {}
 
   // Null when the toolkit cannot make the view.
   std::shared_ptr<View> build(const ViewDescription& description) {
@@ -76,12 +86,26 @@ class InterfaceBuilder {
     if (!description.accessibilityLabel.empty()) {
       view.setAccessibilityLabel(localized(description.accessibilityLabel));
     }
+    // A text is shown as the formatter has it, so the formatter comes first.
+    if (auto* field = dynamic_cast<TextField*>(&view)) attachClasses(*field, description);
     fillTitle(view, localized(description.title));
     if (auto* box = dynamic_cast<CheckBox*>(&view)) box->setPPDKeyword(description.ppdKeyword);
     if (auto* stepper = dynamic_cast<Stepper*>(&view)) {
       stepper->setRange(description.minValue, description.maxValue);
     }
     if (auto* popUp = dynamic_cast<PopUpButton*>(&view)) addItems(*popUp, description.items);
+  }
+
+  void attachClasses(TextField& field, const ViewDescription& description) const {
+    if (description.formatter) {
+      auto made = mClasses ? mClasses->formatter(*description.formatter) : nullptr;
+      if (!made) logMissingClass(description.formatter->className, description.outlet);
+      field.setFormatter(std::move(made));
+    }
+    if (description.className.empty()) return;
+    auto client = mClasses ? mClasses->textField(description.className, field) : nullptr;
+    if (!client) logMissingClass(description.className, description.outlet);
+    field.setClient(std::move(client));
   }
 
   static void fillTitle(View& view, const std::string& title) {
@@ -106,12 +130,13 @@ class InterfaceBuilder {
     if (!field || !description.delegate) return;
     const void* object = &view;
     field->setTextDidChange([&owner, object] {
-      owner.controlTextDidChange({kTextDidChange, object});
+      owner.controlTextDidChange({kControlTextDidChange, object});
     });
   }
 
   Toolkit& mToolkit;
   const Bundle& mBundle;
+  const InterfaceClasses* mClasses;
   std::vector<std::pair<const ViewDescription*, std::shared_ptr<View>>> mMade;
 };
 
@@ -121,7 +146,7 @@ bool loadInterface(const PropertyList& file, const Bundle& bundle, InterfaceOwne
   Toolkit* toolkit = currentPlatform().toolkit;
   const auto description = interfaceInFile(file);
   if (!toolkit || !description) return false;
-  InterfaceBuilder builder(*toolkit, bundle);
+  InterfaceBuilder builder(*toolkit, bundle, owner.interfaceClasses());
   if (!builder.build(*description)) return false;
   builder.connect(owner);
   owner.awakeFromNib();

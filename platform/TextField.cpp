@@ -37,4 +37,11 @@ int TextField::intValue() const noexcept {
   return static_cast<int>(negative ? -magnitude : magnitude);
 }
 
+TextRange selectionAfterCorrection(std::size_t editedLength, std::size_t caret,
+                                   std::size_t correctedLength) noexcept {
+  if (editedLength == 0) return {0, correctedLength};
+  const std::size_t fromEnd = editedLength - std::min(caret, editedLength);
+  return {correctedLength - std::min(fromEnd, correctedLength), 0};
+}
+
 }  // namespace cutline

@@ -7,6 +7,7 @@
 
 #include "platform/Control.h"
 #include "platform/TextColored.h"
+#include "platform/TextRange.h"
 
 namespace cutline {
 
@@ -18,8 +19,8 @@ class TextField : public virtual Control, public TextColored {
  public:
   ~TextField() override;
 
-  // UTF-8. Setting equal text changes nothing (no lost selection, no lost undo) and neither
-  // setter reports a text change.
+  // UTF-8, as the field shows it. Setting a text that is shown alike changes nothing (no lost
+  // selection, no lost undo). No setter reports a text change.
   virtual std::string stringValue() const noexcept = 0;
   virtual void setStringValue(const std::string& text) noexcept = 0;
 
@@ -42,15 +43,25 @@ class TextField : public virtual Control, public TextColored {
   virtual void selectText(View* sender) noexcept = 0;
 
   // What the toolkit's own field does when it is asked to take the keyboard or give it up; true
-  // when it does.
+  // when it does. Giving it up moves it nowhere: that is for whoever takes it.
   virtual bool superBecomeFirstResponder() noexcept = 0;
   virtual bool superResignFirstResponder() noexcept = 0;
-  // What the toolkit's own field does when editing ends. May raise the toolkit's exceptions.
+  // What the toolkit's own field does when the user has changed the text: it calls the handler
+  // below, and the action observer hears of it.
+  virtual void superTextDidChange(const Notification& notification) noexcept = 0;
+  // What the toolkit's own field does when editing ends: it shows what was typed as the formatter
+  // does and runs the action. May raise the toolkit's exceptions.
   virtual void superTextDidEndEditing(const Notification& notification) = 0;
 
   // Called after every change that the user makes to the text, unless the field's client keeps the
   // change to itself. Must not throw.
   virtual void setTextDidChange(std::function<void()> handler) noexcept = 0;
 };
+
+// The selection of a text that replaces what the user has just made of the field's: the caret keeps
+// its distance to the end, so that typing goes on where it was, and a text that the user had
+// emptied is selected whole, so that the next key replaces it. Lengths and caret in UTF-16 units.
+TextRange selectionAfterCorrection(std::size_t editedLength, std::size_t caret,
+                                   std::size_t correctedLength) noexcept;
 
 }  // namespace cutline

@@ -8,6 +8,10 @@ namespace cutline {
 class View;
 struct Notification;
 
+// What a client is told with; the object is the field, as a view.
+inline constexpr char kTextDidChange[] = "NSTextDidChangeNotification";
+inline constexpr char kTextDidEndEditing[] = "NSTextDidEndEditingNotification";
+
 class TextFieldClient {
  public:
   TextFieldClient() = default;
@@ -15,15 +19,15 @@ class TextFieldClient {
   TextFieldClient& operator=(const TextFieldClient&) = delete;
   virtual ~TextFieldClient();
 
-  // The field is asked to take the keyboard; true when it does.
+  // The field takes the keyboard, by the user's doing or by the program's; false when it is not to.
   virtual bool becomeFirstResponder() noexcept = 0;
-  // textDidEndEditing:  Lets an exception of the toolkit's own pass unchanged; it has none of its
-  // own.
+  // textDidEndEditing:  Editing has ended: by Return, or because the keyboard has left the field.
+  // Lets an exception of the toolkit's own pass unchanged; it has none of its own.
   virtual void textDidEndEditing(const Notification& notification) = 0;
   // selectText:  The field is asked to select its whole text. The sender is borrowed and may be
   // null.
   virtual void selectText(View* sender) noexcept = 0;
-  // textDidChange:  The user has changed the text.
+  // textDidChange:  The user has changed the text; undoing and redoing are changes too.
   virtual void textDidChange(const Notification& notification) noexcept = 0;
 };
 

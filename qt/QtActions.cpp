@@ -18,10 +18,9 @@ void QtActions::run(QtViewCore& sender, const std::function<void()>& handler) no
   const std::function<void()> kept = handler;
   View& view = sender.view();
   const QPointer<QObject> alive = sender.connectionContext();
-  ++mDepth;
+  const Running running(*this);
   kept();
   if (alive && mObserver) mObserver->actionDidFinish(view);
-  --mDepth;
 }
 
 }  // namespace cutline

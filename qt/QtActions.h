@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 
 #include "platform/Control.h"
 
@@ -11,7 +12,7 @@ namespace cutline {
 class ActionObserver;
 class QtViewCore;
 
-class QtActions {
+class QtActions : public std::enable_shared_from_this<QtActions> {
  public:
   // Borrowed; null removes it.
   void setObserver(ActionObserver* observer) noexcept { mObserver = observer; }
@@ -33,6 +34,21 @@ class QtActions {
 
    private:
     QtActions& mActions;
+  };
+
+  // While one exists actions are running: for whatever else of a bundle's is called out of a native
+  // event, and may let go of the control that it is called for.
+  class Running {
+   public:
+    explicit Running(QtActions& actions) noexcept : mActions(actions.shared_from_this()) {
+      ++mActions->mDepth;
+    }
+    Running(const Running&) = delete;
+    Running& operator=(const Running&) = delete;
+    ~Running() { --mActions->mDepth; }
+
+   private:
+    std::shared_ptr<QtActions> mActions;
   };
 
   // While this is true a native event may still be on its way through a widget, so widgets must

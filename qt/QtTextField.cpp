@@ -1,51 +1,40 @@
 #include "qt/QtTextField.h"
 
 #include <QPointer>
-#include <QSignalBlocker>
-#include <algorithm>
+#include <optional>
+#include <utility>
 
+#include "platform/NotificationCenter.h"
+#include "platform/Platform.h"
+#include "platform/SystemLog.h"
 #include "qt/QtText.h"
 
 namespace cutline {
 
-namespace {
-
-// Puts `text` in the place of what the user has just made. The edit and its correction become one
-// step of the undo history, for undo must not lead back to a text that would only be corrected
-// again. A field that the user has emptied shows the correction selected, so that the next key
-// replaces it.
-void correctEdit(QLineEdit& edit, const QString& text) {
-  const bool emptied = edit.text().isEmpty();
-  const qsizetype fromEnd = edit.text().size() - edit.cursorPosition();
-  const bool madeByUndo = edit.isRedoAvailable();
-  if (!madeByUndo) edit.undo();
-  if (edit.text() != text) {
-    edit.selectAll();
-    edit.insert(text);
-  }
-  edit.setCursorPosition(static_cast<int>(std::max<qsizetype>(0, text.size() - fromEnd)));
-  if (emptied) edit.selectAll();
+QtTextField::QtTextField(const Rect& frame, std::shared_ptr<QtActions> actions)
+    : QtControlOf(new QtFieldEditor, frame, std::move(actions)),
+      mTextColor(*widget(), QPalette::Text) {
+  widget()->setDelegate(this);
+  QObject::connect(widget(), &QLineEdit::editingFinished, core().connectionContext(),
+                   [this] { didEndEditing(); });
 }
 
-}  // namespace
-
-QtTextField::QtTextField(const Rect& frame, std::shared_ptr<QtActions> actions)
-    : QtControlOf(new QLineEdit, frame, std::move(actions)), mTextColor(*widget(), QPalette::Text) {
-  QObject* const context = core().connectionContext();
-  QObject::connect(widget(), &QLineEdit::textEdited, context, [this] { userDidEdit(); });
-  QObject::connect(widget(), &QLineEdit::editingFinished, context, [this] { userDidEndEditing(); });
+QtTextField::~QtTextField() {
+  if (widget()) widget()->setDelegate(nullptr);
 }
 
 void QtTextField::setStringValue(const std::string& text) noexcept {
-  if (text == mText) return;
+  const std::string shown = displayedText(mFormatter.get(), text);
+  if (shown == mText) return;
+  if (mInUserEdit) return correct(shown);
+  mText = shown;
+  if (widget()) widget()->showText(toQString(mText));
+}
+
+// Replaces what the user has just made of the text.
+void QtTextField::correct(const std::string& text) noexcept {
   mText = text;
-  if (!widget()) return;
-  const QSignalBlocker quiet(widget());
-  if (mInUserEdit) {
-    correctEdit(*widget(), toQString(text));
-  } else {
-    widget()->setText(toQString(text));
-  }
+  if (widget()) widget()->correctText(toQString(mText));
 }
 
 void QtTextField::setFormatter(std::shared_ptr<Formatter> formatter) noexcept {
@@ -57,38 +46,86 @@ void QtTextField::setClient(std::shared_ptr<TextFieldClient> client) noexcept {
 }
 
 void QtTextField::selectText(View* sender) noexcept {
-  if (mClient) return mClient->selectText(sender);
+  if (const auto client = mClient) return client->selectText(sender);
   if (widget()) widget()->selectAll();
 }
 
 bool QtTextField::superBecomeFirstResponder() noexcept {
   if (!widget() || !isEnabled()) return false;
+  if (widget()->hasFocus()) return true;
+  const QPointer<QObject> alive = core().connectionContext();
+  mTakingFocus = true;
   widget()->setFocus();
+  if (alive) mTakingFocus = false;
   return true;
 }
 
-bool QtTextField::superResignFirstResponder() noexcept { return true; }
+void QtTextField::superTextDidChange(const Notification& /*notification*/) noexcept {
+  core().actions().run(core(), mTextDidChange);
+}
 
-void QtTextField::superTextDidEndEditing(const Notification&) {}
+// Return ends editing, and so does leaving the field afterwards: one action for the two.
+void QtTextField::superTextDidEndEditing(const Notification& /*notification*/) {
+  if (!std::exchange(mEditedSinceAction, false)) return;
+  const std::string shown = displayedText(mFormatter.get(), mText);
+  if (shown != mText) correct(shown);
+  runAction();
+}
 
 void QtTextField::setTextDidChange(std::function<void()> handler) noexcept {
   mTextDidChange = std::move(handler);
 }
 
-void QtTextField::userDidEdit() noexcept {
+bool QtTextField::mayChange(const EditProposal& edit) noexcept {
+  const auto formatter = mFormatter;
+  if (!formatter) return true;
+  const QtActions::Running running(core().actions());
+  std::optional<std::u16string> proposed = edit.after.toStdU16String();
+  TextRange selection = edit.selection;
+  std::u16string error;
+  return formatter->isPartialStringValid(&proposed, &selection, edit.before.toStdU16String(),
+                                         edit.madeAt, &error);
+}
+
+void QtTextField::didChange() noexcept {
   const QPointer<QObject> alive = core().connectionContext();
-  mText = toUtf8(widget()->text());
+  const QtActions::Running running(core().actions());
+  mText = toUtf8(widget()->settledText());
   mEditedSinceAction = true;
   mInUserEdit = true;
-  core().actions().run(core(), mTextDidChange);
+  if (const auto client = mClient) {
+    client->textDidChange(notification(kTextDidChange));
+  } else {
+    superTextDidChange(notification(kTextDidChange));
+  }
   if (alive) mInUserEdit = false;
 }
 
-// Return ends editing, and so does leaving the field afterwards: one action for the two.
-void QtTextField::userDidEndEditing() noexcept {
-  if (!mEditedSinceAction) return;
-  mEditedSinceAction = false;
-  runAction();
+// Qt has put the keyboard here already: a client that doesn't want it can only give it away again.
+void QtTextField::didTakeFocus() noexcept {
+  const auto client = mClient;
+  if (mTakingFocus || !client) return;
+  const QPointer<QObject> alive = core().connectionContext();
+  const QtActions::Running running(core().actions());
+  if (!client->becomeFirstResponder() && alive && widget()) widget()->clearFocus();
+}
+
+// No exception may reach Qt's event loop, and nobody behind it could handle one: the log hears of
+// it, and the field stays as it is.
+void QtTextField::didEndEditing() noexcept {
+  const QtActions::Running running(core().actions());
+  const auto client = mClient;
+  try {
+    if (client) return client->textDidEndEditing(notification(kTextDidEndEditing));
+    superTextDidEndEditing(notification(kTextDidEndEditing));
+  } catch (...) {
+    SystemLog* const log = currentPlatform().systemLog;
+    if (log) log->log("text field: an exception was raised at the end of editing");
+  }
+}
+
+Notification QtTextField::notification(const char* name) const {
+  return {name, static_cast<const void*>(static_cast<const View*>(this))};
 }
 
 }  // namespace cutline

@@ -1,7 +1,6 @@
-// A text field on QLineEdit.
+// A text field on QtFieldEditor: its formatter and its client decide, the editor carries it out.
 #pragma once
 
-#include <QLineEdit>
 #include <functional>
 #include <memory>
 #include <string>
@@ -9,14 +8,16 @@
 #include "platform/Formatter.h"
 #include "platform/TextField.h"
 #include "platform/TextFieldClient.h"
+#include "qt/QtFieldEditor.h"
 #include "qt/QtTextColor.h"
 #include "qt/QtViewOf.h"
 
 namespace cutline {
 
-class QtTextField : public QtControlOf<TextField, QLineEdit> {
+class QtTextField : public QtControlOf<TextField, QtFieldEditor>, private QtFieldEditor::Delegate {
  public:
   QtTextField(const Rect& frame, std::shared_ptr<QtActions> actions);
+  ~QtTextField() override;
 
   std::string stringValue() const noexcept override { return mText; }
   void setStringValue(const std::string& text) noexcept override;
@@ -25,21 +26,28 @@ class QtTextField : public QtControlOf<TextField, QLineEdit> {
   void setClient(std::shared_ptr<TextFieldClient> client) noexcept override;
   void selectText(View* sender) noexcept override;
   bool superBecomeFirstResponder() noexcept override;
-  bool superResignFirstResponder() noexcept override;
+  bool superResignFirstResponder() noexcept override { return true; }
+  void superTextDidChange(const Notification& notification) noexcept override;
+  // Raises nothing: Qt has no exceptions of its own.
   void superTextDidEndEditing(const Notification& notification) override;
   void setTextDidChange(std::function<void()> handler) noexcept override;
   TextColor textColor() const noexcept override { return mTextColor.color(); }
   void setTextColor(TextColor color) noexcept override { mTextColor.setColor(widget(), color); }
 
  private:
-  void userDidEdit() noexcept;
-  void userDidEndEditing() noexcept;
+  bool mayChange(const EditProposal& edit) noexcept override;
+  void didChange() noexcept override;
+  void didTakeFocus() noexcept override;
+  void didEndEditing() noexcept;
+  void correct(const std::string& text) noexcept;
+  Notification notification(const char* name) const;
 
   std::shared_ptr<Formatter> mFormatter;
   std::shared_ptr<TextFieldClient> mClient;
   std::string mText;
   std::function<void()> mTextDidChange;
-  bool mInUserEdit = false;  // the change handler of an edit is running
+  bool mInUserEdit = false;   // the user's change is being told of
+  bool mTakingFocus = false;  // the program is putting the keyboard here
   bool mEditedSinceAction = false;
   QtTextColor mTextColor;
 };

@@ -52,9 +52,20 @@ TEST_F(PlainTextFieldTest, AChangeMayBeCorrectedWhileItIsReported) {
   EXPECT_EQ(reports, 1);
 }
 
-TEST_F(PlainTextFieldTest, ReturnRunsTheAction) {
+TEST_F(PlainTextFieldTest, ReturnAndLeavingAreOneAction) {
+  field->setTextDidChange({});
+  field->typeText("12");
   field->pressReturn();
   EXPECT_EQ(log.lines, kActedAndFinished);
+  field->leave();
+  EXPECT_EQ(log.lines, kActedAndFinished);
+}
+
+TEST_F(PlainTextFieldTest, EndingWithoutAnEditRunsNothing) {
+  EXPECT_TRUE(field->focus());
+  field->pressReturn();
+  field->leave();
+  EXPECT_TRUE(log.lines.empty());
 }
 
 TEST_F(PlainTextFieldTest, NobodyTypesIntoADisabledField) {

@@ -1,0 +1,91 @@
+#include "qt/EditHistory.h"
+
+#include <QChar>
+#include <algorithm>
+
+namespace cutline {
+namespace {
+
+// True for what a single key types: one character, of one or two units.
+bool isOneCharacter(QStringView text) {
+  return text.size() == 1 || (text.size() == 2 && text[0].isHighSurrogate());
+}
+
+// True when a part of the text is gone and the caret stands where it was.
+bool onlyTakesAway(const EditedText& before, const EditedText& after) {
+  const qsizetype gone = before.text.size() - after.text.size();
+  const QStringView was(before.text);
+  const QStringView is(after.text);
+  return gone > 0 && was.first(after.caret) == is.first(after.caret) &&
+         was.sliced(after.caret + gone) == is.sliced(after.caret);
+}
+
+// What stands in the place of the selection, up to the caret; empty when the edit was made
+// elsewhere.
+QStringView putAtSelection(const EditedText& before, const EditedText& after) {
+  const int start = std::min(before.anchor, before.caret);
+  const qsizetype behind = before.text.size() - std::max(before.anchor, before.caret);
+  if (after.caret < start || after.text.size() - after.caret != behind) return {};
+  return QStringView(after.text).sliced(start, after.caret - start);
+}
+
+}  // namespace
+
+void EditHistory::clear() noexcept {
+  mSteps.clear();
+  mDone = 0;
+  endRun();
+}
+
+void EditHistory::record(const EditedText& before, const EditedText& after) noexcept {
+  const Kind kind = kindOf(before, after);
+  const bool same = goesOn(kind, before);
+  mSteps.resize(mDone);
+  if (same) {
+    mSteps.back().after = after;
+  } else {
+    mSteps.push_back({before, after});
+  }
+  mDone = mSteps.size();
+  mRun = kind;
+  forgetIdle(mDone - 1);
+}
+
+EditHistory::Kind EditHistory::kindOf(const EditedText& before, const EditedText& after) noexcept {
+  if (after.anchor != after.caret) return Kind::other;
+  if (onlyTakesAway(before, after)) return Kind::deletion;
+  return isOneCharacter(putAtSelection(before, after)) ? Kind::typing : Kind::other;
+}
+
+bool EditHistory::goesOn(Kind kind, const EditedText& before) const noexcept {
+  return kind != Kind::other && kind == mRun && mDone > 0 && !canRedo() &&
+         mSteps[mDone - 1].after == before;
+}
+
+void EditHistory::correct(const EditedText& corrected) noexcept {
+  if (canRedo()) mSteps[mDone].before = corrected;
+  if (canUndo()) mSteps[mDone - 1].after = corrected;
+  if (canRedo()) forgetIdle(mDone);
+  if (canUndo()) forgetIdle(mDone - 1);
+}
+
+void EditHistory::forgetIdle(std::size_t index) noexcept {
+  if (mSteps[index].before.text != mSteps[index].after.text) return;
+  mSteps.erase(mSteps.begin() + static_cast<std::ptrdiff_t>(index));
+  if (index < mDone) --mDone;
+  endRun();
+}
+
+std::optional<EditedText> EditHistory::undo() noexcept {
+  if (!canUndo()) return std::nullopt;
+  endRun();
+  return mSteps[--mDone].before;
+}
+
+std::optional<EditedText> EditHistory::redo() noexcept {
+  if (!canRedo()) return std::nullopt;
+  endRun();
+  return mSteps[mDone++].after;
+}
+
+}  // namespace cutline

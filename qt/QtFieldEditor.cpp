@@ -1,0 +1,235 @@
+#include "qt/QtFieldEditor.h"
+
+#include <QAction>
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QFocusEvent>
+#include <QGuiApplication>
+#include <QInputMethod>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPointer>
+#include <functional>
+#include <optional>
+
+#include "platform/TextField.h"
+
+namespace cutline {
+namespace {
+
+void redirect(QAction& action, bool enabled, QObject* context, const std::function<void()>& to) {
+  action.disconnect(context);
+  action.setEnabled(enabled);
+  QObject::connect(&action, &QAction::triggered, context, to);
+}
+
+}  // namespace
+
+QtFieldEditor::Delegate::~Delegate() = default;
+
+QtFieldEditor::QtFieldEditor() {
+  const auto heed = [this] { lineDidChange(); };
+  connect(this, &QLineEdit::textChanged, this, heed);
+  connect(this, &QLineEdit::selectionChanged, this, heed);
+  connect(this, &QLineEdit::cursorPositionChanged, this, heed);
+}
+
+EditedText QtFieldEditor::current() const {
+  const int caret = cursorPosition();
+  if (!hasSelectedText()) return {text(), caret, caret};
+  return {text(), caret == selectionStart() ? selectionEnd() : selectionStart(), caret};
+}
+
+void QtFieldEditor::showText(const QString& text) noexcept {
+  ++mShown;
+  cancelComposition();
+  const auto end = static_cast<int>(text.size());
+  show({text, end, end});
+  mSettled = current();
+  mHistory.clear();
+}
+
+void QtFieldEditor::correctText(const QString& text) noexcept {
+  ++mShown;
+  const auto [location, length] = selectionAfterCorrection(
+      static_cast<std::size_t>(mSettled.text.size()), static_cast<std::size_t>(mSettled.caret),
+      static_cast<std::size_t>(text.size()));
+  cancelComposition();
+  show({text, static_cast<int>(location), static_cast<int>(location + length)});
+  mSettled = current();
+  mHistory.correct(mSettled);
+}
+
+void QtFieldEditor::undoEdit() noexcept { goTo(mHistory.undo()); }
+
+void QtFieldEditor::redoEdit() noexcept { goTo(mHistory.redo()); }
+
+void QtFieldEditor::goTo(const std::optional<EditedText>& state) {
+  if (!state) return;
+  cancelComposition();
+  show(*state);
+  mSettled = *state;
+  if (mDelegate) mDelegate->didChange();
+}
+
+bool QtFieldEditor::event(QEvent* event) {
+  switch (event->type()) {
+    case QEvent::KeyPress:
+      return handleKey(static_cast<QKeyEvent&>(*event));
+    case QEvent::InputMethod:
+      return handleComposition(static_cast<QInputMethodEvent&>(*event));
+    case QEvent::DragEnter:
+    case QEvent::DragLeave:
+    case QEvent::Drop:
+      return handleDrag(*event);
+    case QEvent::FocusIn: {
+      const bool handled = handleInLine(*event);
+      const bool fromOwnMenu = static_cast<QFocusEvent&>(*event).reason() == Qt::PopupFocusReason;
+      if (mDelegate && !fromOwnMenu) mDelegate->didTakeFocus();
+      return handled;
+    }
+    case QEvent::FocusOut:
+      cancelComposition();
+      mHistory.endRun();
+      return handleInLine(*event);
+    default:
+      return handleInLine(*event);
+  }
+}
+
+bool QtFieldEditor::handleKey(QKeyEvent& event) {
+  const bool isUndo = event.matches(QKeySequence::Undo);
+  if (!isUndo && !event.matches(QKeySequence::Redo)) return handleInLine(event);
+  event.accept();
+  if (isUndo) {
+    undoEdit();
+  } else {
+    redoEdit();
+  }
+  return true;
+}
+
+// Lets QLineEdit have the event, and looks at what it has made of the line. QLineEdit sends itself
+// further events while it is at work.
+bool QtFieldEditor::handleInLine(QEvent& event) {
+  const QPointer<QtFieldEditor> alive(this);
+  const bool handled = passToLine(event);
+  if (alive && mDepth == 0 && !isStillComposing()) settle(Place::selection);
+  return handled;
+}
+
+bool QtFieldEditor::passToLine(QEvent& event) {
+  const QPointer<QtFieldEditor> alive(this);
+  ++mDepth;
+  const bool handled = QLineEdit::event(&event);
+  if (alive) --mDepth;
+  return handled;
+}
+
+// QLineEdit moves the caret with the drag. The selection that counts is the one from before, which
+// comes back unless the drop is taken.
+bool QtFieldEditor::handleDrag(QEvent& event) {
+  const bool handled = passToLine(event);
+  mDragging = event.type() == QEvent::DragEnter && event.isAccepted();
+  if (event.type() == QEvent::Drop) settle(Place::anywhere);
+  if (event.type() == QEvent::DragLeave) show(mSettled);
+  return handled;
+}
+
+// Composing is no edit yet: QLineEdit takes the selection away at the start, but what counts is
+// what the input method commits.
+bool QtFieldEditor::handleComposition(QInputMethodEvent& event) {
+  const bool wasComposing = mComposing;
+  const bool handled = passToLine(event);
+  mComposing = !event.preeditString().isEmpty();
+  mComposed = current();
+  if (!event.commitString().isEmpty() || event.replacementLength() > 0) {
+    settle(event.replacementLength() > 0 ? Place::anywhere : Place::selection);
+  } else if (!mComposing && wasComposing) {
+    show(mSettled);
+  } else if (!mComposing) {
+    settle(Place::selection);
+  }
+  return handled;
+}
+
+// A composition ends when something else moves the caret or changes the text. Nothing has come of
+// it then; what it had taken away returns, unless it was edited over.
+bool QtFieldEditor::isStillComposing() {
+  if (!mComposing) return false;
+  const EditedText now = current();
+  if (now == mComposed) return true;
+  forgetComposition();
+  if (now.text == mComposed.text && now.text != mSettled.text) show(mSettled);
+  return false;
+}
+
+void QtFieldEditor::cancelComposition() {
+  if (!mComposing) return;
+  // The input method may answer with an event, which is handled as every other.
+  QGuiApplication::inputMethod()->reset();
+  if (!mComposing) return;
+  forgetComposition();
+  show(mSettled);
+}
+
+void QtFieldEditor::forgetComposition() {
+  mComposing = false;
+  ++mDepth;
+  QInputMethodEvent nothing;
+  inputMethodEvent(&nothing);
+  --mDepth;
+}
+
+// For what reaches the line in no event of its own: a program's calls, its menu, assistive
+// technology.
+void QtFieldEditor::lineDidChange() {
+  if (mDepth > 0 || isStillComposing()) return;
+  settle(Place::anywhere);
+}
+
+void QtFieldEditor::settle(Place place) {
+  const EditedText now = current();
+  if (now.text == mSettled.text) {
+    if (!mDragging && !mComposing) mSettled = now;
+    return;
+  }
+  const EditedText before = mSettled;
+  const unsigned shown = mShown;
+  const EditProposal edit =
+      place == Place::selection ? editAtSelection(before, now) : editAnywhere(before, now);
+  const bool taken = !mDelegate || mDelegate->mayChange(edit);
+  if (mShown != shown) return;  // whoever was asked has shown something else instead
+  if (!taken) {
+    cancelComposition();
+    return show(before);
+  }
+  mSettled = now;
+  mHistory.record(before, now);
+  if (mDelegate) mDelegate->didChange();
+}
+
+void QtFieldEditor::show(const EditedText& state) {
+  ++mDepth;
+  if (text() != state.text) setText(state.text);
+  if (state.anchor == state.caret) {
+    setCursorPosition(state.caret);
+  } else {
+    setSelection(state.anchor, state.caret - state.anchor);
+  }
+  --mDepth;
+}
+
+// QLineEdit's own menu, with its history replaced.
+void QtFieldEditor::contextMenuEvent(QContextMenuEvent* event) {
+  QMenu* const menu = createStandardContextMenu();
+  if (!menu) return;
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  const auto actions = menu->actions();
+  redirect(*actions[0], canUndo(), this, [this] { undoEdit(); });
+  redirect(*actions[1], canRedo(), this, [this] { redoEdit(); });
+  menu->popup(event->globalPos());
+}
+
+}  // namespace cutline
