@@ -5,898 +5,898 @@
     <name>cups</name>
     <message>
         <source>label roll or tape is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>rouleau d’étiquettes ou ruban épuisé</translation>
     </message>
     <message>
         <source>labels or tape needed</source>
-        <translation type="unfinished"></translation>
+        <translation>étiquettes ou ruban requis</translation>
     </message>
     <message>
         <source>label or tape is jammed</source>
-        <translation type="unfinished"></translation>
+        <translation>étiquette ou ruban coincé</translation>
     </message>
     <message>
         <source>labels or tape nearly used up</source>
-        <translation type="unfinished"></translation>
+        <translation>étiquettes ou ruban presque épuisés</translation>
     </message>
     <message>
         <source>cover is open</source>
-        <translation type="unfinished"></translation>
+        <translation>capot ouvert</translation>
     </message>
     <message>
         <source>door is open</source>
-        <translation type="unfinished"></translation>
+        <translation>porte ouverte</translation>
     </message>
     <message>
         <source>cover is not locked</source>
-        <translation type="unfinished"></translation>
+        <translation>capot non verrouillé</translation>
     </message>
     <message>
         <source>cassette is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>cassette absente</translation>
     </message>
     <message>
         <source>printer is switched off or not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>imprimante éteinte ou non connectée</translation>
     </message>
     <message>
         <source>printer is switched off</source>
-        <translation type="unfinished"></translation>
+        <translation>imprimante éteinte</translation>
     </message>
     <message>
         <source>printer does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>l’imprimante ne répond pas</translation>
     </message>
     <message>
         <source>connecting to the printer</source>
-        <translation type="unfinished"></translation>
+        <translation>connexion à l’imprimante</translation>
     </message>
     <message>
         <source>pausing after the current label</source>
-        <translation type="unfinished"></translation>
+        <translation>pause après l’étiquette en cours</translation>
     </message>
     <message>
         <source>stopping</source>
-        <translation type="unfinished"></translation>
+        <translation>arrêt en cours</translation>
     </message>
     <message>
         <source>partly stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>partiellement arrêtée</translation>
     </message>
     <message>
         <source>cutter needs attention</source>
-        <translation type="unfinished"></translation>
+        <translation>vérifier le massicot</translation>
     </message>
     <message>
         <source>cutter failed</source>
-        <translation type="unfinished"></translation>
+        <translation>panne du massicot</translation>
     </message>
     <message>
         <source>cutter is jammed</source>
-        <translation type="unfinished"></translation>
+        <translation>massicot bloqué</translation>
     </message>
     <message>
         <source>cutter is nearly worn out</source>
-        <translation type="unfinished"></translation>
+        <translation>massicot presque usé</translation>
     </message>
     <message>
         <source>cutter is worn out</source>
-        <translation type="unfinished"></translation>
+        <translation>massicot usé</translation>
     </message>
     <message>
         <source>ink ribbon is used up</source>
-        <translation type="unfinished"></translation>
+        <translation>ruban encreur épuisé</translation>
     </message>
     <message>
         <source>ink ribbon is nearly used up</source>
-        <translation type="unfinished"></translation>
+        <translation>ruban encreur presque épuisé</translation>
     </message>
     <message>
         <source>print head is too hot</source>
-        <translation type="unfinished"></translation>
+        <translation>tête d’impression trop chaude</translation>
     </message>
     <message>
         <source>print server has no room for more jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>plus de place pour d’autres tâches sur le serveur d’impression</translation>
     </message>
     <message>
         <source>new jobs are held</source>
-        <translation type="unfinished"></translation>
+        <translation>les nouvelles tâches sont retenues</translation>
     </message>
     <message>
         <source>printer needs attention</source>
-        <translation type="unfinished"></translation>
+        <translation>vérifier l’imprimante</translation>
     </message>
     <message>
         <source>printer&apos;s driver is missing on the print server</source>
-        <translation type="unfinished"></translation>
+        <translation>pilote de l’imprimante absent du serveur d’impression</translation>
     </message>
     <message>
         <source>printer&apos;s driver is not safely installed on the print server</source>
-        <translation type="unfinished"></translation>
+        <translation>pilote de l’imprimante mal protégé sur le serveur d’impression</translation>
     </message>
     <message>
         <source>remote printer is paused</source>
-        <translation type="unfinished"></translation>
+        <translation>imprimante distante en pause</translation>
     </message>
     <message>
         <source>waiting for the remote printer</source>
-        <translation type="unfinished"></translation>
+        <translation>en attente de l’imprimante distante</translation>
     </message>
     <message>
         <source>waiting for the printer to finish</source>
-        <translation type="unfinished"></translation>
+        <translation>en attente de la fin de l’impression</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Prête</translation>
     </message>
     <message>
         <source>Printing</source>
-        <translation type="unfinished"></translation>
+        <translation>Impression en cours</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>En pause</translation>
     </message>
     <message>
         <source>State unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>État inconnu</translation>
     </message>
     <message>
         <source>not accepting jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>n’accepte pas de tâches</translation>
     </message>
     <message>
         <source>Not ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas prête</translation>
     </message>
     <message>
         <source>the printers cannot be listed</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible de lister les imprimantes</translation>
     </message>
     <message>
         <source>it has no printers</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’a aucune imprimante</translation>
     </message>
     <message>
         <source>it has %1</source>
-        <translation type="unfinished"></translation>
+        <translation>il a %1</translation>
     </message>
     <message>
         <source>the print server at &quot;%1&quot; has no printer &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur d’impression « %1 » n’a pas d’imprimante « %2 » : %3</translation>
     </message>
     <message>
         <source>there is no default printer: name one with -d; the print server at &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas d’imprimante par défaut : indiquez-en une avec -d ; le serveur d’impression « %1 » : %2</translation>
     </message>
     <message>
         <source>there is no default printer (%1): name one with -d; the print server at &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas d’imprimante par défaut (%1) : indiquez-en une avec -d ; le serveur d’impression « %2 » : %3</translation>
     </message>
     <message>
         <source>none are saved</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun réglage n’est enregistré</translation>
     </message>
     <message>
         <source>saved are %1</source>
-        <translation type="unfinished"></translation>
+        <translation>sont enregistrés %1</translation>
     </message>
     <message>
         <source>the printer &quot;%1&quot; has no saved settings &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>l’imprimante « %1 » n’a pas de réglages enregistrés « %2 » : %3</translation>
     </message>
     <message>
         <source>settings that are all the print server&apos;s own defaults cannot be saved as &quot;%1&quot;: choose one that differs</source>
-        <translation type="unfinished"></translation>
+        <translation>des réglages tous égaux à ceux du serveur d’impression ne peuvent pas être enregistrés sous « %1 » : changez-en un</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a printer, not saved settings</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est une imprimante, pas un réglage enregistré</translation>
     </message>
     <message>
         <source>the settings &quot;%1&quot; are the administrator&apos;s: only lpoptions as root removes them</source>
-        <translation type="unfinished"></translation>
+        <translation>les réglages « %1 » sont ceux de l’administrateur : seul lpoptions en tant que root les supprime</translation>
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente</translation>
     </message>
     <message>
         <source>Held</source>
-        <translation type="unfinished"></translation>
+        <translation>Retenue</translation>
     </message>
     <message>
         <source>Stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêtée</translation>
     </message>
     <message>
         <source>Cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulée</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec</translation>
     </message>
     <message>
         <source>Printed</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimée</translation>
     </message>
     <message>
         <source>the printer is paused</source>
-        <translation type="unfinished"></translation>
+        <translation>l’imprimante est en pause</translation>
     </message>
     <message>
         <source>the printer is partly paused</source>
-        <translation type="unfinished"></translation>
+        <translation>l’imprimante est partiellement en pause</translation>
     </message>
     <message>
         <source>the document is being received</source>
-        <translation type="unfinished"></translation>
+        <translation>le document est en cours de réception</translation>
     </message>
     <message>
         <source>until it is released</source>
-        <translation type="unfinished"></translation>
+        <translation>jusqu’à sa libération</translation>
     </message>
     <message>
         <source>the printer needs attention</source>
-        <translation type="unfinished"></translation>
+        <translation>l’imprimante demande votre attention</translation>
     </message>
     <message>
         <source>the document cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>le document est illisible</translation>
     </message>
     <message>
         <source>the printer cannot print this kind of document</source>
-        <translation type="unfinished"></translation>
+        <translation>l’imprimante ne peut pas imprimer ce type de document</translation>
     </message>
     <message>
         <source>the document cannot be printed</source>
-        <translation type="unfinished"></translation>
+        <translation>le document ne peut pas être imprimé</translation>
     </message>
     <message>
         <source>by the operator</source>
-        <translation type="unfinished"></translation>
+        <translation>par l’opérateur</translation>
     </message>
     <message>
         <source>at the printer</source>
-        <translation type="unfinished"></translation>
+        <translation>sur l’imprimante</translation>
     </message>
     <message>
         <source>by the print server</source>
-        <translation type="unfinished"></translation>
+        <translation>par le serveur d’impression</translation>
     </message>
     <message>
         <source>the state of the job %1 is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>l’état de la tâche %1 n’est pas connu</translation>
     </message>
     <message>
         <source>the print server told no state of the job %1</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur d’impression n’a donné aucun état de la tâche %1</translation>
     </message>
     <message>
         <source>it has none</source>
-        <translation type="unfinished"></translation>
+        <translation>elle n’en a aucun</translation>
     </message>
     <message>
         <source>its choices are %1</source>
-        <translation type="unfinished"></translation>
+        <translation>les choix possibles sont %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no paper size: write it as Custom.WIDTHxLENGTHmm</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est pas un format de papier : écrivez-le Custom.LARGEURxLONGUEURmm</translation>
     </message>
     <message>
         <source>the printer does not take paper of %1: it takes %2 to %3</source>
-        <translation type="unfinished"></translation>
+        <translation>l’imprimante n’accepte pas le papier de %1 : elle accepte de %2 à %3</translation>
     </message>
     <message>
         <source>the option %1 has no choice &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>l’option %1 n’a pas de choix « %2 » : %3</translation>
     </message>
     <message>
         <source>cannot open %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d’ouvrir %1 : %2</translation>
     </message>
     <message>
         <source>the connection to the print server at &quot;%1&quot; was lost: try again</source>
-        <translation type="unfinished"></translation>
+        <translation>la connexion au serveur d’impression « %1 » est perdue : réessayez</translation>
     </message>
     <message>
         <source>the print server at &quot;%1&quot; does not hand out the PPD of &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur d’impression « %1 » ne fournit pas le fichier PPD de « %2 » : %3</translation>
     </message>
     <message>
         <source>the print server at &quot;%1&quot; has no printer &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur d’impression « %1 » n’a pas d’imprimante « %2 »</translation>
     </message>
     <message>
         <source>the printer &quot;%1&quot; has no PPD on the print server at &quot;%2&quot;: choose a printer that was set up with its driver</source>
-        <translation type="unfinished"></translation>
+        <translation>l’imprimante « %1 » n’a pas de fichier PPD sur le serveur d’impression « %2 » : choisissez une imprimante installée avec son pilote</translation>
     </message>
     <message>
         <source>the PPD &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier PPD « %1 »</translation>
     </message>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>c’est un dossier</translation>
     </message>
     <message>
         <source>the PPD of &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier PPD de « %1 »</translation>
     </message>
     <message>
         <source>no memory for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>pas de mémoire pour %1</translation>
     </message>
     <message>
         <source>cannot use %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d’utiliser %1 : %2</translation>
     </message>
     <message>
         <source>cannot use %1: line %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d’utiliser %1 : ligne %2 : %3</translation>
     </message>
     <message>
         <source>the name &quot;%1&quot; has %2 bytes, and a PPD&apos;s names have at most %3</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom « %1 » a %2 octets, et les noms d’un fichier PPD en ont %3 au plus</translation>
     </message>
     <message>
         <source>cannot read the document &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible de lire le document « %1 » : %2</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>il est vide</translation>
     </message>
     <message>
         <source>printing was cancelled, nothing was printed</source>
-        <translation type="unfinished"></translation>
+        <translation>l’impression a été annulée, rien n’a été imprimé</translation>
     </message>
     <message>
         <source>it changed while it was sent; nothing was printed</source>
-        <translation type="unfinished"></translation>
+        <translation>il a changé pendant l’envoi ; rien n’a été imprimé</translation>
     </message>
     <message>
         <source>the document &quot;%1&quot; could not be sent to &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>le document « %1 » n’a pas pu être envoyé à « %2 »</translation>
     </message>
     <message>
         <source>%1; the job %2 may still be there: remove it with cancel %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ; la tâche %2 existe peut-être encore : supprimez-la avec cancel %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; takes no job</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’accepte aucune tâche</translation>
     </message>
     <message>
         <source>the job %1 cannot be cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>la tâche %1 ne peut pas être annulée</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no printer&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est pas un nom d’imprimante</translation>
     </message>
     <message>
         <source>settings cannot be saved as &quot;%1&quot;: choose a name without spaces, &quot;/&quot; and &quot;#&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>les réglages ne peuvent pas être enregistrés sous « %1 » : choisissez un nom sans espaces, « / » ni « # »</translation>
     </message>
     <message>
         <source>the option %1 cannot be saved: its value has a &quot;#&quot; or a line end</source>
-        <translation type="unfinished"></translation>
+        <translation>l’option %1 ne peut pas être enregistrée : sa valeur contient un « # » ou une fin de ligne</translation>
     </message>
     <message>
         <source>the options cannot be saved in &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>les options ne peuvent pas être enregistrées dans « %1 » : %2</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1 - %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>no print server gives an encrypted connection at &quot;%1&quot; (%2): start one or leave out -E</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun serveur d’impression n’offre de connexion chiffrée sur « %1 » (%2) : démarrez-en un ou omettez -E</translation>
     </message>
     <message>
         <source>no print server answers at &quot;%1&quot;: start it or name another with -h</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun serveur d’impression ne répond sur « %1 » : démarrez-le ou indiquez-en un autre avec -h</translation>
     </message>
     <message>
         <source>nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>rien</translation>
     </message>
     <message>
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : le serveur d’impression « %2 » répond : %3</translation>
     </message>
 </context>
 <context>
     <name>cutline::DialogSession</name>
     <message>
         <source>Waiting for the print server...</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente du serveur d’impression…</translation>
     </message>
 </context>
 <context>
     <name>cutline::JobForm</name>
     <message>
         <source>&amp;Copies:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copies :</translation>
     </message>
     <message>
         <source>P&amp;ages:</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;ages :</translation>
     </message>
     <message>
         <source>Pape&amp;r:</source>
-        <translation type="unfinished"></translation>
+        <translation>Papie&amp;r :</translation>
     </message>
     <message>
         <source>Copies</source>
-        <translation type="unfinished"></translation>
+        <translation>Copies</translation>
     </message>
     <message>
         <source>All, or such as 1-3,5</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes, ou par exemple 1-3,5</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages</translation>
     </message>
     <message>
         <source>Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Papier</translation>
     </message>
 </context>
 <context>
     <name>cutline::JobProgress</name>
     <message>
         <source>Cancel &amp;job</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;nnuler la tâche</translation>
     </message>
     <message>
         <source>Close and &amp;let it print</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fermer et laisser imprimer</translation>
     </message>
     <message>
         <source>Progress of the job</source>
-        <translation type="unfinished"></translation>
+        <translation>Avancement de la tâche</translation>
     </message>
     <message>
         <source>Sending to %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoi à %1…</translation>
     </message>
     <message>
         <source>Job %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tâche %1 : %2</translation>
     </message>
     <message>
         <source>Job %1: %2 - %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Tâche %1 : %2 – %3</translation>
     </message>
     <message>
         <source>Cancelling...</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulation…</translation>
     </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
     <message>
         <source>Job %1 was sent, but the server no longer tells its state: %2. It may still be printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tâche %1 a été envoyée, mais le serveur n’en donne plus l’état : %2. Elle sera peut-être encore imprimée.</translation>
     </message>
     <message>
         <source>Job %1 was cancelled at the printer</source>
-        <translation type="unfinished"></translation>
+        <translation>La tâche %1 a été annulée sur l’imprimante</translation>
     </message>
     <message>
         <source>%1 gave job %2 up</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a abandonné la tâche %2</translation>
     </message>
     <message>
         <source> (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation> (%1)</translation>
     </message>
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%2. Vérifiez que l’imprimante est prête, puis imprimez de nouveau.</translation>
     </message>
 </context>
 <context>
     <name>cutline::MoreOptionsPanel</name>
     <message>
         <source>More printer options</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus d’options d’imprimante</translation>
     </message>
     <message>
         <source>%1:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 :</translation>
     </message>
 </context>
 <context>
     <name>cutline::NoticeView</name>
     <message>
         <source>Chan&amp;ge the others</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier les au&amp;tres</translation>
     </message>
     <message>
         <source>Keep the latest choice and change those that exclude it</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder le dernier choix et modifier ceux qui l’excluent</translation>
     </message>
 </context>
 <context>
     <name>cutline::PanelFrame</name>
     <message>
         <source>This printer has no panel of its own. Its options are under &quot;More printer options&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette imprimante n’a pas de panneau à elle. Ses options se trouvent sous « Plus d’options d’imprimante ».</translation>
     </message>
 </context>
 <context>
     <name>cutline::PlaceholderDocument</name>
     <message>
         <source>No preview for this kind of document; it prints as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas d’aperçu pour ce type de document ; il s’imprime tel quel</translation>
     </message>
 </context>
 <context>
     <name>cutline::PresetBar</name>
     <message>
         <source>Pr&amp;eset:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Préréglage :</translation>
     </message>
     <message>
         <source>&amp;Save...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer…</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Supprimer</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Préréglage</translation>
     </message>
     <message>
         <source>Save these settings as a preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer ces réglages comme préréglage</translation>
     </message>
     <message>
         <source>Delete the chosen preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer le préréglage choisi</translation>
     </message>
     <message>
         <source>Printer&apos;s own settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages de l’imprimante</translation>
     </message>
     <message>
         <source>Delete preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer le préréglage</translation>
     </message>
     <message>
         <source>Delete the preset &quot;%1&quot; of this printer?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer le préréglage « %1 » de cette imprimante ?</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
     <name>cutline::PresetNameDialog</name>
     <message>
         <source>Type a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez un nom.</translation>
     </message>
     <message>
         <source>The name is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom est trop long.</translation>
     </message>
     <message>
         <source>Use letters, digits, dashes and underscores, without blanks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisez des lettres, des chiffres, des tirets et des traits de soulignement, sans espaces.</translation>
     </message>
     <message>
         <source>Save preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le préréglage</translation>
     </message>
     <message>
         <source>&amp;Name of the preset:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nom du préréglage :</translation>
     </message>
     <message>
         <source>Name of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du préréglage</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Replaces the preset of this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplace le préréglage de ce nom.</translation>
     </message>
 </context>
 <context>
     <name>cutline::PrintDialog</name>
     <message>
         <source>&amp;More printer options</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;lus d’options d’imprimante</translation>
     </message>
     <message>
         <source>Pr&amp;int</source>
-        <translation type="unfinished"></translation>
+        <translation>Impri&amp;mer</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer</translation>
     </message>
     <message>
         <source>Print %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer %1</translation>
     </message>
     <message>
         <source>No preview: its module is not installed</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas d’aperçu : son module n’est pas installé</translation>
     </message>
     <message>
         <source>This document cannot be shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce document ne peut pas être affiché</translation>
     </message>
     <message>
         <source>Label %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquette %1 : %2</translation>
     </message>
     <message>
         <source>The job was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tâche a été annulée.</translation>
     </message>
     <message>
         <source>No printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune imprimante</translation>
     </message>
     <message>
         <source>No document</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun document</translation>
     </message>
     <message>
         <source>Opening %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouverture de %1…</translation>
     </message>
     <message>
         <source>%1 does not print now (%2). A job waits until the printer is ready again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’imprime pas pour le moment (%2). Une tâche attend que l’imprimante soit de nouveau prête.</translation>
     </message>
     <message>
         <source>%1 does not accept jobs. Choose another printer, or ask whoever looks after this one.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’accepte pas de tâches. Choisissez une autre imprimante ou adressez-vous à la personne qui s’en occupe.</translation>
     </message>
     <message>
         <source>No printer is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune imprimante n’est ouverte.</translation>
     </message>
     <message>
         <source>This is a PPD file, no printer: printing is switched off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ceci est un fichier PPD, pas une imprimante : l’impression est désactivée.</translation>
     </message>
     <message>
         <source>There is no document to print: start with &quot;cutline FILE&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de document à imprimer : lancez « cutline FICHIER ».</translation>
     </message>
     <message>
         <source>This document cannot be printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce document ne peut pas être imprimé.</translation>
     </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
     <message>
         <source>&amp;Printer:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Imprimante :</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimante</translation>
     </message>
     <message>
         <source>PPD file, no printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier PPD, pas d’imprimante</translation>
     </message>
 </context>
 <context>
     <name>cutline::StripPane</name>
     <message>
         <source>Previous label</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquette précédente</translation>
     </message>
     <message>
         <source>Next label</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquette suivante</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom arrière</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajuster</translation>
     </message>
     <message>
         <source>Fit a label into the view</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajuster une étiquette à la vue</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom avant</translation>
     </message>
     <message>
         <source>No preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas d’aperçu</translation>
     </message>
     <message>
         <source>Label %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquette %1 sur %2</translation>
     </message>
 </context>
 <context>
     <name>cutline::StripView</name>
     <message>
         <source>Preview of the labels</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu des étiquettes</translation>
     </message>
     <message>
         <source>%1 - not printed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – non imprimée</translation>
     </message>
 </context>
 <context>
     <name>cutline::SummaryView</name>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Résumé</translation>
     </message>
     <message>
         <source>%1:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 :</translation>
     </message>
 </context>
 <context>
     <name>document</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>is a directory; name a document</source>
-        <translation type="unfinished"></translation>
+        <translation>c’est un dossier ; indiquez un document</translation>
     </message>
     <message>
         <source>the file is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier est vide</translation>
     </message>
     <message>
         <source>the picture cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>l’image est illisible : %1</translation>
     </message>
     <message>
         <source>the picture cannot be drawn: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>l’image ne peut pas être dessinée : %1</translation>
     </message>
     <message>
         <source>there is no such page</source>
-        <translation type="unfinished"></translation>
+        <translation>cette page n’existe pas</translation>
     </message>
     <message>
         <source>the page cannot be drawn at this size</source>
-        <translation type="unfinished"></translation>
+        <translation>la page ne peut pas être dessinée à cette taille</translation>
     </message>
     <message>
         <source>page %1 cannot be drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>la page %1 ne peut pas être dessinée</translation>
     </message>
     <message>
         <source>page %1 cannot be drawn: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>la page %1 ne peut pas être dessinée : %2</translation>
     </message>
     <message>
         <source>the PDF is damaged; open it elsewhere and save it again</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier PDF est endommagé ; ouvrez-le dans un autre programme et enregistrez-le de nouveau</translation>
     </message>
     <message>
         <source>the PDF is locked with a password; save it without one</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier PDF est protégé par un mot de passe ; enregistrez-le sans mot de passe</translation>
     </message>
     <message>
         <source>the PDF has no pages</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier PDF n’a pas de pages</translation>
     </message>
     <message>
         <source>the page cannot be drawn: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>la page ne peut pas être dessinée : %1</translation>
     </message>
 </context>
 <context>
     <name>host</name>
     <message>
         <source>&quot;%1: %2&quot; cannot be used together with &quot;%3: %4&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 : %2 » ne peut pas être utilisé avec « %3 : %4 ».</translation>
     </message>
     <message>
         <source>%1 Change one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Modifiez l’un des deux.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot; because special tape is on.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : « %2 » est envoyé, car le ruban spécial est activé.</translation>
     </message>
     <message>
         <source>%1: stays &quot;%2&quot; because it cannot be changed on the paper &quot;%3&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : reste « %2 », car ce réglage ne peut pas changer avec le papier « %3 ».</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; must not be cut automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : « %2 » est envoyé, car le papier « %3 » ne doit pas être coupé automatiquement.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : « %2 » est envoyé.</translation>
     </message>
     <message>
         <source>unknown option &quot;%1&quot;; this printer has no such option</source>
-        <translation type="unfinished"></translation>
+        <translation>option inconnue « %1 » ; cette imprimante n’a pas une telle option</translation>
     </message>
     <message>
         <source>unknown option &quot;%1&quot;; is it %2?</source>
-        <translation type="unfinished"></translation>
+        <translation>option inconnue « %1 » ; est-ce %2 ?</translation>
     </message>
     <message>
         <source>page range &quot;%1&quot;: %2; write pages like 1-4,7</source>
-        <translation type="unfinished"></translation>
+        <translation>plage de pages « %1 » : %2 ; écrivez les pages ainsi : 1-4,7</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no page or range of pages</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est ni une page ni une plage de pages</translation>
     </message>
     <message>
         <source>pages must be in ascending order</source>
-        <translation type="unfinished"></translation>
+        <translation>les pages doivent être en ordre croissant</translation>
     </message>
     <message>
         <source>the panel &quot;%1&quot; does not agree to print with these settings; change them and print again</source>
-        <translation type="unfinished"></translation>
+        <translation>le panneau « %1 » refuse d’imprimer avec ces réglages ; modifiez-les et imprimez de nouveau</translation>
     </message>
     <message>
         <source>unknown paper &quot;%1&quot;; this printer has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>papier inconnu « %1 » ; cette imprimante a %2</translation>
     </message>
     <message>
         <source>this printer has no option &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>cette imprimante n’a pas d’option « %1 »</translation>
     </message>
     <message>
         <source>copies: %1 is not between 1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>copies : %1 n’est pas compris entre 1 et %2</translation>
     </message>
     <message>
         <source>a PPD file alone cannot print; choose a printer</source>
-        <translation type="unfinished"></translation>
+        <translation>un fichier PPD seul ne peut pas imprimer ; choisissez une imprimante</translation>
     </message>
     <message>
         <source>%1: there is no such document</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : ce document n’existe pas</translation>
     </message>
 </context>
 </TS>

@@ -5,898 +5,898 @@
     <name>cups</name>
     <message>
         <source>label roll or tape is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>rotolo di etichette o nastro esaurito</translation>
     </message>
     <message>
         <source>labels or tape needed</source>
-        <translation type="unfinished"></translation>
+        <translation>servono etichette o nastro</translation>
     </message>
     <message>
         <source>label or tape is jammed</source>
-        <translation type="unfinished"></translation>
+        <translation>etichetta o nastro inceppato</translation>
     </message>
     <message>
         <source>labels or tape nearly used up</source>
-        <translation type="unfinished"></translation>
+        <translation>etichette o nastro quasi esauriti</translation>
     </message>
     <message>
         <source>cover is open</source>
-        <translation type="unfinished"></translation>
+        <translation>coperchio aperto</translation>
     </message>
     <message>
         <source>door is open</source>
-        <translation type="unfinished"></translation>
+        <translation>sportello aperto</translation>
     </message>
     <message>
         <source>cover is not locked</source>
-        <translation type="unfinished"></translation>
+        <translation>coperchio non bloccato</translation>
     </message>
     <message>
         <source>cassette is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>cassetta mancante</translation>
     </message>
     <message>
         <source>printer is switched off or not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>stampante spenta o non collegata</translation>
     </message>
     <message>
         <source>printer is switched off</source>
-        <translation type="unfinished"></translation>
+        <translation>stampante spenta</translation>
     </message>
     <message>
         <source>printer does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>la stampante non risponde</translation>
     </message>
     <message>
         <source>connecting to the printer</source>
-        <translation type="unfinished"></translation>
+        <translation>connessione alla stampante</translation>
     </message>
     <message>
         <source>pausing after the current label</source>
-        <translation type="unfinished"></translation>
+        <translation>pausa dopo l’etichetta attuale</translation>
     </message>
     <message>
         <source>stopping</source>
-        <translation type="unfinished"></translation>
+        <translation>arresto in corso</translation>
     </message>
     <message>
         <source>partly stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>parzialmente ferma</translation>
     </message>
     <message>
         <source>cutter needs attention</source>
-        <translation type="unfinished"></translation>
+        <translation>controllare la taglierina</translation>
     </message>
     <message>
         <source>cutter failed</source>
-        <translation type="unfinished"></translation>
+        <translation>guasto della taglierina</translation>
     </message>
     <message>
         <source>cutter is jammed</source>
-        <translation type="unfinished"></translation>
+        <translation>taglierina bloccata</translation>
     </message>
     <message>
         <source>cutter is nearly worn out</source>
-        <translation type="unfinished"></translation>
+        <translation>taglierina quasi usurata</translation>
     </message>
     <message>
         <source>cutter is worn out</source>
-        <translation type="unfinished"></translation>
+        <translation>taglierina usurata</translation>
     </message>
     <message>
         <source>ink ribbon is used up</source>
-        <translation type="unfinished"></translation>
+        <translation>nastro inchiostrato esaurito</translation>
     </message>
     <message>
         <source>ink ribbon is nearly used up</source>
-        <translation type="unfinished"></translation>
+        <translation>nastro inchiostrato quasi esaurito</translation>
     </message>
     <message>
         <source>print head is too hot</source>
-        <translation type="unfinished"></translation>
+        <translation>testina di stampa troppo calda</translation>
     </message>
     <message>
         <source>print server has no room for more jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>il server di stampa non ha spazio per altri lavori</translation>
     </message>
     <message>
         <source>new jobs are held</source>
-        <translation type="unfinished"></translation>
+        <translation>i nuovi lavori sono trattenuti</translation>
     </message>
     <message>
         <source>printer needs attention</source>
-        <translation type="unfinished"></translation>
+        <translation>controllare la stampante</translation>
     </message>
     <message>
         <source>printer&apos;s driver is missing on the print server</source>
-        <translation type="unfinished"></translation>
+        <translation>il driver della stampante manca sul server di stampa</translation>
     </message>
     <message>
         <source>printer&apos;s driver is not safely installed on the print server</source>
-        <translation type="unfinished"></translation>
+        <translation>il driver della stampante non è installato in modo sicuro sul server di stampa</translation>
     </message>
     <message>
         <source>remote printer is paused</source>
-        <translation type="unfinished"></translation>
+        <translation>stampante remota in pausa</translation>
     </message>
     <message>
         <source>waiting for the remote printer</source>
-        <translation type="unfinished"></translation>
+        <translation>in attesa della stampante remota</translation>
     </message>
     <message>
         <source>waiting for the printer to finish</source>
-        <translation type="unfinished"></translation>
+        <translation>in attesa che la stampante finisca</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Pronta</translation>
     </message>
     <message>
         <source>Printing</source>
-        <translation type="unfinished"></translation>
+        <translation>In stampa</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>In pausa</translation>
     </message>
     <message>
         <source>State unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato sconosciuto</translation>
     </message>
     <message>
         <source>not accepting jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>non accetta lavori</translation>
     </message>
     <message>
         <source>Not ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Non pronta</translation>
     </message>
     <message>
         <source>the printers cannot be listed</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile elencare le stampanti</translation>
     </message>
     <message>
         <source>it has no printers</source>
-        <translation type="unfinished"></translation>
+        <translation>non ha stampanti</translation>
     </message>
     <message>
         <source>it has %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ha %1</translation>
     </message>
     <message>
         <source>the print server at &quot;%1&quot; has no printer &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>il server di stampa «%1» non ha nessuna stampante «%2»: %3</translation>
     </message>
     <message>
         <source>there is no default printer: name one with -d; the print server at &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>non c’è una stampante predefinita: indicarne una con -d; il server di stampa «%1»: %2</translation>
     </message>
     <message>
         <source>there is no default printer (%1): name one with -d; the print server at &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>non c’è una stampante predefinita (%1): indicarne una con -d; il server di stampa «%2»: %3</translation>
     </message>
     <message>
         <source>none are saved</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuna è salvata</translation>
     </message>
     <message>
         <source>saved are %1</source>
-        <translation type="unfinished"></translation>
+        <translation>sono salvate %1</translation>
     </message>
     <message>
         <source>the printer &quot;%1&quot; has no saved settings &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>la stampante «%1» non ha impostazioni salvate «%2»: %3</translation>
     </message>
     <message>
         <source>settings that are all the print server&apos;s own defaults cannot be saved as &quot;%1&quot;: choose one that differs</source>
-        <translation type="unfinished"></translation>
+        <translation>impostazioni tutte uguali a quelle del server di stampa non si possono salvare come «%1»: sceglierne una diversa</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a printer, not saved settings</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» è una stampante, non impostazioni salvate</translation>
     </message>
     <message>
         <source>the settings &quot;%1&quot; are the administrator&apos;s: only lpoptions as root removes them</source>
-        <translation type="unfinished"></translation>
+        <translation>le impostazioni «%1» sono dell’amministratore: solo lpoptions come root le elimina</translation>
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>In attesa</translation>
     </message>
     <message>
         <source>Held</source>
-        <translation type="unfinished"></translation>
+        <translation>Trattenuto</translation>
     </message>
     <message>
         <source>Stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermo</translation>
     </message>
     <message>
         <source>Cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>Annullato</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Non riuscito</translation>
     </message>
     <message>
         <source>Printed</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampato</translation>
     </message>
     <message>
         <source>the printer is paused</source>
-        <translation type="unfinished"></translation>
+        <translation>la stampante è in pausa</translation>
     </message>
     <message>
         <source>the printer is partly paused</source>
-        <translation type="unfinished"></translation>
+        <translation>la stampante è parzialmente in pausa</translation>
     </message>
     <message>
         <source>the document is being received</source>
-        <translation type="unfinished"></translation>
+        <translation>il documento è in ricezione</translation>
     </message>
     <message>
         <source>until it is released</source>
-        <translation type="unfinished"></translation>
+        <translation>finché non viene rilasciato</translation>
     </message>
     <message>
         <source>the printer needs attention</source>
-        <translation type="unfinished"></translation>
+        <translation>la stampante richiede attenzione</translation>
     </message>
     <message>
         <source>the document cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>il documento non si può leggere</translation>
     </message>
     <message>
         <source>the printer cannot print this kind of document</source>
-        <translation type="unfinished"></translation>
+        <translation>la stampante non può stampare questo tipo di documento</translation>
     </message>
     <message>
         <source>the document cannot be printed</source>
-        <translation type="unfinished"></translation>
+        <translation>il documento non si può stampare</translation>
     </message>
     <message>
         <source>by the operator</source>
-        <translation type="unfinished"></translation>
+        <translation>dall’operatore</translation>
     </message>
     <message>
         <source>at the printer</source>
-        <translation type="unfinished"></translation>
+        <translation>sulla stampante</translation>
     </message>
     <message>
         <source>by the print server</source>
-        <translation type="unfinished"></translation>
+        <translation>dal server di stampa</translation>
     </message>
     <message>
         <source>the state of the job %1 is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>lo stato del lavoro %1 non è noto</translation>
     </message>
     <message>
         <source>the print server told no state of the job %1</source>
-        <translation type="unfinished"></translation>
+        <translation>il server di stampa non ha comunicato lo stato del lavoro %1</translation>
     </message>
     <message>
         <source>it has none</source>
-        <translation type="unfinished"></translation>
+        <translation>non ne ha</translation>
     </message>
     <message>
         <source>its choices are %1</source>
-        <translation type="unfinished"></translation>
+        <translation>le scelte sono %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no paper size: write it as Custom.WIDTHxLENGTHmm</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» non è un formato di carta: scriverlo come Custom.LARGHEZZAxLUNGHEZZAmm</translation>
     </message>
     <message>
         <source>the printer does not take paper of %1: it takes %2 to %3</source>
-        <translation type="unfinished"></translation>
+        <translation>la stampante non accetta carta da %1: accetta da %2 a %3</translation>
     </message>
     <message>
         <source>the option %1 has no choice &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>l’opzione %1 non ha la scelta «%2»: %3</translation>
     </message>
     <message>
         <source>cannot open %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile aprire %1: %2</translation>
     </message>
     <message>
         <source>the connection to the print server at &quot;%1&quot; was lost: try again</source>
-        <translation type="unfinished"></translation>
+        <translation>la connessione al server di stampa «%1» si è interrotta: riprovare</translation>
     </message>
     <message>
         <source>the print server at &quot;%1&quot; does not hand out the PPD of &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>il server di stampa «%1» non fornisce il file PPD di «%2»: %3</translation>
     </message>
     <message>
         <source>the print server at &quot;%1&quot; has no printer &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>il server di stampa «%1» non ha nessuna stampante «%2»</translation>
     </message>
     <message>
         <source>the printer &quot;%1&quot; has no PPD on the print server at &quot;%2&quot;: choose a printer that was set up with its driver</source>
-        <translation type="unfinished"></translation>
+        <translation>la stampante «%1» non ha un file PPD sul server di stampa «%2»: scegliere una stampante installata con il suo driver</translation>
     </message>
     <message>
         <source>the PPD &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>il file PPD «%1»</translation>
     </message>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>è una cartella</translation>
     </message>
     <message>
         <source>the PPD of &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>il file PPD di «%1»</translation>
     </message>
     <message>
         <source>no memory for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>memoria insufficiente per %1</translation>
     </message>
     <message>
         <source>cannot use %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile usare %1: %2</translation>
     </message>
     <message>
         <source>cannot use %1: line %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile usare %1: riga %2: %3</translation>
     </message>
     <message>
         <source>the name &quot;%1&quot; has %2 bytes, and a PPD&apos;s names have at most %3</source>
-        <translation type="unfinished"></translation>
+        <translation>il nome «%1» ha %2 byte e i nomi di un file PPD ne hanno al massimo %3</translation>
     </message>
     <message>
         <source>cannot read the document &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile leggere il documento «%1»: %2</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>è vuoto</translation>
     </message>
     <message>
         <source>printing was cancelled, nothing was printed</source>
-        <translation type="unfinished"></translation>
+        <translation>la stampa è stata annullata, non è stato stampato nulla</translation>
     </message>
     <message>
         <source>it changed while it was sent; nothing was printed</source>
-        <translation type="unfinished"></translation>
+        <translation>è cambiato durante l’invio; non è stato stampato nulla</translation>
     </message>
     <message>
         <source>the document &quot;%1&quot; could not be sent to &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile inviare il documento «%1» a «%2»</translation>
     </message>
     <message>
         <source>%1; the job %2 may still be there: remove it with cancel %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; il lavoro %2 potrebbe esserci ancora: eliminarlo con cancel %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; takes no job</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» non accetta lavori</translation>
     </message>
     <message>
         <source>the job %1 cannot be cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>il lavoro %1 non si può annullare</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no printer&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» non è il nome di una stampante</translation>
     </message>
     <message>
         <source>settings cannot be saved as &quot;%1&quot;: choose a name without spaces, &quot;/&quot; and &quot;#&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>le impostazioni non si possono salvare come «%1»: scegliere un nome senza spazi, «/» e «#»</translation>
     </message>
     <message>
         <source>the option %1 cannot be saved: its value has a &quot;#&quot; or a line end</source>
-        <translation type="unfinished"></translation>
+        <translation>l’opzione %1 non si può salvare: il suo valore contiene «#» o una fine riga</translation>
     </message>
     <message>
         <source>the options cannot be saved in &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>le opzioni non si possono salvare in «%1»: %2</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1 - %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>no print server gives an encrypted connection at &quot;%1&quot; (%2): start one or leave out -E</source>
-        <translation type="unfinished"></translation>
+        <translation>nessun server di stampa offre una connessione cifrata su «%1» (%2): avviarne uno oppure omettere -E</translation>
     </message>
     <message>
         <source>no print server answers at &quot;%1&quot;: start it or name another with -h</source>
-        <translation type="unfinished"></translation>
+        <translation>nessun server di stampa risponde su «%1»: avviarlo oppure indicarne un altro con -h</translation>
     </message>
     <message>
         <source>nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>niente</translation>
     </message>
     <message>
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: il server di stampa «%2» dice: %3</translation>
     </message>
 </context>
 <context>
     <name>cutline::DialogSession</name>
     <message>
         <source>Waiting for the print server...</source>
-        <translation type="unfinished"></translation>
+        <translation>In attesa del server di stampa…</translation>
     </message>
 </context>
 <context>
     <name>cutline::JobForm</name>
     <message>
         <source>&amp;Copies:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copie:</translation>
     </message>
     <message>
         <source>P&amp;ages:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pa&amp;gine:</translation>
     </message>
     <message>
         <source>Pape&amp;r:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ca&amp;rta:</translation>
     </message>
     <message>
         <source>Copies</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie</translation>
     </message>
     <message>
         <source>All, or such as 1-3,5</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutte, oppure ad esempio 1-3,5</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagine</translation>
     </message>
     <message>
         <source>Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Carta</translation>
     </message>
 </context>
 <context>
     <name>cutline::JobProgress</name>
     <message>
         <source>Cancel &amp;job</source>
-        <translation type="unfinished"></translation>
+        <translation>Ann&amp;ulla il lavoro</translation>
     </message>
     <message>
         <source>Close and &amp;let it print</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;hiudi e lascia stampare</translation>
     </message>
     <message>
         <source>Progress of the job</source>
-        <translation type="unfinished"></translation>
+        <translation>Avanzamento del lavoro</translation>
     </message>
     <message>
         <source>Sending to %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Invio a %1…</translation>
     </message>
     <message>
         <source>Job %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Lavoro %1: %2</translation>
     </message>
     <message>
         <source>Job %1: %2 - %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Lavoro %1: %2 – %3</translation>
     </message>
     <message>
         <source>Cancelling...</source>
-        <translation type="unfinished"></translation>
+        <translation>Annullamento…</translation>
     </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
     <message>
         <source>Job %1 was sent, but the server no longer tells its state: %2. It may still be printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il lavoro %1 è stato inviato, ma il server non ne comunica più lo stato: %2. Potrebbe ancora essere stampato.</translation>
     </message>
     <message>
         <source>Job %1 was cancelled at the printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Il lavoro %1 è stato annullato sulla stampante</translation>
     </message>
     <message>
         <source>%1 gave job %2 up</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ha rinunciato al lavoro %2</translation>
     </message>
     <message>
         <source> (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation> (%1)</translation>
     </message>
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%2. Controllare che la stampante sia pronta e stampare di nuovo.</translation>
     </message>
 </context>
 <context>
     <name>cutline::MoreOptionsPanel</name>
     <message>
         <source>More printer options</source>
-        <translation type="unfinished"></translation>
+        <translation>Altre opzioni della stampante</translation>
     </message>
     <message>
         <source>%1:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
     <name>cutline::NoticeView</name>
     <message>
         <source>Chan&amp;ge the others</source>
-        <translation type="unfinished"></translation>
+        <translation>Cam&amp;bia le altre</translation>
     </message>
     <message>
         <source>Keep the latest choice and change those that exclude it</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantieni l’ultima scelta e cambia quelle che la escludono</translation>
     </message>
 </context>
 <context>
     <name>cutline::PanelFrame</name>
     <message>
         <source>This printer has no panel of its own. Its options are under &quot;More printer options&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa stampante non ha un pannello proprio. Le sue opzioni sono in «Altre opzioni della stampante».</translation>
     </message>
 </context>
 <context>
     <name>cutline::PlaceholderDocument</name>
     <message>
         <source>No preview for this kind of document; it prints as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna anteprima per questo tipo di documento; viene stampato così com’è</translation>
     </message>
 </context>
 <context>
     <name>cutline::PresetBar</name>
     <message>
         <source>Pr&amp;eset:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Preimpostazione:</translation>
     </message>
     <message>
         <source>&amp;Save...</source>
-        <translation type="unfinished"></translation>
+        <translation>Sal&amp;va…</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Elimina</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Preimpostazione</translation>
     </message>
     <message>
         <source>Save these settings as a preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva queste impostazioni come preimpostazione</translation>
     </message>
     <message>
         <source>Delete the chosen preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina la preimpostazione scelta</translation>
     </message>
     <message>
         <source>Printer&apos;s own settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni della stampante</translation>
     </message>
     <message>
         <source>Delete preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina preimpostazione</translation>
     </message>
     <message>
         <source>Delete the preset &quot;%1&quot; of this printer?</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminare la preimpostazione «%1» di questa stampante?</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
 </context>
 <context>
     <name>cutline::PresetNameDialog</name>
     <message>
         <source>Type a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrivere un nome.</translation>
     </message>
     <message>
         <source>The name is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il nome è troppo lungo.</translation>
     </message>
     <message>
         <source>Use letters, digits, dashes and underscores, without blanks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Usare lettere, cifre, trattini e trattini bassi, senza spazi.</translation>
     </message>
     <message>
         <source>Save preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva preimpostazione</translation>
     </message>
     <message>
         <source>&amp;Name of the preset:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nome della preimpostazione:</translation>
     </message>
     <message>
         <source>Name of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome della preimpostazione</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Sal&amp;va</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>Replaces the preset of this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sostituisce la preimpostazione con questo nome.</translation>
     </message>
 </context>
 <context>
     <name>cutline::PrintDialog</name>
     <message>
         <source>&amp;More printer options</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Altre opzioni della stampante</translation>
     </message>
     <message>
         <source>Pr&amp;int</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;tampa</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa</translation>
     </message>
     <message>
         <source>Print %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa di %1</translation>
     </message>
     <message>
         <source>No preview: its module is not installed</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna anteprima: il suo modulo non è installato</translation>
     </message>
     <message>
         <source>This document cannot be shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile mostrare questo documento</translation>
     </message>
     <message>
         <source>Label %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Etichetta %1: %2</translation>
     </message>
     <message>
         <source>The job was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il lavoro è stato annullato.</translation>
     </message>
     <message>
         <source>No printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna stampante</translation>
     </message>
     <message>
         <source>No document</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun documento</translation>
     </message>
     <message>
         <source>Opening %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Apertura di %1…</translation>
     </message>
     <message>
         <source>%1 does not print now (%2). A job waits until the printer is ready again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 al momento non stampa (%2). I lavori attendono finché la stampante non è di nuovo pronta.</translation>
     </message>
     <message>
         <source>%1 does not accept jobs. Choose another printer, or ask whoever looks after this one.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non accetta lavori. Scegliere un’altra stampante o chiedere a chi si occupa di questa.</translation>
     </message>
     <message>
         <source>No printer is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna stampante è aperta.</translation>
     </message>
     <message>
         <source>This is a PPD file, no printer: printing is switched off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo è un file PPD, non una stampante: non si può stampare.</translation>
     </message>
     <message>
         <source>There is no document to print: start with &quot;cutline FILE&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c’è un documento da stampare: avviare «cutline FILE».</translation>
     </message>
     <message>
         <source>This document cannot be printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile stampare questo documento.</translation>
     </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
     <message>
         <source>&amp;Printer:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Stampante:</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampante</translation>
     </message>
     <message>
         <source>PPD file, no printer</source>
-        <translation type="unfinished"></translation>
+        <translation>File PPD, nessuna stampante</translation>
     </message>
 </context>
 <context>
     <name>cutline::StripPane</name>
     <message>
         <source>Previous label</source>
-        <translation type="unfinished"></translation>
+        <translation>Etichetta precedente</translation>
     </message>
     <message>
         <source>Next label</source>
-        <translation type="unfinished"></translation>
+        <translation>Etichetta successiva</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>Riduci</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Adatta</translation>
     </message>
     <message>
         <source>Fit a label into the view</source>
-        <translation type="unfinished"></translation>
+        <translation>Adatta un’etichetta alla vista</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>Ingrandisci</translation>
     </message>
     <message>
         <source>No preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna anteprima</translation>
     </message>
     <message>
         <source>Label %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Etichetta %1 di %2</translation>
     </message>
 </context>
 <context>
     <name>cutline::StripView</name>
     <message>
         <source>Preview of the labels</source>
-        <translation type="unfinished"></translation>
+        <translation>Anteprima delle etichette</translation>
     </message>
     <message>
         <source>%1 - not printed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – non stampata</translation>
     </message>
 </context>
 <context>
     <name>cutline::SummaryView</name>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Riepilogo</translation>
     </message>
     <message>
         <source>%1:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
     <name>document</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>is a directory; name a document</source>
-        <translation type="unfinished"></translation>
+        <translation>è una cartella; indicare un documento</translation>
     </message>
     <message>
         <source>the file is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>il file è vuoto</translation>
     </message>
     <message>
         <source>the picture cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile leggere l’immagine: %1</translation>
     </message>
     <message>
         <source>the picture cannot be drawn: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile disegnare l’immagine: %1</translation>
     </message>
     <message>
         <source>there is no such page</source>
-        <translation type="unfinished"></translation>
+        <translation>questa pagina non esiste</translation>
     </message>
     <message>
         <source>the page cannot be drawn at this size</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile disegnare la pagina a questa dimensione</translation>
     </message>
     <message>
         <source>page %1 cannot be drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile disegnare la pagina %1</translation>
     </message>
     <message>
         <source>page %1 cannot be drawn: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile disegnare la pagina %1: %2</translation>
     </message>
     <message>
         <source>the PDF is damaged; open it elsewhere and save it again</source>
-        <translation type="unfinished"></translation>
+        <translation>il file PDF è danneggiato; aprirlo in un altro programma e salvarlo di nuovo</translation>
     </message>
     <message>
         <source>the PDF is locked with a password; save it without one</source>
-        <translation type="unfinished"></translation>
+        <translation>il file PDF è protetto da password; salvarlo senza password</translation>
     </message>
     <message>
         <source>the PDF has no pages</source>
-        <translation type="unfinished"></translation>
+        <translation>il file PDF non ha pagine</translation>
     </message>
     <message>
         <source>the page cannot be drawn: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile disegnare la pagina: %1</translation>
     </message>
 </context>
 <context>
     <name>host</name>
     <message>
         <source>&quot;%1: %2&quot; cannot be used together with &quot;%3: %4&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1: %2» non si può usare insieme a «%3: %4».</translation>
     </message>
     <message>
         <source>%1 Change one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Cambiare una delle due.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot; because special tape is on.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: inviata come «%2» perché il nastro speciale è attivo.</translation>
     </message>
     <message>
         <source>%1: stays &quot;%2&quot; because it cannot be changed on the paper &quot;%3&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: resta «%2» perché non si può cambiare con la carta «%3».</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; must not be cut automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: inviata come «%2» perché la carta «%3» non va tagliata automaticamente.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: inviata come «%2».</translation>
     </message>
     <message>
         <source>unknown option &quot;%1&quot;; this printer has no such option</source>
-        <translation type="unfinished"></translation>
+        <translation>opzione sconosciuta «%1»; questa stampante non ha tale opzione</translation>
     </message>
     <message>
         <source>unknown option &quot;%1&quot;; is it %2?</source>
-        <translation type="unfinished"></translation>
+        <translation>opzione sconosciuta «%1»; forse %2?</translation>
     </message>
     <message>
         <source>page range &quot;%1&quot;: %2; write pages like 1-4,7</source>
-        <translation type="unfinished"></translation>
+        <translation>intervallo di pagine «%1»: %2; scrivere le pagine come 1-4,7</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no page or range of pages</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» non è una pagina né un intervallo di pagine</translation>
     </message>
     <message>
         <source>pages must be in ascending order</source>
-        <translation type="unfinished"></translation>
+        <translation>le pagine devono essere in ordine crescente</translation>
     </message>
     <message>
         <source>the panel &quot;%1&quot; does not agree to print with these settings; change them and print again</source>
-        <translation type="unfinished"></translation>
+        <translation>il pannello «%1» non accetta di stampare con queste impostazioni; cambiarle e stampare di nuovo</translation>
     </message>
     <message>
         <source>unknown paper &quot;%1&quot;; this printer has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>carta sconosciuta «%1»; questa stampante ha %2</translation>
     </message>
     <message>
         <source>this printer has no option &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>questa stampante non ha l’opzione «%1»</translation>
     </message>
     <message>
         <source>copies: %1 is not between 1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>copie: %1 non è compreso tra 1 e %2</translation>
     </message>
     <message>
         <source>a PPD file alone cannot print; choose a printer</source>
-        <translation type="unfinished"></translation>
+        <translation>un file PPD da solo non può stampare; scegliere una stampante</translation>
     </message>
     <message>
         <source>%1: there is no such document</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: questo documento non esiste</translation>
     </message>
 </context>
 </TS>

@@ -5,898 +5,898 @@
     <name>cups</name>
     <message>
         <source>label roll or tape is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>ラベルロールまたはテープがありません</translation>
     </message>
     <message>
         <source>labels or tape needed</source>
-        <translation type="unfinished"></translation>
+        <translation>ラベルまたはテープが必要です</translation>
     </message>
     <message>
         <source>label or tape is jammed</source>
-        <translation type="unfinished"></translation>
+        <translation>ラベルまたはテープが詰まっています</translation>
     </message>
     <message>
         <source>labels or tape nearly used up</source>
-        <translation type="unfinished"></translation>
+        <translation>ラベルまたはテープが残りわずかです</translation>
     </message>
     <message>
         <source>cover is open</source>
-        <translation type="unfinished"></translation>
+        <translation>カバーが開いています</translation>
     </message>
     <message>
         <source>door is open</source>
-        <translation type="unfinished"></translation>
+        <translation>ドアが開いています</translation>
     </message>
     <message>
         <source>cover is not locked</source>
-        <translation type="unfinished"></translation>
+        <translation>カバーがロックされていません</translation>
     </message>
     <message>
         <source>cassette is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>カセットがありません</translation>
     </message>
     <message>
         <source>printer is switched off or not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターの電源が切れているか、接続されていません</translation>
     </message>
     <message>
         <source>printer is switched off</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターの電源が切れています</translation>
     </message>
     <message>
         <source>printer does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターが応答しません</translation>
     </message>
     <message>
         <source>connecting to the printer</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターに接続しています</translation>
     </message>
     <message>
         <source>pausing after the current label</source>
-        <translation type="unfinished"></translation>
+        <translation>現在のラベルの後で一時停止します</translation>
     </message>
     <message>
         <source>stopping</source>
-        <translation type="unfinished"></translation>
+        <translation>停止しています</translation>
     </message>
     <message>
         <source>partly stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>一部停止しています</translation>
     </message>
     <message>
         <source>cutter needs attention</source>
-        <translation type="unfinished"></translation>
+        <translation>カッターを確認してください</translation>
     </message>
     <message>
         <source>cutter failed</source>
-        <translation type="unfinished"></translation>
+        <translation>カッターの故障</translation>
     </message>
     <message>
         <source>cutter is jammed</source>
-        <translation type="unfinished"></translation>
+        <translation>カッターが詰まっています</translation>
     </message>
     <message>
         <source>cutter is nearly worn out</source>
-        <translation type="unfinished"></translation>
+        <translation>カッターの寿命が近づいています</translation>
     </message>
     <message>
         <source>cutter is worn out</source>
-        <translation type="unfinished"></translation>
+        <translation>カッターが寿命です</translation>
     </message>
     <message>
         <source>ink ribbon is used up</source>
-        <translation type="unfinished"></translation>
+        <translation>インクリボンがありません</translation>
     </message>
     <message>
         <source>ink ribbon is nearly used up</source>
-        <translation type="unfinished"></translation>
+        <translation>インクリボンが残りわずかです</translation>
     </message>
     <message>
         <source>print head is too hot</source>
-        <translation type="unfinished"></translation>
+        <translation>印字ヘッドが熱すぎます</translation>
     </message>
     <message>
         <source>print server has no room for more jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバーにジョブを追加する空きがありません</translation>
     </message>
     <message>
         <source>new jobs are held</source>
-        <translation type="unfinished"></translation>
+        <translation>新しいジョブは保留されます</translation>
     </message>
     <message>
         <source>printer needs attention</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターを確認してください</translation>
     </message>
     <message>
         <source>printer&apos;s driver is missing on the print server</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターのドライバーがプリントサーバーにありません</translation>
     </message>
     <message>
         <source>printer&apos;s driver is not safely installed on the print server</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターのドライバーがプリントサーバーに安全にインストールされていません</translation>
     </message>
     <message>
         <source>remote printer is paused</source>
-        <translation type="unfinished"></translation>
+        <translation>リモートプリンターが一時停止しています</translation>
     </message>
     <message>
         <source>waiting for the remote printer</source>
-        <translation type="unfinished"></translation>
+        <translation>リモートプリンターを待っています</translation>
     </message>
     <message>
         <source>waiting for the printer to finish</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターの完了を待っています</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>準備完了</translation>
     </message>
     <message>
         <source>Printing</source>
-        <translation type="unfinished"></translation>
+        <translation>印刷中</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>一時停止中</translation>
     </message>
     <message>
         <source>State unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>状態不明</translation>
     </message>
     <message>
         <source>not accepting jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブを受け付けていません</translation>
     </message>
     <message>
         <source>Not ready</source>
-        <translation type="unfinished"></translation>
+        <translation>準備できていません</translation>
     </message>
     <message>
         <source>the printers cannot be listed</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターの一覧を取得できません</translation>
     </message>
     <message>
         <source>it has no printers</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターはありません</translation>
     </message>
     <message>
         <source>it has %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 があります</translation>
     </message>
     <message>
         <source>the print server at &quot;%1&quot; has no printer &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバー「%1」にプリンター「%2」はありません: %3</translation>
     </message>
     <message>
         <source>there is no default printer: name one with -d; the print server at &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>デフォルトのプリンターがありません: -d で指定してください。プリントサーバー「%1」: %2</translation>
     </message>
     <message>
         <source>there is no default printer (%1): name one with -d; the print server at &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>デフォルトのプリンターがありません (%1): -d で指定してください。プリントサーバー「%2」: %3</translation>
     </message>
     <message>
         <source>none are saved</source>
-        <translation type="unfinished"></translation>
+        <translation>保存されているものはありません</translation>
     </message>
     <message>
         <source>saved are %1</source>
-        <translation type="unfinished"></translation>
+        <translation>保存されているのは %1 です</translation>
     </message>
     <message>
         <source>the printer &quot;%1&quot; has no saved settings &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンター「%1」に保存済みの設定「%2」はありません: %3</translation>
     </message>
     <message>
         <source>settings that are all the print server&apos;s own defaults cannot be saved as &quot;%1&quot;: choose one that differs</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてプリントサーバーの既定値のままの設定は「%1」として保存できません: 異なる設定を選んでください</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a printer, not saved settings</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」はプリンターで、保存済みの設定ではありません</translation>
     </message>
     <message>
         <source>the settings &quot;%1&quot; are the administrator&apos;s: only lpoptions as root removes them</source>
-        <translation type="unfinished"></translation>
+        <translation>設定「%1」は管理者のものです: 削除できるのは root で実行する lpoptions だけです</translation>
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>待機中</translation>
     </message>
     <message>
         <source>Held</source>
-        <translation type="unfinished"></translation>
+        <translation>保留</translation>
     </message>
     <message>
         <source>Stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>停止</translation>
     </message>
     <message>
         <source>Cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル済み</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>失敗</translation>
     </message>
     <message>
         <source>Printed</source>
-        <translation type="unfinished"></translation>
+        <translation>印刷済み</translation>
     </message>
     <message>
         <source>the printer is paused</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターが一時停止しています</translation>
     </message>
     <message>
         <source>the printer is partly paused</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターが一部停止しています</translation>
     </message>
     <message>
         <source>the document is being received</source>
-        <translation type="unfinished"></translation>
+        <translation>文書を受信しています</translation>
     </message>
     <message>
         <source>until it is released</source>
-        <translation type="unfinished"></translation>
+        <translation>解除されるまで</translation>
     </message>
     <message>
         <source>the printer needs attention</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターの確認が必要です</translation>
     </message>
     <message>
         <source>the document cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>文書を読み取れません</translation>
     </message>
     <message>
         <source>the printer cannot print this kind of document</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターはこの種類の文書を印刷できません</translation>
     </message>
     <message>
         <source>the document cannot be printed</source>
-        <translation type="unfinished"></translation>
+        <translation>文書を印刷できません</translation>
     </message>
     <message>
         <source>by the operator</source>
-        <translation type="unfinished"></translation>
+        <translation>オペレーターによる</translation>
     </message>
     <message>
         <source>at the printer</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターで</translation>
     </message>
     <message>
         <source>by the print server</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバーによる</translation>
     </message>
     <message>
         <source>the state of the job %1 is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブ %1 の状態が分かりません</translation>
     </message>
     <message>
         <source>the print server told no state of the job %1</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバーからジョブ %1 の状態の通知がありません</translation>
     </message>
     <message>
         <source>it has none</source>
-        <translation type="unfinished"></translation>
+        <translation>選択肢はありません</translation>
     </message>
     <message>
         <source>its choices are %1</source>
-        <translation type="unfinished"></translation>
+        <translation>選択肢は %1 です</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no paper size: write it as Custom.WIDTHxLENGTHmm</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は用紙サイズではありません: Custom.幅x長さmm の形で入力してください</translation>
     </message>
     <message>
         <source>the printer does not take paper of %1: it takes %2 to %3</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターは %1 の用紙に対応していません: %2 から %3 までです</translation>
     </message>
     <message>
         <source>the option %1 has no choice &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>オプション %1 に選択肢「%2」はありません: %3</translation>
     </message>
     <message>
         <source>cannot open %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1を開けません: %2</translation>
     </message>
     <message>
         <source>the connection to the print server at &quot;%1&quot; was lost: try again</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバー「%1」への接続が切れました: もう一度試してください</translation>
     </message>
     <message>
         <source>the print server at &quot;%1&quot; does not hand out the PPD of &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバー「%1」から「%2」の PPD を取得できません: %3</translation>
     </message>
     <message>
         <source>the print server at &quot;%1&quot; has no printer &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバー「%1」にプリンター「%2」はありません</translation>
     </message>
     <message>
         <source>the printer &quot;%1&quot; has no PPD on the print server at &quot;%2&quot;: choose a printer that was set up with its driver</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンター「%1」の PPD がプリントサーバー「%2」にありません: ドライバー付きで設定されたプリンターを選んでください</translation>
     </message>
     <message>
         <source>the PPD &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>PPD「%1」</translation>
     </message>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダーです</translation>
     </message>
     <message>
         <source>the PPD of &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」の PPD</translation>
     </message>
     <message>
         <source>no memory for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1のためのメモリーがありません</translation>
     </message>
     <message>
         <source>cannot use %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1を使用できません: %2</translation>
     </message>
     <message>
         <source>cannot use %1: line %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1を使用できません: %2 行目: %3</translation>
     </message>
     <message>
         <source>the name &quot;%1&quot; has %2 bytes, and a PPD&apos;s names have at most %3</source>
-        <translation type="unfinished"></translation>
+        <translation>名前「%1」は %2 バイトです。PPD の名前は最大 %3 バイトです</translation>
     </message>
     <message>
         <source>cannot read the document &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>文書「%1」を読み取れません: %2</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>空です</translation>
     </message>
     <message>
         <source>printing was cancelled, nothing was printed</source>
-        <translation type="unfinished"></translation>
+        <translation>印刷がキャンセルされたため、何も印刷されていません</translation>
     </message>
     <message>
         <source>it changed while it was sent; nothing was printed</source>
-        <translation type="unfinished"></translation>
+        <translation>送信中に変更されたため、何も印刷されていません</translation>
     </message>
     <message>
         <source>the document &quot;%1&quot; could not be sent to &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>文書「%1」を「%2」に送信できませんでした</translation>
     </message>
     <message>
         <source>%1; the job %2 may still be there: remove it with cancel %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1。ジョブ %2 がまだ残っている可能性があります: cancel %2 で削除してください</translation>
     </message>
     <message>
         <source>&quot;%1&quot; takes no job</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」はジョブを受け付けません</translation>
     </message>
     <message>
         <source>the job %1 cannot be cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブ %1 をキャンセルできません</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no printer&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」はプリンターの名前ではありません</translation>
     </message>
     <message>
         <source>settings cannot be saved as &quot;%1&quot;: choose a name without spaces, &quot;/&quot; and &quot;#&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>設定を「%1」として保存できません: 空白、「/」、「#」を含まない名前を選んでください</translation>
     </message>
     <message>
         <source>the option %1 cannot be saved: its value has a &quot;#&quot; or a line end</source>
-        <translation type="unfinished"></translation>
+        <translation>オプション %1 を保存できません: 値に「#」または改行が含まれています</translation>
     </message>
     <message>
         <source>the options cannot be saved in &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>オプションを「%1」に保存できません: %2</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1、%2</translation>
     </message>
     <message>
         <source>%1 - %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>no print server gives an encrypted connection at &quot;%1&quot; (%2): start one or leave out -E</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」に暗号化された接続を提供するプリントサーバーがありません (%2): 起動するか、-E を外してください</translation>
     </message>
     <message>
         <source>no print server answers at &quot;%1&quot;: start it or name another with -h</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」のプリントサーバーが応答しません: 起動するか、-h で別のサーバーを指定してください</translation>
     </message>
     <message>
         <source>nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>応答なし</translation>
     </message>
     <message>
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: プリントサーバー「%2」からの応答: %3</translation>
     </message>
 </context>
 <context>
     <name>cutline::DialogSession</name>
     <message>
         <source>Waiting for the print server...</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバーを待っています…</translation>
     </message>
 </context>
 <context>
     <name>cutline::JobForm</name>
     <message>
         <source>&amp;Copies:</source>
-        <translation type="unfinished"></translation>
+        <translation>部数(&amp;C):</translation>
     </message>
     <message>
         <source>P&amp;ages:</source>
-        <translation type="unfinished"></translation>
+        <translation>ページ(&amp;A):</translation>
     </message>
     <message>
         <source>Pape&amp;r:</source>
-        <translation type="unfinished"></translation>
+        <translation>用紙(&amp;R):</translation>
     </message>
     <message>
         <source>Copies</source>
-        <translation type="unfinished"></translation>
+        <translation>部数</translation>
     </message>
     <message>
         <source>All, or such as 1-3,5</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて、または 1-3,5 のように</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>ページ</translation>
     </message>
     <message>
         <source>Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>用紙</translation>
     </message>
 </context>
 <context>
     <name>cutline::JobProgress</name>
     <message>
         <source>Cancel &amp;job</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブをキャンセル(&amp;J)</translation>
     </message>
     <message>
         <source>Close and &amp;let it print</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じて印刷を続ける(&amp;L)</translation>
     </message>
     <message>
         <source>Progress of the job</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブの進行状況</translation>
     </message>
     <message>
         <source>Sending to %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 に送信しています…</translation>
     </message>
     <message>
         <source>Job %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブ %1: %2</translation>
     </message>
     <message>
         <source>Job %1: %2 - %3</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブ %1: %2 – %3</translation>
     </message>
     <message>
         <source>Cancelling...</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセルしています…</translation>
     </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
     <message>
         <source>Job %1 was sent, but the server no longer tells its state: %2. It may still be printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブ %1 は送信されましたが、サーバーが状態を返さなくなりました: %2。まだ印刷される可能性があります。</translation>
     </message>
     <message>
         <source>Job %1 was cancelled at the printer</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブ %1 はプリンターでキャンセルされました</translation>
     </message>
     <message>
         <source>%1 gave job %2 up</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 がジョブ %2 を中止しました</translation>
     </message>
     <message>
         <source> (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation> (%1)</translation>
     </message>
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%2。プリンターの準備ができていることを確認して、もう一度印刷してください。</translation>
     </message>
 </context>
 <context>
     <name>cutline::MoreOptionsPanel</name>
     <message>
         <source>More printer options</source>
-        <translation type="unfinished"></translation>
+        <translation>その他のプリンターオプション</translation>
     </message>
     <message>
         <source>%1:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
     <name>cutline::NoticeView</name>
     <message>
         <source>Chan&amp;ge the others</source>
-        <translation type="unfinished"></translation>
+        <translation>ほかを変更(&amp;G)</translation>
     </message>
     <message>
         <source>Keep the latest choice and change those that exclude it</source>
-        <translation type="unfinished"></translation>
+        <translation>最後の選択を残し、両立しないものを変更します</translation>
     </message>
 </context>
 <context>
     <name>cutline::PanelFrame</name>
     <message>
         <source>This printer has no panel of its own. Its options are under &quot;More printer options&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>このプリンター専用のパネルはありません。オプションは「その他のプリンターオプション」にあります。</translation>
     </message>
 </context>
 <context>
     <name>cutline::PlaceholderDocument</name>
     <message>
         <source>No preview for this kind of document; it prints as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>この種類の文書はプレビューできません。そのまま印刷されます</translation>
     </message>
 </context>
 <context>
     <name>cutline::PresetBar</name>
     <message>
         <source>Pr&amp;eset:</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセット(&amp;E):</translation>
     </message>
     <message>
         <source>&amp;Save...</source>
-        <translation type="unfinished"></translation>
+        <translation>保存(&amp;S)…</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>削除(&amp;D)</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセット</translation>
     </message>
     <message>
         <source>Save these settings as a preset</source>
-        <translation type="unfinished"></translation>
+        <translation>この設定をプリセットとして保存</translation>
     </message>
     <message>
         <source>Delete the chosen preset</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したプリセットを削除</translation>
     </message>
     <message>
         <source>Printer&apos;s own settings</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターの設定</translation>
     </message>
     <message>
         <source>Delete preset</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセットの削除</translation>
     </message>
     <message>
         <source>Delete the preset &quot;%1&quot; of this printer?</source>
-        <translation type="unfinished"></translation>
+        <translation>このプリンターのプリセット「%1」を削除しますか?</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
     <name>cutline::PresetNameDialog</name>
     <message>
         <source>Type a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>名前を入力してください。</translation>
     </message>
     <message>
         <source>The name is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>名前が長すぎます。</translation>
     </message>
     <message>
         <source>Use letters, digits, dashes and underscores, without blanks.</source>
-        <translation type="unfinished"></translation>
+        <translation>文字、数字、ハイフン、アンダースコアを使い、空白は入れないでください。</translation>
     </message>
     <message>
         <source>Save preset</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセットの保存</translation>
     </message>
     <message>
         <source>&amp;Name of the preset:</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセットの名前(&amp;N):</translation>
     </message>
     <message>
         <source>Name of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセットの名前</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存(&amp;S)</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Replaces the preset of this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>同じ名前のプリセットを置き換えます。</translation>
     </message>
 </context>
 <context>
     <name>cutline::PrintDialog</name>
     <message>
         <source>&amp;More printer options</source>
-        <translation type="unfinished"></translation>
+        <translation>その他のプリンターオプション(&amp;M)</translation>
     </message>
     <message>
         <source>Pr&amp;int</source>
-        <translation type="unfinished"></translation>
+        <translation>印刷(&amp;P)</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>印刷</translation>
     </message>
     <message>
         <source>Print %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 の印刷</translation>
     </message>
     <message>
         <source>No preview: its module is not installed</source>
-        <translation type="unfinished"></translation>
+        <translation>プレビューなし: モジュールがインストールされていません</translation>
     </message>
     <message>
         <source>This document cannot be shown</source>
-        <translation type="unfinished"></translation>
+        <translation>この文書は表示できません</translation>
     </message>
     <message>
         <source>Label %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ラベル %1: %2</translation>
     </message>
     <message>
         <source>The job was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブはキャンセルされました。</translation>
     </message>
     <message>
         <source>No printer</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターなし</translation>
     </message>
     <message>
         <source>No document</source>
-        <translation type="unfinished"></translation>
+        <translation>文書なし</translation>
     </message>
     <message>
         <source>Opening %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を開いています…</translation>
     </message>
     <message>
         <source>%1 does not print now (%2). A job waits until the printer is ready again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 は現在印刷していません (%2)。ジョブはプリンターの準備ができるまで待機します。</translation>
     </message>
     <message>
         <source>%1 does not accept jobs. Choose another printer, or ask whoever looks after this one.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 はジョブを受け付けていません。別のプリンターを選ぶか、このプリンターの担当者に問い合わせてください。</translation>
     </message>
     <message>
         <source>No printer is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターが開かれていません。</translation>
     </message>
     <message>
         <source>This is a PPD file, no printer: printing is switched off.</source>
-        <translation type="unfinished"></translation>
+        <translation>これは PPD ファイルで、プリンターではありません: 印刷はできません。</translation>
     </message>
     <message>
         <source>There is no document to print: start with &quot;cutline FILE&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>印刷する文書がありません: 「cutline ファイル」で起動してください。</translation>
     </message>
     <message>
         <source>This document cannot be printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>この文書は印刷できません。</translation>
     </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
     <message>
         <source>&amp;Printer:</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンター(&amp;N):</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンター</translation>
     </message>
     <message>
         <source>PPD file, no printer</source>
-        <translation type="unfinished"></translation>
+        <translation>PPD ファイル、プリンターなし</translation>
     </message>
 </context>
 <context>
     <name>cutline::StripPane</name>
     <message>
         <source>Previous label</source>
-        <translation type="unfinished"></translation>
+        <translation>前のラベル</translation>
     </message>
     <message>
         <source>Next label</source>
-        <translation type="unfinished"></translation>
+        <translation>次のラベル</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>縮小</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>全体</translation>
     </message>
     <message>
         <source>Fit a label into the view</source>
-        <translation type="unfinished"></translation>
+        <translation>ラベルを表示領域に合わせる</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>拡大</translation>
     </message>
     <message>
         <source>No preview</source>
-        <translation type="unfinished"></translation>
+        <translation>プレビューなし</translation>
     </message>
     <message>
         <source>Label %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ラベル %1/%2</translation>
     </message>
 </context>
 <context>
     <name>cutline::StripView</name>
     <message>
         <source>Preview of the labels</source>
-        <translation type="unfinished"></translation>
+        <translation>ラベルのプレビュー</translation>
     </message>
     <message>
         <source>%1 - not printed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – 印刷しない</translation>
     </message>
 </context>
 <context>
     <name>cutline::SummaryView</name>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>概要</translation>
     </message>
     <message>
         <source>%1:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
     <name>document</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>is a directory; name a document</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダーです。文書を指定してください</translation>
     </message>
     <message>
         <source>the file is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが空です</translation>
     </message>
     <message>
         <source>the picture cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>画像を読み取れません: %1</translation>
     </message>
     <message>
         <source>the picture cannot be drawn: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>画像を描画できません: %1</translation>
     </message>
     <message>
         <source>there is no such page</source>
-        <translation type="unfinished"></translation>
+        <translation>そのページはありません</translation>
     </message>
     <message>
         <source>the page cannot be drawn at this size</source>
-        <translation type="unfinished"></translation>
+        <translation>この大きさではページを描画できません</translation>
     </message>
     <message>
         <source>page %1 cannot be drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>ページ %1 を描画できません</translation>
     </message>
     <message>
         <source>page %1 cannot be drawn: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ページ %1 を描画できません: %2</translation>
     </message>
     <message>
         <source>the PDF is damaged; open it elsewhere and save it again</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF が壊れています。別のプログラムで開いて保存し直してください</translation>
     </message>
     <message>
         <source>the PDF is locked with a password; save it without one</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF はパスワードで保護されています。パスワードなしで保存してください</translation>
     </message>
     <message>
         <source>the PDF has no pages</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF にページがありません</translation>
     </message>
     <message>
         <source>the page cannot be drawn: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ページを描画できません: %1</translation>
     </message>
 </context>
 <context>
     <name>host</name>
     <message>
         <source>&quot;%1: %2&quot; cannot be used together with &quot;%3: %4&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1: %2」は「%3: %4」と同時に使用できません。</translation>
     </message>
     <message>
         <source>%1 Change one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 どちらかを変更してください。</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot; because special tape is on.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 特殊テープがオンのため、「%2」で送信されます。</translation>
     </message>
     <message>
         <source>%1: stays &quot;%2&quot; because it cannot be changed on the paper &quot;%3&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 用紙「%3」では変更できないため、「%2」のままです。</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; must not be cut automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 用紙「%3」は自動カットできないため、「%2」で送信されます。</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 「%2」で送信されます。</translation>
     </message>
     <message>
         <source>unknown option &quot;%1&quot;; this printer has no such option</source>
-        <translation type="unfinished"></translation>
+        <translation>不明なオプション「%1」: このプリンターにそのオプションはありません</translation>
     </message>
     <message>
         <source>unknown option &quot;%1&quot;; is it %2?</source>
-        <translation type="unfinished"></translation>
+        <translation>不明なオプション「%1」: %2 のことですか?</translation>
     </message>
     <message>
         <source>page range &quot;%1&quot;: %2; write pages like 1-4,7</source>
-        <translation type="unfinished"></translation>
+        <translation>ページ範囲「%1」: %2。1-4,7 のように入力してください</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no page or range of pages</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」はページでもページ範囲でもありません</translation>
     </message>
     <message>
         <source>pages must be in ascending order</source>
-        <translation type="unfinished"></translation>
+        <translation>ページは小さい順に指定してください</translation>
     </message>
     <message>
         <source>the panel &quot;%1&quot; does not agree to print with these settings; change them and print again</source>
-        <translation type="unfinished"></translation>
+        <translation>パネル「%1」はこの設定での印刷に同意していません。設定を変更して、もう一度印刷してください</translation>
     </message>
     <message>
         <source>unknown paper &quot;%1&quot;; this printer has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>不明な用紙「%1」: このプリンターで使えるのは %2 です</translation>
     </message>
     <message>
         <source>this printer has no option &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>このプリンターにオプション「%1」はありません</translation>
     </message>
     <message>
         <source>copies: %1 is not between 1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>部数: %1 は 1 から %2 の範囲にありません</translation>
     </message>
     <message>
         <source>a PPD file alone cannot print; choose a printer</source>
-        <translation type="unfinished"></translation>
+        <translation>PPD ファイルだけでは印刷できません。プリンターを選んでください</translation>
     </message>
     <message>
         <source>%1: there is no such document</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: その文書はありません</translation>
     </message>
 </context>
 </TS>

@@ -5,898 +5,898 @@
     <name>cups</name>
     <message>
         <source>label roll or tape is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>라벨 롤 또는 테이프가 없음</translation>
     </message>
     <message>
         <source>labels or tape needed</source>
-        <translation type="unfinished"></translation>
+        <translation>라벨 또는 테이프가 필요함</translation>
     </message>
     <message>
         <source>label or tape is jammed</source>
-        <translation type="unfinished"></translation>
+        <translation>라벨 또는 테이프가 걸림</translation>
     </message>
     <message>
         <source>labels or tape nearly used up</source>
-        <translation type="unfinished"></translation>
+        <translation>라벨 또는 테이프가 거의 없음</translation>
     </message>
     <message>
         <source>cover is open</source>
-        <translation type="unfinished"></translation>
+        <translation>덮개가 열려 있음</translation>
     </message>
     <message>
         <source>door is open</source>
-        <translation type="unfinished"></translation>
+        <translation>문이 열려 있음</translation>
     </message>
     <message>
         <source>cover is not locked</source>
-        <translation type="unfinished"></translation>
+        <translation>덮개가 잠겨 있지 않음</translation>
     </message>
     <message>
         <source>cassette is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>카세트가 없음</translation>
     </message>
     <message>
         <source>printer is switched off or not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>프린터가 꺼져 있거나 연결되어 있지 않음</translation>
     </message>
     <message>
         <source>printer is switched off</source>
-        <translation type="unfinished"></translation>
+        <translation>프린터가 꺼져 있음</translation>
     </message>
     <message>
         <source>printer does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>프린터가 응답하지 않음</translation>
     </message>
     <message>
         <source>connecting to the printer</source>
-        <translation type="unfinished"></translation>
+        <translation>프린터에 연결 중</translation>
     </message>
     <message>
         <source>pausing after the current label</source>
-        <translation type="unfinished"></translation>
+        <translation>현재 라벨 다음에 일시 정지</translation>
     </message>
     <message>
         <source>stopping</source>
-        <translation type="unfinished"></translation>
+        <translation>정지하는 중</translation>
     </message>
     <message>
         <source>partly stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>일부 정지됨</translation>
     </message>
     <message>
         <source>cutter needs attention</source>
-        <translation type="unfinished"></translation>
+        <translation>커터를 확인하십시오</translation>
     </message>
     <message>
         <source>cutter failed</source>
-        <translation type="unfinished"></translation>
+        <translation>커터 고장</translation>
     </message>
     <message>
         <source>cutter is jammed</source>
-        <translation type="unfinished"></translation>
+        <translation>커터가 걸림</translation>
     </message>
     <message>
         <source>cutter is nearly worn out</source>
-        <translation type="unfinished"></translation>
+        <translation>커터가 거의 마모됨</translation>
     </message>
     <message>
         <source>cutter is worn out</source>
-        <translation type="unfinished"></translation>
+        <translation>커터가 마모됨</translation>
     </message>
     <message>
         <source>ink ribbon is used up</source>
-        <translation type="unfinished"></translation>
+        <translation>잉크 리본이 없음</translation>
     </message>
     <message>
         <source>ink ribbon is nearly used up</source>
-        <translation type="unfinished"></translation>
+        <translation>잉크 리본이 거의 없음</translation>
     </message>
     <message>
         <source>print head is too hot</source>
-        <translation type="unfinished"></translation>
+        <translation>프린트 헤드가 너무 뜨거움</translation>
     </message>
     <message>
         <source>print server has no room for more jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>프린트 서버에 작업을 더 받을 공간이 없음</translation>
     </message>
     <message>
         <source>new jobs are held</source>
-        <translation type="unfinished"></translation>
+        <translation>새 작업이 보류됨</translation>
     </message>
     <message>
         <source>printer needs attention</source>
-        <translation type="unfinished"></translation>
+        <translation>프린터를 확인하십시오</translation>
     </message>
     <message>
         <source>printer&apos;s driver is missing on the print server</source>
-        <translation type="unfinished"></translation>
+        <translation>프린트 서버에 프린터 드라이버가 없음</translation>
     </message>
     <message>
         <source>printer&apos;s driver is not safely installed on the print server</source>
-        <translation type="unfinished"></translation>
+        <translation>프린트 서버에 프린터 드라이버가 안전하게 설치되어 있지 않음</translation>
     </message>
     <message>
         <source>remote printer is paused</source>
-        <translation type="unfinished"></translation>
+        <translation>원격 프린터가 일시 정지됨</translation>
     </message>
     <message>
         <source>waiting for the remote printer</source>
-        <translation type="unfinished"></translation>
+        <translation>원격 프린터를 기다리는 중</translation>
     </message>
     <message>
         <source>waiting for the printer to finish</source>
-        <translation type="unfinished"></translation>
+        <translation>프린터가 끝나기를 기다리는 중</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>준비됨</translation>
     </message>
     <message>
         <source>Printing</source>
-        <translation type="unfinished"></translation>
+        <translation>인쇄 중</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>일시 정지됨</translation>
     </message>
     <message>
         <source>State unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>상태를 알 수 없음</translation>
     </message>
     <message>
         <source>not accepting jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>작업을 받지 않음</translation>
     </message>
     <message>
         <source>Not ready</source>
-        <translation type="unfinished"></translation>
+        <translation>준비되지 않음</translation>
     </message>
     <message>
         <source>the printers cannot be listed</source>
-        <translation type="unfinished"></translation>
+        <translation>프린터 목록을 가져올 수 없습니다</translation>
     </message>
     <message>
         <source>it has no printers</source>
-        <translation type="unfinished"></translation>
+        <translation>프린터가 없습니다</translation>
     </message>
     <message>
         <source>it has %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1이(가) 있습니다</translation>
     </message>
     <message>
         <source>the print server at &quot;%1&quot; has no printer &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>프린트 서버 “%1”에 프린터 “%2”이(가) 없습니다: %3</translation>
     </message>
     <message>
         <source>there is no default printer: name one with -d; the print server at &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>기본 프린터가 없습니다: -d로 지정하십시오. 프린트 서버 “%1”: %2</translation>
     </message>
     <message>
         <source>there is no default printer (%1): name one with -d; the print server at &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>기본 프린터가 없습니다(%1): -d로 지정하십시오. 프린트 서버 “%2”: %3</translation>
     </message>
     <message>
         <source>none are saved</source>
-        <translation type="unfinished"></translation>
+        <translation>저장된 설정이 없습니다</translation>
     </message>
     <message>
         <source>saved are %1</source>
-        <translation type="unfinished"></translation>
+        <translation>저장된 설정은 %1입니다</translation>
     </message>
     <message>
         <source>the printer &quot;%1&quot; has no saved settings &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>프린터 “%1”에 저장된 설정 “%2”이(가) 없습니다: %3</translation>
     </message>
     <message>
         <source>settings that are all the print server&apos;s own defaults cannot be saved as &quot;%1&quot;: choose one that differs</source>
-        <translation type="unfinished"></translation>
+        <translation>모두 프린트 서버의 기본값인 설정은 “%1”(으)로 저장할 수 없습니다: 다른 설정을 선택하십시오</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a printer, not saved settings</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”은(는) 저장된 설정이 아니라 프린터입니다</translation>
     </message>
     <message>
         <source>the settings &quot;%1&quot; are the administrator&apos;s: only lpoptions as root removes them</source>
-        <translation type="unfinished"></translation>
+        <translation>설정 “%1”은(는) 관리자의 것입니다: root로 실행한 lpoptions만 삭제할 수 있습니다</translation>
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>대기 중</translation>
     </message>
     <message>
         <source>Held</source>
-        <translation type="unfinished"></translation>
+        <translation>보류됨</translation>
     </message>
     <message>
         <source>Stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>정지됨</translation>
     </message>
     <message>
         <source>Cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>취소됨</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>실패</translation>
     </message>
     <message>
         <source>Printed</source>
-        <translation type="unfinished"></translation>
+        <translation>인쇄됨</translation>
     </message>
     <message>
         <source>the printer is paused</source>
-        <translation type="unfinished"></translation>
+        <translation>프린터가 일시 정지됨</translation>
     </message>
     <message>
         <source>the printer is partly paused</source>
-        <translation type="unfinished"></translation>
+        <translation>프린터가 일부 정지됨</translation>
     </message>
     <message>
         <source>the document is being received</source>
-        <translation type="unfinished"></translation>
+        <translation>문서를 받는 중</translation>
     </message>
     <message>
         <source>until it is released</source>
-        <translation type="unfinished"></translation>
+        <translation>해제될 때까지</translation>
     </message>
     <message>
         <source>the printer needs attention</source>
-        <translation type="unfinished"></translation>
+        <translation>프린터를 확인해야 함</translation>
     </message>
     <message>
         <source>the document cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>문서를 읽을 수 없음</translation>
     </message>
     <message>
         <source>the printer cannot print this kind of document</source>
-        <translation type="unfinished"></translation>
+        <translation>프린터가 이 종류의 문서를 인쇄할 수 없음</translation>
     </message>
     <message>
         <source>the document cannot be printed</source>
-        <translation type="unfinished"></translation>
+        <translation>문서를 인쇄할 수 없음</translation>
     </message>
     <message>
         <source>by the operator</source>
-        <translation type="unfinished"></translation>
+        <translation>운영자가</translation>
     </message>
     <message>
         <source>at the printer</source>
-        <translation type="unfinished"></translation>
+        <translation>프린터에서</translation>
     </message>
     <message>
         <source>by the print server</source>
-        <translation type="unfinished"></translation>
+        <translation>프린트 서버가</translation>
     </message>
     <message>
         <source>the state of the job %1 is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>작업 %1의 상태를 알 수 없습니다</translation>
     </message>
     <message>
         <source>the print server told no state of the job %1</source>
-        <translation type="unfinished"></translation>
+        <translation>프린트 서버가 작업 %1의 상태를 알려 주지 않았습니다</translation>
     </message>
     <message>
         <source>it has none</source>
-        <translation type="unfinished"></translation>
+        <translation>선택 항목이 없습니다</translation>
     </message>
     <message>
         <source>its choices are %1</source>
-        <translation type="unfinished"></translation>
+        <translation>선택 항목은 %1입니다</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no paper size: write it as Custom.WIDTHxLENGTHmm</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”은(는) 용지 크기가 아닙니다: Custom.너비x길이mm 형식으로 쓰십시오</translation>
     </message>
     <message>
         <source>the printer does not take paper of %1: it takes %2 to %3</source>
-        <translation type="unfinished"></translation>
+        <translation>프린터가 %1 용지를 지원하지 않습니다: %2부터 %3까지입니다</translation>
     </message>
     <message>
         <source>the option %1 has no choice &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>옵션 %1에 선택 항목 “%2”이(가) 없습니다: %3</translation>
     </message>
     <message>
         <source>cannot open %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1을(를) 열 수 없습니다: %2</translation>
     </message>
     <message>
         <source>the connection to the print server at &quot;%1&quot; was lost: try again</source>
-        <translation type="unfinished"></translation>
+        <translation>프린트 서버 “%1”과(와)의 연결이 끊어졌습니다: 다시 시도하십시오</translation>
     </message>
     <message>
         <source>the print server at &quot;%1&quot; does not hand out the PPD of &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>프린트 서버 “%1”이(가) “%2”의 PPD를 내주지 않습니다: %3</translation>
     </message>
     <message>
         <source>the print server at &quot;%1&quot; has no printer &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>프린트 서버 “%1”에 프린터 “%2”이(가) 없습니다</translation>
     </message>
     <message>
         <source>the printer &quot;%1&quot; has no PPD on the print server at &quot;%2&quot;: choose a printer that was set up with its driver</source>
-        <translation type="unfinished"></translation>
+        <translation>프린터 “%1”의 PPD가 프린트 서버 “%2”에 없습니다: 드라이버와 함께 설정된 프린터를 선택하십시오</translation>
     </message>
     <message>
         <source>the PPD &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>PPD “%1”</translation>
     </message>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>폴더입니다</translation>
     </message>
     <message>
         <source>the PPD of &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”의 PPD</translation>
     </message>
     <message>
         <source>no memory for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에 쓸 메모리가 없습니다</translation>
     </message>
     <message>
         <source>cannot use %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1을(를) 사용할 수 없습니다: %2</translation>
     </message>
     <message>
         <source>cannot use %1: line %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1을(를) 사용할 수 없습니다: %2행: %3</translation>
     </message>
     <message>
         <source>the name &quot;%1&quot; has %2 bytes, and a PPD&apos;s names have at most %3</source>
-        <translation type="unfinished"></translation>
+        <translation>이름 “%1”은(는) %2바이트입니다. PPD의 이름은 최대 %3바이트입니다</translation>
     </message>
     <message>
         <source>cannot read the document &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>문서 “%1”을(를) 읽을 수 없습니다: %2</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>비어 있습니다</translation>
     </message>
     <message>
         <source>printing was cancelled, nothing was printed</source>
-        <translation type="unfinished"></translation>
+        <translation>인쇄가 취소되어 아무것도 인쇄되지 않았습니다</translation>
     </message>
     <message>
         <source>it changed while it was sent; nothing was printed</source>
-        <translation type="unfinished"></translation>
+        <translation>보내는 동안 변경되어 아무것도 인쇄되지 않았습니다</translation>
     </message>
     <message>
         <source>the document &quot;%1&quot; could not be sent to &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>문서 “%1”을(를) “%2”(으)로 보낼 수 없습니다</translation>
     </message>
     <message>
         <source>%1; the job %2 may still be there: remove it with cancel %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. 작업 %2이(가) 아직 남아 있을 수 있습니다: cancel %2로 삭제하십시오</translation>
     </message>
     <message>
         <source>&quot;%1&quot; takes no job</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”이(가) 작업을 받지 않습니다</translation>
     </message>
     <message>
         <source>the job %1 cannot be cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>작업 %1을(를) 취소할 수 없습니다</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no printer&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”은(는) 프린터 이름이 아닙니다</translation>
     </message>
     <message>
         <source>settings cannot be saved as &quot;%1&quot;: choose a name without spaces, &quot;/&quot; and &quot;#&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>설정을 “%1”(으)로 저장할 수 없습니다: 공백, “/”, “#”이 없는 이름을 선택하십시오</translation>
     </message>
     <message>
         <source>the option %1 cannot be saved: its value has a &quot;#&quot; or a line end</source>
-        <translation type="unfinished"></translation>
+        <translation>옵션 %1을(를) 저장할 수 없습니다: 값에 “#” 또는 줄 바꿈이 있습니다</translation>
     </message>
     <message>
         <source>the options cannot be saved in &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>옵션을 “%1”에 저장할 수 없습니다: %2</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1 - %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>no print server gives an encrypted connection at &quot;%1&quot; (%2): start one or leave out -E</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”에서 암호화된 연결을 제공하는 프린트 서버가 없습니다(%2): 서버를 시작하거나 -E를 빼십시오</translation>
     </message>
     <message>
         <source>no print server answers at &quot;%1&quot;: start it or name another with -h</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”에서 응답하는 프린트 서버가 없습니다: 서버를 시작하거나 -h로 다른 서버를 지정하십시오</translation>
     </message>
     <message>
         <source>nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>응답 없음</translation>
     </message>
     <message>
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 프린트 서버 “%2”의 응답: %3</translation>
     </message>
 </context>
 <context>
     <name>cutline::DialogSession</name>
     <message>
         <source>Waiting for the print server...</source>
-        <translation type="unfinished"></translation>
+        <translation>프린트 서버를 기다리는 중…</translation>
     </message>
 </context>
 <context>
     <name>cutline::JobForm</name>
     <message>
         <source>&amp;Copies:</source>
-        <translation type="unfinished"></translation>
+        <translation>매수(&amp;C):</translation>
     </message>
     <message>
         <source>P&amp;ages:</source>
-        <translation type="unfinished"></translation>
+        <translation>페이지(&amp;A):</translation>
     </message>
     <message>
         <source>Pape&amp;r:</source>
-        <translation type="unfinished"></translation>
+        <translation>용지(&amp;R):</translation>
     </message>
     <message>
         <source>Copies</source>
-        <translation type="unfinished"></translation>
+        <translation>매수</translation>
     </message>
     <message>
         <source>All, or such as 1-3,5</source>
-        <translation type="unfinished"></translation>
+        <translation>모두, 또는 1-3,5와 같이</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>페이지</translation>
     </message>
     <message>
         <source>Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>용지</translation>
     </message>
 </context>
 <context>
     <name>cutline::JobProgress</name>
     <message>
         <source>Cancel &amp;job</source>
-        <translation type="unfinished"></translation>
+        <translation>작업 취소(&amp;J)</translation>
     </message>
     <message>
         <source>Close and &amp;let it print</source>
-        <translation type="unfinished"></translation>
+        <translation>닫고 계속 인쇄(&amp;L)</translation>
     </message>
     <message>
         <source>Progress of the job</source>
-        <translation type="unfinished"></translation>
+        <translation>작업 진행 상황</translation>
     </message>
     <message>
         <source>Sending to %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>%1(으)로 보내는 중…</translation>
     </message>
     <message>
         <source>Job %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>작업 %1: %2</translation>
     </message>
     <message>
         <source>Job %1: %2 - %3</source>
-        <translation type="unfinished"></translation>
+        <translation>작업 %1: %2 – %3</translation>
     </message>
     <message>
         <source>Cancelling...</source>
-        <translation type="unfinished"></translation>
+        <translation>취소하는 중…</translation>
     </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
     <message>
         <source>Job %1 was sent, but the server no longer tells its state: %2. It may still be printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>작업 %1을(를) 보냈지만 서버가 더 이상 상태를 알려 주지 않습니다: %2. 아직 인쇄될 수 있습니다.</translation>
     </message>
     <message>
         <source>Job %1 was cancelled at the printer</source>
-        <translation type="unfinished"></translation>
+        <translation>작업 %1이(가) 프린터에서 취소되었습니다</translation>
     </message>
     <message>
         <source>%1 gave job %2 up</source>
-        <translation type="unfinished"></translation>
+        <translation>%1이(가) 작업 %2을(를) 중단했습니다</translation>
     </message>
     <message>
         <source> (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation> (%1)</translation>
     </message>
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%2. 프린터가 준비되었는지 확인한 다음 다시 인쇄하십시오.</translation>
     </message>
 </context>
 <context>
     <name>cutline::MoreOptionsPanel</name>
     <message>
         <source>More printer options</source>
-        <translation type="unfinished"></translation>
+        <translation>추가 프린터 옵션</translation>
     </message>
     <message>
         <source>%1:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
     <name>cutline::NoticeView</name>
     <message>
         <source>Chan&amp;ge the others</source>
-        <translation type="unfinished"></translation>
+        <translation>나머지 변경(&amp;G)</translation>
     </message>
     <message>
         <source>Keep the latest choice and change those that exclude it</source>
-        <translation type="unfinished"></translation>
+        <translation>마지막 선택을 유지하고 함께 쓸 수 없는 것을 변경합니다</translation>
     </message>
 </context>
 <context>
     <name>cutline::PanelFrame</name>
     <message>
         <source>This printer has no panel of its own. Its options are under &quot;More printer options&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 프린터에는 전용 패널이 없습니다. 옵션은 “추가 프린터 옵션”에 있습니다.</translation>
     </message>
 </context>
 <context>
     <name>cutline::PlaceholderDocument</name>
     <message>
         <source>No preview for this kind of document; it prints as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>이 종류의 문서는 미리 볼 수 없습니다. 그대로 인쇄됩니다</translation>
     </message>
 </context>
 <context>
     <name>cutline::PresetBar</name>
     <message>
         <source>Pr&amp;eset:</source>
-        <translation type="unfinished"></translation>
+        <translation>사전 설정(&amp;E):</translation>
     </message>
     <message>
         <source>&amp;Save...</source>
-        <translation type="unfinished"></translation>
+        <translation>저장(&amp;S)…</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>삭제(&amp;D)</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>사전 설정</translation>
     </message>
     <message>
         <source>Save these settings as a preset</source>
-        <translation type="unfinished"></translation>
+        <translation>이 설정을 사전 설정으로 저장</translation>
     </message>
     <message>
         <source>Delete the chosen preset</source>
-        <translation type="unfinished"></translation>
+        <translation>선택한 사전 설정 삭제</translation>
     </message>
     <message>
         <source>Printer&apos;s own settings</source>
-        <translation type="unfinished"></translation>
+        <translation>프린터 자체 설정</translation>
     </message>
     <message>
         <source>Delete preset</source>
-        <translation type="unfinished"></translation>
+        <translation>사전 설정 삭제</translation>
     </message>
     <message>
         <source>Delete the preset &quot;%1&quot; of this printer?</source>
-        <translation type="unfinished"></translation>
+        <translation>이 프린터의 사전 설정 “%1”을(를) 삭제하시겠습니까?</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>취소</translation>
     </message>
 </context>
 <context>
     <name>cutline::PresetNameDialog</name>
     <message>
         <source>Type a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>이름을 입력하십시오.</translation>
     </message>
     <message>
         <source>The name is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>이름이 너무 깁니다.</translation>
     </message>
     <message>
         <source>Use letters, digits, dashes and underscores, without blanks.</source>
-        <translation type="unfinished"></translation>
+        <translation>글자, 숫자, 하이픈, 밑줄을 사용하고 공백은 넣지 마십시오.</translation>
     </message>
     <message>
         <source>Save preset</source>
-        <translation type="unfinished"></translation>
+        <translation>사전 설정 저장</translation>
     </message>
     <message>
         <source>&amp;Name of the preset:</source>
-        <translation type="unfinished"></translation>
+        <translation>사전 설정 이름(&amp;N):</translation>
     </message>
     <message>
         <source>Name of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>사전 설정 이름</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>저장(&amp;S)</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>취소</translation>
     </message>
     <message>
         <source>Replaces the preset of this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 이름의 사전 설정을 바꿉니다.</translation>
     </message>
 </context>
 <context>
     <name>cutline::PrintDialog</name>
     <message>
         <source>&amp;More printer options</source>
-        <translation type="unfinished"></translation>
+        <translation>추가 프린터 옵션(&amp;M)</translation>
     </message>
     <message>
         <source>Pr&amp;int</source>
-        <translation type="unfinished"></translation>
+        <translation>인쇄(&amp;P)</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>취소</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>인쇄</translation>
     </message>
     <message>
         <source>Print %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 인쇄</translation>
     </message>
     <message>
         <source>No preview: its module is not installed</source>
-        <translation type="unfinished"></translation>
+        <translation>미리 보기 없음: 해당 모듈이 설치되어 있지 않습니다</translation>
     </message>
     <message>
         <source>This document cannot be shown</source>
-        <translation type="unfinished"></translation>
+        <translation>이 문서는 표시할 수 없습니다</translation>
     </message>
     <message>
         <source>Label %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>라벨 %1: %2</translation>
     </message>
     <message>
         <source>The job was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>작업이 취소되었습니다.</translation>
     </message>
     <message>
         <source>No printer</source>
-        <translation type="unfinished"></translation>
+        <translation>프린터 없음</translation>
     </message>
     <message>
         <source>No document</source>
-        <translation type="unfinished"></translation>
+        <translation>문서 없음</translation>
     </message>
     <message>
         <source>Opening %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 여는 중…</translation>
     </message>
     <message>
         <source>%1 does not print now (%2). A job waits until the printer is ready again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1이(가) 지금 인쇄하지 않습니다(%2). 작업은 프린터가 다시 준비될 때까지 기다립니다.</translation>
     </message>
     <message>
         <source>%1 does not accept jobs. Choose another printer, or ask whoever looks after this one.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1이(가) 작업을 받지 않습니다. 다른 프린터를 선택하거나 이 프린터의 담당자에게 문의하십시오.</translation>
     </message>
     <message>
         <source>No printer is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>열려 있는 프린터가 없습니다.</translation>
     </message>
     <message>
         <source>This is a PPD file, no printer: printing is switched off.</source>
-        <translation type="unfinished"></translation>
+        <translation>이것은 프린터가 아니라 PPD 파일입니다: 인쇄할 수 없습니다.</translation>
     </message>
     <message>
         <source>There is no document to print: start with &quot;cutline FILE&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>인쇄할 문서가 없습니다: “cutline 파일”로 시작하십시오.</translation>
     </message>
     <message>
         <source>This document cannot be printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 문서는 인쇄할 수 없습니다.</translation>
     </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
     <message>
         <source>&amp;Printer:</source>
-        <translation type="unfinished"></translation>
+        <translation>프린터(&amp;N):</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished"></translation>
+        <translation>프린터</translation>
     </message>
     <message>
         <source>PPD file, no printer</source>
-        <translation type="unfinished"></translation>
+        <translation>PPD 파일, 프린터 없음</translation>
     </message>
 </context>
 <context>
     <name>cutline::StripPane</name>
     <message>
         <source>Previous label</source>
-        <translation type="unfinished"></translation>
+        <translation>이전 라벨</translation>
     </message>
     <message>
         <source>Next label</source>
-        <translation type="unfinished"></translation>
+        <translation>다음 라벨</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>축소</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>맞춤</translation>
     </message>
     <message>
         <source>Fit a label into the view</source>
-        <translation type="unfinished"></translation>
+        <translation>라벨을 보기에 맞춤</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>확대</translation>
     </message>
     <message>
         <source>No preview</source>
-        <translation type="unfinished"></translation>
+        <translation>미리 보기 없음</translation>
     </message>
     <message>
         <source>Label %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>라벨 %1/%2</translation>
     </message>
 </context>
 <context>
     <name>cutline::StripView</name>
     <message>
         <source>Preview of the labels</source>
-        <translation type="unfinished"></translation>
+        <translation>라벨 미리 보기</translation>
     </message>
     <message>
         <source>%1 - not printed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – 인쇄 안 함</translation>
     </message>
 </context>
 <context>
     <name>cutline::SummaryView</name>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>요약</translation>
     </message>
     <message>
         <source>%1:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
     <name>document</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>is a directory; name a document</source>
-        <translation type="unfinished"></translation>
+        <translation>폴더입니다. 문서를 지정하십시오</translation>
     </message>
     <message>
         <source>the file is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 비어 있습니다</translation>
     </message>
     <message>
         <source>the picture cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>그림을 읽을 수 없습니다: %1</translation>
     </message>
     <message>
         <source>the picture cannot be drawn: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>그림을 그릴 수 없습니다: %1</translation>
     </message>
     <message>
         <source>there is no such page</source>
-        <translation type="unfinished"></translation>
+        <translation>그런 페이지가 없습니다</translation>
     </message>
     <message>
         <source>the page cannot be drawn at this size</source>
-        <translation type="unfinished"></translation>
+        <translation>이 크기로 페이지를 그릴 수 없습니다</translation>
     </message>
     <message>
         <source>page %1 cannot be drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>페이지 %1을(를) 그릴 수 없습니다</translation>
     </message>
     <message>
         <source>page %1 cannot be drawn: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>페이지 %1을(를) 그릴 수 없습니다: %2</translation>
     </message>
     <message>
         <source>the PDF is damaged; open it elsewhere and save it again</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF가 손상되었습니다. 다른 프로그램에서 열어 다시 저장하십시오</translation>
     </message>
     <message>
         <source>the PDF is locked with a password; save it without one</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF가 암호로 잠겨 있습니다. 암호 없이 저장하십시오</translation>
     </message>
     <message>
         <source>the PDF has no pages</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF에 페이지가 없습니다</translation>
     </message>
     <message>
         <source>the page cannot be drawn: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>페이지를 그릴 수 없습니다: %1</translation>
     </message>
 </context>
 <context>
     <name>host</name>
     <message>
         <source>&quot;%1: %2&quot; cannot be used together with &quot;%3: %4&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1: %2”은(는) “%3: %4”과(와) 함께 사용할 수 없습니다.</translation>
     </message>
     <message>
         <source>%1 Change one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 둘 중 하나를 변경하십시오.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot; because special tape is on.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 특수 테이프가 켜져 있어 “%2”(으)로 보냅니다.</translation>
     </message>
     <message>
         <source>%1: stays &quot;%2&quot; because it cannot be changed on the paper &quot;%3&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 용지 “%3”에서는 변경할 수 없어 “%2” 그대로입니다.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; must not be cut automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 용지 “%3”은(는) 자동으로 절단하면 안 되므로 “%2”(으)로 보냅니다.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: “%2”(으)로 보냅니다.</translation>
     </message>
     <message>
         <source>unknown option &quot;%1&quot;; this printer has no such option</source>
-        <translation type="unfinished"></translation>
+        <translation>알 수 없는 옵션 “%1”. 이 프린터에는 그런 옵션이 없습니다</translation>
     </message>
     <message>
         <source>unknown option &quot;%1&quot;; is it %2?</source>
-        <translation type="unfinished"></translation>
+        <translation>알 수 없는 옵션 “%1”. %2입니까?</translation>
     </message>
     <message>
         <source>page range &quot;%1&quot;: %2; write pages like 1-4,7</source>
-        <translation type="unfinished"></translation>
+        <translation>페이지 범위 “%1”: %2. 페이지를 1-4,7과 같이 쓰십시오</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no page or range of pages</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”은(는) 페이지나 페이지 범위가 아닙니다</translation>
     </message>
     <message>
         <source>pages must be in ascending order</source>
-        <translation type="unfinished"></translation>
+        <translation>페이지는 오름차순이어야 합니다</translation>
     </message>
     <message>
         <source>the panel &quot;%1&quot; does not agree to print with these settings; change them and print again</source>
-        <translation type="unfinished"></translation>
+        <translation>패널 “%1”이(가) 이 설정으로 인쇄하는 데 동의하지 않습니다. 설정을 변경하고 다시 인쇄하십시오</translation>
     </message>
     <message>
         <source>unknown paper &quot;%1&quot;; this printer has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>알 수 없는 용지 “%1”. 이 프린터의 용지는 %2입니다</translation>
     </message>
     <message>
         <source>this printer has no option &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>이 프린터에는 옵션 “%1”이(가) 없습니다</translation>
     </message>
     <message>
         <source>copies: %1 is not between 1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>매수: %1은(는) 1에서 %2 사이가 아닙니다</translation>
     </message>
     <message>
         <source>a PPD file alone cannot print; choose a printer</source>
-        <translation type="unfinished"></translation>
+        <translation>PPD 파일만으로는 인쇄할 수 없습니다. 프린터를 선택하십시오</translation>
     </message>
     <message>
         <source>%1: there is no such document</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 그런 문서가 없습니다</translation>
     </message>
 </context>
 </TS>

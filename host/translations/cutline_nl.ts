@@ -5,898 +5,898 @@
     <name>cups</name>
     <message>
         <source>label roll or tape is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>labelrol of tape is op</translation>
     </message>
     <message>
         <source>labels or tape needed</source>
-        <translation type="unfinished"></translation>
+        <translation>labels of tape nodig</translation>
     </message>
     <message>
         <source>label or tape is jammed</source>
-        <translation type="unfinished"></translation>
+        <translation>label of tape zit vast</translation>
     </message>
     <message>
         <source>labels or tape nearly used up</source>
-        <translation type="unfinished"></translation>
+        <translation>labels of tape zijn bijna op</translation>
     </message>
     <message>
         <source>cover is open</source>
-        <translation type="unfinished"></translation>
+        <translation>deksel is open</translation>
     </message>
     <message>
         <source>door is open</source>
-        <translation type="unfinished"></translation>
+        <translation>klep is open</translation>
     </message>
     <message>
         <source>cover is not locked</source>
-        <translation type="unfinished"></translation>
+        <translation>deksel is niet vergrendeld</translation>
     </message>
     <message>
         <source>cassette is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>cassette ontbreekt</translation>
     </message>
     <message>
         <source>printer is switched off or not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>printer staat uit of is niet aangesloten</translation>
     </message>
     <message>
         <source>printer is switched off</source>
-        <translation type="unfinished"></translation>
+        <translation>printer staat uit</translation>
     </message>
     <message>
         <source>printer does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>printer antwoordt niet</translation>
     </message>
     <message>
         <source>connecting to the printer</source>
-        <translation type="unfinished"></translation>
+        <translation>verbinden met de printer</translation>
     </message>
     <message>
         <source>pausing after the current label</source>
-        <translation type="unfinished"></translation>
+        <translation>pauzeert na het huidige label</translation>
     </message>
     <message>
         <source>stopping</source>
-        <translation type="unfinished"></translation>
+        <translation>stopt</translation>
     </message>
     <message>
         <source>partly stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>gedeeltelijk gestopt</translation>
     </message>
     <message>
         <source>cutter needs attention</source>
-        <translation type="unfinished"></translation>
+        <translation>controleer het snijmechanisme</translation>
     </message>
     <message>
         <source>cutter failed</source>
-        <translation type="unfinished"></translation>
+        <translation>storing in het snijmechanisme</translation>
     </message>
     <message>
         <source>cutter is jammed</source>
-        <translation type="unfinished"></translation>
+        <translation>snijmechanisme zit vast</translation>
     </message>
     <message>
         <source>cutter is nearly worn out</source>
-        <translation type="unfinished"></translation>
+        <translation>snijmechanisme is bijna versleten</translation>
     </message>
     <message>
         <source>cutter is worn out</source>
-        <translation type="unfinished"></translation>
+        <translation>snijmechanisme is versleten</translation>
     </message>
     <message>
         <source>ink ribbon is used up</source>
-        <translation type="unfinished"></translation>
+        <translation>inktlint is op</translation>
     </message>
     <message>
         <source>ink ribbon is nearly used up</source>
-        <translation type="unfinished"></translation>
+        <translation>inktlint is bijna op</translation>
     </message>
     <message>
         <source>print head is too hot</source>
-        <translation type="unfinished"></translation>
+        <translation>printkop is te heet</translation>
     </message>
     <message>
         <source>print server has no room for more jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>printserver heeft geen ruimte voor meer taken</translation>
     </message>
     <message>
         <source>new jobs are held</source>
-        <translation type="unfinished"></translation>
+        <translation>nieuwe taken worden vastgehouden</translation>
     </message>
     <message>
         <source>printer needs attention</source>
-        <translation type="unfinished"></translation>
+        <translation>controleer de printer</translation>
     </message>
     <message>
         <source>printer&apos;s driver is missing on the print server</source>
-        <translation type="unfinished"></translation>
+        <translation>printerstuurprogramma ontbreekt op de printserver</translation>
     </message>
     <message>
         <source>printer&apos;s driver is not safely installed on the print server</source>
-        <translation type="unfinished"></translation>
+        <translation>printerstuurprogramma is niet veilig geïnstalleerd op de printserver</translation>
     </message>
     <message>
         <source>remote printer is paused</source>
-        <translation type="unfinished"></translation>
+        <translation>externe printer is gepauzeerd</translation>
     </message>
     <message>
         <source>waiting for the remote printer</source>
-        <translation type="unfinished"></translation>
+        <translation>wacht op de externe printer</translation>
     </message>
     <message>
         <source>waiting for the printer to finish</source>
-        <translation type="unfinished"></translation>
+        <translation>wacht tot de printer klaar is</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Gereed</translation>
     </message>
     <message>
         <source>Printing</source>
-        <translation type="unfinished"></translation>
+        <translation>Drukt af</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>Gepauzeerd</translation>
     </message>
     <message>
         <source>State unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Status onbekend</translation>
     </message>
     <message>
         <source>not accepting jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>neemt geen taken aan</translation>
     </message>
     <message>
         <source>Not ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Niet gereed</translation>
     </message>
     <message>
         <source>the printers cannot be listed</source>
-        <translation type="unfinished"></translation>
+        <translation>de printers kunnen niet worden opgesomd</translation>
     </message>
     <message>
         <source>it has no printers</source>
-        <translation type="unfinished"></translation>
+        <translation>hij heeft geen printers</translation>
     </message>
     <message>
         <source>it has %1</source>
-        <translation type="unfinished"></translation>
+        <translation>hij heeft %1</translation>
     </message>
     <message>
         <source>the print server at &quot;%1&quot; has no printer &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>de printserver op ‘%1’ heeft geen printer ‘%2’: %3</translation>
     </message>
     <message>
         <source>there is no default printer: name one with -d; the print server at &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>er is geen standaardprinter: noem er een met -d; de printserver op ‘%1’: %2</translation>
     </message>
     <message>
         <source>there is no default printer (%1): name one with -d; the print server at &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>er is geen standaardprinter (%1): noem er een met -d; de printserver op ‘%2’: %3</translation>
     </message>
     <message>
         <source>none are saved</source>
-        <translation type="unfinished"></translation>
+        <translation>er zijn er geen bewaard</translation>
     </message>
     <message>
         <source>saved are %1</source>
-        <translation type="unfinished"></translation>
+        <translation>bewaard zijn %1</translation>
     </message>
     <message>
         <source>the printer &quot;%1&quot; has no saved settings &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>de printer ‘%1’ heeft geen bewaarde instellingen ‘%2’: %3</translation>
     </message>
     <message>
         <source>settings that are all the print server&apos;s own defaults cannot be saved as &quot;%1&quot;: choose one that differs</source>
-        <translation type="unfinished"></translation>
+        <translation>instellingen die allemaal de standaardwaarden van de printserver zijn, kunnen niet als ‘%1’ worden bewaard: kies er een die afwijkt</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a printer, not saved settings</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’ is een printer, geen bewaarde instellingen</translation>
     </message>
     <message>
         <source>the settings &quot;%1&quot; are the administrator&apos;s: only lpoptions as root removes them</source>
-        <translation type="unfinished"></translation>
+        <translation>de instellingen ‘%1’ zijn van de beheerder: alleen lpoptions als root verwijdert ze</translation>
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>Wacht</translation>
     </message>
     <message>
         <source>Held</source>
-        <translation type="unfinished"></translation>
+        <translation>Vastgehouden</translation>
     </message>
     <message>
         <source>Stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestopt</translation>
     </message>
     <message>
         <source>Cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>Geannuleerd</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Mislukt</translation>
     </message>
     <message>
         <source>Printed</source>
-        <translation type="unfinished"></translation>
+        <translation>Afgedrukt</translation>
     </message>
     <message>
         <source>the printer is paused</source>
-        <translation type="unfinished"></translation>
+        <translation>de printer is gepauzeerd</translation>
     </message>
     <message>
         <source>the printer is partly paused</source>
-        <translation type="unfinished"></translation>
+        <translation>de printer is gedeeltelijk gepauzeerd</translation>
     </message>
     <message>
         <source>the document is being received</source>
-        <translation type="unfinished"></translation>
+        <translation>het document wordt ontvangen</translation>
     </message>
     <message>
         <source>until it is released</source>
-        <translation type="unfinished"></translation>
+        <translation>tot hij wordt vrijgegeven</translation>
     </message>
     <message>
         <source>the printer needs attention</source>
-        <translation type="unfinished"></translation>
+        <translation>de printer vraagt aandacht</translation>
     </message>
     <message>
         <source>the document cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>het document kan niet worden gelezen</translation>
     </message>
     <message>
         <source>the printer cannot print this kind of document</source>
-        <translation type="unfinished"></translation>
+        <translation>de printer kan dit soort document niet afdrukken</translation>
     </message>
     <message>
         <source>the document cannot be printed</source>
-        <translation type="unfinished"></translation>
+        <translation>het document kan niet worden afgedrukt</translation>
     </message>
     <message>
         <source>by the operator</source>
-        <translation type="unfinished"></translation>
+        <translation>door de bediening</translation>
     </message>
     <message>
         <source>at the printer</source>
-        <translation type="unfinished"></translation>
+        <translation>op de printer</translation>
     </message>
     <message>
         <source>by the print server</source>
-        <translation type="unfinished"></translation>
+        <translation>door de printserver</translation>
     </message>
     <message>
         <source>the state of the job %1 is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>de status van de taak %1 is niet bekend</translation>
     </message>
     <message>
         <source>the print server told no state of the job %1</source>
-        <translation type="unfinished"></translation>
+        <translation>de printserver gaf geen status van de taak %1</translation>
     </message>
     <message>
         <source>it has none</source>
-        <translation type="unfinished"></translation>
+        <translation>ze heeft er geen</translation>
     </message>
     <message>
         <source>its choices are %1</source>
-        <translation type="unfinished"></translation>
+        <translation>de keuzes zijn %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no paper size: write it as Custom.WIDTHxLENGTHmm</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’ is geen papierformaat: schrijf het als Custom.BREEDTExLENGTEmm</translation>
     </message>
     <message>
         <source>the printer does not take paper of %1: it takes %2 to %3</source>
-        <translation type="unfinished"></translation>
+        <translation>de printer neemt geen papier van %1: wel van %2 tot %3</translation>
     </message>
     <message>
         <source>the option %1 has no choice &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>de optie %1 heeft geen keuze ‘%2’: %3</translation>
     </message>
     <message>
         <source>cannot open %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>kan %1 niet openen: %2</translation>
     </message>
     <message>
         <source>the connection to the print server at &quot;%1&quot; was lost: try again</source>
-        <translation type="unfinished"></translation>
+        <translation>de verbinding met de printserver op ‘%1’ is verbroken: probeer het opnieuw</translation>
     </message>
     <message>
         <source>the print server at &quot;%1&quot; does not hand out the PPD of &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>de printserver op ‘%1’ geeft het PPD-bestand van ‘%2’ niet: %3</translation>
     </message>
     <message>
         <source>the print server at &quot;%1&quot; has no printer &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>de printserver op ‘%1’ heeft geen printer ‘%2’</translation>
     </message>
     <message>
         <source>the printer &quot;%1&quot; has no PPD on the print server at &quot;%2&quot;: choose a printer that was set up with its driver</source>
-        <translation type="unfinished"></translation>
+        <translation>de printer ‘%1’ heeft geen PPD-bestand op de printserver op ‘%2’: kies een printer die met zijn stuurprogramma is ingesteld</translation>
     </message>
     <message>
         <source>the PPD &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>het PPD-bestand ‘%1’</translation>
     </message>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>het is een map</translation>
     </message>
     <message>
         <source>the PPD of &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>het PPD-bestand van ‘%1’</translation>
     </message>
     <message>
         <source>no memory for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>geen geheugen voor %1</translation>
     </message>
     <message>
         <source>cannot use %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>kan %1 niet gebruiken: %2</translation>
     </message>
     <message>
         <source>cannot use %1: line %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>kan %1 niet gebruiken: regel %2: %3</translation>
     </message>
     <message>
         <source>the name &quot;%1&quot; has %2 bytes, and a PPD&apos;s names have at most %3</source>
-        <translation type="unfinished"></translation>
+        <translation>de naam ‘%1’ heeft %2 bytes, en namen in een PPD-bestand hebben er hoogstens %3</translation>
     </message>
     <message>
         <source>cannot read the document &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>kan het document ‘%1’ niet lezen: %2</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>het is leeg</translation>
     </message>
     <message>
         <source>printing was cancelled, nothing was printed</source>
-        <translation type="unfinished"></translation>
+        <translation>het afdrukken is geannuleerd, er is niets afgedrukt</translation>
     </message>
     <message>
         <source>it changed while it was sent; nothing was printed</source>
-        <translation type="unfinished"></translation>
+        <translation>het is tijdens het verzenden veranderd; er is niets afgedrukt</translation>
     </message>
     <message>
         <source>the document &quot;%1&quot; could not be sent to &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>het document ‘%1’ kon niet naar ‘%2’ worden verzonden</translation>
     </message>
     <message>
         <source>%1; the job %2 may still be there: remove it with cancel %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; misschien bestaat de taak %2 nog: verwijder die met cancel %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; takes no job</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’ neemt geen taak aan</translation>
     </message>
     <message>
         <source>the job %1 cannot be cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>de taak %1 kan niet worden geannuleerd</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no printer&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’ is geen printernaam</translation>
     </message>
     <message>
         <source>settings cannot be saved as &quot;%1&quot;: choose a name without spaces, &quot;/&quot; and &quot;#&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>instellingen kunnen niet als ‘%1’ worden bewaard: kies een naam zonder spaties, ‘/’ en ‘#’</translation>
     </message>
     <message>
         <source>the option %1 cannot be saved: its value has a &quot;#&quot; or a line end</source>
-        <translation type="unfinished"></translation>
+        <translation>de optie %1 kan niet worden bewaard: de waarde bevat een ‘#’ of een regeleinde</translation>
     </message>
     <message>
         <source>the options cannot be saved in &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>de opties kunnen niet in ‘%1’ worden bewaard: %2</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1 - %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>no print server gives an encrypted connection at &quot;%1&quot; (%2): start one or leave out -E</source>
-        <translation type="unfinished"></translation>
+        <translation>geen printserver biedt op ‘%1’ een versleutelde verbinding (%2): start er een of laat -E weg</translation>
     </message>
     <message>
         <source>no print server answers at &quot;%1&quot;: start it or name another with -h</source>
-        <translation type="unfinished"></translation>
+        <translation>geen printserver antwoordt op ‘%1’: start hem of noem een andere met -h</translation>
     </message>
     <message>
         <source>nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>niets</translation>
     </message>
     <message>
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: de printserver op ‘%2’ zegt: %3</translation>
     </message>
 </context>
 <context>
     <name>cutline::DialogSession</name>
     <message>
         <source>Waiting for the print server...</source>
-        <translation type="unfinished"></translation>
+        <translation>Wachten op de printserver…</translation>
     </message>
 </context>
 <context>
     <name>cutline::JobForm</name>
     <message>
         <source>&amp;Copies:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exemplaren:</translation>
     </message>
     <message>
         <source>P&amp;ages:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagin&amp;a’s:</translation>
     </message>
     <message>
         <source>Pape&amp;r:</source>
-        <translation type="unfinished"></translation>
+        <translation>Papie&amp;r:</translation>
     </message>
     <message>
         <source>Copies</source>
-        <translation type="unfinished"></translation>
+        <translation>Exemplaren</translation>
     </message>
     <message>
         <source>All, or such as 1-3,5</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle, of bijvoorbeeld 1-3,5</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagina’s</translation>
     </message>
     <message>
         <source>Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Papier</translation>
     </message>
 </context>
 <context>
     <name>cutline::JobProgress</name>
     <message>
         <source>Cancel &amp;job</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Taak annuleren</translation>
     </message>
     <message>
         <source>Close and &amp;let it print</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sluiten en laten afdrukken</translation>
     </message>
     <message>
         <source>Progress of the job</source>
-        <translation type="unfinished"></translation>
+        <translation>Voortgang van de taak</translation>
     </message>
     <message>
         <source>Sending to %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Verzenden naar %1…</translation>
     </message>
     <message>
         <source>Job %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Taak %1: %2</translation>
     </message>
     <message>
         <source>Job %1: %2 - %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Taak %1: %2 – %3</translation>
     </message>
     <message>
         <source>Cancelling...</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuleren…</translation>
     </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
     <message>
         <source>Job %1 was sent, but the server no longer tells its state: %2. It may still be printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Taak %1 is verzonden, maar de server meldt de status niet meer: %2. Misschien wordt ze nog afgedrukt.</translation>
     </message>
     <message>
         <source>Job %1 was cancelled at the printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Taak %1 is op de printer geannuleerd</translation>
     </message>
     <message>
         <source>%1 gave job %2 up</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 heeft taak %2 opgegeven</translation>
     </message>
     <message>
         <source> (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation> (%1)</translation>
     </message>
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%2. Controleer of de printer gereed is en druk opnieuw af.</translation>
     </message>
 </context>
 <context>
     <name>cutline::MoreOptionsPanel</name>
     <message>
         <source>More printer options</source>
-        <translation type="unfinished"></translation>
+        <translation>Meer printeropties</translation>
     </message>
     <message>
         <source>%1:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
     <name>cutline::NoticeView</name>
     <message>
         <source>Chan&amp;ge the others</source>
-        <translation type="unfinished"></translation>
+        <translation>De andere wij&amp;zigen</translation>
     </message>
     <message>
         <source>Keep the latest choice and change those that exclude it</source>
-        <translation type="unfinished"></translation>
+        <translation>De laatste keuze behouden en wijzigen wat haar uitsluit</translation>
     </message>
 </context>
 <context>
     <name>cutline::PanelFrame</name>
     <message>
         <source>This printer has no panel of its own. Its options are under &quot;More printer options&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deze printer heeft geen eigen paneel. De opties staan onder ‘Meer printeropties’.</translation>
     </message>
 </context>
 <context>
     <name>cutline::PlaceholderDocument</name>
     <message>
         <source>No preview for this kind of document; it prints as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>Geen voorbeeld voor dit soort document; het wordt afgedrukt zoals het is</translation>
     </message>
 </context>
 <context>
     <name>cutline::PresetBar</name>
     <message>
         <source>Pr&amp;eset:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Voorinstelling:</translation>
     </message>
     <message>
         <source>&amp;Save...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Opslaan…</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver&amp;wijderen</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Voorinstelling</translation>
     </message>
     <message>
         <source>Save these settings as a preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Deze instellingen als voorinstelling opslaan</translation>
     </message>
     <message>
         <source>Delete the chosen preset</source>
-        <translation type="unfinished"></translation>
+        <translation>De gekozen voorinstelling verwijderen</translation>
     </message>
     <message>
         <source>Printer&apos;s own settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Instellingen van de printer</translation>
     </message>
     <message>
         <source>Delete preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Voorinstelling verwijderen</translation>
     </message>
     <message>
         <source>Delete the preset &quot;%1&quot; of this printer?</source>
-        <translation type="unfinished"></translation>
+        <translation>De voorinstelling ‘%1’ van deze printer verwijderen?</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuleren</translation>
     </message>
 </context>
 <context>
     <name>cutline::PresetNameDialog</name>
     <message>
         <source>Type a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ een naam.</translation>
     </message>
     <message>
         <source>The name is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>De naam is te lang.</translation>
     </message>
     <message>
         <source>Use letters, digits, dashes and underscores, without blanks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gebruik letters, cijfers, streepjes en lage streepjes, zonder spaties.</translation>
     </message>
     <message>
         <source>Save preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Voorinstelling opslaan</translation>
     </message>
     <message>
         <source>&amp;Name of the preset:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Naam van de voorinstelling:</translation>
     </message>
     <message>
         <source>Name of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Naam van de voorinstelling</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Opslaan</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuleren</translation>
     </message>
     <message>
         <source>Replaces the preset of this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vervangt de voorinstelling met deze naam.</translation>
     </message>
 </context>
 <context>
     <name>cutline::PrintDialog</name>
     <message>
         <source>&amp;More printer options</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Meer printeropties</translation>
     </message>
     <message>
         <source>Pr&amp;int</source>
-        <translation type="unfinished"></translation>
+        <translation>Af&amp;drukken</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuleren</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Afdrukken</translation>
     </message>
     <message>
         <source>Print %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 afdrukken</translation>
     </message>
     <message>
         <source>No preview: its module is not installed</source>
-        <translation type="unfinished"></translation>
+        <translation>Geen voorbeeld: de module daarvoor is niet geïnstalleerd</translation>
     </message>
     <message>
         <source>This document cannot be shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Dit document kan niet worden getoond</translation>
     </message>
     <message>
         <source>Label %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Label %1: %2</translation>
     </message>
     <message>
         <source>The job was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>De taak is geannuleerd.</translation>
     </message>
     <message>
         <source>No printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Geen printer</translation>
     </message>
     <message>
         <source>No document</source>
-        <translation type="unfinished"></translation>
+        <translation>Geen document</translation>
     </message>
     <message>
         <source>Opening %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 openen…</translation>
     </message>
     <message>
         <source>%1 does not print now (%2). A job waits until the printer is ready again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 drukt nu niet af (%2). Een taak wacht tot de printer weer gereed is.</translation>
     </message>
     <message>
         <source>%1 does not accept jobs. Choose another printer, or ask whoever looks after this one.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 neemt geen taken aan. Kies een andere printer, of vraag wie deze beheert.</translation>
     </message>
     <message>
         <source>No printer is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Er is geen printer geopend.</translation>
     </message>
     <message>
         <source>This is a PPD file, no printer: printing is switched off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dit is een PPD-bestand, geen printer: afdrukken is uitgeschakeld.</translation>
     </message>
     <message>
         <source>There is no document to print: start with &quot;cutline FILE&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Er is geen document om af te drukken: start met ‘cutline BESTAND’.</translation>
     </message>
     <message>
         <source>This document cannot be printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dit document kan niet worden afgedrukt.</translation>
     </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
     <message>
         <source>&amp;Printer:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Printer:</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Printer</translation>
     </message>
     <message>
         <source>PPD file, no printer</source>
-        <translation type="unfinished"></translation>
+        <translation>PPD-bestand, geen printer</translation>
     </message>
 </context>
 <context>
     <name>cutline::StripPane</name>
     <message>
         <source>Previous label</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorig label</translation>
     </message>
     <message>
         <source>Next label</source>
-        <translation type="unfinished"></translation>
+        <translation>Volgend label</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>Uitzoomen</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Passend</translation>
     </message>
     <message>
         <source>Fit a label into the view</source>
-        <translation type="unfinished"></translation>
+        <translation>Een label passend in beeld brengen</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>Inzoomen</translation>
     </message>
     <message>
         <source>No preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Geen voorbeeld</translation>
     </message>
     <message>
         <source>Label %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Label %1 van %2</translation>
     </message>
 </context>
 <context>
     <name>cutline::StripView</name>
     <message>
         <source>Preview of the labels</source>
-        <translation type="unfinished"></translation>
+        <translation>Voorbeeld van de labels</translation>
     </message>
     <message>
         <source>%1 - not printed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – niet afgedrukt</translation>
     </message>
 </context>
 <context>
     <name>cutline::SummaryView</name>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Samenvatting</translation>
     </message>
     <message>
         <source>%1:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
     <name>document</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>is a directory; name a document</source>
-        <translation type="unfinished"></translation>
+        <translation>is een map; noem een document</translation>
     </message>
     <message>
         <source>the file is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>het bestand is leeg</translation>
     </message>
     <message>
         <source>the picture cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>de afbeelding kan niet worden gelezen: %1</translation>
     </message>
     <message>
         <source>the picture cannot be drawn: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>de afbeelding kan niet worden getekend: %1</translation>
     </message>
     <message>
         <source>there is no such page</source>
-        <translation type="unfinished"></translation>
+        <translation>deze pagina bestaat niet</translation>
     </message>
     <message>
         <source>the page cannot be drawn at this size</source>
-        <translation type="unfinished"></translation>
+        <translation>de pagina kan niet op deze grootte worden getekend</translation>
     </message>
     <message>
         <source>page %1 cannot be drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>pagina %1 kan niet worden getekend</translation>
     </message>
     <message>
         <source>page %1 cannot be drawn: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>pagina %1 kan niet worden getekend: %2</translation>
     </message>
     <message>
         <source>the PDF is damaged; open it elsewhere and save it again</source>
-        <translation type="unfinished"></translation>
+        <translation>het PDF-bestand is beschadigd; open het in een ander programma en sla het opnieuw op</translation>
     </message>
     <message>
         <source>the PDF is locked with a password; save it without one</source>
-        <translation type="unfinished"></translation>
+        <translation>het PDF-bestand is met een wachtwoord beveiligd; sla het zonder wachtwoord op</translation>
     </message>
     <message>
         <source>the PDF has no pages</source>
-        <translation type="unfinished"></translation>
+        <translation>het PDF-bestand heeft geen pagina’s</translation>
     </message>
     <message>
         <source>the page cannot be drawn: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>de pagina kan niet worden getekend: %1</translation>
     </message>
 </context>
 <context>
     <name>host</name>
     <message>
         <source>&quot;%1: %2&quot; cannot be used together with &quot;%3: %4&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1: %2’ kan niet samen met ‘%3: %4’ worden gebruikt.</translation>
     </message>
     <message>
         <source>%1 Change one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Wijzig een van beide.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot; because special tape is on.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: wordt als ‘%2’ verzonden omdat speciale tape aanstaat.</translation>
     </message>
     <message>
         <source>%1: stays &quot;%2&quot; because it cannot be changed on the paper &quot;%3&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: blijft ‘%2’ omdat het bij het papier ‘%3’ niet kan worden gewijzigd.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; must not be cut automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: wordt als ‘%2’ verzonden omdat het papier ‘%3’ niet automatisch mag worden gesneden.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: wordt als ‘%2’ verzonden.</translation>
     </message>
     <message>
         <source>unknown option &quot;%1&quot;; this printer has no such option</source>
-        <translation type="unfinished"></translation>
+        <translation>onbekende optie ‘%1’; deze printer heeft zo’n optie niet</translation>
     </message>
     <message>
         <source>unknown option &quot;%1&quot;; is it %2?</source>
-        <translation type="unfinished"></translation>
+        <translation>onbekende optie ‘%1’; is het %2?</translation>
     </message>
     <message>
         <source>page range &quot;%1&quot;: %2; write pages like 1-4,7</source>
-        <translation type="unfinished"></translation>
+        <translation>paginabereik ‘%1’: %2; schrijf pagina’s als 1-4,7</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no page or range of pages</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’ is geen pagina of paginabereik</translation>
     </message>
     <message>
         <source>pages must be in ascending order</source>
-        <translation type="unfinished"></translation>
+        <translation>de pagina’s moeten in oplopende volgorde staan</translation>
     </message>
     <message>
         <source>the panel &quot;%1&quot; does not agree to print with these settings; change them and print again</source>
-        <translation type="unfinished"></translation>
+        <translation>het paneel ‘%1’ wil met deze instellingen niet afdrukken; wijzig ze en druk opnieuw af</translation>
     </message>
     <message>
         <source>unknown paper &quot;%1&quot;; this printer has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>onbekend papier ‘%1’; deze printer heeft %2</translation>
     </message>
     <message>
         <source>this printer has no option &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>deze printer heeft geen optie ‘%1’</translation>
     </message>
     <message>
         <source>copies: %1 is not between 1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>exemplaren: %1 ligt niet tussen 1 en %2</translation>
     </message>
     <message>
         <source>a PPD file alone cannot print; choose a printer</source>
-        <translation type="unfinished"></translation>
+        <translation>een PPD-bestand alleen kan niet afdrukken; kies een printer</translation>
     </message>
     <message>
         <source>%1: there is no such document</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: dit document bestaat niet</translation>
     </message>
 </context>
 </TS>
