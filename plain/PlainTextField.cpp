@@ -55,7 +55,7 @@ void PlainTextField::setClient(std::shared_ptr<TextFieldClient> client) noexcept
 }
 
 void PlainTextField::selectText(View* sender) noexcept {
-  if (const auto client = mClient) return client->selectText(sender);
+  if (mClient) return clientCall().client->selectText(sender);
   mSelection = {0, utf16FromUtf8(stringValue()).size()};
 }
 
@@ -88,8 +88,7 @@ void PlainTextField::setSelectedRange(TextRange range) noexcept {
 bool PlainTextField::focus() noexcept {
   if (!isEnabled()) return false;
   if (mFocused) return true;
-  const auto client = mClient;
-  return client ? client->becomeFirstResponder() : superBecomeFirstResponder();
+  return mClient ? clientCall().client->becomeFirstResponder() : superBecomeFirstResponder();
 }
 
 void PlainTextField::leave() {
@@ -164,9 +163,8 @@ void PlainTextField::tellOfChange() noexcept {
   const std::weak_ptr<const bool> exists = existence();
   mEditedSinceAction = true;
   mInUserEdit = true;
-  const auto client = mClient;
-  if (client) {
-    client->textDidChange(notification(kTextDidChange));
+  if (mClient) {
+    clientCall().client->textDidChange(notification(kTextDidChange));
   } else {
     superTextDidChange(notification(kTextDidChange));
   }
@@ -174,8 +172,7 @@ void PlainTextField::tellOfChange() noexcept {
 }
 
 void PlainTextField::endEditing() {
-  const auto client = mClient;
-  if (client) return client->textDidEndEditing(notification(kTextDidEndEditing));
+  if (mClient) return clientCall().client->textDidEndEditing(notification(kTextDidEndEditing));
   superTextDidEndEditing(notification(kTextDidEndEditing));
 }
 

@@ -13,7 +13,8 @@
 
 namespace cutline {
 
-class PlainTextField final : public PlainText<TextField> {
+class PlainTextField final : public PlainText<TextField>,
+                             public std::enable_shared_from_this<PlainTextField> {
  public:
   using PlainText<TextField>::PlainText;
 
@@ -62,6 +63,15 @@ class PlainTextField final : public PlainText<TextField> {
                TextRange selection) noexcept;
   void tellOfChange() noexcept;
   void endEditing();
+
+  // The client, for one call, and with it the field: what the client calls may let go of the field,
+  // and the client still goes on with it.
+  struct ClientCall {
+    std::shared_ptr<PlainTextField> field;
+    std::shared_ptr<TextFieldClient> client;
+  };
+  ClientCall clientCall() noexcept { return {weak_from_this().lock(), mClient}; }
+
   Notification notification(const char* name) const;
 
   std::shared_ptr<Formatter> mFormatter;

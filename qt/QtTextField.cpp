@@ -46,7 +46,7 @@ void QtTextField::setClient(std::shared_ptr<TextFieldClient> client) noexcept {
 }
 
 void QtTextField::selectText(View* sender) noexcept {
-  if (const auto client = mClient) return client->selectText(sender);
+  if (mClient) return ClientCall(*this).client->selectText(sender);
   if (widget()) widget()->selectAll();
 }
 
@@ -65,7 +65,7 @@ void QtTextField::superTextDidChange(const Notification& /*notification*/) noexc
 }
 
 // Return ends editing, and so does leaving the field afterwards: one action for the two.
-void QtTextField::superTextDidEndEditing(const Notification& /*notification*/) {
+void QtTextField::superTextDidEndEditing(const Notification& /*notification*/) noexcept {
   if (!std::exchange(mEditedSinceAction, false)) return;
   const std::string shown = displayedText(mFormatter.get(), mText);
   if (shown != mText) correct(shown);
@@ -89,40 +89,41 @@ bool QtTextField::mayChange(const EditProposal& edit) noexcept {
 
 void QtTextField::didChange() noexcept {
   const QPointer<QObject> alive = core().connectionContext();
-  const QtActions::Running running(core().actions());
   mText = toUtf8(widget()->settledText());
   mEditedSinceAction = true;
   mInUserEdit = true;
-  if (const auto client = mClient) {
-    client->textDidChange(notification(kTextDidChange));
-  } else {
-    superTextDidChange(notification(kTextDidChange));
-  }
+  tellOfChange();
   if (alive) mInUserEdit = false;
+}
+
+void QtTextField::tellOfChange() noexcept {
+  if (!mClient) return superTextDidChange(notification(kTextDidChange));
+  const ClientCall call(*this);
+  call.client->textDidChange(notification(kTextDidChange));
 }
 
 // Qt has put the keyboard here already: a client that doesn't want it can only give it away again.
 void QtTextField::didTakeFocus() noexcept {
-  const auto client = mClient;
-  if (mTakingFocus || !client) return;
-  const QPointer<QObject> alive = core().connectionContext();
-  const QtActions::Running running(core().actions());
-  if (!client->becomeFirstResponder() && alive && widget()) widget()->clearFocus();
+  if (mTakingFocus || !mClient) return;
+  const ClientCall call(*this);
+  if (!call.client->becomeFirstResponder() && widget()) widget()->clearFocus();
 }
 
 // No exception may reach Qt's event loop, and nobody behind it could handle one: the log hears of
 // it, and the field stays as it is.
 void QtTextField::didEndEditing() noexcept {
-  const QtActions::Running running(core().actions());
-  const auto client = mClient;
+  if (!mClient) return superTextDidEndEditing(notification(kTextDidEndEditing));
+  const ClientCall call(*this);
   try {
-    if (client) return client->textDidEndEditing(notification(kTextDidEndEditing));
-    superTextDidEndEditing(notification(kTextDidEndEditing));
+    call.client->textDidEndEditing(notification(kTextDidEndEditing));
   } catch (...) {
     SystemLog* const log = currentPlatform().systemLog;
     if (log) log->log("text field: an exception was raised at the end of editing");
   }
 }
+
+QtTextField::ClientCall::ClientCall(QtTextField& self)
+    : running(self.core().actions()), field(self.weak_from_this().lock()), client(self.mClient) {}
 
 Notification QtTextField::notification(const char* name) const {
   return {name, static_cast<const void*>(static_cast<const View*>(this))};

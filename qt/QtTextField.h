@@ -8,13 +8,16 @@
 #include "platform/Formatter.h"
 #include "platform/TextField.h"
 #include "platform/TextFieldClient.h"
+#include "qt/QtActions.h"
 #include "qt/QtFieldEditor.h"
 #include "qt/QtTextColor.h"
 #include "qt/QtViewOf.h"
 
 namespace cutline {
 
-class QtTextField : public QtControlOf<TextField, QtFieldEditor>, private QtFieldEditor::Delegate {
+class QtTextField : public QtControlOf<TextField, QtFieldEditor>,
+                    public std::enable_shared_from_this<QtTextField>,
+                    private QtFieldEditor::Delegate {
  public:
   QtTextField(const Rect& frame, std::shared_ptr<QtActions> actions);
   ~QtTextField() override;
@@ -29,7 +32,7 @@ class QtTextField : public QtControlOf<TextField, QtFieldEditor>, private QtFiel
   bool superResignFirstResponder() noexcept override { return true; }
   void superTextDidChange(const Notification& notification) noexcept override;
   // Raises nothing: Qt has no exceptions of its own.
-  void superTextDidEndEditing(const Notification& notification) override;
+  void superTextDidEndEditing(const Notification& notification) noexcept override;
   void setTextDidChange(std::function<void()> handler) noexcept override;
   TextColor textColor() const noexcept override { return mTextColor.color(); }
   void setTextColor(TextColor color) noexcept override { mTextColor.setColor(widget(), color); }
@@ -39,7 +42,17 @@ class QtTextField : public QtControlOf<TextField, QtFieldEditor>, private QtFiel
   void didChange() noexcept override;
   void didTakeFocus() noexcept override;
   void didEndEditing() noexcept;
+  void tellOfChange() noexcept;
   void correct(const std::string& text) noexcept;
+  // The client, for one call, and with it the field: what the client calls may let go of the field,
+  // and the client still goes on with it.
+  struct ClientCall {
+    explicit ClientCall(QtTextField& self);
+    QtActions::Running running;
+    std::shared_ptr<QtTextField> field;
+    std::shared_ptr<TextFieldClient> client;
+  };
+
   Notification notification(const char* name) const;
 
   std::shared_ptr<Formatter> mFormatter;

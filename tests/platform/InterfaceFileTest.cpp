@@ -70,6 +70,45 @@ TEST(InterfaceFile, ReadsTheEntriesOfAPopUpInOrder) {
   EXPECT_EQ(view->items[1].description, "");
 }
 
+const std::string kField = text("kind", "TextField") + text("frame", "{{0, 0}, {52, 22}}");
+
+std::string formatter(const std::string& entries) {
+  return kField + entry("formatter", "<dict>" + entries + "</dict>");
+}
+
+TEST(InterfaceFile, ReadsTheClassesOfATextField) {
+  const auto view = interfaceWith(
+      formatter(
+          text("class", "PDEFormatter") + text("formatString", "%d mm") +
+          entry("textStyle", "<integer>2</integer>") + entry("maxLength", "<integer>3</integer>") +
+          entry("minValue", "<integer>-1</integer>") + entry("maxValue", "<integer>255</integer>") +
+          entry("invalidCharacters", "<array><string>a</string><string/></array>")) +
+      text("class", "PDETextField13_v400_"));
+  ASSERT_TRUE(view);
+  EXPECT_EQ(view->className, "PDETextField13_v400_");
+  ASSERT_TRUE(view->formatter);
+  EXPECT_EQ(view->formatter->className, "PDEFormatter");
+  EXPECT_EQ(view->formatter->formatString, "%d mm");
+  EXPECT_EQ(view->formatter->textStyle, 2);
+  EXPECT_EQ(view->formatter->maxLength, 3);
+  EXPECT_EQ(view->formatter->minValue, -1);
+  EXPECT_EQ(view->formatter->maxValue, 255);
+  EXPECT_EQ(view->formatter->invalidCharacters, (std::vector<std::string>{"a", ""}));
+}
+
+TEST(InterfaceFile, SaysNothingOfAFormatterThatTheFileDoesNotSay) {
+  const auto view = interfaceWith(formatter(text("class", "PDEFormatter")));
+  ASSERT_TRUE(view && view->formatter);
+  EXPECT_FALSE(view->formatter->formatString);
+  EXPECT_FALSE(view->formatter->textStyle);
+  EXPECT_FALSE(view->formatter->maxLength);
+  EXPECT_FALSE(view->formatter->minValue);
+  EXPECT_FALSE(view->formatter->maxValue);
+  EXPECT_TRUE(view->formatter->invalidCharacters.empty());
+  EXPECT_EQ(view->className, "");
+  EXPECT_FALSE(interfaceWith(kField)->formatter);
+}
+
 TEST(InterfaceFile, EntriesOfOtherNamesAreIgnored) {
   EXPECT_TRUE(interfaceWith(kPlain + text("note", "x")));
 }
@@ -146,6 +185,23 @@ INSTANTIATE_TEST_SUITE_P(
         BadRow{"ItemWithoutTitle",
                kPlain + entry("items", "<array><dict>" + entry("tag", "<integer>1</integer>") +
                                            "</dict></array>")},
+        BadRow{"ClassIsANumber", kField + entry("class", "<integer>1</integer>")},
+        BadRow{"FormatterIsText", kField + text("formatter", "PDEFormatter")},
+        BadRow{"FormatterWithoutClass", formatter(text("formatString", "%@"))},
+        BadRow{"FormatterClassIsABoolean", formatter(entry("class", "<true/>"))},
+        BadRow{"FormatStringIsANumber",
+               formatter(text("class", "F") + entry("formatString", "<integer>1</integer>"))},
+        BadRow{"TextStyleIsText", formatter(text("class", "F") + text("textStyle", "2"))},
+        BadRow{"MaxLengthIsAFraction",
+               formatter(text("class", "F") + entry("maxLength", "<real>1.5</real>"))},
+        BadRow{"MinValueIsABoolean", formatter(text("class", "F") + entry("minValue", "<false/>"))},
+        BadRow{"MaxValueIsHuge",
+               formatter(text("class", "F") + entry("maxValue", "<integer>99999999999</integer>"))},
+        BadRow{"InvalidCharactersAreText",
+               formatter(text("class", "F") + text("invalidCharacters", "abc"))},
+        BadRow{"InvalidCharacterIsANumber",
+               formatter(text("class", "F") +
+                         entry("invalidCharacters", "<array><integer>1</integer></array>"))},
         BadRow{"OutletTwice",
                kPlain + text("outlet", "mBox") +
                    entry("subviews",

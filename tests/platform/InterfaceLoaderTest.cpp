@@ -4,11 +4,16 @@
 
 #include "plain/PlainTextField.h"
 #include "plain/PlainToolkit.h"
+#include "plain/RecordingSystemLog.h"
 #include "platform/CheckBox.h"
+#include "platform/InterfaceClasses.h"
+#include "platform/InterfaceFile.h"
 #include "platform/InterfaceLoader.h"
 #include "platform/Label.h"
 #include "platform/PopUpButton.h"
 #include "platform/Stepper.h"
+#include "tests/platform/RecordingClient.h"
+#include "tests/platform/RecordingFormatter.h"
 #include "tests/platform/RecordingOwner.h"
 #include "tests/platform/TemporaryBundle.h"
 #include "tests/platform/ToolkitScope.h"
@@ -98,11 +103,12 @@ class InterfaceLoaderTest : public testing::Test {
 
   bool load(Toolkit& with, const std::string& name = "Panel") {
     const ScopedEnvironment environment(languageEnvironment({}));
-    const ToolkitScope scope(&with);
+    const ToolkitScope scope(&with, &log);
     const auto opened = bundle.open();
     return opened && opened->loadNibNamed(name, owner);
   }
 
+  RecordingSystemLog log;
   TemporaryBundle bundle;
   PlainToolkit toolkit;
   RecordingOwner owner;
@@ -241,6 +247,89 @@ TEST_F(InterfaceLoaderTest, AMissingDamagedOrForeignFileConnectsNothing) {
     EXPECT_FALSE(load(toolkit, name)) << name;
   }
   EXPECT_TRUE(owner.calls.empty());
+}
+
+TEST_F(InterfaceLoaderTest, WithoutClassesAFieldIsTheToolkitsOwn) {
+  ASSERT_TRUE(load(toolkit));
+  EXPECT_EQ(owner.outlet<TextField>("mField")->formatter(), nullptr);
+  EXPECT_TRUE(log.messages().empty());
+}
+
+constexpr char kFieldWithClasses[] = R"(<dict><key>view</key><dict>
+  <key>kind</key><string>TextField</string>
+  <key>outlet</key><string>mField</string>
+  <key>frame</key><string>{{36, 120}, {52, 22}}</string>
+  <key>title</key><string>12</string>
+  <key>class</key><string>OwnField</string>
+  <key>formatter</key><dict>
+    <key>class</key><string>OwnFormatter</string>
+    <key>maxLength</key><integer>3</integer>
+  </dict>
+</dict></dict>)";
+
+// One formatter and one client for whoever asks, or none.
+class FewClasses : public InterfaceClasses {
+ public:
+  std::shared_ptr<Formatter> formatter(
+      const FormatterDescription& description) const noexcept override {
+    asked.push_back(description.className + " " + std::to_string(*description.maxLength));
+    return made;
+  }
+  std::shared_ptr<TextFieldClient> textField(const std::string& className,
+                                             TextField& field) const noexcept override {
+    asked.push_back(className + " with \"" + field.stringValue() + "\"");
+    return knowsFields ? std::make_shared<RecordingClient>(field, events) : nullptr;
+  }
+
+  std::shared_ptr<RecordingFormatter> made;
+  bool knowsFields = true;
+  mutable std::vector<std::string> asked;
+  mutable std::vector<std::string> events;
+};
+
+class InterfaceClassesTest : public InterfaceLoaderTest {
+ protected:
+  void SetUp() override {
+    bundle.writePropertyList("Resources/Panel.plist", kFieldWithClasses);
+    owner.classes = &classes;
+  }
+
+  FewClasses classes;
+};
+
+TEST_F(InterfaceClassesTest, AreInPlaceBeforeTheText) {
+  classes.made = std::make_shared<RecordingFormatter>();
+  classes.made->showMillimetres();
+  ASSERT_TRUE(load(toolkit));
+  EXPECT_EQ(classes.asked, (std::vector<std::string>{"OwnFormatter 3", "OwnField with \"\""}));
+  auto* field = owner.outlet<PlainTextField>("mField");
+  EXPECT_EQ(field->formatter(), classes.made.get());
+  EXPECT_EQ(field->stringValue(), "12 mm");
+  EXPECT_TRUE(classes.made->asked.empty());
+  field->paste("3");
+  EXPECT_EQ(classes.events,
+            (std::vector<std::string>{"become", "change NSTextDidChangeNotification"}));
+  EXPECT_EQ(classes.made->asked.size(), 1U);
+  EXPECT_TRUE(log.messages().empty());
+}
+
+TEST_F(InterfaceClassesTest, ThatTheBundleLacksLeaveTheToolkitsOwnAndALineInTheLog) {
+  classes.knowsFields = false;
+  ASSERT_TRUE(load(toolkit));
+  auto* field = owner.outlet<PlainTextField>("mField");
+  EXPECT_EQ(field->formatter(), nullptr);
+  EXPECT_EQ(field->stringValue(), "12");
+  const std::vector<std::string> expected = {
+      "interface file: no class \"OwnFormatter\" for \"mField\"",
+      "interface file: no class \"OwnField\" for \"mField\""};
+  EXPECT_EQ(log.messages(), expected);
+}
+
+TEST_F(InterfaceClassesTest, OfAnOwnerThatHasNoneAreMissing) {
+  owner.classes = nullptr;
+  ASSERT_TRUE(load(toolkit));
+  EXPECT_EQ(owner.outlet<TextField>("mField")->formatter(), nullptr);
+  EXPECT_EQ(log.messages().size(), 2U);
 }
 
 TEST_F(InterfaceLoaderTest, ControlsStickToTheTopWhenThePanelShrinks) {

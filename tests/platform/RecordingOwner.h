@@ -33,6 +33,8 @@ class RecordingOwner final : public InterfaceOwner {
     textChanges.push_back(notification);
   }
 
+  const InterfaceClasses* interfaceClasses() const noexcept override { return classes; }
+
   void awakeFromNib() noexcept override { calls.emplace_back("awake"); }
 
   // The control at an outlet; null when there is none of that kind.
@@ -48,6 +50,7 @@ class RecordingOwner final : public InterfaceOwner {
   View* lastSender = nullptr;
   std::set<std::string> refusedOutlets;
   std::set<std::string> unknownActions;
+  const InterfaceClasses* classes = nullptr;
 };
 
 }  // namespace cutline

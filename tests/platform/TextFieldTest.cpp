@@ -43,5 +43,31 @@ INSTANTIATE_TEST_SUITE_P(
                     IntRow{"FullWidthDigits", "\xEF\xBC\x91", 0}),
     [](const auto& row) { return std::string(row.param.name); });
 
+struct CorrectionRow {
+  const char* name;
+  std::size_t editedLength;
+  std::size_t caret;
+  std::size_t correctedLength;
+  TextRange selection;
+};
+
+class SelectionAfterCorrection : public testing::TestWithParam<CorrectionRow> {};
+
+TEST_P(SelectionAfterCorrection, KeepsItsPlaceFromTheEnd) {
+  const CorrectionRow& row = GetParam();
+  EXPECT_EQ(selectionAfterCorrection(row.editedLength, row.caret, row.correctedLength),
+            row.selection);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, SelectionAfterCorrection,
+                         testing::Values(CorrectionRow{"AtTheEnd", 3, 3, 2, {2, 0}},
+                                         CorrectionRow{"AtTheEndOfALonger", 1, 1, 4, {4, 0}},
+                                         CorrectionRow{"Inside", 3, 1, 4, {2, 0}},
+                                         CorrectionRow{"TooFarFromTheEnd", 5, 1, 2, {0, 0}},
+                                         CorrectionRow{"Emptied", 0, 0, 2, {0, 2}},
+                                         CorrectionRow{"EmptiedAndEmpty", 0, 0, 0, {0, 0}},
+                                         CorrectionRow{"CaretBeyondTheText", 2, 9, 3, {3, 0}}),
+                         [](const auto& row) { return std::string(row.param.name); });
+
 }  // namespace
 }  // namespace cutline

@@ -1,4 +1,4 @@
-// Makes a toolkit the current platform's for one scope.
+// Makes a toolkit, and a system log where there is one, the current platform's for one scope.
 #pragma once
 
 #include "platform/Platform.h"
@@ -7,9 +7,10 @@ namespace cutline {
 
 class ToolkitScope {
  public:
-  explicit ToolkitScope(Toolkit* toolkit) {
+  explicit ToolkitScope(Toolkit* toolkit, SystemLog* systemLog = nullptr) {
     Platform platform = mBefore;
     platform.toolkit = toolkit;
+    platform.systemLog = systemLog;
     setCurrentPlatform(platform);
   }
   ~ToolkitScope() { setCurrentPlatform(mBefore); }
