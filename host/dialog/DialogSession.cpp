@@ -90,7 +90,7 @@ void DialogSession::takePrinter(const Result<PrinterChoice>& printer) {
 void DialogSession::fail(const Error& error) {
   tell(error.message);
   if (!mDialog->isVisible()) return QApplication::exit(kExitError);
-  mDialog->showFailure(translated(error.sentence));
+  mDialog->showFailure(asLine(error.sentence));
 }
 
 void DialogSession::open(const PrinterChoice& printer) {

@@ -50,7 +50,7 @@ void DocumentLoader::take(const Result<std::shared_ptr<Document>>& document,
                           std::vector<Size> sizes) {
   mIsBusy = false;
   mHasFailed = !document;
-  if (!document) emit failed(translated(document.error().sentence));
+  if (!document) emit failed(asLine(document.error().sentence));
   if (document && !*document) emit unavailable();
   if (document && *document) {
     mDocument = *document;
@@ -84,7 +84,7 @@ void DocumentLoader::deliver(const PageRequest& request, const Result<QImage>& i
   if (image) {
     emit pageDrawn(request.page, request.scale, *image);
   } else {
-    emit pageFailed(request.page, translated(image.error().sentence));
+    emit pageFailed(request.page, asLine(image.error().sentence));
   }
   if (!mIsBusy) drawNext();
 }

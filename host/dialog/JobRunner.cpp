@@ -40,7 +40,7 @@ void JobRunner::takeJob(const Result<int>& jobId) {
   if (!jobId) {
     mIsRunning = false;
     if (mIsGivenUp->load()) return emit cancelled();
-    return emit failed(translated(jobId.error().sentence));
+    return emit failed(asLine(jobId.error().sentence));
   }
   mJobId = *jobId;
   emit submitted(mJobId);
@@ -61,7 +61,7 @@ void JobRunner::askToCancel() {
       mIsGivenUp->store(false);
       mIsRunning = false;
       mTimer.stop();
-      emit failed(translated(asked.error().sentence));
+      emit failed(asLine(asked.error().sentence));
     };
   });
 }

@@ -74,8 +74,7 @@ void PresetKeeper::choose(const QString& preset) {
 
 void PresetKeeper::save(const QString& preset) {
   const Result<OptionList> options = mModel.savePreset();
-  mNotices.setNotice(NoticeTopic::failure,
-                     options ? QString() : translated(options.error().sentence));
+  mNotices.setNotice(NoticeTopic::failure, options ? QString() : asLine(options.error().sentence));
   if (!options) return;
   mBeingSaved = *options;
   mServer.savePreset(nameOf(preset), *options);

@@ -41,11 +41,6 @@ QString fileNameOf(const std::string& path) {
   return toQString(path.substr(path.find_last_of('/') + 1));
 }
 
-QString asSentence(QString text) {
-  if (!text.isEmpty()) text[0] = text[0].toUpper();
-  return text;
-}
-
 QStringList sentencesOf(const std::vector<Deviation>& deviations) {
   QStringList lines;
   for (const Deviation& deviation : deviations) lines.append(translated(deviation.sentence));
@@ -110,7 +105,7 @@ void PrintDialog::connectSettings() {
   connect(mNotices, &NoticeView::resolveRequested, this, [this] {
     const Result<Done> resolved = mModel.resolveConflicts();
     mNotices->setNotice(NoticeTopic::failure,
-                        resolved ? QString() : translated(resolved.error().sentence));
+                        resolved ? QString() : asLine(resolved.error().sentence));
   });
   connect(mMoreOptions, &MoreOptionsPanel::optionChosen, this, &PrintDialog::chooseOption);
   connect(mMoreButton, &QPushButton::toggled, this, &PrintDialog::showMoreOptions);
@@ -320,8 +315,7 @@ void PrintDialog::choosePaper(const QString& name) { mModel.setPaper(toUtf8(name
 
 void PrintDialog::chooseOption(const QString& keyword, const QString& choice) {
   const Result<Done> chosen = mModel.setOption(toUtf8(keyword), toUtf8(choice));
-  mNotices->setNotice(NoticeTopic::failure,
-                      chosen ? QString() : translated(chosen.error().sentence));
+  mNotices->setNotice(NoticeTopic::failure, chosen ? QString() : asLine(chosen.error().sentence));
 }
 
 // A half-typed range is no mistake yet.
@@ -331,7 +325,7 @@ void PrintDialog::editPages(const QString& text) {
 
 void PrintDialog::finishPages(const QString& text) {
   const Result<Done> set = mModel.setPageRanges(toUtf8(text));
-  mJobForm->setPagesProblem(set ? QString() : asSentence(translated(set.error().sentence)));
+  mJobForm->setPagesProblem(set ? QString() : asLine(set.error().sentence));
 }
 
 void PrintDialog::showMoreOptions(bool shown) {
@@ -369,8 +363,7 @@ void PrintDialog::print() {
   if (mJobForm->hasPagesProblem()) return mJobForm->focusPages();
   if (!refusal().isEmpty() || mServer->isOpening() || mJob->isRunning()) return;
   const Result<OptionList> options = mModel.prepareToPrint();
-  mNotices->setNotice(NoticeTopic::failure,
-                      options ? QString() : translated(options.error().sentence));
+  mNotices->setNotice(NoticeTopic::failure, options ? QString() : asLine(options.error().sentence));
   if (!options) return;
   mNotices->clear(NoticeTopic::refusal);
   showJobRunning(true);

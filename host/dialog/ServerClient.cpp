@@ -18,7 +18,7 @@ void ServerClient::listPrinters() {
 
 void ServerClient::takeList(const Result<std::vector<Destination>>& list) {
   if (!list) {
-    emit listingFailed(translated(list.error().sentence));
+    emit listingFailed(asLine(list.error().sentence));
     return;
   }
   emit printersListed(*list);
@@ -36,7 +36,7 @@ void ServerClient::takePrinter(int opening, const Result<PrinterChoice>& choice)
   if (opening != mOpenings) return;
   mIsOpening = false;
   if (!choice) {
-    emit openingFailed(translated(choice.error().sentence));
+    emit openingFailed(asLine(choice.error().sentence));
     return;
   }
   emit printerOpened(*choice);
@@ -57,7 +57,7 @@ void ServerClient::takeState(const Result<Destination>& destination) {
 void ServerClient::savePreset(const DestinationName& name, const OptionList& options) {
   mBackground.start([this, server = mServer, name, options]() -> Background::Delivery {
     return [this, name, saved = server->saveInstance(name, options)] {
-      if (!saved) return emit presetFailed(translated(saved.error().sentence));
+      if (!saved) return emit presetFailed(asLine(saved.error().sentence));
       emit presetSaved(toQString(name.instance.value_or("")));
     };
   });
@@ -66,7 +66,7 @@ void ServerClient::savePreset(const DestinationName& name, const OptionList& opt
 void ServerClient::removePreset(const DestinationName& name) {
   mBackground.start([this, server = mServer, name]() -> Background::Delivery {
     return [this, name, removed = server->removeInstance(name)] {
-      if (!removed) return emit presetFailed(translated(removed.error().sentence));
+      if (!removed) return emit presetFailed(asLine(removed.error().sentence));
       emit presetRemoved(toQString(name.instance.value_or("")));
     };
   });
