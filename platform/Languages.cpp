@@ -46,6 +46,12 @@ std::string_view languageOf(std::string_view territory) {
   return territory.substr(0, territory.find_first_of("_-"));
 }
 
+// "zh_Hant_HK" gives "zh_Hant"; nothing is left of "zh".
+std::string_view withoutLastPart(std::string_view territory) {
+  const auto separator = territory.find_last_of("_-");
+  return separator == territory.npos ? std::string_view() : territory.substr(0, separator);
+}
+
 std::string_view modifierOf(std::string_view locale) {
   const auto at = locale.find('@');
   return at == locale.npos ? std::string_view() : locale.substr(at);
@@ -87,7 +93,10 @@ std::vector<std::string> localizationsForLocale(const std::string& locale) noexc
   append(names, withSeparator(territory, '_'));
   append(names, withSeparator(territory, '-'));
   append(names, scriptOf(withSeparator(territory, '_')));
-  append(names, language);
+  for (auto part = withoutLastPart(territory); !part.empty(); part = withoutLastPart(part)) {
+    append(names, withSeparator(part, '_'));
+    append(names, withSeparator(part, '-'));
+  }
   return names;
 }
 
@@ -95,11 +104,12 @@ std::vector<std::string> preferredLocalizations() noexcept {
   std::vector<std::string> names;
   const std::string locale = messageLocale();
   if (!isUntranslated(locale)) {
-    std::istringstream languages(environment("LANGUAGE"));
-    for (std::string one; std::getline(languages, one, ':');) {
+    const std::string asked = environment("LANGUAGE");
+    std::istringstream languages(asked.empty() ? locale : asked);
+    // Whoever reads the untranslated texts before a language doesn't want that language.
+    for (std::string one; std::getline(languages, one, ':') && !isUntranslated(one);) {
       append(names, localizationsForLocale(one));
     }
-    if (names.empty()) append(names, localizationsForLocale(locale));
   }
   append(names, kBaseLanguage);
   return names;

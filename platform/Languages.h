@@ -11,7 +11,7 @@ namespace cutline {
 std::vector<std::string> preferredLocalizations() noexcept;
 
 // The folder names for one locale name, best first: "de_AT.UTF-8" gives "de_AT", "de-AT", "de";
-// "zh_TW" also "zh-Hant". None for "C", "POSIX" and what is no locale's name.
+// "zh_TW" and "zh_Hant_HK" also "zh-Hant". None for "C", "POSIX" and what is no locale's name.
 std::vector<std::string> localizationsForLocale(const std::string& locale) noexcept;
 
 }  // namespace cutline

@@ -32,6 +32,12 @@ INSTANTIATE_TEST_SUITE_P(
                     LocaleRow{"HongKong", "zh_HK", {"zh_HK", "zh-HK", "zh-Hant", "zh"}},
                     LocaleRow{"SimplifiedChinese", "zh_CN", {"zh_CN", "zh-CN", "zh-Hans", "zh"}},
                     LocaleRow{"Chinese", "zh", {"zh", "zh-Hans"}},
+                    LocaleRow{"Macau", "zh_MO", {"zh_MO", "zh-MO", "zh-Hant", "zh"}},
+                    LocaleRow{"Singapore", "zh_SG", {"zh_SG", "zh-SG", "zh-Hans", "zh"}},
+                    LocaleRow{"Script", "zh_Hant", {"zh_Hant", "zh-Hant", "zh"}},
+                    LocaleRow{"ScriptAndTerritory",
+                              "zh-Hans-HK",
+                              {"zh_Hans_HK", "zh-Hans-HK", "zh_Hans", "zh-Hans", "zh"}},
                     LocaleRow{"LatinSerbian", "sr_RS@latin", {"sr-Latn", "sr_RS", "sr-RS", "sr"}},
                     LocaleRow{"C", "C", {}}, LocaleRow{"CWithCodeset", "C.UTF-8", {}},
                     LocaleRow{"Posix", "POSIX", {}}, LocaleRow{"Empty", "", {}},
@@ -66,6 +72,10 @@ INSTANTIATE_TEST_SUITE_P(
         EnvironmentRow{
             "EmptyPartsOfLanguage", {{"LANGUAGE", ":ko::"}, {"LANG", "de"}}, {"ko", "en"}},
         EnvironmentRow{"LanguageIgnoredForC", {{"LANGUAGE", "ko"}, {"LANG", "C"}}, {"en"}},
+        EnvironmentRow{"TheRestOfLanguageIgnoredAfterC",
+                       {{"LANGUAGE", "fr:C:ko"}, {"LANG", "de"}},
+                       {"fr", "en"}},
+        EnvironmentRow{"LanguageOfC", {{"LANGUAGE", "C"}, {"LANG", "de"}}, {"en"}},
         EnvironmentRow{
             "LanguageIgnoredForPosix", {{"LANGUAGE", "ko"}, {"LC_ALL", "POSIX"}}, {"en"}},
         EnvironmentRow{"LanguageIgnoredWithoutALocale", {{"LANGUAGE", "ko"}}, {"en"}},
