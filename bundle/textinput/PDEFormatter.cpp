@@ -9,6 +9,7 @@
 #include "bundle/ppd/text_bytes.h"
 #include "bundle/textinput/EditVetting.h"
 #include "bundle/textinput/text_styles.h"
+#include "platform/CalendarDate.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Platform.h"
 #include "platform/Toolkit.h"

@@ -9,11 +9,12 @@
 #include <vector>
 
 #include "bundle/diag/Describable.h"
-#include "platform/CalendarDate.h"
 #include "platform/Formatter.h"
-#include "platform/PropertyList.h"
 
 namespace cutline {
+
+class CalendarDate;
+class PropertyList;
 
 // The notifications of a refused edit. Their object is what setNotificationObject: set, or else the
 // formatter, each known by its address (that of the PDEFormatter), but for the exception below.

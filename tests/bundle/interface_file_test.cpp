@@ -1,4 +1,7 @@
 // The panel on its real interface file, strings and pictures.
+#include <map>
+
+#include "bundle/textinput/PDEFormatter.h"
 #include "platform/DirectoryBundle.h"
 #include "tests/bundle/PanelTest.h"
 
@@ -49,6 +52,27 @@ TEST_F(InterfaceFile, TheControlsActOnThePanel) {
   EXPECT_EQ(panel->mCutEveryStpr->intValue(), 12);
   ASSERT_TRUE(panel->mOptionPopUpButton->performSelection(14));
   EXPECT_EQ(box(OptionId::cutMark)->state(), CheckBox::kOn);
+}
+
+TEST_F(InterfaceFile, TheCountsFormatterLeavesClampingToThePanel) {
+  makeRealPanel(allNine());
+  panel->willShow();
+  const auto* formatter = dynamic_cast<PDEFormatter*>(panel->mCutEveryTxBx->formatter());
+  ASSERT_TRUE(formatter);
+  EXPECT_EQ(formatter->formatString(), "%@");
+  EXPECT_EQ(formatter->textStyle(), 0);
+  EXPECT_EQ(formatter->maxLength(), 0);
+  EXPECT_FALSE(formatter->isValidityMinValue());
+  EXPECT_FALSE(formatter->isValidityMaxValue());
+  box(OptionId::cutEvery)->setState(CheckBox::kOff);
+  click(OptionId::cutEvery);
+  for (const auto& [typed, count] : std::map<std::string, std::string>{
+           {"0", "1"}, {"abc", "1"}, {"250", "99"}, {"-5", "1"}, {"あ", "1"}, {"42", "42"}}) {
+    typeCount(typed);
+    EXPECT_EQ(panel->mCutEveryTxBx->stringValue(), count) << typed;
+    EXPECT_EQ(marked("LxCutLabel"), count) << typed;
+  }
+  EXPECT_EQ(platform.toolkit.beepCount(), 0);
 }
 
 TEST_F(InterfaceFile, EveryPresetHasItsPictureAndItsWords) {

@@ -2,6 +2,8 @@
 #include <chrono>
 #include <climits>
 
+#include "platform/CalendarDate.h"
+#include "platform/PropertyList.h"
 #include "tests/bundle/FormatterTest.h"
 
 namespace cutline::test {

@@ -276,7 +276,7 @@ class FormatterFuzz : public FormatterTest, public testing::WithParamInterface<s
 
 TEST_P(FormatterFuzz, EditsAtRandomComeOutAsTheModelSays) {
   constexpr unsigned kSeed = 20210704;
-  constexpr int kEdits = 10000;
+  constexpr int kEdits = 20000;
   constexpr int kEditsOfOneFormatter = 20;
   Dice dice(kSeed);
   Settings settings;

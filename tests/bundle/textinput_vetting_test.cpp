@@ -186,6 +186,16 @@ TEST_F(Vetting, TheLastFaultOfAPasteCounts) {
   EXPECT_EQ(lastName(), kFormatError);
 }
 
+TEST_F(Vetting, TextThatIsNotAsciiIsRefusedAsAWholeBeforeItsValueIs) {
+  useStyle(2);
+  formatter->setMaxValue(5);
+  EXPECT_FALSE(type(u"", u"é9"));
+  EXPECT_EQ(lastName(), kInvalid);
+  EXPECT_FALSE(type(u"7", u"é9"));
+  EXPECT_EQ(lastName(), kInvalid);
+  EXPECT_EQ(lastObject(), formatterItself());
+}
+
 TEST_F(Vetting, ASecondDecimalPointIsRefused) {
   useStyle(4);
   EXPECT_FALSE(type(u"1.5", u"."));
