@@ -1,6 +1,7 @@
 #include "qt/QtLabel.h"
 
 #include <QEvent>
+#include <algorithm>
 
 #include "qt/QtText.h"
 
@@ -8,11 +9,16 @@ namespace cutline {
 
 namespace {
 
-// Tells the core how high a line of text is.
+// Tells the core how high its line of text is: characters that only another font has may need more
+// than the label's own.
 class LineLabel : public QLabel {
  public:
   void setCore(QtViewCore* core) {
     mCore = core;
+    tellHeight();
+  }
+  void setLine(const QString& text) {
+    setText(text);
     tellHeight();
   }
 
@@ -24,7 +30,7 @@ class LineLabel : public QLabel {
 
  private:
   void tellHeight() {
-    if (mCore) mCore->setMinimumHeight(fontMetrics().height());
+    if (mCore) mCore->setMinimumHeight(std::max(fontMetrics().height(), sizeHint().height()));
   }
 
   QtViewCore* mCore = nullptr;
@@ -47,7 +53,7 @@ QtLabel::~QtLabel() {
 
 void QtLabel::setStringValue(const std::string& text) noexcept {
   mText = text;
-  if (widget()) widget()->setText(toQString(text));
+  if (widget()) static_cast<LineLabel*>(widget())->setLine(toQString(text));
 }
 
 }  // namespace cutline

@@ -1,19 +1,17 @@
 // The dialog's look: nothing is cut off, it fits small screens, both appearances draw something.
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
 #include <QApplication>
-#include <QComboBox>
 #include <QImage>
-#include <QLabel>
 #include <QPushButton>
-#include <QStyle>
 #include <QTest>
 #include <cstdlib>
 
 #include "host/dialog/Appearance.h"
 #include "tests/dialog/DialogTest.h"
 #include "tests/dialog/FakeDocument.h"
+#include "tests/dialog/FontSize.h"
+#include "tests/dialog/window_checks.h"
 
 namespace cutline {
 
@@ -21,43 +19,9 @@ namespace {
 
 constexpr QSize kSmallScreen{1280, 760};  // 1280 x 800 without a title bar
 
-// Sets the program's font for as long as it lives.
-class FontSize {
- public:
-  explicit FontSize(int points) : mBefore(QApplication::font()) {
-    QFont font(QStringLiteral("DejaVu Sans"));
-    font.setPointSize(points);
-    QApplication::setFont(font);
-  }
-  ~FontSize() { QApplication::setFont(mBefore); }
-  FontSize(const FontSize&) = delete;
-  FontSize& operator=(const FontSize&) = delete;
-
- private:
-  QFont mBefore;
-};
-
 class LookTest : public DialogTest, public testing::WithParamInterface<int> {
  protected:
   LookTest() : mFont(GetParam()) {}
-
-  void expectNothingCutOff() {
-    for (const QLabel* label : dialog().findChildren<QLabel*>()) {
-      if (!label->isVisible()) continue;
-      const int height =
-          label->wordWrap() ? label->heightForWidth(label->width()) : label->sizeHint().height();
-      const int width = label->wordWrap() ? 0 : label->minimumSizeHint().width();
-      EXPECT_GE(label->width(), width) << label->text().toStdString();
-      EXPECT_GE(label->height(), qMin(height, label->fontMetrics().height()))
-          << label->text().toStdString();
-    }
-    for (const QAbstractButton* button : dialog().findChildren<QAbstractButton*>()) {
-      if (!button->isVisible() || button->text().isEmpty()) continue;
-      const int text = button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width();
-      EXPECT_GE(button->width(), text) << button->text().toStdString();
-      EXPECT_GE(button->height(), button->fontMetrics().height()) << button->text().toStdString();
-    }
-  }
 
  private:
   FontSize mFont;
@@ -80,7 +44,7 @@ TEST_P(LookTest, NoTextIsCutOffAtTheSmallestSize) {
     openQueue(samplePpd(name));
     dialog().resize(dialog().minimumSizeHint());
     QTest::qWait(20);
-    expectNothingCutOff();
+    expectNothingCutOff(dialog());
     closeDialog();
   }
 }
@@ -92,7 +56,7 @@ TEST_P(LookTest, NoTextIsCutOffWithMoreOptionsAndNotices) {
   click(box("LxSpecialTape"));
   dialog().resize(kSmallScreen);
   QTest::qWait(20);
-  expectNothingCutOff();
+  expectNothingCutOff(dialog());
 }
 
 TEST_P(LookTest, ThePreviewTakesTheSpaceThatIsLeft) {

@@ -1,0 +1,34 @@
+#include "tests/languages/StagedBundle.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/DirectoryBundle.h"
+#include "platform/PropertyList.h"
+#include "platform/ResourceFile.h"
+
+namespace cutline {
+
+std::string stagedBundlePath() { return std::string(kPlugInDirectory) + "/CutOptions.plugin"; }
+
+std::shared_ptr<Bundle> openStagedBundle(const ScopedEnvironment::Variables& variables) {
+  const ScopedEnvironment environment(languageEnvironment(variables));
+  return DirectoryBundle::open(stagedBundlePath());
+}
+
+StringTable stringTable(const std::string& folder) {
+  StringTable table;
+  const auto bytes = readResource(stagedBundlePath() + "/Contents/Resources/" + folder +
+                                  ".lproj/Localizable.strings");
+  const auto file = bytes ? PropertyList::parseXML(*bytes) : std::nullopt;
+  if (!file || !file->dictionary()) {
+    ADD_FAILURE() << "no string table for " << folder;
+    return table;
+  }
+  for (const auto& [key, value] : *file->dictionary()) {
+    if (!value.string()) ADD_FAILURE() << key << " is no text in " << folder;
+    table[key] = value.string() ? *value.string() : std::string();
+  }
+  return table;
+}
+
+}  // namespace cutline
