@@ -11,7 +11,7 @@
 #include "host/dialog/Appearance.h"
 #include "host/dialog/DialogSession.h"
 #include "host/dialog/FirstPrinter.h"
-#include "host/dialog/Language.h"
+#include "host/dialog/DialogLanguage.h"
 #include "host/dialog/Marks.h"
 #include "platform/Languages.h"
 #include "qt/QtText.h"
@@ -84,7 +84,7 @@ int runDialog(const DialogRequest& request) {
   }
   prepareEnvironment(line);
   const QString tables = toQString(request.installation->translationDirectory());
-  const Language language = chooseLanguage(preferredLocalizations(), tables);
+  const DialogLanguage language = chooseLanguage(preferredLocalizations(), tables);
   preferFontsFor(language);
   const FirstPrinter printer = startFindingFirstPrinter(line);
   const std::unique_ptr<QApplication> application = makeApplication();

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "platform/CheckBox.h"
+#include "platform/Languages.h"
 #include "tests/dialog/FakeDocument.h"
 
 namespace cutline {
@@ -17,9 +18,11 @@ namespace {
 
 constexpr int kPatience = 5000;
 
+// A loaded bundle keeps the language that it was loaded in.
 PluginLoader& plugIns() {
-  static PluginLoader loader({CUTLINE_BUILD_DIR "/lib/cutline/plugins"});
-  return loader;
+  static std::map<std::string, PluginLoader> loaders;
+  const std::vector<std::string> directories = {CUTLINE_BUILD_DIR "/lib/cutline/plugins"};
+  return loaders.try_emplace(preferredLocalizations().front(), directories).first->second;
 }
 
 View* findBox(const View& view, const std::string& keyword) {

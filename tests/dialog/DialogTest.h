@@ -56,12 +56,16 @@ class DialogTest : public testing::Test {
     return nullptr;
   }
   template <class Button>
-  Button* buttonWithText(const char* text) {
+  Button* buttonWithText(const QString& text) {
     for (Button* button : mDialog->findChildren<Button*>()) {
-      if (button->text() == QLatin1String(text)) return button;
+      if (button->text() == text) return button;
     }
-    ADD_FAILURE() << "no button says " << text;
+    ADD_FAILURE() << "no button says " << text.toStdString();
     return nullptr;
+  }
+  template <class Button>
+  Button* buttonWithText(const char* text) {
+    return buttonWithText<Button>(QString::fromUtf8(text));
   }
   // The panel's check box for a PPD option.
   QWidget* box(const std::string& keyword);

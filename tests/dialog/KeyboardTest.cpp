@@ -1,16 +1,18 @@
 // The dialog without a mouse, and for those who hear it.
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
-#include <QLabel>
+#include <QCheckBox>
 #include <QPushButton>
 #include <QTest>
 #include <map>
-#include <set>
 
+#include "host/dialog/PanelFrame.h"
+#include "host/dialog/mnemonics.h"
+#include "platform/CheckBox.h"
 #include "tests/dialog/DialogTest.h"
+#include "tests/dialog/window_checks.h"
 
 namespace cutline {
 
@@ -23,44 +25,32 @@ class KeyboardTest : public DialogTest, public testing::WithParamInterface<std::
     server().addInstance("tape", "halfcut", {{"LxHalfCut", "ON"}});
     click(buttonWithText<QPushButton>("&More printer options"));
   }
-
-  // What a user can reach with the tab key from the first control on, once around.
-  std::set<QWidget*> reachedByTab() {
-    std::set<QWidget*> reached;
-    QWidget* const first = QApplication::focusWidget();
-    do {
-      reached.insert(QApplication::focusWidget());
-      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    } while (QApplication::focusWidget() != first && reached.size() < 500);
-    return reached;
-  }
-
-  std::vector<QWidget*> controls() {
-    std::vector<QWidget*> found;
-    for (QWidget* widget : dialog().findChildren<QWidget*>()) {
-      const bool takesKeys = (widget->focusPolicy() & Qt::TabFocus) != 0 && !widget->focusProxy();
-      if (takesKeys && widget->isVisible() && widget->isEnabled()) found.push_back(widget);
-    }
-    return found;
-  }
 };
 
-std::string describe(const QWidget& widget) {
-  return std::string(widget.metaObject()->className()) + " \"" +
-         widget.accessibleName().toStdString() + "\" " + widget.objectName().toStdString();
+// Neither for the panel nor for those who hear it.
+void expectPlainTitles(const View& view) {
+  for (const std::shared_ptr<View>& subview : view.subviews()) {
+    expectPlainTitles(*subview);
+    const auto* box = dynamic_cast<const CheckBox*>(subview.get());
+    if (!box || box->isHidden()) continue;
+    EXPECT_EQ(box->title().find('&'), std::string::npos) << box->title();
+    QAccessibleInterface* accessible =
+        QAccessible::queryAccessibleInterface(QtToolkit::widgetOf(*subview));
+    ASSERT_NE(accessible, nullptr);
+    EXPECT_EQ(accessible->text(QAccessible::Name).toStdString(), box->title());
+  }
 }
 
 TEST_P(KeyboardTest, TheTabKeyReachesEveryControl) {
   open();
-  const std::set<QWidget*> reached = reachedByTab();
-  for (QWidget* control : controls()) EXPECT_TRUE(reached.contains(control)) << describe(*control);
+  expectTabReachesEveryControl(dialog());
 }
 
 TEST_P(KeyboardTest, TheTabKeyGoesFromThePrinterThroughThePanelToPrint) {
   open();
   named<QWidget>("Printer")->setFocus();
   std::vector<QString> names;
-  for (std::size_t i = 0; i < controls().size(); ++i) {
+  for (std::size_t i = 0; i < controlsOf(dialog()).size(); ++i) {
     const QWidget* focus = QApplication::focusWidget();
     names.push_back(focus->accessibleName());
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
@@ -80,7 +70,7 @@ TEST_P(KeyboardTest, TheTabKeyGoesFromThePrinterThroughThePanelToPrint) {
 
 TEST_P(KeyboardTest, EveryControlHasAnAccessibleName) {
   open();
-  for (QWidget* control : controls()) {
+  for (QWidget* control : controlsOf(dialog())) {
     QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(control);
     ASSERT_NE(accessible, nullptr) << describe(*control);
     EXPECT_FALSE(accessible->text(QAccessible::Name).trimmed().isEmpty()) << describe(*control);
@@ -89,19 +79,28 @@ TEST_P(KeyboardTest, EveryControlHasAnAccessibleName) {
 
 TEST_P(KeyboardTest, NoTwoControlsShareAMnemonic) {
   open();
-  std::map<QString, int> uses;
-  const auto count = [&uses](const QString& text) {
-    const QString key = QKeySequence::mnemonic(text).toString();
-    if (!key.isEmpty()) ++uses[key];
-  };
-  for (const QLabel* label : dialog().findChildren<QLabel*>()) {
-    if (label->buddy() && label->isVisible()) count(label->text());
+  expectNoSharedMnemonic(dialog());
+}
+
+TEST_P(KeyboardTest, EveryBoxOfThePanelHasAMnemonic) {
+  open();
+  for (const QCheckBox* each : dialog().findChild<PanelFrame*>()->findChildren<QCheckBox*>()) {
+    if (!each->isVisible()) continue;
+    EXPECT_FALSE(mnemonicIn(each->text()).isNull()) << describe(*each);
   }
-  for (const QAbstractButton* button : dialog().findChildren<QAbstractButton*>()) {
-    if (button->isVisible()) count(button->text());
-  }
-  EXPECT_GE(uses.size(), 9u);
-  for (const auto& [key, number] : uses) EXPECT_EQ(number, 1) << key.toStdString();
+}
+
+TEST_P(KeyboardTest, AMnemonicOfThePanelTicksItsBox) {
+  open();
+  auto* mirror = qobject_cast<QCheckBox*>(box("LxMirror"));
+  const std::string before = sent()["LxMirror"];
+  press(&dialog(), mnemonicIn(mirror->text()).unicode(), Qt::AltModifier);
+  EXPECT_TRUE(waitUntil([&] { return sent()["LxMirror"] != before; }));
+}
+
+TEST_P(KeyboardTest, MnemonicsOfThePanelAreNotInItsTitles) {
+  open();
+  for (const PanelEntry& panel : model().panels()) expectPlainTitles(*panel.view);
 }
 
 TEST_P(KeyboardTest, SpaceTicksABoxOfThePanel) {

@@ -1,4 +1,4 @@
-#include "host/dialog/Language.h"
+#include "host/dialog/DialogLanguage.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -65,7 +65,7 @@ void install(QTranslator& texts, const QString& path) {
 
 }  // namespace
 
-Language chooseLanguage(const std::vector<std::string>& names, const QString& directory) {
+DialogLanguage chooseLanguage(const std::vector<std::string>& names, const QString& directory) {
   for (const std::string& name : names) {
     const QString code = codeOf(name);
     if (code == english()) break;
@@ -74,11 +74,14 @@ Language chooseLanguage(const std::vector<std::string>& names, const QString& di
   return {english(), localeFor(english(), names)};
 }
 
-void preferFontsFor(const Language& language) {
-  if (qEnvironmentVariableIsEmpty(kFontLanguage)) qputenv(kFontLanguage, language.code.toLatin1());
+void preferFontsFor(const DialogLanguage& language) {
+  // Which Han characters a user of Latin letters wants to see, the locale says as before.
+  if (language.locale.script() == QLocale::LatinScript) return;
+  if (!qEnvironmentVariableIsEmpty(kFontLanguage)) return;
+  qputenv(kFontLanguage, language.locale.name().toLatin1());
 }
 
-LanguageInForce::LanguageInForce(const Language& language, const QString& directory) {
+LanguageInForce::LanguageInForce(const DialogLanguage& language, const QString& directory) {
   QLocale::setDefault(language.locale);
   QGuiApplication::setLayoutDirection(language.locale.textDirection());
   if (language.code == english()) return;

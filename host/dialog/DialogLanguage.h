@@ -9,25 +9,25 @@
 
 namespace cutline {
 
-struct Language {
+struct DialogLanguage {
   QString code;    // of its table of texts, such as "de" or "zh_TW"; "en" needs none
   QLocale locale;  // how it is written where the user lives, such as Swiss German
 };
 
 // The first of these names, best first as preferredLocalizations answers them, that is English or
 // that `directory` has a table for ("cutline_de.qm"); English when there is none.
-Language chooseLanguage(const std::vector<std::string>& names, const QString& directory);
+DialogLanguage chooseLanguage(const std::vector<std::string>& names, const QString& directory);
 
-// Makes the texts that fontconfig finds glyphs for those of this language: the Han characters look
-// different in each of Chinese, Japanese and Korean. Before the application is made, and before any
-// thread is started, because it changes the environment. A choice of the user's is left alone.
-void preferFontsFor(const Language& language);
+// Has fontconfig choose fonts for this language: Han characters are drawn differently in Chinese,
+// Japanese and Korean. Before the application is made, and before any thread is started, because it
+// changes the environment. A choice of the user's own (FC_LANG) is left alone.
+void preferFontsFor(const DialogLanguage& language);
 
 // The program speaks the language as long as this lives.
 class LanguageInForce {
  public:
   // `directory` as for chooseLanguage. The application exists.
-  LanguageInForce(const Language& language, const QString& directory);
+  LanguageInForce(const DialogLanguage& language, const QString& directory);
   ~LanguageInForce();
   LanguageInForce(const LanguageInForce&) = delete;
   LanguageInForce& operator=(const LanguageInForce&) = delete;

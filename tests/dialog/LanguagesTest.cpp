@@ -1,0 +1,175 @@
+// Every window in every language: letters that clash with no other, a tab key that reaches every
+// control, texts that have their room.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+
+#include "host/dialog/DialogLanguage.h"
+#include "host/dialog/JobProgress.h"
+#include "host/dialog/NoticeView.h"
+#include "host/dialog/PresetBar.h"
+#include "host/dialog/PresetNameDialog.h"
+#include "platform/Languages.h"
+#include "tests/dialog/DialogTest.h"
+#include "tests/dialog/FontSize.h"
+#include "tests/dialog/languages.h"
+#include "tests/dialog/window_checks.h"
+#include "tests/platform/TemporaryBundle.h"
+
+namespace cutline {
+
+namespace {
+
+constexpr QSize kSmallScreen{1280, 760};  // 1280 x 800 without a title bar
+
+// The user's language, as the program takes it from the environment.
+class UsersLanguage {
+ public:
+  explicit UsersLanguage(const char* language)
+      : mEnvironment(languageEnvironment({{"LANG", "en_US.UTF-8"}, {"LANGUAGE", language}})),
+        mInForce(chooseLanguage(preferredLocalizations(), tableDirectory()), tableDirectory()) {}
+
+ private:
+  ScopedEnvironment mEnvironment;
+  LanguageInForce mInForce;
+};
+
+class LanguagesTest : public DialogTest,
+                      public testing::WithParamInterface<std::tuple<const char*, int>> {
+ protected:
+  LanguagesTest() : mLanguage(std::get<0>(GetParam())), mFont(std::get<1>(GetParam())) {}
+  ~LanguagesTest() override { closeDialog(); }
+
+  static void expectUsable(QWidget& window) {
+    expectNoSharedMnemonic(window);
+    expectNothingCutOff(window);
+    expectTabReachesEveryControl(window);
+  }
+
+  // A button in one of the dialog's parts by its place there: its words differ by language.
+  template <class Part>
+  QPushButton* buttonOf(int place) {
+    return dialog().findChild<Part*>()->template findChildren<QPushButton*>().at(place);
+  }
+  void showMoreOptions() {
+    click(buttonWithText<QPushButton>(PrintDialog::tr("&More printer options")));
+    QTest::qWait(20);
+  }
+  template <class Window>
+  Window* openWindow() {
+    Window* window = nullptr;
+    EXPECT_TRUE(waitUntil([&] {
+      window = dialog().findChild<Window*>();
+      return window && window->isActiveWindow() && QApplication::focusWidget();
+    }));
+    return window;
+  }
+
+ private:
+  UsersLanguage mLanguage;
+  FontSize mFont;
+};
+
+TEST_P(LanguagesTest, TheDialogIsUsableOnEachKindOfPrinter) {
+  const std::string printers[] = {samplePpd("tape-a"),      samplePpd("tape-b"),
+                                  samplePpd("roll"),        oddPpd("odd-missing-texts"),
+                                  oddPpd("tape-all-shown"), oddPpd("without-cut-options")};
+  for (const std::string& printer : printers) {
+    SCOPED_TRACE(printer);
+    openQueue(printer);
+    expectUsable(dialog());
+    closeDialog();
+  }
+}
+
+TEST_P(LanguagesTest, TheDialogIsUsableWithMoreOptions) {
+  openQueue(samplePpd("tape-a"));
+  showMoreOptions();
+  expectUsable(dialog());
+}
+
+TEST_P(LanguagesTest, TheDialogFitsASmallScreen) {
+  openQueue(samplePpd("tape-a"));
+  const QSize least = dialog().minimumSizeHint();
+  EXPECT_LE(least.width(), kSmallScreen.width());
+  EXPECT_LE(least.height(), kSmallScreen.height());
+}
+
+TEST_P(LanguagesTest, NothingIsCutOffAtTheSmallestSize) {
+  openQueue(samplePpd("roll"));
+  dialog().resize(dialog().minimumSizeHint());
+  QTest::qWait(20);
+  expectNothingCutOff(dialog());
+}
+
+TEST_P(LanguagesTest, NoticesAndTheButtonAmongThemAreUsable) {
+  openQueue(samplePpd("tape-a"));
+  click(box("LxHalfCut"));
+  ASSERT_TRUE(model().setOption("TapeMaterial", "Fabric"));
+  click(box("LxSpecialTape"));
+  server().setState("tape", PrinterState::stopped, true);
+  QTest::qWait(20);
+  ASSERT_TRUE(dialog().findChild<NoticeView*>()->isVisible());
+  expectUsable(dialog());
+}
+
+TEST_P(LanguagesTest, TheProgressOfAJobIsUsable) {
+  openQueue(samplePpd("tape-a"));
+  server().setStatuses({jobStatus(JobState::pending)});
+  click(buttonWithText<QPushButton>(PrintDialog::tr("Pr&int")));
+  QPushButton* leave = buttonOf<JobProgress>(1);
+  ASSERT_TRUE(waitUntil([leave] { return leave->isVisible(); }));
+  expectUsable(dialog());
+}
+
+TEST_P(LanguagesTest, NamingAPresetIsUsable) {
+  openQueue(samplePpd("tape-a"));
+  click(buttonOf<PresetBar>(0));
+  auto* window = openWindow<PresetNameDialog>();
+  ASSERT_NE(window, nullptr);
+  for (const char* name : {"", "a b", "tape"}) {
+    window->findChild<QLineEdit*>()->setText(QLatin1String(name));
+    window->adjustSize();
+    QTest::qWait(10);
+    expectUsable(*window);
+  }
+}
+
+TEST_P(LanguagesTest, DeletingAPresetIsUsable) {
+  server().addInstance("tape", "halfcut", {{"LxHalfCut", "ON"}});
+  openQueue(samplePpd("tape-a"));
+  dialog().findChild<PresetBar*>()->setPresets({QStringLiteral("halfcut")},
+                                               QStringLiteral("halfcut"));
+  click(buttonOf<PresetBar>(1));
+  auto* window = openWindow<QMessageBox>();
+  ASSERT_NE(window, nullptr);
+  expectUsable(*window);
+}
+
+TEST_P(LanguagesTest, TheDialogsOwnWordsAreInTheLanguage) {
+  openQueue(samplePpd("tape-a"));
+  const bool isEnglish = std::string(std::get<0>(GetParam())) == "en";
+  for (const char* words : {"No document", "Printer's own settings", "Printing"}) {
+    const QStringList said = {PrintDialog::tr(words), PresetBar::tr(words),
+                              QCoreApplication::translate("cups", words)};
+    EXPECT_EQ(said.count(QLatin1String(words)) == said.size(), isEnglish) << words;
+  }
+  EXPECT_EQ(shows(QStringLiteral("Ready")), isEnglish);
+}
+
+INSTANTIATE_TEST_SUITE_P(AllOfThem, LanguagesTest,
+                         testing::Combine(testing::ValuesIn(kDialogLanguages),
+                                          testing::Values(9, 12)),
+                         [](const auto& test) {
+                           return std::string(std::get<0>(test.param)) + "_" +
+                                  std::to_string(std::get<1>(test.param));
+                         });
+
+}  // namespace
+
+}  // namespace cutline

@@ -1,0 +1,30 @@
+// What must hold of every window that a person works with: its controls are reached and told apart
+// by keyboard, and its texts are whole.
+#pragma once
+
+#include <QString>
+#include <QWidget>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace cutline {
+
+// Kind and name of a control, for a test's message.
+std::string describe(const QWidget& widget);
+
+// The shown and enabled controls that take keys.
+std::vector<QWidget*> controlsOf(const QWidget& window);
+// Where the tab key gets from the focused control on, once around.
+std::set<QWidget*> reachedByTab();
+void expectTabReachesEveryControl(const QWidget& window);
+
+// The shown texts that can have a mnemonic: those of buttons, and captions of other controls.
+std::vector<QString> titlesOf(const QWidget& window);
+// Each of these texts has no mnemonic or one of its own.
+void expectNoSharedMnemonic(const QWidget& window);
+
+// Labels, buttons, check boxes, placeholders and chosen entries have room for their whole texts.
+void expectNothingCutOff(const QWidget& window);
+
+}  // namespace cutline
