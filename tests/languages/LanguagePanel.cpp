@@ -6,10 +6,17 @@
 #include <QTest>
 #include <future>
 
+#include "host/dialog/window_mnemonics.h"
 #include "qt/QtText.h"
 #include "tests/languages/StagedBundle.h"
 
 namespace cutline {
+namespace {
+
+// Which letters are left for the panel hangs on the dialog's other controls: here the wide ones.
+const QString kNarrowLetters = QStringLiteral("EFIJLPRSTVXYZ");
+
+}  // namespace
 
 LanguagePanel::LanguagePanel(const ScopedEnvironment::Variables& variables,
                              const std::string& ppdPath)
@@ -34,6 +41,7 @@ LanguagePanel::LanguagePanel(const ScopedEnvironment::Variables& variables,
   mWindow->resize(panel->size());
   panel->show();
   mWindow->show();
+  assignMnemonics(*mWindow, *mWindow, kNarrowLetters);
   EXPECT_TRUE(QTest::qWaitForWindowExposed(mWindow.get()));
 }
 
@@ -41,7 +49,7 @@ LanguagePanel::~LanguagePanel() { mModel.reset(); }
 
 std::vector<std::string> LanguagePanel::boxTitles() const {
   std::vector<std::string> titles;
-  for (const QCheckBox* box : shown<QCheckBox>()) titles.push_back(toUtf8(box->text()));
+  for (const QCheckBox* box : shown<QCheckBox>()) titles.push_back(toUtf8(box->accessibleName()));
   return titles;
 }
 

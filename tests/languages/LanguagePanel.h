@@ -1,5 +1,5 @@
 // The real cut panel of a printer on the real toolkit, in a shown window, for a reader of one
-// language.
+// language; its boxes have mnemonics as they get them in the dialog.
 #pragma once
 
 #include <QWidget>
@@ -37,6 +37,7 @@ class LanguagePanel {
     }
     return widgets;
   }
+  // As they are read out: without the mark of a mnemonic.
   std::vector<std::string> boxTitles() const;
 
  private:

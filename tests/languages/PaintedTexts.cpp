@@ -5,19 +5,21 @@
 #include <QWidget>
 #include <QXmlStreamReader>
 
+#include "qt/QtText.h"
+
 namespace cutline {
 
-QString paintedTexts(QWidget& widget) {
+std::string paintedTexts(QWidget& widget) {
   QByteArray drawing;
   QBuffer buffer(&drawing);
   QSvgGenerator generator;
   generator.setOutputDevice(&buffer);
   widget.render(&generator);
-  QString texts;
+  std::string texts;
   QXmlStreamReader xml(drawing);
   while (!xml.atEnd()) {
     if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == QLatin1String("text")) {
-      texts += xml.readElementText() + QLatin1Char('\n');
+      texts += toUtf8(xml.readElementText());
     }
   }
   return texts;
