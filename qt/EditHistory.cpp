@@ -20,13 +20,15 @@ bool onlyTakesAway(const EditedText& before, const EditedText& after) {
          was.sliced(after.caret + gone) == is.sliced(after.caret);
 }
 
-// What stands in the place of the selection, up to the caret; empty when the edit was made
-// elsewhere.
+// What stands in the place of the selection, up to the caret; empty when anything else has changed.
 QStringView putAtSelection(const EditedText& before, const EditedText& after) {
   const int start = std::min(before.anchor, before.caret);
   const qsizetype behind = before.text.size() - std::max(before.anchor, before.caret);
-  if (after.caret < start || after.text.size() - after.caret != behind) return {};
-  return QStringView(after.text).sliced(start, after.caret - start);
+  const QStringView was(before.text);
+  const QStringView is(after.text);
+  const bool isThere = after.caret >= start && is.size() - after.caret == behind &&
+                       was.first(start) == is.first(start) && was.last(behind) == is.last(behind);
+  return isThere ? is.sliced(start, after.caret - start) : QStringView();
 }
 
 }  // namespace

@@ -33,6 +33,9 @@ QtFieldEditor::QtFieldEditor() {
   connect(this, &QLineEdit::textChanged, this, heed);
   connect(this, &QLineEdit::selectionChanged, this, heed);
   connect(this, &QLineEdit::cursorPositionChanged, this, heed);
+  connect(this, &QLineEdit::returnPressed, this, [this] {
+    if (mDelegate) mDelegate->didEndEditing();
+  });
 }
 
 EditedText QtFieldEditor::current() const {
@@ -83,16 +86,9 @@ bool QtFieldEditor::event(QEvent* event) {
     case QEvent::DragLeave:
     case QEvent::Drop:
       return handleDrag(*event);
-    case QEvent::FocusIn: {
-      const bool handled = handleInLine(*event);
-      const bool fromOwnMenu = static_cast<QFocusEvent&>(*event).reason() == Qt::PopupFocusReason;
-      if (mDelegate && !fromOwnMenu) mDelegate->didTakeFocus();
-      return handled;
-    }
+    case QEvent::FocusIn:
     case QEvent::FocusOut:
-      cancelComposition();
-      mHistory.endRun();
-      return handleInLine(*event);
+      return handleFocus(static_cast<QFocusEvent&>(*event));
     default:
       return handleInLine(*event);
   }
@@ -108,6 +104,22 @@ bool QtFieldEditor::handleKey(QKeyEvent& event) {
     redoEdit();
   }
   return true;
+}
+
+// The line's own menu only borrows the keyboard.
+bool QtFieldEditor::handleFocus(QFocusEvent& event) {
+  if (event.lostFocus()) {
+    cancelComposition();
+    mHistory.endRun();
+  }
+  const bool handled = handleInLine(event);
+  if (!mDelegate || event.reason() == Qt::PopupFocusReason) return handled;
+  if (event.gotFocus()) {
+    mDelegate->didTakeFocus();
+  } else {
+    mDelegate->didEndEditing();
+  }
+  return handled;
 }
 
 // Lets QLineEdit have the event, and looks at what it has made of the line. QLineEdit sends itself

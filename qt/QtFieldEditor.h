@@ -25,6 +25,9 @@ class QtFieldEditor : public QLineEdit {
     virtual void didChange() noexcept = 0;
     // The line has got the keyboard.
     virtual void didTakeFocus() noexcept = 0;
+    // Return was pressed, or the line has lost the keyboard. (QLineEdit tells of the latter only
+    // after edits that it knows for edits.)
+    virtual void didEndEditing() noexcept = 0;
   };
 
   QtFieldEditor();
@@ -57,6 +60,7 @@ class QtFieldEditor : public QLineEdit {
 
   EditedText current() const;
   bool handleKey(QKeyEvent& event);
+  bool handleFocus(QFocusEvent& event);
   bool handleDrag(QEvent& event);
   bool handleComposition(QInputMethodEvent& event);
   bool handleInLine(QEvent& event);

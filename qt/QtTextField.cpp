@@ -15,8 +15,6 @@ QtTextField::QtTextField(const Rect& frame, std::shared_ptr<QtActions> actions)
     : QtControlOf(new QtFieldEditor, frame, std::move(actions)),
       mTextColor(*widget(), QPalette::Text) {
   widget()->setDelegate(this);
-  QObject::connect(widget(), &QLineEdit::editingFinished, core().connectionContext(),
-                   [this] { didEndEditing(); });
 }
 
 QtTextField::~QtTextField() {
@@ -106,12 +104,16 @@ void QtTextField::tellOfChange() noexcept {
 void QtTextField::didTakeFocus() noexcept {
   if (mTakingFocus || !mClient) return;
   const ClientCall call(*this);
-  if (!call.client->becomeFirstResponder() && widget()) widget()->clearFocus();
+  if (call.client->becomeFirstResponder() || !widget()) return;
+  mGivingFocusAway = true;
+  widget()->clearFocus();
+  mGivingFocusAway = false;
 }
 
 // No exception may reach Qt's event loop, and nobody behind it could handle one: the log hears of
 // it, and the field stays as it is.
 void QtTextField::didEndEditing() noexcept {
+  if (mGivingFocusAway) return;
   if (!mClient) return superTextDidEndEditing(notification(kTextDidEndEditing));
   const ClientCall call(*this);
   try {

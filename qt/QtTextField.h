@@ -41,7 +41,7 @@ class QtTextField : public QtControlOf<TextField, QtFieldEditor>,
   bool mayChange(const EditProposal& edit) noexcept override;
   void didChange() noexcept override;
   void didTakeFocus() noexcept override;
-  void didEndEditing() noexcept;
+  void didEndEditing() noexcept override;
   void tellOfChange() noexcept;
   void correct(const std::string& text) noexcept;
   // The client, for one call, and with it the field: what the client calls may let go of the field,
@@ -59,8 +59,9 @@ class QtTextField : public QtControlOf<TextField, QtFieldEditor>,
   std::shared_ptr<TextFieldClient> mClient;
   std::string mText;
   std::function<void()> mTextDidChange;
-  bool mInUserEdit = false;   // the user's change is being told of
-  bool mTakingFocus = false;  // the program is putting the keyboard here
+  bool mInUserEdit = false;       // the user's change is being told of
+  bool mTakingFocus = false;      // the program is putting the keyboard here
+  bool mGivingFocusAway = false;  // the client does not want it
   bool mEditedSinceAction = false;
   QtTextColor mTextColor;
 };

@@ -1,10 +1,9 @@
-// What a panel relies on, whichever toolkit shows it.
+// What a panel relies on, whichever toolkit shows it. TextFieldConformanceTest has the text fields.
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <vector>
 
-#include "plain/PlainToolkit.h"
 #include "platform/Button.h"
 #include "platform/CheckBox.h"
 #include "platform/CustomView.h"
@@ -14,29 +13,11 @@
 #include "platform/Stepper.h"
 #include "platform/TextField.h"
 #include "tests/qt/QtPanelFixture.h"
+#include "tests/qt/ToolkitConformance.h"
 
 namespace cutline {
 namespace {
 
-template <class AnyToolkit>
-class ToolkitConformance : public testing::Test {
- protected:
-  ToolkitConformance() { toolkit.setActionObserver(&observer); }
-  ActionHandler recorded() {
-    return [this](View*) { events.emplace_back("action"); };
-  }
-  void addThree(PopUpButton& popUp) {
-    int tag = 0;
-    for (const char* title : {"A", "B", "C"}) popUp.addItem({title, ++tag, {}, {}});
-  }
-
-  std::vector<std::string> events;
-  RecordingObserver observer{events};
-  AnyToolkit concrete;
-  Toolkit& toolkit = concrete;
-};
-
-using Toolkits = testing::Types<PlainToolkit, QtToolkit>;
 TYPED_TEST_SUITE(ToolkitConformance, Toolkits);
 
 TYPED_TEST(ToolkitConformance, NewViewIsShownAndInNoTree) {
