@@ -10,6 +10,20 @@
 
 namespace cutline {
 
+namespace {
+
+constexpr int kLeastLetters = 12;
+
+// How many of the letters that a combo box counts in are as wide as the text.
+int lettersFor(const QComboBox& combo, const QString& text) {
+  const QFontMetrics metrics = combo.fontMetrics();
+  return metrics.horizontalAdvance(text) / metrics.horizontalAdvance(QLatin1Char('X')) + 1;
+}
+
+QString ownSettings() { return PresetBar::tr("Printer's own settings"); }
+
+}  // namespace
+
 PresetBar::PresetBar(QWidget* parent)
     : QWidget(parent),
       mCaption(new QLabel(tr("Pr&eset:"), this)),
@@ -17,7 +31,7 @@ PresetBar::PresetBar(QWidget* parent)
       mSave(new QPushButton(tr("&Save..."), this)),
       mRemove(new QPushButton(tr("&Delete"), this)) {
   mPresets->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  mPresets->setMinimumContentsLength(12);
+  mPresets->setMinimumContentsLength(qMax(kLeastLetters, lettersFor(*mPresets, ownSettings())));
   mPresets->setAccessibleName(tr("Preset"));
   mCaption->setBuddy(mPresets);
   mSave->setAccessibleName(tr("Save these settings as a preset"));
@@ -41,7 +55,7 @@ PresetBar::PresetBar(QWidget* parent)
 
 void PresetBar::setPresets(const QStringList& names, const QString& current) {
   mPresets->clear();
-  mPresets->addItem(tr("Printer's own settings"), QString());
+  mPresets->addItem(ownSettings(), QString());
   for (const QString& name : names) mPresets->addItem(name, name);
   mPresets->setCurrentIndex(qMax(0, mPresets->findData(current)));
   refreshButtons();

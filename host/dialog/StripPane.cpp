@@ -35,6 +35,7 @@ StripPane::StripPane(QWidget* parent)
   row->addWidget(mZoomIn);
   column->addLayout(row);
   mPosition->setTextFormat(Qt::PlainText);
+  mPosition->setWordWrap(true);
   connect(mStrip, &StripView::currentPageChanged, this, &StripPane::refresh);
   connect(mStrip, &StripView::zoomChanged, this, &StripPane::refresh);
   refresh();
