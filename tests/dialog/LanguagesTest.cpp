@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -83,6 +84,7 @@ TEST_P(LanguagesTest, TheDialogIsUsableOnEachKindOfPrinter) {
     SCOPED_TRACE(printer);
     openQueue(printer);
     expectUsable(dialog());
+    expectWholeEntry(*dialog().findChild<PresetBar*>()->findChild<QComboBox*>());
     closeDialog();
   }
 }

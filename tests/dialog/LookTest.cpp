@@ -66,7 +66,9 @@ TEST_P(LookTest, ThePreviewTakesTheSpaceThatIsLeft) {
   const QSize growth(300, 200);
   dialog().resize(dialog().size() + growth);
   QTest::qWait(20);
-  EXPECT_EQ(preview->size(), before + growth);
+  EXPECT_EQ(preview->width(), before.width() + growth.width());
+  // The line below it may wrap no longer.
+  EXPECT_GE(preview->height(), before.height() + growth.height());
 }
 
 TEST_P(LookTest, ThePanelKeepsItsOwnSize) {

@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+class QComboBox;
+
 namespace cutline {
 
 // Kind and name of a control, for a test's message.
@@ -24,7 +26,10 @@ std::vector<QString> titlesOf(const QWidget& window);
 // Each of these texts has no mnemonic or one of its own.
 void expectNoSharedMnemonic(const QWidget& window);
 
-// Labels, buttons, check boxes, placeholders and chosen entries have room for their whole texts.
+// Labels, buttons, check boxes and placeholders have room for their whole texts. Not so the entries
+// of combo boxes, which are a printer's own words and may be as long as they like.
 void expectNothingCutOff(const QWidget& window);
+// The chosen entry has.
+void expectWholeEntry(const QComboBox& combo);
 
 }  // namespace cutline
