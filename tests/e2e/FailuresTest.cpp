@@ -129,7 +129,7 @@ TEST_F(Failures, ADocumentThatVanishesBeforePrintIsNamed) {
   ASSERT_TRUE(dialog.willShow(QStringLiteral("Label 1 of 12")));
   std::filesystem::remove(*line.file);
   dialog.press("Pr&int");
-  EXPECT_TRUE(dialog.willShow(QStringLiteral("cannot read the document")));
+  EXPECT_TRUE(dialog.willShow(QStringLiteral("Cannot read the document")));
   expectUsable(dialog);
   EXPECT_TRUE(nothingNew());
   std::filesystem::copy_file(labels(), *line.file);
