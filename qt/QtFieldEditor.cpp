@@ -64,13 +64,20 @@ void QtFieldEditor::correctText(const QString& text) noexcept {
   mHistory.correct(mSettled);
 }
 
-void QtFieldEditor::undoEdit() noexcept { goTo(mHistory.undo()); }
+void QtFieldEditor::undoEdit() noexcept {
+  if (!canUndo()) return;
+  cancelComposition();
+  goTo(mHistory.undo());
+}
 
-void QtFieldEditor::redoEdit() noexcept { goTo(mHistory.redo()); }
+void QtFieldEditor::redoEdit() noexcept {
+  if (!canRedo()) return;
+  cancelComposition();
+  goTo(mHistory.redo());
+}
 
 void QtFieldEditor::goTo(const std::optional<EditedText>& state) {
   if (!state) return;
-  cancelComposition();
   show(*state);
   mSettled = *state;
   if (mDelegate) mDelegate->didChange();
@@ -157,7 +164,7 @@ bool QtFieldEditor::handleComposition(QInputMethodEvent& event) {
   mComposing = !event.preeditString().isEmpty();
   mComposed = current();
   if (!event.commitString().isEmpty() || event.replacementLength() > 0) {
-    settle(event.replacementLength() > 0 ? Place::anywhere : Place::selection);
+    settle(Place::anywhere);
   } else if (!mComposing && wasComposing) {
     show(mSettled);
   } else if (!mComposing) {
