@@ -24,6 +24,11 @@ void redirect(QAction& action, bool enabled, QObject* context, const std::functi
   QObject::connect(&action, &QAction::triggered, context, to);
 }
 
+bool isModifier(const QKeyEvent& event) {
+  const int key = event.key();
+  return (key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock) || key == Qt::Key_AltGr;
+}
+
 }  // namespace
 
 QtFieldEditor::Delegate::~Delegate() = default;
@@ -101,7 +106,10 @@ bool QtFieldEditor::event(QEvent* event) {
   }
 }
 
+// QLineEdit counts characters among those that are composed, so composing ends before a key that
+// the input method has left to the line.
 bool QtFieldEditor::handleKey(QKeyEvent& event) {
+  if (!isModifier(event)) commitComposition();
   const bool isUndo = event.matches(QKeySequence::Undo);
   if (!isUndo && !event.matches(QKeySequence::Redo)) return handleInLine(event);
   event.accept();
@@ -182,6 +190,11 @@ bool QtFieldEditor::isStillComposing() {
   forgetComposition();
   if (now.text == mComposed.text && now.text != mSettled.text) show(mSettled);
   return false;
+}
+
+void QtFieldEditor::commitComposition() {
+  if (mComposing) QGuiApplication::inputMethod()->commit();
+  cancelComposition();
 }
 
 void QtFieldEditor::cancelComposition() {

@@ -68,6 +68,7 @@ class QtFieldEditor : public QLineEdit {
   void lineDidChange();
   void settle(Place place);
   bool isStillComposing();
+  void commitComposition();
   void cancelComposition();
   void forgetComposition();
   void show(const EditedText& state);

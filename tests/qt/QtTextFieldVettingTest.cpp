@@ -287,13 +287,31 @@ TEST_F(QtTextFieldVettingTest, CompositionEndsWhenTheCaretIsMoved) {
   editSomewhat();
   const EditedText before = state();
   user.compose("q");
-  user.press(Qt::Key_End);
+  line->setCursorPosition(0);
   EXPECT_EQ(state(), before);
   line->setCursorPosition(4);
   user.compose("q");
-  user.press(Qt::Key_Home);
+  line->setCursorPosition(0);
   EXPECT_EQ(state(), (EditedText{"1234", 0, 0}));
   EXPECT_TRUE(formatter->asked.empty());
+}
+
+TEST_F(QtTextFieldVettingTest, CompositionEndsWithAKeyThatIsLeftToTheLine) {
+  editSomewhat();
+  user.compose("\xF0\x9F\x99\x82");
+  user.press(Qt::Key_Delete);
+  const std::vector expected{AskedEdit{"1234", {1, 2}, "14", {1, 0}}};
+  EXPECT_EQ(formatter->asked, expected);
+  user.undo();
+  EXPECT_EQ(state(), (EditedText{"1234", 3, 1}));
+}
+
+TEST_F(QtTextFieldVettingTest, CompositionGoesOnWhileModifiersArePressed) {
+  editSomewhat();
+  user.compose("q");
+  for (const Qt::Key key : {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt}) user.press(key);
+  EXPECT_EQ(line->text(), "14");
+  EXPECT_EQ(field->stringValue(), "1234");
 }
 
 TEST_F(QtTextFieldVettingTest, UndoCancelsAComposition) {
