@@ -10,8 +10,9 @@
 #include "host/core/PrinterSelection.h"
 #include "plain/PlainToolkit.h"
 #include "tests/e2e/DialogOnServer.h"
-#include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Program.h"
+#include "tests/e2e/SampleOptions.h"
+#include "tests/support/EndToEndTest.h"
 
 namespace cutline::test {
 

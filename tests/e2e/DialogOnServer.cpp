@@ -14,6 +14,7 @@
 #include <QSvgRenderer>
 #include <QTest>
 #include <algorithm>
+#include <functional>
 #include <limits>
 #include <stdexcept>
 
@@ -23,13 +24,13 @@
 #include "host/core/PrinterSelection.h"
 #include "host/dialog/SummaryView.h"
 #include "platform/CustomView.h"
-#include "tests/e2e/EndToEndTest.h"
+#include "tests/e2e/SampleOptions.h"
+#include "tests/support/EndToEndTest.h"
 
 namespace cutline::test {
 
 namespace {
 
-constexpr int kPatience = 20000;
 constexpr QSize kPreferredSize{1120, 720};
 
 PrinterChoice opened(const CommandLine& line) {
@@ -93,10 +94,6 @@ QImage drawn(const QString& svg, const QSize& size, const QColor& ground) {
 }
 
 }  // namespace
-
-bool waitUntil(const std::function<bool()>& condition) {
-  return QTest::qWaitFor(condition, kPatience);
-}
 
 void click(QWidget* widget) {
   ASSERT_NE(widget, nullptr);

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <QString>
-#include <functional>
 #include <memory>
 #include <string>
 
@@ -14,14 +13,12 @@
 #include "host/dialog/PrintDialog.h"
 #include "platform/CheckBox.h"
 #include "qt/QtToolkit.h"
-#include "tests/e2e/PrintedJob.h"
+#include "tests/support/PrintedJob.h"
+#include "tests/support/waiting.h"
 
 class QComboBox;
 
 namespace cutline::test {
-
-// Runs the event loop until the condition holds; false after twenty seconds.
-bool waitUntil(const std::function<bool()>& condition);
 
 // A click in the middle of what takes it.
 void click(QWidget* widget);

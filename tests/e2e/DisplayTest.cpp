@@ -8,8 +8,8 @@
 #include <QStyleOptionButton>
 
 #include "tests/e2e/DialogOnServer.h"
-#include "tests/e2e/Display.h"
-#include "tests/e2e/EndToEndTest.h"
+#include "tests/support/Display.h"
+#include "tests/support/EndToEndTest.h"
 
 namespace cutline::test {
 

@@ -7,9 +7,9 @@
 
 #include "tests/cups/TemporaryFolder.h"
 #include "tests/e2e/DialogOnServer.h"
-#include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Program.h"
 #include "tests/e2e/ServerInBetween.h"
+#include "tests/support/EndToEndTest.h"
 
 namespace cutline::test {
 

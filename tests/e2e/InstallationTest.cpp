@@ -5,9 +5,9 @@
 #include <filesystem>
 #include <memory>
 
-#include "tests/e2e/EndToEndTest.h"
 #include "tests/samples/Command.h"
 #include "tests/samples/Folder.h"
+#include "tests/support/EndToEndTest.h"
 
 namespace cutline::test {
 

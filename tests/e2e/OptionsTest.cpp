@@ -9,7 +9,8 @@
 #include <QTest>
 
 #include "tests/e2e/DialogOnServer.h"
-#include "tests/e2e/EndToEndTest.h"
+#include "tests/e2e/SampleOptions.h"
+#include "tests/support/EndToEndTest.h"
 
 namespace cutline::test {
 

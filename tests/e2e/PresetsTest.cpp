@@ -10,9 +10,10 @@
 #include "host/dialog/PresetBar.h"
 #include "host/dialog/PresetNameDialog.h"
 #include "tests/e2e/DialogOnServer.h"
-#include "tests/e2e/EndToEndTest.h"
+#include "tests/e2e/SampleOptions.h"
 #include "tests/e2e/ServerInBetween.h"
 #include "tests/samples/Command.h"
+#include "tests/support/EndToEndTest.h"
 
 namespace cutline::test {
 

@@ -3,7 +3,8 @@
 
 #include "host/core/CutRules.h"
 #include "tests/e2e/DialogOnServer.h"
-#include "tests/e2e/EndToEndTest.h"
+#include "tests/e2e/SampleOptions.h"
+#include "tests/support/EndToEndTest.h"
 
 namespace cutline::test {
 

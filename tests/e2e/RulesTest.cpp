@@ -9,8 +9,9 @@
 #include <QTimer>
 
 #include "tests/e2e/DialogOnServer.h"
-#include "tests/e2e/EndToEndTest.h"
 #include "tests/e2e/Program.h"
+#include "tests/e2e/SampleOptions.h"
+#include "tests/support/EndToEndTest.h"
 
 namespace cutline::test {
 

@@ -5,33 +5,10 @@
 #include <QApplication>
 #include <QLoggingCategory>
 #include <QTemporaryDir>
-#include <memory>
 
 #include "host/dialog/Appearance.h"
-#include "tests/e2e/EndToEndTest.h"
+#include "tests/support/EndToEndTest.h"
 
-namespace cutline::test {
-
-namespace {
-
-std::unique_ptr<PrivateServer> theServer;
-
-int runTests() {
-  theServer = std::make_unique<PrivateServer>();
-  theServer->enterEnvironment();
-  const int status = RUN_ALL_TESTS();
-  theServer.reset();
-  return status;
-}
-
-}  // namespace
-
-PrivateServer& server() { return *theServer; }
-
-}  // namespace cutline::test
-
-// The server's environment is entered before the first call of libcups, which reads it once a
-// thread.
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   const QTemporaryDir runtimeDirectory;
@@ -41,5 +18,5 @@ int main(int argc, char** argv) {
   QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
   cutline::applyStyle();
   cutline::applyAppearance(false);
-  return cutline::test::runTests();
+  return cutline::test::runAllTestsWithServer();
 }

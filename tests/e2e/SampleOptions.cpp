@@ -1,9 +1,8 @@
-#include "tests/e2e/EndToEndTest.h"
-
-#include <filesystem>
+#include "tests/e2e/SampleOptions.h"
 
 #include "host/core/CutRules.h"
 #include "host/core/OptionTable.h"
+#include "tests/support/EndToEndTest.h"
 
 namespace cutline::test {
 
@@ -21,10 +20,6 @@ PluginLoader& plugIns() {
   static PluginLoader loader({built("lib/cutline/plugins")});
   return loader;
 }
-
-std::string built(const std::string& path) { return std::string(CUTLINE_BUILD_DIR "/") + path; }
-
-std::string labels() { return built("share/cutline/samples/documents/labels.pdf"); }
 
 std::shared_ptr<PpdFile> samplePpd(const std::string& printer) {
   for (const PpdRow& row : kPpds)
@@ -65,28 +60,6 @@ Choices only(const Choices& options, const Choices& names) {
   for (const auto& [name, value] : options)
     if (names.contains(name)) chosen[name] = value;
   return chosen;
-}
-
-EndToEndTest::EndToEndTest() {
-  server().waitUntilIdle();
-  mBefore = server().printedJobs();
-  std::filesystem::remove(server().home() + "/.cups/lpoptions");
-}
-
-PrintedJob EndToEndTest::newJob() {
-  server().waitUntilIdle();
-  const std::set<int> now = server().printedJobs();
-  std::set<int> fresh;
-  for (const int job : now)
-    if (!mBefore.contains(job)) fresh.insert(job);
-  EXPECT_EQ(fresh.size(), 1U);
-  mBefore = now;
-  return {server(), fresh.size() == 1 ? *fresh.begin() : 0};
-}
-
-bool EndToEndTest::nothingNew() const {
-  server().waitUntilIdle();
-  return server().printedJobs() == mBefore;
 }
 
 }  // namespace cutline::test

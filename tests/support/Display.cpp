@@ -1,15 +1,12 @@
-#include "tests/e2e/Display.h"
-
-#include <sys/prctl.h>
+#include "tests/support/Display.h"
 
 #include <QFile>
 #include <QtEndian>
-#include <csignal>
 #include <map>
 #include <stdexcept>
 
-#include "tests/e2e/DialogOnServer.h"
-#include "tests/e2e/EndToEndTest.h"
+#include "tests/support/child_process.h"
+#include "tests/support/waiting.h"
 
 namespace cutline::test {
 
@@ -24,11 +21,6 @@ constexpr qint64 kBytesPerColor = 12;
 
 quint32 field(const QByteArray& file, HeaderField which) {
   return qFromBigEndian<quint32>(file.constData() + 4 * static_cast<std::ptrdiff_t>(which));
-}
-
-// However this process ends, what it started ends with it.
-void endWithUs(QProcess& process) {
-  process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
 }
 
 QStringList words(const QPoint& place) {

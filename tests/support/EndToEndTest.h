@@ -4,41 +4,26 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <set>
 #include <string>
-#include <vector>
 
-#include "cups/Destination.h"
-#include "cups/PpdFile.h"
-#include "host/core/PluginLoader.h"
-#include "tests/e2e/PrintedJob.h"
+#include "tests/support/PrintedJob.h"
 
 namespace cutline::test {
 
 // The sample printers' queues.
 inline constexpr const char* kPrinters[] = {"tape24", "tapeb", "roll62"};
 
+// Runs the program's tests with a print server, whose client this process is from now on. libcups
+// reads the environment once a thread, so this comes before its first call. Answers main's status.
+int runAllTestsWithServer();
+// That server.
 PrivateServer& server();
-// The build tree's bundles, loaded once a process.
-PluginLoader& plugIns();
 // The build tree's files, as in an installation.
 std::string built(const std::string& path);
 // Twelve labels on as many pages.
 std::string labels();
 constexpr int kLabels = 12;
-
-// The PPD that the server has for one of its printers, anew.
-std::shared_ptr<PpdFile> samplePpd(const std::string& printer);
-// Every cut option that the PPD has, with its default.
-Choices cutDefaults(const PpdFile& ppd);
-// The cut options with two choices, in an order in which they can be clicked: special tape greys
-// others, so it comes last.
-std::vector<std::string> cutSwitches(const PpdFile& ppd);
-Choices asChoices(const OptionList& options);
-OptionList asList(const Choices& choices);
-// Of `options` those that are among `names`.
-Choices only(const Choices& options, const Choices& names);
 
 class EndToEndTest : public testing::Test {
  protected:

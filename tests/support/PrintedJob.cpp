@@ -1,4 +1,4 @@
-#include "tests/e2e/PrintedJob.h"
+#include "tests/support/PrintedJob.h"
 
 #include <algorithm>
 #include <array>

@@ -1,0 +1,54 @@
+// The real program on a display of its own, and a screen reader that has nothing of it but the
+// accessibility bus.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QProcess>
+#include <QStringList>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "tests/access/Accessible.h"
+#include "tests/support/Display.h"
+#include "tests/support/EndToEndTest.h"
+
+namespace cutline::test {
+
+class ScreenReaderTest : public EndToEndTest {
+ protected:
+  ScreenReaderTest() = default;
+  ~ScreenReaderTest() override;
+
+  // Starts `cutline -d PRINTER [words] labels.pdf` and waits until its dialog is there with all
+  // that it shows. Fails the test when it does not come.
+  void startDialog(const char* printer, const QStringList& words = {});
+  // How the program ended; -1 when it goes on for twenty seconds.
+  int exitStatus();
+
+  Accessible dialog() const { return window("Print labels.pdf"); }
+  // The program's window of this title; no object when it has none.
+  Accessible window(const std::string& title) const;
+
+  // The shown control of this role and name; waits for it, and fails the test when it does not
+  // come.
+  Accessible control(AtspiRole role, const std::string& name) const;
+  Accessible box(const std::string& name) const { return control(ATSPI_ROLE_CHECK_BOX, name); }
+  Accessible count() const { return control(ATSPI_ROLE_TEXT, "Number of labels between cuts"); }
+  Accessible stepper() const {
+    return control(ATSPI_ROLE_SPIN_BUTTON, "Change the number of labels between cuts");
+  }
+  // What the panel's preview says.
+  std::string picture() const;
+  // A line of the summary, by its title; empty when there is none.
+  std::string summary(const std::string& title) const;
+
+ private:
+  Accessible program() const;
+
+  Display mDisplay;
+  QProcess mProgram;
+};
+
+}  // namespace cutline::test

@@ -1,0 +1,50 @@
+#include "tests/support/EndToEndTest.h"
+
+#include <filesystem>
+#include <memory>
+
+namespace cutline::test {
+
+namespace {
+
+std::unique_ptr<PrivateServer> theServer;
+
+}  // namespace
+
+int runAllTestsWithServer() {
+  theServer = std::make_unique<PrivateServer>();
+  theServer->enterEnvironment();
+  const int status = RUN_ALL_TESTS();
+  theServer.reset();
+  return status;
+}
+
+PrivateServer& server() { return *theServer; }
+
+std::string built(const std::string& path) { return std::string(CUTLINE_BUILD_DIR "/") + path; }
+
+std::string labels() { return built("share/cutline/samples/documents/labels.pdf"); }
+
+EndToEndTest::EndToEndTest() {
+  server().waitUntilIdle();
+  mBefore = server().printedJobs();
+  std::filesystem::remove(server().home() + "/.cups/lpoptions");
+}
+
+PrintedJob EndToEndTest::newJob() {
+  server().waitUntilIdle();
+  const std::set<int> now = server().printedJobs();
+  std::set<int> fresh;
+  for (const int job : now)
+    if (!mBefore.contains(job)) fresh.insert(job);
+  EXPECT_EQ(fresh.size(), 1U);
+  mBefore = now;
+  return {server(), fresh.size() == 1 ? *fresh.begin() : 0};
+}
+
+bool EndToEndTest::nothingNew() const {
+  server().waitUntilIdle();
+  return server().printedJobs() == mBefore;
+}
+
+}  // namespace cutline::test
