@@ -10,8 +10,7 @@ class ClientWidget;
 
 class AccessibleDrawing : public QAccessibleWidget {
  public:
-  // From now on Qt makes one of these for every ClientWidget that is asked about.
-  static void makeKnown();
+  explicit AccessibleDrawing(ClientWidget& widget);
 
   // The kind of text that gives the client's words: name or description.
   static QAccessible::Text whereWordsAre(const ClientWidget& widget);
@@ -19,8 +18,6 @@ class AccessibleDrawing : public QAccessibleWidget {
   QString text(QAccessible::Text kind) const override;
 
  private:
-  explicit AccessibleDrawing(ClientWidget& widget);
-
   const ClientWidget& mWidget;
 };
 

@@ -21,8 +21,6 @@ Rect toViewRect(const QRect& rect, double viewHeight, bool flipped) {
 
 }  // namespace
 
-ClientWidget::ClientWidget() { AccessibleDrawing::makeKnown(); }
-
 void ClientWidget::setClient(const View* view, CustomViewClient* client) {
   mView = view;
   mClient = client;

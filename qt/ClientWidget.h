@@ -10,8 +10,6 @@ namespace cutline {
 
 class ClientWidget : public QWidget {
  public:
-  ClientWidget();
-
   // Both are borrowed. Without a client nothing is drawn and nothing is said.
   void setClient(const View* view, CustomViewClient* client);
 

@@ -6,6 +6,7 @@
 #include "qt/PictureComboBox.h"
 #include "qt/QtPicture.h"
 #include "qt/QtText.h"
+#include "qt/accessibility.h"
 
 namespace cutline {
 
@@ -104,7 +105,7 @@ void QtPopUpButton::nameCurrent() noexcept {
   const std::string entry = mSelected ? inWords(mItems[*mSelected]) : std::string();
   const std::string label = accessibilityLabel();
   const std::string separator = label.empty() || entry.empty() ? "" : ": ";
-  widget()->setAccessibleName(toQString(label + separator + entry));
+  setAccessibleName(*widget(), toQString(label + separator + entry));
 }
 
 }  // namespace cutline

@@ -80,7 +80,9 @@ void QtStepper::setIntValue(int value) noexcept {
   widget()->setValue(mValue);
 }
 
+// Assistive technology steps a greyed widget, too.
 void QtStepper::userDidStep(int value) noexcept {
+  if (!widget()->isEnabled()) return setIntValue(mValue);
   mValue = value;
   runAction();
 }

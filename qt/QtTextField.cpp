@@ -74,7 +74,9 @@ void QtTextField::setTextDidChange(std::function<void()> handler) noexcept {
   mTextDidChange = std::move(handler);
 }
 
+// Assistive technology reaches a greyed line, too.
 bool QtTextField::mayChange(const EditProposal& edit) noexcept {
+  if (!widget()->isEnabled()) return false;
   const auto formatter = mFormatter;
   if (!formatter) return true;
   const QtActions::Running running(core().actions());

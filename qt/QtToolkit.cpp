@@ -16,10 +16,11 @@
 #include "qt/QtTabOrder.h"
 #include "qt/QtTextField.h"
 #include "qt/QtView.h"
+#include "qt/accessibility.h"
 
 namespace cutline {
 
-QtToolkit::QtToolkit() : mActions(std::make_shared<QtActions>()) {}
+QtToolkit::QtToolkit() : mActions(std::make_shared<QtActions>()) { makeAccessible(); }
 
 QtToolkit::~QtToolkit() { mActions->setObserver(nullptr); }
 

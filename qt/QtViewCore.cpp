@@ -5,6 +5,7 @@
 
 #include "qt/QtActions.h"
 #include "qt/QtText.h"
+#include "qt/accessibility.h"
 
 namespace cutline {
 
@@ -193,7 +194,7 @@ void QtViewCore::releaseSubviews() noexcept {
 
 void QtViewCore::setAccessibilityLabel(const std::string& label) noexcept {
   mAccessibilityLabel = label;
-  if (mWidget) mWidget->setAccessibleName(toQString(label));
+  if (mWidget) setAccessibleName(*mWidget, toQString(label));
 }
 
 }  // namespace cutline

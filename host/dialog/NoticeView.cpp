@@ -8,6 +8,8 @@
 #include <array>
 #include <memory>
 
+#include "qt/accessibility.h"
+
 namespace cutline {
 namespace {
 
@@ -65,12 +67,15 @@ void NoticeView::rebuild() {
     }
   }
   setVisible(mRows->count() > 0);
+  if (!isVisible()) return;
   QAccessibleEvent event(this, QAccessible::Alert);
   QAccessible::updateAccessibility(&event);
 }
 
 QWidget* NoticeView::makeRow(Severity severity, const QString& line, bool isResolvable) {
   auto* row = new QWidget(this);
+  setAccessibleRole(*row, QAccessible::AlertMessage);
+  row->setAccessibleName(line);
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(new StatusIcon(severity, row), 0, Qt::AlignTop);

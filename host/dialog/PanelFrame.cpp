@@ -7,6 +7,7 @@
 
 #include "qt/QtText.h"
 #include "qt/QtToolkit.h"
+#include "qt/accessibility.h"
 
 namespace cutline {
 namespace {
@@ -60,6 +61,7 @@ void PanelFrame::addPanel(const PanelEntry& panel) {
   mColumn->addWidget(makeHeading(toQString(panel.name), this));
   auto* box = new QFrame(this);
   box->setFrameShape(QFrame::StyledPanel);
+  setAccessibleRole(*box, QAccessible::Grouping);
   box->setAccessibleName(toQString(panel.name));
   auto* inside = new QVBoxLayout(box);
   inside->setContentsMargins(0, 0, 0, 0);

@@ -73,6 +73,7 @@ void StripPane::refresh() {
   const QString page = pageText();
   mPosition->setText(page.isEmpty() || mPaperText.isEmpty() ? page + mPaperText
                                                             : page + kSeparator + mPaperText);
+  mStrip->setWords(mPosition->text());
   mPrevious->setEnabled(mStrip->currentPage() > 0);
   mNext->setEnabled(mStrip->currentPage() + 1 < mStrip->pageCount());
   mZoomOut->setEnabled(mStrip->canZoomOut());

@@ -11,6 +11,7 @@
 #include <cmath>
 
 #include "host/dialog/Appearance.h"
+#include "qt/accessibility.h"
 
 namespace cutline {
 namespace {
@@ -98,6 +99,7 @@ QPainterPath pieceDown(const QRectF& rect) {
 StripView::StripView(QWidget* parent) : QAbstractScrollArea(parent) {
   setFocusPolicy(Qt::StrongFocus);
   setFrameShape(QFrame::StyledPanel);
+  setAccessibleRole(*this, QAccessible::Graphic);
   setAccessibleName(tr("Preview of the labels"));
   horizontalScrollBar()->setFocusPolicy(Qt::NoFocus);
   verticalScrollBar()->setFocusPolicy(Qt::NoFocus);
@@ -132,8 +134,17 @@ void StripView::setMirrored(bool mirrored) {
 
 void StripView::setMessage(const QString& message) {
   mMessage = message;
-  setAccessibleDescription(message);
+  describe();
   viewport()->update();
+}
+
+void StripView::setWords(const QString& words) {
+  mWords = words;
+  describe();
+}
+
+void StripView::describe() {
+  cutline::setAccessibleDescription(*this, mMessage.isEmpty() ? mWords : mMessage);
 }
 
 void StripView::showPage(int page, double scale, const QImage& image) {

@@ -28,6 +28,8 @@ class StripView : public QAbstractScrollArea {
   void setMirrored(bool mirrored);
   // Shown over the strip, for waiting and for failures; empty shows none.
   void setMessage(const QString& message);
+  // What is shown, for those who cannot see it; a message goes before.
+  void setWords(const QString& words);
   void showPage(int page, double scale, const QImage& image);
 
   int pageCount() const noexcept { return static_cast<int>(mPages.size()); }
@@ -60,6 +62,7 @@ class StripView : public QAbstractScrollArea {
   void scrollContentsBy(int dx, int dy) override;
 
  private:
+  void describe();
   void layOut();
   void setZoom(double zoom);
   void setBars();
@@ -79,6 +82,7 @@ class StripView : public QAbstractScrollArea {
   PageSelection mSelection;
   bool mIsMirrored = false;
   QString mMessage;
+  QString mWords;
   double mZoom = 1;
   int mCurrentPage = 0;
   std::optional<StripLayout> mLayout;

@@ -4,6 +4,7 @@
 #include <QLabel>
 
 #include "qt/QtText.h"
+#include "qt/accessibility.h"
 
 namespace cutline {
 namespace {
@@ -25,15 +26,19 @@ SummaryView::SummaryView(QWidget* parent) : QWidget(parent), mGrid(new QGridLayo
   mGrid->setVerticalSpacing(2);
   mGrid->setColumnMinimumWidth(kGap, kGapWidth);
   mGrid->setColumnStretch(kColumnsOfGrid + 1, 1);
+  setAccessibleRole(*this, QAccessible::Grouping);
   setAccessibleName(tr("Summary"));
 }
 
 void SummaryView::setLines(const std::vector<SummaryLine>& lines) {
   if (mRows.size() != lines.size()) makeRows(lines.size());
+  QStringList words;
   for (std::size_t i = 0; i < lines.size(); ++i) {
     mRows[i].title->setText(tr("%1:").arg(toQString(lines[i].title)));
     mRows[i].value->setText(toQString(lines[i].value));
+    words.append(mRows[i].title->text() + QLatin1Char(' ') + mRows[i].value->text());
   }
+  cutline::setAccessibleDescription(*this, words.join(QLatin1Char('\n')));
 }
 
 void SummaryView::makeRows(std::size_t count) {

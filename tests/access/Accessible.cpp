@@ -1,6 +1,8 @@
 #include "tests/access/Accessible.h"
 
+#include <algorithm>
 #include <cstring>
+#include <functional>
 #include <sstream>
 
 namespace cutline::test {
@@ -146,6 +148,13 @@ std::vector<std::string> Accessible::actions() const {
   return names;
 }
 
+bool Accessible::perform(const std::string& name) const {
+  const std::vector<std::string> names = actions();
+  const auto found = std::find(names.begin(), names.end(), name);
+  return found != names.end() &&
+         atspi_action_do_action(action(), static_cast<int>(found - names.begin()), Failure());
+}
+
 bool Accessible::press() const {
   return has("Action") && atspi_action_do_action(action(), 0, Failure());
 }
@@ -199,16 +208,22 @@ std::vector<Accessible> allOf(const Accessible& object) {
   return all;
 }
 
-Accessible find(const Accessible& within, AtspiRole role, const std::string& name) {
-  for (const Accessible& each : allOf(within))
-    if (each.role() == role && each.name() == name && each.is(ATSPI_STATE_SHOWING)) return each;
+// What a hidden object holds is not on the screen, whatever it says of itself.
+Accessible findShown(const Accessible& within, const std::function<bool(const Accessible&)>& isIt) {
+  if (!within.is(ATSPI_STATE_SHOWING)) return {};
+  if (isIt(within)) return within;
+  for (const Accessible& child : within.children())
+    if (const Accessible found = findShown(child, isIt)) return found;
   return {};
 }
 
+Accessible find(const Accessible& within, AtspiRole role, const std::string& name) {
+  return findShown(
+      within, [&](const Accessible& each) { return each.role() == role && each.name() == name; });
+}
+
 Accessible find(const Accessible& within, AtspiRole role) {
-  for (const Accessible& each : allOf(within))
-    if (each.role() == role && each.is(ATSPI_STATE_SHOWING)) return each;
-  return {};
+  return findShown(within, [&](const Accessible& each) { return each.role() == role; });
 }
 
 std::string describeTree(const Accessible& object, int depth) {

@@ -34,7 +34,9 @@ class Accessible {
 
   // What can be done with it, the most usual first.
   std::vector<std::string> actions() const;
-  // Does the first of them; false when there is none or it was refused.
+  // Does one of them; false when there is none of the name, or it was refused.
+  bool perform(const std::string& action) const;
+  // Does the first of them.
   bool press() const;
 
   bool hasText() const;

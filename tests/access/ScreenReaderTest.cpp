@@ -10,6 +10,8 @@ constexpr int kPatience = 20000;
 
 }  // namespace
 
+const QString ScreenReaderTest::kTitle = QStringLiteral("Print labels.pdf");
+
 ScreenReaderTest::~ScreenReaderTest() {
   if (HasFailure()) ADD_FAILURE() << "The program as it was heard:\n" << describeTree(program());
   mProgram.kill();
@@ -20,7 +22,8 @@ void ScreenReaderTest::startDialog(const char* printer, const QStringList& words
   const QStringList all = QStringList{QStringLiteral("-d"), QString::fromLatin1(printer)} + words +
                           QStringList{QString::fromStdString(labels())};
   mDisplay.start(mProgram, QString::fromStdString(built("bin/cutline")), all);
-  ASSERT_TRUE(waitUntil([this] { return bool(dialog()); })) << "the dialog does not come up";
+  ASSERT_TRUE(waitUntil([this] { return dialog().is(ATSPI_STATE_SHOWING); }))
+      << "the dialog does not come up";
 }
 
 int ScreenReaderTest::exitStatus() {
@@ -35,9 +38,15 @@ Accessible ScreenReaderTest::program() const {
   return {};
 }
 
-Accessible ScreenReaderTest::window(const std::string& title) const {
+Accessible ScreenReaderTest::dialog() const {
   for (const Accessible& each : program().children())
-    if (each.name() == title && each.is(ATSPI_STATE_SHOWING)) return each;
+    if (each.name() == kTitle.toStdString() && each.role() == ATSPI_ROLE_DIALOG) return each;
+  return {};
+}
+
+Accessible ScreenReaderTest::question() const {
+  for (const Accessible& each : program().children())
+    if (each.role() == ATSPI_ROLE_ALERT && each.is(ATSPI_STATE_SHOWING)) return each;
   return {};
 }
 

@@ -27,9 +27,11 @@ class ScreenReaderTest : public EndToEndTest {
   // How the program ended; -1 when it goes on for twenty seconds.
   int exitStatus();
 
-  Accessible dialog() const { return window("Print labels.pdf"); }
-  // The program's window of this title; no object when it has none.
-  Accessible window(const std::string& title) const;
+  Accessible dialog() const;
+  // The window that asks for an answer before all others; no object when there is none.
+  Accessible question() const;
+  // Gives the dialog the keyboard, as a window manager does.
+  void activate() const { mDisplay.activate(kTitle); }
 
   // The shown control of this role and name; waits for it, and fails the test when it does not
   // come.
@@ -45,6 +47,8 @@ class ScreenReaderTest : public EndToEndTest {
   std::string summary(const std::string& title) const;
 
  private:
+  static const QString kTitle;
+
   Accessible program() const;
 
   Display mDisplay;

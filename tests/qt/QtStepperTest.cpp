@@ -129,6 +129,23 @@ TEST_F(QtStepperTest, IsAnnouncedWithNameRoleAndValue) {
   EXPECT_EQ(spoken->valueInterface()->maximumValue().toInt(), 99);
 }
 
+TEST_F(QtStepperTest, AssistiveTechnologyStepsItAsTheUserDoes) {
+  QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(widget);
+  EXPECT_EQ(spoken->valueInterface()->minimumValue().toInt(), 1);
+  spoken->valueInterface()->setCurrentValue(7);
+  EXPECT_EQ(stepper->intValue(), 7);
+  EXPECT_EQ(events, (Events{"action", "observer"}));
+}
+
+TEST_F(QtStepperTest, AssistiveTechnologyDoesNotStepAGreyedStepper) {
+  stepper->setIntValue(7);
+  stepper->setEnabled(false);
+  QAccessible::queryAccessibleInterface(widget)->valueInterface()->setCurrentValue(8);
+  EXPECT_EQ(stepper->intValue(), 7);
+  EXPECT_EQ(widget->value(), 7);
+  EXPECT_TRUE(events.empty());
+}
+
 TEST_F(QtStepperTest, ValueOutlivesTheWindow) {
   stepper->setIntValue(12);
   window.reset();

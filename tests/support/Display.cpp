@@ -110,9 +110,14 @@ void Display::click(const QPoint& place) const {
        QStringList{QStringLiteral("click"), QStringLiteral("1")});
 }
 
-void Display::press(const QString& title, const QString& key) const {
+void Display::activate(const QString& title) const {
   tell({QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"), title,
-        QStringLiteral("windowfocus"), QStringLiteral("--sync"), QStringLiteral("key"), key});
+        QStringLiteral("windowfocus"), QStringLiteral("--sync")});
+}
+
+void Display::press(const QString& title, const QString& key) const {
+  activate(title);
+  tell({QStringLiteral("key"), key});
 }
 
 }  // namespace cutline::test
