@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstring>
 #include <memory>
+#include <string_view>
 
 #include "cups/Constraints.h"
 #include "cups/CupsOptions.h"
@@ -16,7 +17,9 @@
 #include "cups/PpdChoice.h"
 #include "cups/PpdProblem.h"
 #include "cups/PpdRecords.h"
+#include "cups/PpdTexts.h"
 #include "cups/ServerConnection.h"
+#include "platform/Languages.h"
 
 namespace cutline {
 
@@ -39,15 +42,34 @@ class Descriptor {
   int mFd;
 };
 
+// From where the descriptor stands to the end. What is larger than any PPD is cut off.
 std::string contentsOf(int fd) {
   constexpr std::size_t kBlock = 65536;
+  constexpr std::size_t kLargest = 64U << 20U;
   std::string text;
-  if (lseek(fd, 0, SEEK_SET) != 0) return text;
   std::string block(kBlock, '\0');
-  for (ssize_t count = 0; (count = read(fd, block.data(), block.size())) > 0;) {
-    text.append(block, 0, count);
+  for (ssize_t count = 0;
+       text.size() < kLargest && (count = read(fd, block.data(), block.size())) > 0;) {
+    text.append(block, 0, static_cast<std::size_t>(count));
   }
   return text;
+}
+
+// A new descriptor that reads these contents; -1 when there is no memory for it.
+int memoryFile(std::string_view contents) {
+  const int fd = memfd_create("ppd", MFD_CLOEXEC);
+  for (ssize_t count = 0; !contents.empty();
+       contents.remove_prefix(static_cast<std::size_t>(count))) {
+    count = write(fd, contents.data(), contents.size());
+    if (count <= 0) break;
+  }
+  if (contents.empty() && lseek(fd, 0, SEEK_SET) == 0) return fd;
+  if (fd >= 0) close(fd);
+  return -1;
+}
+
+Error noMemoryFor(const Sentence& name) {
+  return Sentence(Phrase("cups", "no memory for %1"), {name});
 }
 
 PpdOption optionOf(ppd_file_t* ppd, const ppd_option_t& option) {
@@ -119,11 +141,14 @@ Error notFetched(http_t* http, const std::string& printer, http_status_t status)
 PpdFile::~PpdFile() { ppdClose(mPpd); }
 
 Result<std::shared_ptr<PpdFile>> PpdFile::read(int fd, const Sentence& name) {
-  // The library closes what it reads; the copy is for explaining a failure.
-  const Descriptor copy(fcntl(fd, F_DUPFD_CLOEXEC, 0));
-  ppd_file_t* ppd = ppdOpenFd(fd);
-  if (!ppd) return ppdProblem(name, contentsOf(copy.get()));
-  ppdLocalize(ppd);
+  const Descriptor source(fd);
+  std::string contents = contentsOf(fd);
+  const auto kept = keepTexts(contents, preferredLocalizations());
+  const int copy = memoryFile(contents);
+  if (copy < 0) return noMemoryFor(name);
+  ppd_file_t* ppd = ppdOpenFd(copy);  // closes it
+  if (!ppd) return ppdProblem(name, contents);
+  putTexts(*ppd, kept);
   return std::shared_ptr<PpdFile>(new PpdFile(ppd));
 }
 
@@ -145,7 +170,7 @@ Result<std::shared_ptr<PpdFile>> PpdFile::fetch(const ServerOptions& server,
   if (!connection) return connection.error();
   const int fd = memfd_create("ppd", MFD_CLOEXEC);
   const Sentence name(Phrase("cups", "the PPD of \"%1\""), {printer});
-  if (fd < 0) return Error{Sentence(Phrase("cups", "no memory for %1"), {name})};
+  if (fd < 0) return noMemoryFor(name);
   const std::string resource = "/printers/" + printer + ".ppd";
   const http_status_t status = cupsGetFd(connection->get(), resource.c_str(), fd);
   if (status == HTTP_STATUS_OK && lseek(fd, 0, SEEK_SET) == 0) {

@@ -11,8 +11,6 @@ namespace cutline {
 
 struct Error {
   Error() = default;
-  // Words that are the same in every language.
-  Error(std::string words) : Error(Sentence(std::move(words))) {}
   Error(Sentence what) : message(what.english()), sentence(std::move(what)) {}
 
   std::string message;  // in English; one line, no final stop needed, no "cutline: " prefix

@@ -16,6 +16,8 @@ bool isPlace(std::string_view words, std::size_t at) {
 
 Sentence::Sentence(std::string verbatim) : mVerbatim(std::move(verbatim)) {}
 
+Sentence::Sentence(const char* verbatim) : mVerbatim(verbatim) {}
+
 Sentence::Sentence(Phrase phrase, std::vector<Sentence> arguments)
     : mPhrase(phrase), mArguments(std::move(arguments)) {}
 

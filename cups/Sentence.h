@@ -15,6 +15,7 @@ class Sentence {
   Sentence() = default;  // says nothing
   // The same in every language: a name, a number, another program's words.
   Sentence(std::string verbatim);
+  Sentence(const char* verbatim);
   // `arguments` stand in %1, %2, ...
   Sentence(Phrase phrase, std::vector<Sentence> arguments = {});
 
