@@ -39,7 +39,7 @@ QAccessible::State AccessibleComboBox::state() const {
 // Whoever meets the list does not know which one it is.
 QAccessibleInterface* AccessibleComboBox::child(int index) const {
   if (index != 0) return nullptr;
-  setAccessibleName(*mBox.view(), mBox.accessibleName());
+  tellAccessibleName(*mBox.view(), mBox.accessibleName());
   return QAccessible::queryAccessibleInterface(mBox.view());
 }
 

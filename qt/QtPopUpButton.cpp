@@ -105,7 +105,7 @@ void QtPopUpButton::nameCurrent() noexcept {
   const std::string entry = mSelected ? inWords(mItems[*mSelected]) : std::string();
   const std::string label = accessibilityLabel();
   const std::string separator = label.empty() || entry.empty() ? "" : ": ";
-  setAccessibleName(*widget(), toQString(label + separator + entry));
+  tellAccessibleName(*widget(), toQString(label + separator + entry));
 }
 
 }  // namespace cutline

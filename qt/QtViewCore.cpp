@@ -194,7 +194,7 @@ void QtViewCore::releaseSubviews() noexcept {
 
 void QtViewCore::setAccessibilityLabel(const std::string& label) noexcept {
   mAccessibilityLabel = label;
-  if (mWidget) setAccessibleName(*mWidget, toQString(label));
+  if (mWidget) tellAccessibleName(*mWidget, toQString(label));
 }
 
 }  // namespace cutline

@@ -41,11 +41,11 @@ void setAccessibleRole(QWidget& widget, QAccessible::Role role) {
   widget.setProperty(kRole, static_cast<int>(role));
 }
 
-void setAccessibleName(QWidget& widget, const QString& name) {
+void tellAccessibleName(QWidget& widget, const QString& name) {
   if (widget.accessibleName() != name) widget.setAccessibleName(name);
 }
 
-void setAccessibleDescription(QWidget& widget, const QString& description) {
+void tellAccessibleDescription(QWidget& widget, const QString& description) {
   if (widget.accessibleDescription() != description) widget.setAccessibleDescription(description);
 }
 

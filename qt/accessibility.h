@@ -17,7 +17,7 @@ void makeAccessible();
 void setAccessibleRole(QWidget& widget, QAccessible::Role role);
 
 // QWidget's setters announce a change even where nothing has changed; these do not.
-void setAccessibleName(QWidget& widget, const QString& name);
-void setAccessibleDescription(QWidget& widget, const QString& description);
+void tellAccessibleName(QWidget& widget, const QString& name);
+void tellAccessibleDescription(QWidget& widget, const QString& description);
 
 }  // namespace cutline

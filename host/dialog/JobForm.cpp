@@ -10,6 +10,7 @@
 
 #include "host/dialog/StatusIcon.h"
 #include "qt/QtText.h"
+#include "qt/accessibility.h"
 
 namespace cutline {
 namespace {
@@ -40,7 +41,8 @@ JobForm::JobForm(QWidget* parent)
   mPaperCaption->setBuddy(mPapers);
   layOut();
   connect(mCopies, &QSpinBox::valueChanged, this, &JobForm::copiesChosen);
-  connect(mPages, &QLineEdit::textEdited, this, &JobForm::pagesEdited);
+  // Not textEdited, which says nothing of what assistive technology types.
+  connect(mPages, &QLineEdit::textChanged, this, &JobForm::pagesEdited);
   connect(mPages, &QLineEdit::editingFinished, this, [this] { emit pagesFinished(pages()); });
   connect(mPapers, &QComboBox::activated, this,
           [this](int index) { emit paperChosen(mPapers->itemData(index).toString()); });
@@ -82,13 +84,15 @@ void JobForm::setCopies(int copies) {
 }
 
 void JobForm::setPages(const QString& ranges) {
-  if (!mPages->hasFocus() && mPages->text() != ranges) mPages->setText(ranges);
+  if (mPages->hasFocus() || mPages->text() == ranges) return;
+  const QSignalBlocker blocker(mPages);
+  mPages->setText(ranges);
 }
 
 void JobForm::setPagesProblem(const QString& problem) {
   mProblemText->setText(problem);
   mProblem->setVisible(!problem.isEmpty());
-  mPages->setAccessibleDescription(problem);
+  tellAccessibleDescription(*mPages, problem);
 }
 
 bool JobForm::hasPagesProblem() const { return !mProblemText->text().isEmpty(); }

@@ -8,6 +8,7 @@
 
 #include "host/dialog/translated.h"
 #include "qt/QtText.h"
+#include "qt/accessibility.h"
 
 namespace cutline {
 namespace {
@@ -40,7 +41,7 @@ JobProgress::JobProgress(QWidget* parent)
 
 void JobProgress::showText(const QString& text) {
   mText->setText(text);
-  mBar->setAccessibleDescription(text);
+  tellAccessibleDescription(*mBar, text);
 }
 
 void JobProgress::showSpooling(const QString& printer, quint64 sent, quint64 total) {

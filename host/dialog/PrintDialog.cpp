@@ -22,6 +22,7 @@
 #include "host/dialog/translated.h"
 #include "host/dialog/window_mnemonics.h"
 #include "qt/QtText.h"
+#include "qt/accessibility.h"
 
 namespace cutline {
 namespace {
@@ -354,7 +355,7 @@ void PrintDialog::refreshPrintButton() {
   const QString reason = refusal();
   mPrint->setEnabled(reason.isEmpty() && !mServer->isOpening());
   mPrint->setToolTip(reason);
-  mPrint->setAccessibleDescription(reason);
+  tellAccessibleDescription(*mPrint, reason);
   mNotices->setNotice(NoticeTopic::refusal, reason);
 }
 

@@ -7,6 +7,7 @@
 
 #include "host/dialog/translated.h"
 #include "qt/QtText.h"
+#include "qt/accessibility.h"
 
 namespace cutline {
 namespace {
@@ -92,7 +93,7 @@ void PrinterBar::setWaiting(const QString& text) { showState(Severity::info, tex
 void PrinterBar::showState(Severity severity, const QString& text) {
   mIcon->setSeverity(severity);
   mState->setText(text);
-  mPrinters->setAccessibleDescription(text);
+  tellAccessibleDescription(*mPrinters, text);
 }
 
 }  // namespace cutline

@@ -144,7 +144,7 @@ void StripView::setWords(const QString& words) {
 }
 
 void StripView::describe() {
-  cutline::setAccessibleDescription(*this, mMessage.isEmpty() ? mWords : mMessage);
+  tellAccessibleDescription(*this, mMessage.isEmpty() ? mWords : mMessage);
 }
 
 void StripView::showPage(int page, double scale, const QImage& image) {

@@ -38,7 +38,7 @@ void SummaryView::setLines(const std::vector<SummaryLine>& lines) {
     mRows[i].value->setText(toQString(lines[i].value));
     words.append(mRows[i].title->text() + QLatin1Char(' ') + mRows[i].value->text());
   }
-  cutline::setAccessibleDescription(*this, words.join(QLatin1Char('\n')));
+  tellAccessibleDescription(*this, words.join(QLatin1Char('\n')));
 }
 
 void SummaryView::makeRows(std::size_t count) {

@@ -9,6 +9,7 @@ namespace cutline::test {
 namespace {
 
 constexpr const char* kNameChange = "object:property-change:accessible-name";
+constexpr const char* kShown = "object:state-changed:showing";
 
 class PanelByBus : public ScreenReaderTest {
  protected:
@@ -34,6 +35,7 @@ TEST_F(PanelByBus, SpecialTapeGreysWhatItRulesOutAndSaysWhatIsSent) {
   const Accessible number = count();
   const Accessible arrows = stepper();
   for (const Accessible& each : {halfCut, every, number, arrows}) EXPECT_TRUE(each.isUsable());
+  const EventLog shown(kShown);
   press(box("Special tape (never cut)"));
   EXPECT_TRUE(waitUntil([&] { return !halfCut.isUsable(); }));
   for (const Accessible& each : {halfCut, every, number, arrows}) {
@@ -42,8 +44,11 @@ TEST_F(PanelByBus, SpecialTapeGreysWhatItRulesOutAndSaysWhatIsSent) {
   }
   EXPECT_TRUE(box("Mirror printing").isUsable());
   EXPECT_EQ(picture(), "Special tape, not cut, not mirrored");
-  EXPECT_EQ(alerts(), std::vector<std::string>(
-                          {"Cut automatically: sent as \"Off\" because special tape is on."}));
+  const std::vector<std::string> heard = {
+      "Cut automatically: sent as \"Off\" because special tape is on."};
+  EXPECT_TRUE(waitUntil([&] { return alerts() == heard; }));
+  EXPECT_TRUE(waitUntil([&] { return shown.sourcesWith(ATSPI_ROLE_ALERT) == heard; }))
+      << "announced";
   press(box("Special tape (never cut)"));
   EXPECT_TRUE(waitUntil([&] { return halfCut.isUsable(); }));
   EXPECT_TRUE(alerts().empty());

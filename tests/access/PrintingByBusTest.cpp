@@ -22,7 +22,7 @@ TEST_F(PrintingByBus, HalfCutAndCutEveryThreeReachThePrinter) {
   EXPECT_EQ(picture(), "Auto cut on, half cut between labels, not mirrored");
   EXPECT_EQ(summary("Half cut between labels"), "Yes");
   EXPECT_EQ(summary("Cut automatically after every"), "3 label(s)");
-  ASSERT_TRUE(control(ATSPI_ROLE_PUSH_BUTTON, "Print").press());
+  ASSERT_TRUE(button("Print").press());
   EXPECT_EQ(exitStatus(), kExitDone);
   const PrintedJob job = newJob();
   EXPECT_EQ(job.options().at("LxHalfCut"), "ON");
@@ -40,14 +40,23 @@ TEST_F(PrintingByBus, TheStepperSetsTheNumberToo) {
   ASSERT_TRUE(arrows.setValue(5));
   EXPECT_TRUE(waitUntil([&] { return count().text() == "5"; }));
   EXPECT_EQ(summary("Cut automatically after every"), "5 label(s)");
-  ASSERT_TRUE(control(ATSPI_ROLE_PUSH_BUTTON, "Print").press());
+  ASSERT_TRUE(button("Print").press());
   EXPECT_EQ(exitStatus(), kExitDone);
   EXPECT_EQ(newJob().options().at("LxCutLabel"), "5");
 }
 
+TEST_F(PrintingByBus, CopiesAndPagesReachThePrinter) {
+  startDialog("roll62");
+  ASSERT_TRUE(control(ATSPI_ROLE_TEXT, "Pages").setText("2-3"));
+  ASSERT_TRUE(control(ATSPI_ROLE_SPIN_BUTTON, "Copies").setValue(2));
+  ASSERT_TRUE(button("Print").press());
+  EXPECT_EQ(exitStatus(), kExitDone);
+  EXPECT_EQ(newJob().number("labels"), 4);
+}
+
 TEST_F(PrintingByBus, CancelPrintsNothing) {
   startDialog("tapeb");
-  ASSERT_TRUE(control(ATSPI_ROLE_PUSH_BUTTON, "Cancel").press());
+  ASSERT_TRUE(button("Cancel").press());
   EXPECT_EQ(exitStatus(), kExitCancelled);
   EXPECT_TRUE(nothingNew());
 }

@@ -41,6 +41,7 @@ class ScreenReaderTest : public EndToEndTest {
   Accessible stepper() const {
     return control(ATSPI_ROLE_SPIN_BUTTON, "Change the number of labels between cuts");
   }
+  Accessible button(const std::string& name) const { return control(ATSPI_ROLE_PUSH_BUTTON, name); }
   // What the panel's preview says.
   std::string picture() const;
   // A line of the summary, by its title; empty when there is none.

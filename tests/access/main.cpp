@@ -20,6 +20,7 @@ int main(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
   const cutline::test::SessionBus bus;
   qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
+  qputenv("LC_ALL", "C.UTF-8");
   atspi_init();
   atspi_set_timeout(kPatience, kPatienceAtTheStart);
   const int status = cutline::test::runAllTestsWithServer();

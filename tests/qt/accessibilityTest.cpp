@@ -15,8 +15,8 @@ QAccessible::Role roleOf(QWidget& widget) {
 TEST(Accessibility, AWidgetIsWhatItIsSaidToBe) {
   QWidget graphic;
   setAccessibleRole(graphic, QAccessible::Graphic);
-  setAccessibleName(graphic, QStringLiteral("Tape"));
-  setAccessibleDescription(graphic, QStringLiteral("Cut twice"));
+  tellAccessibleName(graphic, QStringLiteral("Tape"));
+  tellAccessibleDescription(graphic, QStringLiteral("Cut twice"));
   QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(&graphic);
   EXPECT_EQ(spoken->role(), QAccessible::Graphic);
   EXPECT_EQ(spoken->text(QAccessible::Name), "Tape");
