@@ -119,7 +119,7 @@ TEST_F(PrintJobTest, AWaitingJobIsShownAndCancelled) {
   const auto waiting = jobStatus({}, destination(), *job);
   ASSERT_TRUE(waiting) << waiting.error().message;
   EXPECT_FALSE(waiting->isFinal());
-  EXPECT_EQ(waiting->text(), "Waiting - the printer is paused");
+  EXPECT_EQ(waiting->text().english(), "Waiting - the printer is paused");
   const auto cancelled = cancelJob({}, destination(), *job);
   ASSERT_TRUE(cancelled) << cancelled.error().message;
   EXPECT_EQ(finalStatus(*job).text().english(), "Cancelled");
