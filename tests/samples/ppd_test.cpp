@@ -49,7 +49,8 @@ TEST(SamplePpds, AreWhatTheGeneratorWrites) {
                 source("samples/ppd/generate") + ' ' + folder / "s" + ' ' + folder / "f")
                 .status,
             0);
-  const Result samples = run("diff -r -x generate " + source("samples/ppd") + ' ' + folder / "s");
+  const Result samples =
+      run("diff -r -x generate -x texts " + source("samples/ppd") + ' ' + folder / "s");
   EXPECT_EQ(samples.status, 0) << samples.output;
   const Result fixtures = run("diff -r " + source("tests/samples/ppd") + ' ' + folder / "f");
   EXPECT_EQ(fixtures.status, 0) << fixtures.output;
