@@ -9,9 +9,9 @@
 
 #include "host/core/Installation.h"
 #include "host/dialog/Appearance.h"
+#include "host/dialog/DialogLanguage.h"
 #include "host/dialog/DialogSession.h"
 #include "host/dialog/FirstPrinter.h"
-#include "host/dialog/DialogLanguage.h"
 #include "host/dialog/Marks.h"
 #include "platform/Languages.h"
 #include "qt/QtText.h"
