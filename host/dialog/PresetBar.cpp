@@ -85,6 +85,7 @@ void PresetBar::askRemoval() {
   question->button(QMessageBox::Cancel)->setText(tr("Cancel"));
   const QPushButton* remove = question->addButton(tr("&Delete"), QMessageBox::DestructiveRole);
   connect(remove, &QPushButton::clicked, this, [this, name] { emit removalRequested(name); });
+  question->setDefaultButton(QMessageBox::Cancel);
   question->open();
 }
 

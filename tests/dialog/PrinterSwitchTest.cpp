@@ -160,6 +160,7 @@ TEST_F(PrinterSwitchTest, APresetIsDeletedAfterAQuestion) {
   click(named<QPushButton>("Delete the chosen preset"));
   auto* question = dialog().findChild<QMessageBox*>();
   ASSERT_NE(question, nullptr);
+  EXPECT_EQ(question->defaultButton(), question->button(QMessageBox::Cancel));
   EXPECT_TRUE(server().removedInstances().empty());
   for (QAbstractButton* button : question->buttons()) {
     if (question->buttonRole(button) == QMessageBox::DestructiveRole) button->click();
