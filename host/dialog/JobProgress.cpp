@@ -23,6 +23,7 @@ JobProgress::JobProgress(QWidget* parent)
       mBar(new QProgressBar(this)),
       mCancel(new QPushButton(tr("Cancel &job"), this)),
       mLeave(new QPushButton(tr("Close and &let it print"), this)) {
+  setAccessibleRole(*this, QAccessible::AlertMessage);
   mText->setTextFormat(Qt::PlainText);
   mBar->setTextVisible(false);
   mBar->setAccessibleName(tr("Progress of the job"));
@@ -41,6 +42,7 @@ JobProgress::JobProgress(QWidget* parent)
 
 void JobProgress::showText(const QString& text) {
   mText->setText(text);
+  tellAccessibleName(*this, text);
   tellAccessibleDescription(*mBar, text);
 }
 

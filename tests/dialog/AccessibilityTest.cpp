@@ -197,6 +197,22 @@ TEST_F(AccessibilityTest, EachNoticeIsAnAlert) {
     EXPECT_NE(find(QAccessible::AlertMessage, line), nullptr) << line;
 }
 
+TEST_F(AccessibilityTest, TheJobsProgressIsAnAlertAndDescribesItsBar) {
+  openQueue(samplePpd("tape-a"));
+  server().setStatuses({jobStatus(JobState::processing, "Printing label 1")});
+  click(buttonWithText<QPushButton>("Pr&int"));
+  const QAccessibleInterface* bar = nullptr;
+  ASSERT_TRUE(waitUntil([&] {
+    bar = find(QAccessible::ProgressBar, "Progress of the job");
+    return bar && bar->text(QAccessible::Description).contains(QStringLiteral("Printing label 1"));
+  }));
+  const std::string words = bar->text(QAccessible::Description).toStdString();
+  EXPECT_NE(find(QAccessible::AlertMessage, words), nullptr) << words;
+  EXPECT_NE(find(QAccessible::Button, "Cancel job"), nullptr);
+  click(buttonWithText<QPushButton>("Close and &let it print"));
+  EXPECT_TRUE(waitForClose());
+}
+
 TEST_F(AccessibilityTest, AGreyedBoxSaysSo) {
   openAll("tape-a");
   const QAccessibleInterface& half = spokenOf(box("LxHalfCut"));
