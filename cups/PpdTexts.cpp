@@ -6,6 +6,7 @@
 #include <set>
 #include <sstream>
 #include <string_view>
+#include <utility>
 
 #include "cups/PpdRecords.h"
 
@@ -19,6 +20,7 @@ constexpr char kKeptSeparator = '-';
 constexpr std::string_view kTranslation = "Translation";
 constexpr std::string_view kLanguages = "*cupsLanguages:";
 constexpr std::string_view kLineEnds = "\r\n";
+constexpr std::string_view kNoValue = "\"\"";
 
 // Languages that PPDs name otherwise.
 struct Alias {
@@ -31,22 +33,25 @@ constexpr Alias kAliases[] = {
 
 using Languages = std::vector<std::string>;
 
-// Calls function(start, line) for each line, with its place in the contents.
+// Calls function(line, end) for each line, with the character that ends it: nothing after the last.
 template <typename Function>
 void forEachLine(std::string_view contents, const Function& function) {
-  for (std::size_t start = 0; start < contents.size();) {
-    const auto end = std::min(contents.find_first_of(kLineEnds, start), contents.size());
-    function(start, contents.substr(start, end - start));
-    start = end + 1;
+  while (!contents.empty()) {
+    const auto size = std::min(contents.find_first_of(kLineEnds), contents.size());
+    const auto end = contents.substr(size, 1);
+    function(contents.substr(0, size), end);
+    contents.remove_prefix(size + end.size());
   }
 }
 
-// "de" for `*de.Translation LxMirror/Spiegeln: ""`; empty for a line that is in no language.
+// "de" for `*de.Translation LxMirror/Spiegeln: ""`; empty for a line that is in no language. As to
+// libcups, names of two letters and those with a territory are languages.
 std::string_view languageOfLine(std::string_view line) {
-  constexpr std::size_t kLongest = 5;
-  if (!line.starts_with('*')) return {};
-  const auto separator = line.substr(0, kLongest + 2).find(kSeparator);
-  return separator == line.npos ? std::string_view() : line.substr(1, separator - 1);
+  for (const std::size_t size : {2U, 5U}) {
+    const bool names = line.starts_with('*') && line.size() > size + 1;
+    if (names && line.find(kSeparator) == size + 1) return line.substr(1, size);
+  }
+  return {};
 }
 
 // What a PPD says of its languages.
@@ -57,7 +62,7 @@ struct Spoken {
 
 Spoken languagesOf(std::string_view contents) {
   Spoken spoken;
-  forEachLine(contents, [&](std::size_t, std::string_view line) {
+  forEachLine(contents, [&](std::string_view line, std::string_view) {
     if (const auto language = languageOfLine(line); !language.empty()) {
       spoken.inLines.emplace(language);
     }
@@ -135,14 +140,16 @@ void putTextsOf(ppd_file_t& ppd, std::span<ppd_group_t> groups, const Languages&
 
 Languages keepTexts(std::string& contents, const Languages& languages) {
   const Languages kept = chosen(namesInPpds(languages), languagesOf(contents));
-  if (kept.empty()) return kept;
-  std::vector<std::size_t> separators;
-  forEachLine(contents, [&](std::size_t start, std::string_view line) {
+  std::string result;
+  result.reserve(contents.size());
+  forEachLine(contents, [&](std::string_view line, std::string_view end) {
     const std::string_view language = languageOfLine(line);
-    if (std::ranges::find(kept, language) == kept.end()) return;
-    separators.push_back(start + 1 + language.size());
+    const bool isKept = std::ranges::find(kept, language) != kept.end();
+    if (language.empty() || isKept || !line.ends_with(kNoValue)) result += line;
+    if (isKept) result[result.size() - line.size() + 1 + language.size()] = kKeptSeparator;
+    result += end;
   });
-  for (const std::size_t at : separators) contents[at] = kKeptSeparator;
+  contents = std::move(result);
   return kept;
 }
 

@@ -12,9 +12,9 @@ namespace cutline {
 
 // Looks in a PPD's contents for the first of the languages (best first, named as by
 // preferredLocalizations) that the PPD speaks. Renames the lines that say its texts, so that
-// libcups keeps them, without changing the number or the length of any line. Answers the names
-// under which putTexts finds them, best first: none when the PPD's own texts are in that language,
-// or when it speaks none of them.
+// libcups keeps them, and empties those of other languages, which libcups would read in vain; every
+// line keeps its number. Answers the names under which putTexts finds the texts, best first: none
+// when the PPD's own texts are in that language, or when it speaks none of them.
 std::vector<std::string> keepTexts(std::string& contents,
                                    const std::vector<std::string>& languages);
 
