@@ -4,9 +4,11 @@
 
 #include <QApplication>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <cstdlib>
 #include <deque>
 #include <random>
+#include <span>
 #include <sstream>
 
 #include "bundle/textinput/PDEFormatter.h"
@@ -20,8 +22,14 @@
 namespace cutline {
 namespace {
 
-constexpr unsigned kSessions = 50;
-constexpr int kEditsInASession = 200;
+constexpr int kEdits = 10000;
+
+// More than one edit adds; those before were compared after their own.
+template <class Element>
+std::span<const Element> newest(const std::vector<Element>& all) {
+  constexpr std::size_t kSome = 5;
+  return std::span(all).last(std::min(kSome, all.size()));
+}
 
 QString toQString(const std::u16string& text) { return QString::fromStdU16String(text); }
 
@@ -267,7 +275,7 @@ class Session {
         << utf8FromUtf16(mModel.text()) << "\", undo " << mModel.history().canUndo() << ", redo "
         << mModel.history().canRedo() << ", changes " << mModel.changes() << ", actions "
         << mModel.actions() << ", beeps " << mModel.refusals().size();
-    for (const Refusal& refusal : mModel.refusals()) {
+    for (const Refusal& refusal : newest(mModel.refusals())) {
       out << ", " << refusal.name << " about " << refusal.character.value_or("the formatter");
     }
     return out.str();
@@ -284,7 +292,7 @@ class Session {
         << mField->stringValue() << "\", undo " << mLine->canUndo() << ", redo " << mLine->canRedo()
         << ", changes " << mChanges << ", actions " << mActions << ", beeps "
         << mPlatform.toolkit.beeps;
-    for (const Notification& posted : mPlatform.posted) {
+    for (const Notification& posted : newest(mPlatform.posted)) {
       out << ", " << posted.name << " about " << describe(posted.object);
     }
     return out.str();
@@ -318,25 +326,40 @@ class Session {
   int mActions = 0;
 };
 
-TEST(TextFieldFuzz, RandomEditsMatchTheModel) {
+// Many fields, each with a formatter of its own; and one field that is edited for long.
+struct Effort {
+  const char* name;
+  unsigned sessions;
+  int editsInASession;
+};
+
+class TextFieldFuzz : public testing::TestWithParam<Effort> {};
+
+TEST_P(TextFieldFuzz, RandomEditsMatchTheModel) {
+  const auto& [name, sessions, editsInASession] = GetParam();
   const char* const chosen = std::getenv("CUTLINE_FUZZ_SEED");
   const unsigned first = chosen ? static_cast<unsigned>(std::atoi(chosen)) : 1;
   std::size_t changes = 0;
   std::size_t refusals = 0;
-  for (unsigned seed = first; seed < first + kSessions; ++seed) {
+  for (unsigned seed = first; seed < first + sessions; ++seed) {
     Session session(seed);
-    for (int i = 0; i < kEditsInASession; ++i) {
+    for (int i = 0; i < editsInASession; ++i) {
       ASSERT_TRUE(session.edit()) << "seed " << seed << ", edit " << i;
     }
     changes += session.model().changes();
     refusals += session.model().refusals().size();
   }
   // Otherwise there was little to compare.
-  EXPECT_GT(changes, kSessions * kEditsInASession / 10);
-  EXPECT_GT(refusals, kSessions * kEditsInASession / 20);
+  EXPECT_GT(changes, kEdits / 10);
+  EXPECT_GT(refusals, kEdits / 20);
   RecordProperty("changes", static_cast<int>(changes));
   RecordProperty("refusals", static_cast<int>(refusals));
 }
+
+INSTANTIATE_TEST_SUITE_P(Sessions, TextFieldFuzz,
+                         testing::Values(Effort{"Many", 50, kEdits / 50},
+                                         Effort{"OneThatIsLong", 1, kEdits}),
+                         [](const auto& effort) { return std::string(effort.param.name); });
 
 }  // namespace
 }  // namespace cutline
