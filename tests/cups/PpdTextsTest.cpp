@@ -35,7 +35,7 @@ class PpdTextsTest : public testing::Test {
     const auto file = PpdFile::open(mFolder.write("x.ppd", ppd));
     return file ? *file : nullptr;
   }
-  // What the printer calls half cut, and its choice ON, to a reader of the languages.
+  // What the printer calls half cut to a reader of the languages.
   std::string halfCut(const std::string& ppd, const std::string& languages) const {
     const ScopedEnvironment environment(
         languageEnvironment({{"LANG", "en_US.UTF-8"}, {"LANGUAGE", languages}}));
