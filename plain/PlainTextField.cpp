@@ -1,5 +1,7 @@
 #include "plain/PlainTextField.h"
 
+#include <unicode/utf16.h>
+
 #include <algorithm>
 #include <optional>
 #include <utility>
@@ -10,20 +12,18 @@
 namespace cutline {
 namespace {
 
-bool isHigh(char16_t unit) { return (unit & 0xFC00U) == 0xD800U; }
-bool isLow(char16_t unit) { return (unit & 0xFC00U) == 0xDC00U; }
-
 // Units of the character that ends at `position`; 0 at the start of the text.
 std::size_t lengthBefore(const std::u16string& text, std::size_t position) {
-  if (position < 2) return position;
-  return isLow(text[position - 1]) && isHigh(text[position - 2]) ? 2 : 1;
+  std::size_t start = position;
+  if (start > 0) U16_BACK_1(text, 0, start);
+  return position - start;
 }
 
 // Units of the character that begins at `position`; 0 at the end of the text.
 std::size_t lengthAfter(const std::u16string& text, std::size_t position) {
-  const std::size_t left = text.size() - position;
-  if (left < 2) return left;
-  return isHigh(text[position]) && isLow(text[position + 1]) ? 2 : 1;
+  std::size_t end = position;
+  if (end < text.size()) U16_FWD_1(text, end, text.size());
+  return end - position;
 }
 
 }  // namespace
