@@ -18,7 +18,7 @@
 #include "host/core/PrintModel.h"
 #include "host/dialog/Appearance.h"
 #include "host/dialog/PrintDialog.h"
-#include "platform/CheckBox.h"
+#include "platform/ports/Controls.h"
 #include "qt/QtToolkit.h"
 
 namespace {

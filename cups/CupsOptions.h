@@ -3,7 +3,7 @@
 
 #include <cups/cups.h>
 
-#include "cups/Destination.h"
+#include "base/OptionList.h"
 
 namespace cutline {
 

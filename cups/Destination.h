@@ -3,15 +3,12 @@
 
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
-#include "cups/Sentence.h"
+#include "base/OptionList.h"
+#include "base/Sentence.h"
 
 namespace cutline {
-
-// NAME=VALUE pairs in order; a later pair of the same name wins.
-using OptionList = std::vector<std::pair<std::string, std::string>>;
 
 struct DestinationName {
   std::string printer;

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "base/Result.h"
 #include "cups/Destination.h"
-#include "cups/Result.h"
 #include "cups/ServerOptions.h"
 
 namespace cutline {

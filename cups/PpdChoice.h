@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "cups/Result.h"
+#include "base/Result.h"
 
 namespace cutline {
 

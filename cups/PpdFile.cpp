@@ -19,7 +19,7 @@
 #include "cups/PpdRecords.h"
 #include "cups/PpdTexts.h"
 #include "cups/ServerConnection.h"
-#include "platform/Languages.h"
+#include "platform/lib/Languages.h"
 
 namespace cutline {
 

@@ -6,9 +6,9 @@
 #include <functional>
 #include <string>
 
+#include "base/Result.h"
 #include "cups/Destination.h"
 #include "cups/JobStatus.h"
-#include "cups/Result.h"
 #include "cups/ServerOptions.h"
 
 namespace cutline {

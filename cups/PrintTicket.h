@@ -9,7 +9,7 @@
 
 #include "cups/Destination.h"
 #include "cups/PpdFile.h"
-#include "platform/Printing.h"
+#include "platform/ports/Printing.h"
 
 namespace cutline {
 

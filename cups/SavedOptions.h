@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "base/Result.h"
 #include "cups/Destination.h"
-#include "cups/Result.h"
 
 namespace cutline {
 

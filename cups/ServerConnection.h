@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "cups/Result.h"
+#include "base/Result.h"
 #include "cups/ServerOptions.h"
 
 namespace cutline {

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/TextEncodings.h"
+#include "platform/ports/TextEncodings.h"
 
 struct UConverter;
 

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "plain/PlainControl.h"
-#include "platform/Button.h"
+#include "platform/ports/Controls.h"
 
 namespace cutline {
 

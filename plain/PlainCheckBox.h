@@ -4,7 +4,7 @@
 #include <string>
 
 #include "plain/PlainButton.h"
-#include "platform/CheckBox.h"
+#include "platform/ports/Controls.h"
 
 namespace cutline {
 

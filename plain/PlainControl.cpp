@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "platform/Toolkit.h"
+#include "platform/ports/Toolkit.h"
 
 namespace cutline {
 

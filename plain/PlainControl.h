@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "plain/PlainView.h"
-#include "platform/Control.h"
+#include "platform/ports/Controls.h"
 
 namespace cutline {
 

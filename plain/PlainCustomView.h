@@ -4,7 +4,7 @@
 #include <string>
 
 #include "plain/PlainView.h"
-#include "platform/CustomView.h"
+#include "platform/ports/Drawing.h"
 
 namespace cutline {
 

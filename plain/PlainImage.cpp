@@ -7,7 +7,7 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/ResourceFile.h"
+#include "platform/lib/ResourceFile.h"
 
 namespace cutline {
 namespace {

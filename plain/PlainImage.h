@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/Image.h"
+#include "platform/ports/Drawing.h"
 
 namespace cutline {
 

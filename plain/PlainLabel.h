@@ -2,7 +2,7 @@
 #pragma once
 
 #include "plain/PlainText.h"
-#include "platform/Label.h"
+#include "platform/ports/Controls.h"
 
 namespace cutline {
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "plain/PlainControl.h"
-#include "platform/PopUpButton.h"
+#include "platform/ports/PopUpButton.h"
 
 namespace cutline {
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "plain/PlainControl.h"
-#include "platform/Stepper.h"
+#include "platform/ports/Controls.h"
 
 namespace cutline {
 

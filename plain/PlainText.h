@@ -4,7 +4,7 @@
 #include <string>
 
 #include "plain/PlainControl.h"
-#include "platform/TextColored.h"
+#include "platform/ports/Controls.h"
 
 namespace cutline {
 

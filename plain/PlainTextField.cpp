@@ -6,8 +6,8 @@
 #include <optional>
 #include <utility>
 
-#include "platform/NotificationCenter.h"
-#include "platform/Utf16.h"
+#include "base/Utf16.h"
+#include "platform/ports/NotificationCenter.h"
 
 namespace cutline {
 namespace {

@@ -6,10 +6,8 @@
 #include <string>
 
 #include "plain/PlainText.h"
-#include "platform/Formatter.h"
-#include "platform/TextField.h"
-#include "platform/TextFieldClient.h"
-#include "platform/TextRange.h"
+#include "platform/ports/Formatter.h"
+#include "platform/ports/TextField.h"
 
 namespace cutline {
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "plain/PlainControl.h"
-#include "platform/Toolkit.h"
+#include "platform/ports/Toolkit.h"
 
 namespace cutline {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/View.h"
+#include "platform/ports/View.h"
 
 namespace cutline {
 

@@ -1,6 +1,6 @@
 #include "plain/RecordingDrawingContext.h"
 
-#include "platform/Image.h"
+#include "platform/ports/Drawing.h"
 
 namespace cutline {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/DrawingContext.h"
+#include "platform/ports/Drawing.h"
 
 namespace cutline {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/SystemLog.h"
+#include "platform/ports/System.h"
 
 namespace cutline {
 

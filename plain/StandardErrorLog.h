@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "platform/SystemLog.h"
+#include "platform/ports/System.h"
 
 namespace cutline {
 

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QWidget>
 
-#include "platform/CustomView.h"
+#include "platform/ports/Drawing.h"
 
 namespace cutline {
 

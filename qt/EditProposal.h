@@ -4,7 +4,7 @@
 
 #include <QString>
 
-#include "platform/TextRange.h"
+#include "platform/ports/TextField.h"
 #include "qt/EditedText.h"
 
 namespace cutline {

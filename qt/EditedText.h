@@ -4,7 +4,7 @@
 #include <QString>
 #include <algorithm>
 
-#include "platform/TextRange.h"
+#include "platform/ports/TextField.h"
 
 namespace cutline {
 

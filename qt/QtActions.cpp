@@ -3,7 +3,7 @@
 #include <QObject>
 #include <QPointer>
 
-#include "platform/Toolkit.h"
+#include "platform/ports/Toolkit.h"
 #include "qt/QtViewCore.h"
 
 namespace cutline {

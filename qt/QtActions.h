@@ -5,7 +5,7 @@
 #include <functional>
 #include <memory>
 
-#include "platform/Control.h"
+#include "platform/ports/Controls.h"
 
 namespace cutline {
 

@@ -7,7 +7,7 @@
 #include <QString>
 #include <memory>
 
-#include "platform/Toolkit.h"
+#include "platform/ports/Toolkit.h"
 #include "qt/QtText.h"
 
 namespace cutline {

@@ -4,7 +4,7 @@
 #include <QPushButton>
 #include <memory>
 
-#include "platform/Button.h"
+#include "platform/ports/Controls.h"
 #include "qt/QtButtonOf.h"
 
 namespace cutline {

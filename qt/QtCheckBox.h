@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/CheckBox.h"
+#include "platform/ports/Controls.h"
 #include "qt/QtButtonOf.h"
 
 namespace cutline {

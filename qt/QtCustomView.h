@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/CustomView.h"
+#include "platform/ports/Drawing.h"
 #include "qt/ClientWidget.h"
 #include "qt/QtViewOf.h"
 

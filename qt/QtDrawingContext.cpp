@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "platform/View.h"
+#include "platform/ports/View.h"
 #include "qt/QtImage.h"
 
 namespace cutline {

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "platform/DrawingContext.h"
+#include "platform/ports/Drawing.h"
 
 class QPainter;
 

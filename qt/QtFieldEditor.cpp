@@ -13,7 +13,7 @@
 #include <functional>
 #include <optional>
 
-#include "platform/TextField.h"
+#include "platform/ports/TextField.h"
 
 namespace cutline {
 namespace {

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/Label.h"
+#include "platform/ports/Controls.h"
 #include "qt/QtTextColor.h"
 #include "qt/QtViewOf.h"
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/PopUpButton.h"
+#include "platform/ports/PopUpButton.h"
 #include "qt/QtViewOf.h"
 
 namespace cutline {

@@ -4,7 +4,7 @@
 #include <QSpinBox>
 #include <memory>
 
-#include "platform/Stepper.h"
+#include "platform/ports/Controls.h"
 #include "qt/QtViewOf.h"
 
 namespace cutline {

@@ -6,7 +6,7 @@
 #include <QPalette>
 #include <QWidget>
 
-#include "platform/TextColored.h"
+#include "platform/ports/Controls.h"
 
 namespace cutline {
 

@@ -4,9 +4,9 @@
 #include <optional>
 #include <utility>
 
-#include "platform/NotificationCenter.h"
-#include "platform/Platform.h"
-#include "platform/SystemLog.h"
+#include "platform/ports/NotificationCenter.h"
+#include "platform/ports/Platform.h"
+#include "platform/ports/System.h"
 #include "qt/QtText.h"
 
 namespace cutline {

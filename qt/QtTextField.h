@@ -5,9 +5,8 @@
 #include <memory>
 #include <string>
 
-#include "platform/Formatter.h"
-#include "platform/TextField.h"
-#include "platform/TextFieldClient.h"
+#include "platform/ports/Formatter.h"
+#include "platform/ports/TextField.h"
 #include "qt/QtActions.h"
 #include "qt/QtFieldEditor.h"
 #include "qt/QtTextColor.h"

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/Toolkit.h"
+#include "platform/ports/Toolkit.h"
 
 class QWidget;
 

@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-#include "platform/Control.h"
-#include "platform/View.h"
+#include "platform/ports/Controls.h"
+#include "platform/ports/View.h"
 #include "qt/QtActions.h"
 #include "qt/QtViewCore.h"
 

@@ -2,8 +2,8 @@
 
 #include <QEvent>
 
-#include "platform/NotificationCenter.h"
-#include "platform/Platform.h"
+#include "platform/ports/NotificationCenter.h"
+#include "platform/ports/Platform.h"
 #include "qt/QtViewCore.h"
 
 namespace cutline {

@@ -18,7 +18,7 @@
 
 #include "bundle/diag/Describable.h"
 #include "bundle/diag/FormatArguments.h"
-#include "platform/Printing.h"
+#include "platform/ports/Printing.h"
 
 #define CUTLINE_DIAGNOSTIC __attribute__((visibility("default")))
 

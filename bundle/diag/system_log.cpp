@@ -2,8 +2,8 @@
 
 #include "bundle/diag/SafeFormat.h"
 #include "bundle/diag/convertible_text.h"
-#include "platform/Platform.h"
-#include "platform/SystemLog.h"
+#include "platform/ports/Platform.h"
+#include "platform/ports/System.h"
 
 namespace cutline {
 

@@ -5,8 +5,8 @@
 #include "bundle/options/option_model.h"
 #include "bundle/ppd/text_bytes.h"
 #include "bundle/preview/nil_controls.h"
-#include "platform/Platform.h"
-#include "platform/Toolkit.h"
+#include "platform/ports/Platform.h"
+#include "platform/ports/Toolkit.h"
 
 namespace cutline {
 namespace {

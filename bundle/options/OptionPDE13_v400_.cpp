@@ -5,7 +5,7 @@
 #include "bundle/options/option_model.h"
 #include "bundle/options/uri_scheme.h"
 #include "bundle/ppd/PDEUtilsMethod13.h"
-#include "platform/NotificationCenter.h"
+#include "platform/ports/NotificationCenter.h"
 
 namespace cutline {
 namespace {

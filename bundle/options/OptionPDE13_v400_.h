@@ -20,12 +20,9 @@
 #include "bundle/ppd/PDEChoice.h"
 #include "bundle/ppd/print_session.h"
 #include "bundle/preview/OptionView13_v400_.h"
-#include "platform/Button.h"
-#include "platform/CheckBox.h"
-#include "platform/Label.h"
-#include "platform/PopUpButton.h"
-#include "platform/Stepper.h"
-#include "platform/TextField.h"
+#include "platform/ports/Controls.h"
+#include "platform/ports/PopUpButton.h"
+#include "platform/ports/TextField.h"
 
 namespace cutline {
 

@@ -5,10 +5,10 @@
 #include "bundle/ppd/PDEUtilsMethod13.h"
 #include "bundle/ppd/text_bytes.h"
 #include "bundle/textinput/interface_classes.h"
-#include "platform/Bundle.h"
-#include "platform/NotificationCenter.h"
-#include "platform/Platform.h"
-#include "platform/Toolkit.h"
+#include "platform/ports/Bundle.h"
+#include "platform/ports/NotificationCenter.h"
+#include "platform/ports/Platform.h"
+#include "platform/ports/Toolkit.h"
 
 namespace cutline {
 namespace {

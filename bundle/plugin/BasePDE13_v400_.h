@@ -11,11 +11,10 @@
 #include <string>
 
 #include "bundle/ppd/PDEChoice.h"
-#include "platform/Geometry.h"
-#include "platform/InterfaceOwner.h"
-#include "platform/PDEPluginCallback13_v400_.h"
-#include "platform/PrintDialogPanel.h"
-#include "platform/Printing.h"
+#include "platform/ports/Geometry.h"
+#include "platform/ports/Interface.h"
+#include "platform/ports/PrintDialogPanel.h"
+#include "platform/ports/Printing.h"
 
 namespace cutline {
 

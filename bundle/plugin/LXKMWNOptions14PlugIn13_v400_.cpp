@@ -3,8 +3,8 @@
 #include <cstdint>
 
 #include "bundle/options/OptionPDE13_v400_.h"
-#include "platform/Bundle.h"
-#include "platform/SystemVersion.h"
+#include "platform/ports/Bundle.h"
+#include "platform/ports/System.h"
 
 namespace cutline {
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/PrintDialogPlugIn.h"
+#include "platform/ports/PrintDialogPlugIn.h"
 
 namespace cutline {
 

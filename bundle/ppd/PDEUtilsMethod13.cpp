@@ -4,8 +4,7 @@
 #include <string_view>
 
 #include "bundle/ppd/text_bytes.h"
-#include "platform/Control.h"
-#include "platform/TextColored.h"
+#include "platform/ports/Controls.h"
 
 namespace cutline {
 namespace {

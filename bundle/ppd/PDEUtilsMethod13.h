@@ -10,7 +10,7 @@
 #include <string>
 
 #include "bundle/ppd/PDEChoice.h"
-#include "platform/Geometry.h"
+#include "platform/ports/Geometry.h"
 
 namespace cutline {
 

@@ -1,7 +1,7 @@
 // The string group of PDEUtilsMethod13.
 #include "bundle/ppd/PDEUtilsMethod13.h"
 #include "bundle/ppd/text_bytes.h"
-#include "platform/Platform.h"
+#include "platform/ports/Platform.h"
 
 namespace cutline {
 

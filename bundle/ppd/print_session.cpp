@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "platform/PropertyList.h"
+#include "platform/lib/PropertyList.h"
 
 namespace cutline {
 namespace {

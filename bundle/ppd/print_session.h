@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
-#include "platform/OSStatus.h"
-#include "platform/Printing.h"
+#include "platform/ports/Printing.h"
+#include "platform/ports/System.h"
 
 namespace cutline {
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <limits>
 
-#include "platform/Platform.h"
+#include "platform/ports/Platform.h"
 
 namespace cutline {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/TextEncodings.h"
+#include "platform/ports/TextEncodings.h"
 
 namespace cutline {
 

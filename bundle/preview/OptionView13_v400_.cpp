@@ -1,10 +1,10 @@
 #include "bundle/preview/OptionView13_v400_.h"
 
 #include "bundle/preview/nil_controls.h"
-#include "platform/Bundle.h"
-#include "platform/DrawingContext.h"
-#include "platform/Platform.h"
-#include "platform/Toolkit.h"
+#include "platform/ports/Bundle.h"
+#include "platform/ports/Drawing.h"
+#include "platform/ports/Platform.h"
+#include "platform/ports/Toolkit.h"
 
 namespace cutline {
 namespace {

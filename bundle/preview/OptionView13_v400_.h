@@ -8,9 +8,8 @@
 
 #include "bundle/preview/PictureWords.h"
 #include "bundle/preview/ShownOptions.h"
-#include "platform/CustomView.h"
-#include "platform/Geometry.h"
-#include "platform/Image.h"
+#include "platform/ports/Drawing.h"
+#include "platform/ports/Geometry.h"
 
 namespace cutline {
 

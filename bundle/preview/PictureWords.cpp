@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "platform/Bundle.h"
+#include "platform/ports/Bundle.h"
 
 namespace cutline {
 namespace {

@@ -2,8 +2,7 @@
 // control that isn't there answers zero and takes orders silently.
 #pragma once
 
-#include "platform/CheckBox.h"
-#include "platform/Control.h"
+#include "platform/ports/Controls.h"
 
 namespace cutline {
 

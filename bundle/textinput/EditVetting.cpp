@@ -2,9 +2,9 @@
 
 #include <utility>
 
+#include "base/Utf16.h"
 #include "bundle/ppd/PDEUtilsMethod13.h"
 #include "bundle/ppd/text_bytes.h"
-#include "platform/Utf16.h"
 
 namespace cutline {
 namespace {

@@ -9,10 +9,10 @@
 #include "bundle/ppd/text_bytes.h"
 #include "bundle/textinput/EditVetting.h"
 #include "bundle/textinput/text_styles.h"
-#include "platform/CalendarDate.h"
-#include "platform/NotificationCenter.h"
-#include "platform/Platform.h"
-#include "platform/Toolkit.h"
+#include "platform/lib/CalendarDate.h"
+#include "platform/ports/NotificationCenter.h"
+#include "platform/ports/Platform.h"
+#include "platform/ports/Toolkit.h"
 
 namespace cutline {
 namespace {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "bundle/diag/Describable.h"
-#include "platform/Formatter.h"
+#include "platform/ports/Formatter.h"
 
 namespace cutline {
 

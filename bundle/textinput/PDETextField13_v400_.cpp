@@ -1,7 +1,7 @@
 #include "bundle/textinput/PDETextField13_v400_.h"
 
-#include "platform/NotificationCenter.h"
-#include "platform/TextField.h"
+#include "platform/ports/NotificationCenter.h"
+#include "platform/ports/TextField.h"
 
 namespace cutline {
 

@@ -1,7 +1,7 @@
 // A text field that tells observers of each change that the user makes to its text.
 #pragma once
 
-#include "platform/TextFieldClient.h"
+#include "platform/ports/TextField.h"
 
 namespace cutline {
 

@@ -4,7 +4,7 @@
 
 #include "bundle/textinput/PDEFormatter.h"
 #include "bundle/textinput/PDETextField13_v400_.h"
-#include "platform/InterfaceFile.h"
+#include "platform/lib/InterfaceFile.h"
 
 namespace cutline {
 namespace {

@@ -2,7 +2,7 @@
 // "PDETextField13_v400_" for text fields.
 #pragma once
 
-#include "platform/InterfaceClasses.h"
+#include "platform/ports/Interface.h"
 
 namespace cutline {
 

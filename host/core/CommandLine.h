@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
+#include "base/Result.h"
 #include "cups/Destination.h"
-#include "cups/Result.h"
 #include "cups/ServerOptions.h"
 #include "host/core/AskedSettings.h"
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "cups/Result.h"
+#include "base/Result.h"
 
 namespace cutline {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "cups/Sentence.h"
+#include "base/Sentence.h"
 
 namespace cutline {
 

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "cups/Result.h"
-#include "platform/Geometry.h"
+#include "base/Result.h"
+#include "platform/ports/Geometry.h"
 
 namespace cutline {
 

@@ -3,7 +3,7 @@
 
 #include <iosfwd>
 
-#include "cups/Result.h"
+#include "base/Result.h"
 #include "host/core/CommandLine.h"
 
 namespace cutline {

@@ -4,9 +4,8 @@
 
 #include <memory>
 
-#include "platform/Platform.h"
-#include "platform/SystemLog.h"
-#include "platform/SystemVersion.h"
+#include "platform/ports/Platform.h"
+#include "platform/ports/System.h"
 
 namespace cutline {
 

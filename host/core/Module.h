@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "cups/Result.h"
+#include "base/Result.h"
 
 namespace cutline {
 

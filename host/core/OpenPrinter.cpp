@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "platform/CheckBox.h"
-#include "platform/NotificationCenter.h"
-#include "platform/Platform.h"
-#include "platform/PopUpButton.h"
+#include "platform/ports/Controls.h"
+#include "platform/ports/NotificationCenter.h"
+#include "platform/ports/Platform.h"
+#include "platform/ports/PopUpButton.h"
 
 namespace cutline {
 

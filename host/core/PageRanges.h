@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "cups/Result.h"
+#include "base/Result.h"
 
 namespace cutline {
 

@@ -5,7 +5,7 @@
 
 #include "cups/PpdFile.h"
 #include "cups/PrintTicket.h"
-#include "platform/PDEPluginCallback13_v400_.h"
+#include "platform/ports/PrintDialogPanel.h"
 
 namespace cutline {
 

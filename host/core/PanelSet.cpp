@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "platform/CheckBox.h"
+#include "platform/ports/Controls.h"
 
 namespace cutline {
 

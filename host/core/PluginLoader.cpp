@@ -9,7 +9,7 @@
 #include "cups/PpdFile.h"
 #include "host/core/CutRules.h"
 #include "host/core/TrustedFile.h"
-#include "platform/DirectoryBundle.h"
+#include "platform/lib/DirectoryBundle.h"
 
 namespace cutline {
 

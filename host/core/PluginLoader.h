@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "cups/Result.h"
+#include "base/Result.h"
 #include "host/core/PanelSource.h"
 
 namespace cutline {

@@ -8,7 +8,7 @@
 #include "host/core/JobOptions.h"
 #include "host/core/OpenPrinter.h"
 #include "host/core/PageRanges.h"
-#include "platform/Platform.h"
+#include "platform/ports/Platform.h"
 
 namespace cutline {
 

@@ -14,13 +14,13 @@
 #include <string>
 #include <vector>
 
+#include "base/Result.h"
 #include "cups/Destination.h"
 #include "cups/PpdFile.h"
-#include "cups/Result.h"
 #include "host/core/AskedSettings.h"
 #include "host/core/PanelSource.h"
-#include "platform/PrintDialogPanel.h"
-#include "platform/Toolkit.h"
+#include "platform/ports/PrintDialogPanel.h"
+#include "platform/ports/Toolkit.h"
 
 namespace cutline {
 

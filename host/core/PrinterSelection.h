@@ -1,7 +1,7 @@
 // The printer, or the PPD file, that a command line names.
 #pragma once
 
-#include "cups/Result.h"
+#include "base/Result.h"
 #include "host/core/CommandLine.h"
 #include "host/core/PrintModel.h"
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "cups/Result.h"
+#include "base/Result.h"
 
 namespace cutline {
 

@@ -13,7 +13,7 @@
 #include "host/dialog/DialogSession.h"
 #include "host/dialog/FirstPrinter.h"
 #include "host/dialog/Marks.h"
-#include "platform/Languages.h"
+#include "platform/lib/Languages.h"
 #include "qt/QtText.h"
 
 namespace cutline {

@@ -9,7 +9,7 @@
 #include <memory>
 #include <vector>
 
-#include "cups/Result.h"
+#include "base/Result.h"
 #include "host/core/DocumentRenderer.h"
 #include "host/dialog/Background.h"
 

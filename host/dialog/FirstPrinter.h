@@ -3,7 +3,7 @@
 
 #include <future>
 
-#include "cups/Result.h"
+#include "base/Result.h"
 #include "host/core/CommandLine.h"
 #include "host/core/PrintModel.h"
 

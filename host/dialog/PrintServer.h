@@ -4,9 +4,9 @@
 
 #include <vector>
 
+#include "base/Result.h"
 #include "cups/Destination.h"
 #include "cups/PrintJob.h"
-#include "cups/Result.h"
 #include "cups/ServerOptions.h"
 #include "host/core/PrintModel.h"
 

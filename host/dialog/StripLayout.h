@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "cups/PpdFile.h"
-#include "platform/Geometry.h"
+#include "platform/ports/Geometry.h"
 
 namespace cutline {
 

@@ -3,7 +3,7 @@
 
 #include <QString>
 
-#include "cups/Sentence.h"
+#include "base/Sentence.h"
 
 namespace cutline {
 

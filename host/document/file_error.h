@@ -1,7 +1,7 @@
 // The error of a file that cannot be shown.
 #pragma once
 
-#include "cups/Result.h"
+#include "base/Result.h"
 
 class QString;
 

@@ -1,9 +1,9 @@
 // Pictures of pages, from the toolkit's form to that of the DocumentRenderer port.
 #pragma once
 
-#include "cups/Result.h"
+#include "base/Result.h"
 #include "host/core/DocumentRenderer.h"
-#include "platform/Geometry.h"
+#include "platform/ports/Geometry.h"
 
 class QImage;
 

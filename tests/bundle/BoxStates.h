@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "platform/CheckBox.h"
+#include "platform/ports/Controls.h"
 
 namespace cutline::test {
 

@@ -5,7 +5,7 @@
 #include "bundle/preview/OptionView13_v400_.h"
 #include "plain/PlainCustomView.h"
 #include "plain/RecordingDrawingContext.h"
-#include "platform/CheckBox.h"
+#include "platform/ports/Controls.h"
 #include "tests/bundle/BoxStates.h"
 #include "tests/bundle/TestBundle.h"
 #include "tests/bundle/TestPlatform.h"

@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/CheckBox.h"
-#include "platform/Label.h"
+#include "platform/ports/Controls.h"
 #include "tests/bundle/PpdText.h"
 #include "tests/bundle/TestPlatform.h"
 

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/DirectoryBundle.h"
+#include "platform/lib/DirectoryBundle.h"
 #include "tests/bundle/TestBundle.h"
 #include "tests/platform/TemporaryBundle.h"
 

@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/Printing.h"
+#include "platform/ports/Printing.h"
 
 namespace cutline::test {
 

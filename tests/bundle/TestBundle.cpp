@@ -1,13 +1,10 @@
 #include "tests/bundle/TestBundle.h"
 
-#include "platform/Button.h"
-#include "platform/CheckBox.h"
-#include "platform/Label.h"
-#include "platform/Platform.h"
-#include "platform/PopUpButton.h"
-#include "platform/Stepper.h"
-#include "platform/TextField.h"
-#include "platform/Toolkit.h"
+#include "platform/ports/Controls.h"
+#include "platform/ports/Platform.h"
+#include "platform/ports/PopUpButton.h"
+#include "platform/ports/TextField.h"
+#include "platform/ports/Toolkit.h"
 
 namespace cutline::test {
 namespace {

@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/Bundle.h"
-#include "platform/Geometry.h"
-#include "platform/InterfaceOwner.h"
+#include "platform/ports/Bundle.h"
+#include "platform/ports/Geometry.h"
+#include "platform/ports/Interface.h"
 
 namespace cutline::test {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/PDEPluginCallback13_v400_.h"
+#include "platform/ports/PrintDialogPanel.h"
 #include "tests/bundle/ScriptedPrinting.h"
 
 namespace cutline::test {

@@ -11,9 +11,9 @@
 #include "plain/PlainCustomView.h"
 #include "plain/PlainImage.h"
 #include "plain/PlainToolkit.h"
-#include "platform/LocalNotificationCenter.h"
-#include "platform/Platform.h"
-#include "platform/SystemVersion.h"
+#include "platform/lib/LocalNotificationCenter.h"
+#include "platform/ports/Platform.h"
+#include "platform/ports/System.h"
 
 namespace cutline::test {
 

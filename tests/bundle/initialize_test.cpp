@@ -1,5 +1,5 @@
 // The controls' first state, and the rules that enable and disable them.
-#include "platform/TextColored.h"
+#include "platform/ports/Controls.h"
 #include "tests/bundle/PanelTest.h"
 
 namespace cutline::test {

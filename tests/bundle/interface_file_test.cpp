@@ -2,7 +2,7 @@
 #include <map>
 
 #include "bundle/textinput/PDEFormatter.h"
-#include "platform/DirectoryBundle.h"
+#include "platform/lib/DirectoryBundle.h"
 #include "tests/bundle/PanelTest.h"
 
 namespace cutline::test {

@@ -12,9 +12,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/CheckBox.h"
-#include "platform/DirectoryBundle.h"
-#include "platform/PrintDialogPlugIn.h"
+#include "platform/lib/DirectoryBundle.h"
+#include "platform/ports/Controls.h"
+#include "platform/ports/PrintDialogPlugIn.h"
 #include "tests/bundle/PpdText.h"
 #include "tests/bundle/TestCallback.h"
 #include "tests/bundle/TestPlatform.h"

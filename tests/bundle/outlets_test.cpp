@@ -1,7 +1,7 @@
 // The outlets and actions that the interface file may name.
 #include <set>
 
-#include "platform/PropertyList.h"
+#include "platform/lib/PropertyList.h"
 #include "tests/bundle/PanelTest.h"
 
 namespace cutline::test {

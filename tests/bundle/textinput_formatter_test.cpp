@@ -2,8 +2,8 @@
 #include <chrono>
 #include <climits>
 
-#include "platform/CalendarDate.h"
-#include "platform/PropertyList.h"
+#include "platform/lib/CalendarDate.h"
+#include "platform/lib/PropertyList.h"
 #include "tests/bundle/FormatterTest.h"
 
 namespace cutline::test {

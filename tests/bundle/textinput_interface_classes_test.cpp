@@ -7,8 +7,8 @@
 #include "bundle/textinput/PDEFormatter.h"
 #include "bundle/textinput/PDETextField13_v400_.h"
 #include "bundle/textinput/interface_classes.h"
-#include "platform/InterfaceFile.h"
-#include "platform/TextField.h"
+#include "platform/lib/InterfaceFile.h"
+#include "platform/ports/TextField.h"
 #include "tests/bundle/TestPlatform.h"
 
 namespace cutline::test {

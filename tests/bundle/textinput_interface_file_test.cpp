@@ -1,8 +1,8 @@
 // Formatter and reporting field as an interface file gives them to a panel, in the hands of a user.
 #include "bundle/plugin/BasePDE13_v400_.h"
 #include "plain/PlainTextField.h"
-#include "platform/InterfaceLoader.h"
-#include "platform/PropertyList.h"
+#include "platform/lib/InterfaceLoader.h"
+#include "platform/lib/PropertyList.h"
 #include "tests/bundle/FormatterTest.h"
 #include "tests/bundle/TestBundle.h"
 

@@ -8,7 +8,7 @@
 
 #include "bundle/textinput/PDETextField13_v400_.h"
 #include "plain/PlainText.h"
-#include "platform/TextField.h"
+#include "platform/ports/TextField.h"
 #include "tests/bundle/TestPlatform.h"
 
 namespace cutline::test {

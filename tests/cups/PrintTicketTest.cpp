@@ -3,7 +3,7 @@
 #include <limits>
 
 #include "cups/PrintTicket.h"
-#include "platform/PropertyList.h"
+#include "platform/lib/PropertyList.h"
 #include "tests/cups/TemporaryFolder.h"
 
 namespace cutline {

@@ -1,8 +1,8 @@
 // Sentences in English, as the command line says them.
 #include <gtest/gtest.h>
 
-#include "cups/Result.h"
-#include "cups/Sentence.h"
+#include "base/Result.h"
+#include "base/Sentence.h"
 
 namespace cutline {
 

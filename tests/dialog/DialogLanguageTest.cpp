@@ -9,7 +9,7 @@
 
 #include "host/dialog/DialogLanguage.h"
 #include "host/dialog/PresetBar.h"
-#include "platform/Languages.h"
+#include "platform/lib/Languages.h"
 #include "tests/dialog/languages.h"
 #include "tests/platform/TemporaryBundle.h"
 

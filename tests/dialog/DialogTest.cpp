@@ -8,8 +8,8 @@
 #include <QTest>
 #include <algorithm>
 
-#include "platform/CheckBox.h"
-#include "platform/Languages.h"
+#include "platform/lib/Languages.h"
+#include "platform/ports/Controls.h"
 #include "tests/dialog/FakeDocument.h"
 
 namespace cutline {

@@ -17,7 +17,7 @@
 #include "host/core/PluginLoader.h"
 #include "host/core/PrintModel.h"
 #include "host/dialog/PrintDialog.h"
-#include "platform/View.h"
+#include "platform/ports/View.h"
 #include "qt/QtToolkit.h"
 #include "tests/dialog/FakePrintServer.h"
 

@@ -10,7 +10,7 @@
 
 #include "host/dialog/PanelFrame.h"
 #include "host/dialog/mnemonics.h"
-#include "platform/CheckBox.h"
+#include "platform/ports/Controls.h"
 #include "tests/dialog/DialogTest.h"
 #include "tests/dialog/window_checks.h"
 

@@ -15,7 +15,7 @@
 #include "host/dialog/NoticeView.h"
 #include "host/dialog/PresetBar.h"
 #include "host/dialog/PresetNameDialog.h"
-#include "platform/Languages.h"
+#include "platform/lib/Languages.h"
 #include "tests/dialog/DialogTest.h"
 #include "tests/dialog/FontSize.h"
 #include "tests/dialog/languages.h"

@@ -23,7 +23,7 @@
 #include "host/core/PluginLoader.h"
 #include "host/core/PrinterSelection.h"
 #include "host/dialog/SummaryView.h"
-#include "platform/CustomView.h"
+#include "platform/ports/Drawing.h"
 #include "tests/e2e/SampleOptions.h"
 #include "tests/support/EndToEndTest.h"
 

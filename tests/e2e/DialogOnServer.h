@@ -11,7 +11,7 @@
 #include "host/core/HostPlatform.h"
 #include "host/core/PrintModel.h"
 #include "host/dialog/PrintDialog.h"
-#include "platform/CheckBox.h"
+#include "platform/ports/Controls.h"
 #include "qt/QtToolkit.h"
 #include "tests/support/PrintedJob.h"
 #include "tests/support/waiting.h"

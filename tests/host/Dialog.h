@@ -10,8 +10,8 @@
 #include "host/core/PluginLoader.h"
 #include "host/core/PrintModel.h"
 #include "plain/PlainToolkit.h"
-#include "platform/CheckBox.h"
-#include "platform/PopUpButton.h"
+#include "platform/ports/Controls.h"
+#include "platform/ports/PopUpButton.h"
 
 namespace cutline {
 

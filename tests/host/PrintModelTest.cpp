@@ -5,7 +5,7 @@
 #include "host/core/HostPlatform.h"
 #include "host/core/PrintModel.h"
 #include "plain/PlainToolkit.h"
-#include "platform/PDEPluginCallback13_v400_.h"
+#include "platform/ports/PrintDialogPanel.h"
 #include "tests/host/PpdText.h"
 
 namespace cutline {

@@ -10,7 +10,7 @@
 #include "host/core/HostPlatform.h"
 #include "host/core/PluginLoader.h"
 #include "host/core/PrintModel.h"
-#include "platform/View.h"
+#include "platform/ports/View.h"
 #include "qt/QtToolkit.h"
 #include "tests/platform/TemporaryBundle.h"
 

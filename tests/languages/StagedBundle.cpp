@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/DirectoryBundle.h"
-#include "platform/PropertyList.h"
-#include "platform/ResourceFile.h"
+#include "platform/lib/DirectoryBundle.h"
+#include "platform/lib/PropertyList.h"
+#include "platform/lib/ResourceFile.h"
 
 namespace cutline {
 

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/Bundle.h"
+#include "platform/ports/Bundle.h"
 #include "tests/platform/TemporaryBundle.h"
 
 namespace cutline {

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/Control.h"
-#include "platform/Toolkit.h"
+#include "platform/ports/Controls.h"
+#include "platform/ports/Toolkit.h"
 
 namespace cutline {
 

@@ -3,8 +3,8 @@
 #include <utility>
 #include <vector>
 
-#include "platform/CalendarDate.h"
-#include "platform/PropertyList.h"
+#include "platform/lib/CalendarDate.h"
+#include "platform/lib/PropertyList.h"
 
 namespace cutline {
 namespace {

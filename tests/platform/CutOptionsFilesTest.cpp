@@ -9,13 +9,11 @@
 #include <string>
 
 #include "plain/PlainToolkit.h"
-#include "platform/CheckBox.h"
-#include "platform/InterfaceFile.h"
-#include "platform/Label.h"
-#include "platform/PopUpButton.h"
-#include "platform/ResourceFile.h"
-#include "platform/Stepper.h"
-#include "platform/TextField.h"
+#include "platform/lib/InterfaceFile.h"
+#include "platform/lib/ResourceFile.h"
+#include "platform/ports/Controls.h"
+#include "platform/ports/PopUpButton.h"
+#include "platform/ports/TextField.h"
 #include "tests/platform/RecordingOwner.h"
 #include "tests/platform/TemporaryBundle.h"
 #include "tests/platform/ToolkitScope.h"

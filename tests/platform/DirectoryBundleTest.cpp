@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "platform/DirectoryBundle.h"
+#include "platform/lib/DirectoryBundle.h"
 #include "tests/platform/TemporaryBundle.h"
 
 namespace cutline {

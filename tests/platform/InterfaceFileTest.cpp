@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/InterfaceFile.h"
+#include "platform/lib/InterfaceFile.h"
 
 namespace cutline {
 namespace {

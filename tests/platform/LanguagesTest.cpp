@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "platform/Languages.h"
+#include "platform/lib/Languages.h"
 #include "tests/platform/TemporaryBundle.h"
 
 namespace cutline {

@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/LocalNotificationCenter.h"
-#include "platform/Platform.h"
+#include "platform/lib/LocalNotificationCenter.h"
+#include "platform/ports/Platform.h"
 
 namespace cutline {
 namespace {

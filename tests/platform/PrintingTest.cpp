@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "platform/Printing.h"
+#include "platform/ports/Printing.h"
 
 namespace cutline {
 namespace {

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/PropertyList.h"
+#include "platform/lib/PropertyList.h"
 
 namespace cutline {
 namespace {

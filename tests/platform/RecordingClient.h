@@ -5,9 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/NotificationCenter.h"
-#include "platform/TextField.h"
-#include "platform/TextFieldClient.h"
+#include "platform/ports/NotificationCenter.h"
+#include "platform/ports/TextField.h"
 
 namespace cutline {
 

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/Formatter.h"
-#include "platform/Utf16.h"
+#include "base/Utf16.h"
+#include "platform/ports/Formatter.h"
 
 namespace cutline {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/InterfaceOwner.h"
+#include "platform/ports/Interface.h"
 
 namespace cutline {
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "platform/Platform.h"
-#include "platform/SystemVersion.h"
+#include "platform/ports/Platform.h"
+#include "platform/ports/System.h"
 
 namespace cutline {
 namespace {

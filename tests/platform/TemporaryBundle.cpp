@@ -5,7 +5,7 @@
 #include <fstream>
 #include <stdexcept>
 
-#include "platform/DirectoryBundle.h"
+#include "platform/lib/DirectoryBundle.h"
 
 namespace cutline {
 namespace {

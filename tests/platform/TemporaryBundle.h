@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/Bundle.h"
+#include "platform/ports/Bundle.h"
 
 namespace cutline {
 

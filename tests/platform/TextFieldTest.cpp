@@ -4,7 +4,7 @@
 #include <string>
 
 #include "plain/PlainToolkit.h"
-#include "platform/TextField.h"
+#include "platform/ports/TextField.h"
 
 namespace cutline {
 namespace {

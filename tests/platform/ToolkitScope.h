@@ -1,7 +1,7 @@
 // Makes a toolkit, and a system log where there is one, the current platform's for one scope.
 #pragma once
 
-#include "platform/Platform.h"
+#include "platform/ports/Platform.h"
 
 namespace cutline {
 

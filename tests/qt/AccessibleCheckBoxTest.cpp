@@ -1,7 +1,7 @@
 #include <QAccessible>
 #include <QCheckBox>
 
-#include "platform/CheckBox.h"
+#include "platform/ports/Controls.h"
 #include "tests/qt/QtPanelFixture.h"
 
 namespace cutline {

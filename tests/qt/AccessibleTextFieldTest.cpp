@@ -1,7 +1,7 @@
 #include <QAccessible>
 #include <QLineEdit>
 
-#include "platform/TextField.h"
+#include "platform/ports/TextField.h"
 #include "tests/qt/QtPanelFixture.h"
 
 namespace cutline {

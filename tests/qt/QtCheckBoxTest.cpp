@@ -3,8 +3,7 @@
 #include <QPushButton>
 #include <QToolTip>
 
-#include "platform/Button.h"
-#include "platform/CheckBox.h"
+#include "platform/ports/Controls.h"
 #include "tests/qt/QtPanelFixture.h"
 
 namespace cutline {

@@ -3,9 +3,7 @@
 #include <QSvgRenderer>
 #include <functional>
 
-#include "platform/CustomView.h"
-#include "platform/DrawingContext.h"
-#include "platform/Image.h"
+#include "platform/ports/Drawing.h"
 #include "tests/qt/QtPanelFixture.h"
 
 namespace cutline {

@@ -15,9 +15,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/Control.h"
-#include "platform/Toolkit.h"
-#include "platform/View.h"
+#include "platform/ports/Controls.h"
+#include "platform/ports/Toolkit.h"
+#include "platform/ports/View.h"
 #include "qt/QtToolkit.h"
 
 namespace cutline {

@@ -1,6 +1,6 @@
 #include <QPainter>
 
-#include "platform/Image.h"
+#include "platform/ports/Drawing.h"
 #include "qt/QtPicture.h"
 #include "tests/qt/QtPanelFixture.h"
 

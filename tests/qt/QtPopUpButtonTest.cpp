@@ -5,7 +5,7 @@
 #include <QToolTip>
 #include <QWheelEvent>
 
-#include "platform/PopUpButton.h"
+#include "platform/ports/PopUpButton.h"
 #include "tests/qt/QtPanelFixture.h"
 
 namespace cutline {

@@ -5,7 +5,7 @@
 #include <QStyleOptionSpinBox>
 #include <QWheelEvent>
 
-#include "platform/Stepper.h"
+#include "platform/ports/Controls.h"
 #include "tests/qt/QtPanelFixture.h"
 
 namespace cutline {

@@ -1,8 +1,8 @@
 #include <QLabel>
 #include <QLineEdit>
 
-#include "platform/Label.h"
-#include "platform/TextField.h"
+#include "platform/ports/Controls.h"
+#include "platform/ports/TextField.h"
 #include "qt/QtTextColor.h"
 #include "tests/qt/QtPanelFixture.h"
 

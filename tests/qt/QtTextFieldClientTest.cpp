@@ -5,8 +5,8 @@
 #include <algorithm>
 
 #include "plain/RecordingSystemLog.h"
-#include "platform/Platform.h"
-#include "platform/TextField.h"
+#include "platform/ports/Platform.h"
+#include "platform/ports/TextField.h"
 #include "tests/platform/RecordingClient.h"
 #include "tests/platform/ToolkitScope.h"
 #include "tests/qt/LineUser.h"

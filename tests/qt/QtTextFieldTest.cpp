@@ -2,7 +2,7 @@
 #include <QLineEdit>
 #include <algorithm>
 
-#include "platform/TextField.h"
+#include "platform/ports/TextField.h"
 #include "tests/qt/QtPanelFixture.h"
 
 namespace cutline {

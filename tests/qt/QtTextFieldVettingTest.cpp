@@ -6,7 +6,7 @@
 #include <QMenu>
 #include <functional>
 
-#include "platform/TextField.h"
+#include "platform/ports/TextField.h"
 #include "qt/EditedText.h"
 #include "qt/QtFieldEditor.h"
 #include "tests/platform/RecordingFormatter.h"

@@ -5,11 +5,9 @@
 #include <functional>
 
 #include "plain/PlainToolkit.h"
-#include "platform/CheckBox.h"
-#include "platform/Label.h"
-#include "platform/PopUpButton.h"
-#include "platform/Stepper.h"
-#include "platform/TextField.h"
+#include "platform/ports/Controls.h"
+#include "platform/ports/PopUpButton.h"
+#include "platform/ports/TextField.h"
 #include "qt/QtToolkit.h"
 #include "tests/qt/QtPanelFixture.h"
 

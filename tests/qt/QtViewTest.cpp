@@ -1,8 +1,6 @@
 #include <QPointer>
 
-#include "platform/Button.h"
-#include "platform/CheckBox.h"
-#include "platform/Label.h"
+#include "platform/ports/Controls.h"
 #include "tests/qt/QtPanelFixture.h"
 
 namespace cutline {

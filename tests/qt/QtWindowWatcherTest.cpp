@@ -1,5 +1,5 @@
-#include "platform/LocalNotificationCenter.h"
-#include "platform/Platform.h"
+#include "platform/lib/LocalNotificationCenter.h"
+#include "platform/ports/Platform.h"
 #include "qt/QtWindowWatcher.h"
 #include "tests/qt/QtPanelFixture.h"
 

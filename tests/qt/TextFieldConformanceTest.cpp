@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "plain/PlainTextField.h"
-#include "platform/TextField.h"
+#include "platform/ports/TextField.h"
 #include "tests/platform/RecordingClient.h"
 #include "tests/platform/RecordingFormatter.h"
 #include "tests/qt/LineUser.h"

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "plain/PlainToolkit.h"
-#include "platform/PopUpButton.h"
+#include "platform/ports/PopUpButton.h"
 #include "qt/QtToolkit.h"
 #include "tests/qt/QtPanelFixture.h"
 

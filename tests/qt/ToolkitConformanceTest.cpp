@@ -4,14 +4,10 @@
 #include <memory>
 #include <vector>
 
-#include "platform/Button.h"
-#include "platform/CheckBox.h"
-#include "platform/CustomView.h"
-#include "platform/Image.h"
-#include "platform/Label.h"
-#include "platform/PopUpButton.h"
-#include "platform/Stepper.h"
-#include "platform/TextField.h"
+#include "platform/ports/Controls.h"
+#include "platform/ports/Drawing.h"
+#include "platform/ports/PopUpButton.h"
+#include "platform/ports/TextField.h"
 #include "tests/qt/QtPanelFixture.h"
 #include "tests/qt/ToolkitConformance.h"
 

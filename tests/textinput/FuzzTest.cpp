@@ -11,9 +11,9 @@
 #include <span>
 #include <sstream>
 
+#include "base/Utf16.h"
 #include "bundle/textinput/PDEFormatter.h"
-#include "platform/TextField.h"
-#include "platform/Utf16.h"
+#include "platform/ports/TextField.h"
 #include "qt/QtFieldEditor.h"
 #include "tests/qt/LineUser.h"
 #include "tests/textinput/FieldModel.h"

@@ -7,8 +7,8 @@
 
 #include "bundle/options/OptionPDE13_v400_.h"
 #include "bundle/textinput/PDEFormatter.h"
-#include "platform/DirectoryBundle.h"
-#include "platform/Stepper.h"
+#include "platform/lib/DirectoryBundle.h"
+#include "platform/ports/Controls.h"
 #include "qt/QtFieldEditor.h"
 #include "tests/bundle/PpdText.h"
 #include "tests/bundle/TestCallback.h"

@@ -6,8 +6,8 @@
 
 #include "plain/IcuTextEncodings.h"
 #include "plain/RecordingSystemLog.h"
-#include "platform/NotificationCenter.h"
-#include "platform/Platform.h"
+#include "platform/ports/NotificationCenter.h"
+#include "platform/ports/Platform.h"
 #include "qt/QtToolkit.h"
 
 namespace cutline {

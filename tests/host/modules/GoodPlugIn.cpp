@@ -1,7 +1,7 @@
 // A plug-in that the loader accepts: one principal class, no panels.
 #include <new>
 
-#include "platform/PrintDialogPlugIn.h"
+#include "platform/ports/PrintDialogPlugIn.h"
 
 namespace {
 

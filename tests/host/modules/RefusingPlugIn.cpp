@@ -1,7 +1,7 @@
 // A plug-in that refuses every system.
 #include <new>
 
-#include "platform/PrintDialogPlugIn.h"
+#include "platform/ports/PrintDialogPlugIn.h"
 
 namespace {
 

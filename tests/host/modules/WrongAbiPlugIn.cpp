@@ -1,5 +1,5 @@
 // A plug-in that was made for another version of the platform.
-#include "platform/PrintDialogPlugIn.h"
+#include "platform/ports/PrintDialogPlugIn.h"
 
 extern "C" __attribute__((visibility("default"))) const cutline::PrincipalClassEntry*
 CutlinePrincipalClass_TestPlugIn() {

@@ -1,8 +1,0 @@
-#include "platform/DrawingContext.h"
-
-namespace cutline {
-
-// Out of line, so that the type's identity is in this library alone.
-DrawingContext::~DrawingContext() = default;
-
-}  // namespace cutline

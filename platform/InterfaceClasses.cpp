@@ -1,7 +1,0 @@
-#include "platform/InterfaceClasses.h"
-
-namespace cutline {
-
-InterfaceClasses::~InterfaceClasses() = default;
-
-}  // namespace cutline

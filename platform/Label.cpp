@@ -1,8 +1,0 @@
-#include "platform/Label.h"
-
-namespace cutline {
-
-// Out of line, so that the type's identity is in this library alone.
-Label::~Label() = default;
-
-}  // namespace cutline

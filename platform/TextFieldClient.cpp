@@ -1,7 +1,0 @@
-#include "platform/TextFieldClient.h"
-
-namespace cutline {
-
-TextFieldClient::~TextFieldClient() = default;
-
-}  // namespace cutline
