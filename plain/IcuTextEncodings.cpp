@@ -105,6 +105,8 @@ UConverter* IcuTextEncodings::converter(TextEncoding encoding) const noexcept {
   Converter& kept = mConverters[index];
   const char* name = kConverterNames[index];
   if (!kept) kept = open(name ? name : mSystemCodeset);
+  // Not even ASCII could be read otherwise.
+  if (!kept && !name) kept = open(kUTF8);
   return kept.get();
 }
 

@@ -21,8 +21,8 @@ std::string codesetOfUserLocale();
 // For one thread at a time: converters are opened at their first use and kept.
 class IcuTextEncodings final : public TextEncodings {
  public:
-  // `systemCodeset` is what TextEncoding::system stands for; a codeset that ICU doesn't know
-  // converts nothing.
+  // `systemCodeset` is what TextEncoding::system stands for; UTF-8 takes the place of one that ICU
+  // doesn't know.
   explicit IcuTextEncodings(std::string systemCodeset = codesetOfUserLocale());
   ~IcuTextEncodings() override;
 

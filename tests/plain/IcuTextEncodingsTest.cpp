@@ -92,11 +92,15 @@ TEST(IcuTextEncodings, MultibyteSystemEncodingsCountTheirBytes) {
   EXPECT_EQ(encodings.decode(*bytes, TextEncoding::system), "라벨");
 }
 
-TEST(IcuTextEncodings, AnUnknownSystemCodesetConvertsNothing) {
-  const IcuTextEncodings encodings("no-such-codeset");
-  EXPECT_FALSE(encodings.decode("a", TextEncoding::system));
-  EXPECT_FALSE(encodings.encode("a", TextEncoding::system));
-  EXPECT_TRUE(encodings.encode("a", TextEncoding::ascii));
+TEST(IcuTextEncodings, UTF8TakesThePlaceOfASystemCodesetThatIsNotKnown) {
+  for (const char* codeset : {"ARMSCII-8", "KOI8-T", "PT154", "TCVN5712-1", "utf"}) {
+    const IcuTextEncodings encodings(codeset);
+    EXPECT_EQ(encodings.decode("WN", TextEncoding::system), "WN") << codeset;
+    EXPECT_EQ(encodings.decode("Bänder", TextEncoding::system), "Bänder") << codeset;
+    EXPECT_EQ(encodings.encode("라벨", TextEncoding::system), "라벨") << codeset;
+    EXPECT_FALSE(encodings.decode("B\xE4nder", TextEncoding::system)) << codeset;
+    EXPECT_FALSE(encodings.encode("ä", TextEncoding::ascii)) << codeset;
+  }
 }
 
 TEST(IcuTextEncodings, OffersEachEncodingOnce) {
