@@ -1,24 +1,100 @@
 #include "qt/PictureComboBox.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QHelpEvent>
+#include <QPainter>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
 #include <QToolTip>
 #include <QWheelEvent>
 #include <algorithm>
 
-#include "qt/PictureRow.h"
 #include "qt/QtPicture.h"
 
 namespace cutline {
 
 namespace {
 
+constexpr QSize kPictureSize(132, 42);
+constexpr int kMargin = 6;   // around the picture and around the text
+constexpr int kPadding = 3;  // between a picture and the edge of its plate
+constexpr double kCorner = 3;
+constexpr double kDisabledOpacity = 0.4;
+
+int textLeft(const QModelIndex& entry) {
+  return pictureOf(entry) ? kMargin + kPictureSize.width() + 2 * kMargin : kMargin;
+}
+
+QPalette::ColorGroup groupOf(const QStyleOptionViewItem& option) {
+  return option.state & QStyle::State_Enabled ? QPalette::Active : QPalette::Disabled;
+}
+
+// The pictures are made for a window's ground, not for the colour of a selection: the selected row
+// keeps a plate of that ground under its picture.
+void drawRowPicture(QPainter& painter, const QStyleOptionViewItem& option, QtPicture& picture) {
+  const QRectF room(option.rect.x() + kMargin,
+                    option.rect.center().y() - kPictureSize.height() / 2.0 + 0.5,
+                    kPictureSize.width(), kPictureSize.height());
+  if (option.state & QStyle::State_Selected) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(option.palette.base());
+    painter.drawRoundedRect(room.adjusted(-kPadding, -kPadding, kPadding, kPadding), kCorner,
+                            kCorner);
+  }
+  if (!(option.state & QStyle::State_Enabled)) painter.setOpacity(kDisabledOpacity);
+  picture.draw(painter, picture.fittedInto(room));
+  painter.setOpacity(1);
+}
+
+void drawRowText(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& entry) {
+  const bool selected = option.state & QStyle::State_Selected;
+  painter.setFont(option.font);
+  painter.setPen(
+      option.palette.color(groupOf(option), selected ? QPalette::HighlightedText : QPalette::Text));
+  const QRect room = option.rect.adjusted(textLeft(entry), 0, -kMargin, 0);
+  painter.drawText(room, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextWordWrap, visibleText(entry));
+}
+
+}  // namespace
+
+QString visibleText(const QModelIndex& entry) {
+  const QString title = entry.data(Qt::DisplayRole).toString();
+  return title.isEmpty() ? entry.data(Qt::AccessibleTextRole).toString() : title;
+}
+
+std::shared_ptr<QtPicture> pictureOf(const QModelIndex& entry) {
+  return entry.data(kPictureRole).value<std::shared_ptr<QtPicture>>();
+}
+
+int PictureRow::widthOf(const QModelIndex& entry, const QFontMetrics& metrics) {
+  return textLeft(entry) + metrics.horizontalAdvance(visibleText(entry)) + kMargin;
+}
+
+void PictureRow::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                       const QModelIndex& index) const {
+  QStyleOptionViewItem row(option);
+  row.showDecorationSelected = true;
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  const QStyle* const style = row.widget ? row.widget->style() : QApplication::style();
+  style->drawPrimitive(QStyle::PE_PanelItemViewItem, &row, painter, row.widget);
+  if (const auto picture = pictureOf(index)) drawRowPicture(*painter, row, *picture);
+  drawRowText(*painter, row, index);
+  painter->restore();
+}
+
+QSize PictureRow::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+  const int textHeight = option.fontMetrics.height() + kMargin;
+  const int pictureHeight = pictureOf(index) ? kPictureSize.height() + 2 * kMargin : 0;
+  return {widthOf(index, option.fontMetrics), std::max(textHeight, pictureHeight)};
+}
+
+namespace {
+
 constexpr int kGap = 6;          // between the closed button's picture and its words
 constexpr int kWidestRow = 420;  // longer words take a second line
 constexpr int kVisibleRows = 8;
-constexpr double kDisabledOpacity = 0.4;
 
 QRect contentOf(const PictureComboBox& box, const QStyleOptionComboBox& option) {
   return box.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField,
@@ -26,7 +102,7 @@ QRect contentOf(const PictureComboBox& box, const QStyleOptionComboBox& option) 
 }
 
 // The room that the picture leaves for the words.
-QRect drawPicture(QPainter& painter, QtPicture& picture, const QRect& content, bool enabled) {
+QRect drawClosedPicture(QPainter& painter, QtPicture& picture, const QRect& content, bool enabled) {
   const QSizeF size = picture.size();
   if (size.isEmpty()) return content;
   const QSizeF fitted = size.scaled(content.size(), Qt::KeepAspectRatio);
@@ -85,7 +161,7 @@ void PictureComboBox::paintEvent(QPaintEvent*) {
   const QModelIndex current = model()->index(currentIndex(), modelColumn());
   const auto picture = pictureOf(current);
   QRect room = contentOf(*this, option).adjusted(1, 0, -1, 0);
-  if (picture) room = drawPicture(painter, *picture, room, isEnabled());
+  if (picture) room = drawClosedPicture(painter, *picture, room, isEnabled());
   const QString text = fontMetrics().elidedText(visibleText(current), Qt::ElideRight, room.width());
   painter.drawItemText(room, Qt::AlignVCenter | Qt::AlignLeft, palette(), isEnabled(), text,
                        QPalette::ButtonText);

@@ -8,9 +8,7 @@
 #include <QLineEdit>
 #include <optional>
 
-#include "qt/EditHistory.h"
-#include "qt/EditProposal.h"
-#include "qt/EditedText.h"
+#include "qt/TextEdits.h"
 
 namespace cutline {
 

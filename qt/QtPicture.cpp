@@ -99,4 +99,11 @@ void QtPicture::draw(QPainter& painter, const QRectF& target, const QRectF& sour
   painter.drawPixmap(target, rendered(pixels), pixelPart);
 }
 
+QtImage::QtImage(const std::string& path) : mPicture(path) {}
+
+Size QtImage::size() const noexcept {
+  const QSizeF size = mPicture.size();
+  return {size.width(), size.height()};
+}
+
 }  // namespace cutline

@@ -1,5 +1,4 @@
-// A picture file, read when it is first needed and drawn crisp at any device pixel ratio. Vector
-// pictures are rendered for the device, bitmaps are scaled.
+// Pictures from files, as widgets draw them and as the toolkit's images.
 #pragma once
 
 #include <QImage>
@@ -10,11 +9,15 @@
 #include <string>
 #include <vector>
 
+#include "platform/ports/Drawing.h"
+
 class QPainter;
 class QSvgRenderer;
 
 namespace cutline {
 
+// A picture file, read when it is first needed and drawn crisp at any device pixel ratio. Vector
+// pictures are rendered for the device, bitmaps are scaled.
 class QtPicture {
  public:
   explicit QtPicture(std::string path);
@@ -47,6 +50,20 @@ class QtPicture {
   std::unique_ptr<QSvgRenderer> mVector;
   QImage mBitmap;
   std::vector<QPixmap> mRendered;  // for the last few sizes asked for
+};
+
+// An image of the toolkit: a picture file that is read when it is first drawn.
+class QtImage : public Image {
+ public:
+  explicit QtImage(const std::string& path);
+
+  Size size() const noexcept override;
+  std::string path() const noexcept override { return mPicture.path(); }
+
+  QtPicture& picture() const noexcept { return mPicture; }
+
+ private:
+  mutable QtPicture mPicture;  // reading and rendering are a cache behind a constant image
 };
 
 }  // namespace cutline

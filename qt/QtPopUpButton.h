@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "platform/ports/PopUpButton.h"
-#include "qt/QtViewOf.h"
+#include "qt/QtView.h"
 
 namespace cutline {
 

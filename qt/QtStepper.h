@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "platform/ports/Controls.h"
-#include "qt/QtViewOf.h"
+#include "qt/QtView.h"
 
 namespace cutline {
 

@@ -1,10 +1,10 @@
-#include "qt/QtTabOrder.h"
-
+// The order in which the tab key visits a panel's controls.
 #include <QWidget>
 #include <algorithm>
 #include <memory>
 #include <vector>
 
+#include "qt/QtToolkit.h"
 #include "qt/QtViewCore.h"
 
 namespace cutline {
@@ -72,7 +72,7 @@ std::vector<Stop> inReadingOrder(const std::vector<Stop>& stops) {
 
 }  // namespace
 
-void orderTabsUnder(View& root) noexcept {
+void QtToolkit::orderTabs(View& root) noexcept {
   QtViewCore* const core = QtViewCore::of(&root);
   if (!core || !core->widget()) return;
   std::vector<Stop> stops;

@@ -1,5 +1,7 @@
 #include "qt/QtText.h"
 
+#include <QEvent>
+
 namespace cutline {
 
 QString toQString(const std::string& utf8) noexcept {
@@ -19,6 +21,36 @@ QString withoutMark(const QString& text) noexcept {
     plain += text[at];
   }
   return plain;
+}
+
+QtTextColor::QtTextColor(QWidget& widget, QPalette::ColorRole role) : mRole(role) {
+  widget.installEventFilter(this);
+}
+
+void QtTextColor::setColor(QWidget* widget, TextColor color) noexcept {
+  if (color == mColor) return;
+  mColor = color;
+  if (widget) apply(*widget);
+}
+
+bool QtTextColor::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::PaletteChange) apply(*static_cast<QWidget*>(watched));
+  return false;
+}
+
+// Only the enabled groups are the widget's own, so the disabled group stays the inherited one and
+// follows every change.
+void QtTextColor::apply(QWidget& widget) const {
+  QPalette own;
+  if (mColor == TextColor::disabledControlText) {
+    const QColor grey = widget.palette().color(QPalette::Disabled, mRole);
+    if (widget.palette().color(QPalette::Active, mRole) == grey) return;
+    own.setColor(QPalette::Active, mRole, grey);
+    own.setColor(QPalette::Inactive, mRole, grey);
+  } else if (!widget.testAttribute(Qt::WA_SetPalette)) {
+    return;
+  }
+  widget.setPalette(own);
 }
 
 }  // namespace cutline

@@ -9,8 +9,8 @@
 #include "platform/ports/TextField.h"
 #include "qt/QtActions.h"
 #include "qt/QtFieldEditor.h"
-#include "qt/QtTextColor.h"
-#include "qt/QtViewOf.h"
+#include "qt/QtText.h"
+#include "qt/QtView.h"
 
 namespace cutline {
 

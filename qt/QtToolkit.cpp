@@ -1,24 +1,45 @@
 #include "qt/QtToolkit.h"
 
 #include <QApplication>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
 #include <QScreen>
 #include <QWidget>
 
 #include "qt/QtActions.h"
-#include "qt/QtAlert.h"
-#include "qt/QtButton.h"
-#include "qt/QtCheckBox.h"
+#include "qt/QtControls.h"
 #include "qt/QtCustomView.h"
-#include "qt/QtImage.h"
-#include "qt/QtLabel.h"
+#include "qt/QtPicture.h"
 #include "qt/QtPopUpButton.h"
 #include "qt/QtStepper.h"
-#include "qt/QtTabOrder.h"
+#include "qt/QtText.h"
 #include "qt/QtTextField.h"
 #include "qt/QtView.h"
 #include "qt/accessibility.h"
 
 namespace cutline {
+
+namespace {
+
+// An alert without a message of its own says its informative text instead.
+void setTexts(QMessageBox& box, const Alert& alert) {
+  box.setTextFormat(Qt::PlainText);
+  box.setText(toQString(alert.messageText.empty() ? alert.informativeText : alert.messageText));
+  if (!alert.messageText.empty()) box.setInformativeText(toQString(alert.informativeText));
+}
+
+// The first button is the default one; the last one is what closing the box means.
+void addButtons(QMessageBox& box, const Alert& alert) {
+  for (const std::string& title : alert.buttonTitles) {
+    QPushButton* const button =
+        box.addButton(withoutMnemonics(toQString(title)), QMessageBox::AcceptRole);
+    if (!box.defaultButton()) box.setDefaultButton(button);
+    box.setEscapeButton(button);
+  }
+}
+
+}  // namespace
 
 QtToolkit::QtToolkit() : mActions(std::make_shared<QtActions>()) { makeAccessible(); }
 
@@ -62,7 +83,18 @@ std::shared_ptr<Image> QtToolkit::imageWithContentsOfFile(const std::string& pat
   return std::make_shared<QtImage>(path);
 }
 
-void QtToolkit::runModal(const Alert& alert) noexcept { runModalAlert(alert); }
+void QtToolkit::runModal(const Alert& alert) noexcept {
+  QWidget* const window = QApplication::activeWindow();
+  // The window may be deleted while the box is open, and the box with it.
+  const QPointer<QMessageBox> box(std::make_unique<QMessageBox>(window).release());
+  box->setIcon(QMessageBox::Warning);
+  box->setWindowModality(Qt::ApplicationModal);
+  box->setWindowTitle(window ? window->windowTitle() : QApplication::applicationDisplayName());
+  setTexts(*box, alert);
+  addButtons(*box, alert);
+  box->exec();
+  delete box.data();
+}
 
 void QtToolkit::beep() noexcept { QApplication::beep(); }
 
@@ -85,7 +117,5 @@ QWidget* QtToolkit::widgetOf(View& view) noexcept {
   const QtViewCore* const core = QtViewCore::of(&view);
   return core ? core->widget() : nullptr;
 }
-
-void QtToolkit::orderTabs(View& root) noexcept { orderTabsUnder(root); }
 
 }  // namespace cutline

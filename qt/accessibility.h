@@ -3,10 +3,15 @@
 #pragma once
 
 #include <QAccessible>
+#include <QAccessibleWidget>
+#include <QCheckBox>
+#include <QComboBox>
 
 class QWidget;
 
 namespace cutline {
+
+class ClientWidget;
 
 // From now on Qt asks this program first for what assistive technology is told. More calls change
 // nothing.
@@ -19,5 +24,62 @@ void setAccessibleRole(QWidget& widget, QAccessible::Role role);
 // QWidget's setters announce a change even where nothing has changed; these do not.
 void tellAccessibleName(QWidget& widget, const QString& name);
 void tellAccessibleDescription(QWidget& widget, const QString& description);
+
+// A check box as assistive technology has it. Unlike Qt's own it is ticked as by a click, so that
+// whoever listens to the user's clicks hears of it.
+class AccessibleCheckBox : public QAccessibleWidget {
+ public:
+  explicit AccessibleCheckBox(QCheckBox& box);
+
+  QString text(QAccessible::Text kind) const override;
+  QAccessible::State state() const override;
+  QStringList actionNames() const override;
+  // Comes back before the click: what it sets off may be a question to the user, and assistive
+  // technology must not wait until that is answered.
+  void doAction(const QString& name) override;
+
+ private:
+  QCheckBox& mBox;
+};
+
+// A list to choose from as assistive technology has it. Unlike Qt's own it can be given the
+// keyboard, and an entry can be chosen without one.
+class AccessibleComboBox : public QAccessibleWidget {
+ public:
+  // For boxes that are not edited.
+  explicit AccessibleComboBox(QComboBox& box);
+
+  // The name is the current entry; what the list is for says its label. An entry without a text is
+  // named by the widget's own accessible name.
+  QString text(QAccessible::Text kind) const override;
+  QAccessible::State state() const override;
+
+  // The list is its one child.
+  int childCount() const override { return 1; }
+  QAccessibleInterface* child(int index) const override;
+  int indexOfChild(const QAccessibleInterface* child) const override;
+
+  // To open the list, to choose the next or the previous entry, to take the keyboard.
+  QStringList actionNames() const override;
+  void doAction(const QString& name) override;
+
+ private:
+  QComboBox& mBox;
+};
+
+// What assistive technology is told of a client's drawing: that it is a graphic, and what it shows.
+// A name that was set for the widget stays its name, and the words then describe it.
+class AccessibleDrawing : public QAccessibleWidget {
+ public:
+  explicit AccessibleDrawing(ClientWidget& widget);
+
+  // The kind of text that gives the client's words: name or description.
+  static QAccessible::Text whereWordsAre(const ClientWidget& widget);
+
+  QString text(QAccessible::Text kind) const override;
+
+ private:
+  const ClientWidget& mWidget;
+};
 
 }  // namespace cutline

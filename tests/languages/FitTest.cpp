@@ -12,7 +12,6 @@
 #include <vector>
 
 #include "qt/PictureComboBox.h"
-#include "qt/PictureRow.h"
 #include "qt/QtText.h"
 #include "tests/dialog/FontSize.h"
 #include "tests/languages/CutPpds.h"

@@ -3,7 +3,7 @@
 
 #include <ostream>
 
-#include "qt/EditedText.h"
+#include "qt/TextEdits.h"
 
 namespace cutline {
 

@@ -7,8 +7,8 @@
 #include <functional>
 
 #include "platform/ports/TextField.h"
-#include "qt/EditedText.h"
 #include "qt/QtFieldEditor.h"
+#include "qt/TextEdits.h"
 #include "tests/platform/RecordingFormatter.h"
 #include "tests/qt/LineUser.h"
 #include "tests/qt/PrintEditedText.h"

@@ -1,6 +1,6 @@
 #include "platform/lib/LocalNotificationCenter.h"
 #include "platform/ports/Platform.h"
-#include "qt/QtWindowWatcher.h"
+#include "qt/QtView.h"
 #include "tests/qt/QtPanelFixture.h"
 
 namespace cutline {

@@ -3,7 +3,7 @@
 
 #include "platform/ports/Controls.h"
 #include "platform/ports/TextField.h"
-#include "qt/QtTextColor.h"
+#include "qt/QtText.h"
 #include "tests/qt/QtPanelFixture.h"
 
 namespace cutline {
