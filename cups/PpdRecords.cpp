@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <cstring>
+#include <string_view>
+
+#include "base/Utf8.h"
 
 namespace cutline {
 
@@ -11,24 +14,6 @@ namespace {
 template <typename Record>
 std::span<Record> records(Record* first, int count) {
   return {first, first ? static_cast<std::size_t>(count) : 0};
-}
-
-bool isContinuation(char c) { return (static_cast<unsigned char>(c) & 0xc0) == 0x80; }
-
-std::size_t characterSize(char lead) {
-  const auto byte = static_cast<unsigned char>(lead);
-  if (byte >= 0xf0) return 4;
-  if (byte >= 0xe0) return 3;
-  return byte >= 0xc0 ? 2 : 1;
-}
-
-std::string wholeCharacters(std::string text) {
-  std::size_t lead = text.size();
-  while (lead > 0 && isContinuation(text[lead - 1])) --lead;
-  if (lead == 0) return text;
-  --lead;
-  if (text.size() - lead < characterSize(text[lead])) text.resize(lead);
-  return text;
 }
 
 }  // namespace
@@ -65,8 +50,8 @@ const ppd_size_t* markedSize(const ppd_file_t* ppd) {
 }
 
 std::string textOr(const char* text, const char* keyword) {
-  std::string whole = wholeCharacters(text);
-  return whole.empty() ? keyword : whole;
+  const std::string_view whole = withoutCutCharacter(text);
+  return std::string(whole.empty() ? keyword : whole);
 }
 
 }  // namespace cutline

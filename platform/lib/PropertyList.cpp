@@ -1,8 +1,10 @@
 #include "platform/lib/PropertyList.h"
 
+#include <libxml/parser.h>
+#include <libxml/tree.h>
+#include <libxml/xmlsave.h>
 #include <plist/plist.h>
 
-#include <algorithm>
 #include <cstdlib>
 #include <memory>
 #include <utility>
@@ -10,11 +12,9 @@
 namespace cutline {
 namespace {
 
-// The parsing library frees nested containers recursively, so their number is bounded before it
-// sees the text: together with kDeepest this keeps the stack small whatever the file holds.
-constexpr std::size_t kMostContainers = 4096;
 constexpr int kDeepest = 64;
-constexpr std::size_t kLongestText = std::size_t{16} << 20;
+// No list of ours comes near it, and a tree of it has still room in memory.
+constexpr std::size_t kLongestText = std::size_t{4} << 20;
 
 struct NodeDeleter {
   void operator()(void* node) const noexcept { plist_free(node); }
@@ -27,51 +27,38 @@ struct FreeDeleter {
 template <typename T>
 using Owned = std::unique_ptr<T, FreeDeleter>;
 
-std::size_t countOf(std::string_view part, std::string_view text) {
-  std::size_t count = 0;
-  for (auto at = text.find(part); at != text.npos; at = text.find(part, at + part.size())) ++count;
-  return count;
+struct DocumentDeleter {
+  void operator()(xmlDoc* document) const noexcept { xmlFreeDoc(document); }
+};
+using Document = std::unique_ptr<xmlDoc, DocumentDeleter>;
+
+struct BufferDeleter {
+  void operator()(xmlBuffer* buffer) const noexcept { xmlBufferFree(buffer); }
+};
+using Buffer = std::unique_ptr<xmlBuffer, BufferDeleter>;
+
+// Null when the bytes are not one well-formed document, in whatever encoding it declares, or when
+// its elements are nested beyond the library's own bound (256). Fetches nothing, expands no entity.
+Document parseDocument(std::string_view xml) {
+  constexpr int kQuietAndAlone = XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
+  return Document(
+      xmlReadMemory(xml.data(), static_cast<int>(xml.size()), nullptr, nullptr, kQuietAndAlone));
 }
 
-std::size_t sequenceLength(unsigned char lead) {
-  if (lead < 0x80) return 1;
-  if (lead >= 0xC2 && lead < 0xE0) return 2;
-  if (lead >= 0xE0 && lead < 0xF0) return 3;
-  if (lead >= 0xF0 && lead < 0xF5) return 4;
-  return 0;
-}
+bool isList(const xmlNode* element) { return xmlStrEqual(element->name, BAD_CAST "plist") != 0; }
 
-// The bounds of the byte after `lead` that keep overlong forms, surrogates and values past the last
-// code point out.
-bool isSecondByte(unsigned char lead, unsigned char byte) {
-  const unsigned low = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
-  const unsigned high = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
-  return byte >= low && byte <= high;
-}
-
-bool isUTF8(std::string_view text) {
-  while (!text.empty()) {
-    const auto lead = static_cast<unsigned char>(text[0]);
-    const std::size_t length = sequenceLength(lead);
-    if (length == 0 || length > text.size()) return false;
-    if (length > 1 && !isSecondByte(lead, static_cast<unsigned char>(text[1]))) return false;
-    for (std::size_t i = 2; i < length; ++i) {
-      if ((static_cast<unsigned char>(text[i]) & 0xC0) != 0x80) return false;
-    }
-    text.remove_prefix(length);
-  }
-  return true;
-}
-
-// What the parsing library does not ask of its input: valid UTF-8 and one whole document.
-bool isWholeDocument(std::string_view xml) {
-  constexpr std::string_view kEnd = "</plist>";
-  const auto last = xml.find_last_not_of(" \t\r\n");
-  if (last == xml.npos || xml.size() > kLongestText) return false;
-  if (!xml.substr(0, last + 1).ends_with(kEnd)) return false;
-  if (countOf("<plist", xml) != 1 || countOf(kEnd, xml) != 1) return false;
-  if (countOf("<dict", xml) + countOf("<array", xml) > kMostContainers) return false;
-  return xml.find('\0') == xml.npos && isUTF8(xml);
+// The element of the list alone, in UTF-8: the parsing library takes no other encoding, no byte
+// order mark and no document without an end for what they are. Null when the document is no list of
+// one value.
+Buffer listIn(const Document& document) {
+  xmlNode* root = document ? xmlDocGetRootElement(document.get()) : nullptr;
+  if (!root || !isList(root) || xmlChildElementCount(root) != 1) return nullptr;
+  if (isList(xmlFirstElementChild(root))) return nullptr;
+  Buffer list(xmlBufferCreate());
+  const auto options = XML_SAVE_NO_DECL | XML_SAVE_AS_XML;
+  xmlSaveCtxt* saving = xmlSaveToBuffer(list.get(), "UTF-8", options);
+  xmlSaveTree(saving, root);
+  return xmlSaveClose(saving) < 0 ? nullptr : std::move(list);
 }
 
 using Value = PropertyList::Value;
@@ -176,9 +163,12 @@ std::optional<PropertyList> valueOf(plist_t node, int depth) {
 }  // namespace
 
 std::optional<PropertyList> PropertyList::parseXML(std::string_view xml) noexcept {
-  if (!isWholeDocument(xml)) return std::nullopt;
+  if (xml.empty() || xml.size() > kLongestText) return std::nullopt;
+  const Buffer list = listIn(parseDocument(xml));
+  if (!list) return std::nullopt;
   plist_t parsed = nullptr;
-  plist_from_xml(xml.data(), static_cast<std::uint32_t>(xml.size()), &parsed);
+  plist_from_xml(reinterpret_cast<const char*>(xmlBufferContent(list.get())),
+                 static_cast<std::uint32_t>(xmlBufferLength(list.get())), &parsed);
   const OwnedNode root(parsed);
   return root ? valueOf(root.get(), 0) : std::nullopt;
 }

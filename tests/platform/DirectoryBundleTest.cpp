@@ -61,6 +61,13 @@ TEST_F(DirectoryBundleTest, LooksKeysUpInTheUsersLanguage) {
   EXPECT_EQ(openFor("fr")->localizedStringForKey("cut", kNone, kNone), "Cut");
 }
 
+TEST_F(DirectoryBundleTest, AnEditorsMarkBeforeATableIsNoHindrance) {
+  bundle.write("Resources/en.lproj/Localizable.strings",
+               "\xEF\xBB\xBF<plist><dict><key>cut</key><string>Cut</string></dict></plist>"
+               "<!-- by hand -->");
+  EXPECT_EQ(openFor("en")->localizedStringForKey("cut", kNone, kNone), "Cut");
+}
+
 TEST_F(DirectoryBundleTest, ATerritorysFolderComesBeforeItsLanguages) {
   bundle.writeStrings("zh", {{"cut", "general"}});
   bundle.writeStrings("zh-Hant", {{"cut", "traditional"}});

@@ -86,6 +86,70 @@ TEST(PropertyList, ADateHasNoValueButDoesNotSpoilItsNeighbours) {
   EXPECT_EQ(*list->objectForKey("name")->string(), "x");
 }
 
+const std::string kLabel = "<plist><string>B\xC3\xA4nder</string></plist>";
+
+struct DocumentRow {
+  const char* name;
+  std::string xml;
+};
+
+class PropertyListDocuments : public testing::TestWithParam<DocumentRow> {};
+
+TEST_P(PropertyListDocuments, OfEveryFormAreRead) {
+  const auto list = PropertyList::parseXML(GetParam().xml);
+  ASSERT_TRUE(list && list->string());
+  EXPECT_EQ(*list->string(), "Bänder");
+}
+
+// The text behind a declaration of that encoding.
+std::string declared(const std::string& encoding, const std::string& text) {
+  return "<?xml version=\"1.0\" encoding=\"" + encoding + "\"?>" + text;
+}
+
+// ASCII with each character in two bytes.
+std::string wide(const std::string& text, bool lowFirst) {
+  std::string units;
+  for (const char c : text) units += lowFirst ? std::string{c, '\0'} : std::string{'\0', c};
+  return units;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, PropertyListDocuments,
+    testing::Values(
+        DocumentRow{"Bare", kLabel}, DocumentRow{"ByteOrderMark", "\xEF\xBB\xBF" + kLabel},
+        DocumentRow{"ByteOrderMarkAndDeclaration",
+                    "\xEF\xBB\xBF" + declared("utf-8", "\r\n" + kLabel)},
+        DocumentRow{"CommentAfterTheEnd", kLabel + "<!-- translated in May -->\n"},
+        DocumentRow{"CommentAboutTheEnd", "<!-- ends with </plist> -->" + kLabel},
+        DocumentRow{"CommentAboutAnotherList", kLabel + "<!-- <plist> of </plist> -->"},
+        DocumentRow{"CommentsWithin",
+                    "<plist><!-- </plist> --><string>B\xC3\xA4n<!-- x -->der</string></plist>"},
+        DocumentRow{"BlankInTheLastTag", "<plist><string>B\xC3\xA4nder</string></plist >"},
+        DocumentRow{"Instructions", "<?edit here?>" + kLabel + "<?edit there?>"},
+        DocumentRow{
+            "DocumentType",
+            "<!DOCTYPE plist PUBLIC \"-//List//EN\" \"http://localhost/list.dtd\">" + kLabel},
+        DocumentRow{"EntityThatIsNotUsed", "<!DOCTYPE plist [<!ENTITY a \"b\">]>" + kLabel},
+        DocumentRow{"Latin1", declared("ISO-8859-1", "<plist><string>B\xE4nder</string></plist>")},
+        DocumentRow{"Windows1252",
+                    declared("windows-1252", "<plist><string>B\xE4nder</string></plist>")},
+        DocumentRow{"Ascii", declared("US-ASCII", "<plist><string>B&#228;nder</string></plist>")},
+        DocumentRow{"Utf16LowFirst", "\xFF\xFE" + wide("<plist><string>B", true) +
+                                         std::string("\xE4\0", 2) +
+                                         wide("nder</string></plist>", true)},
+        DocumentRow{
+            "Utf16HighFirst",
+            "\xFE\xFF" +
+                wide(declared("UTF-16", "<plist><string>B&#xE4;nder</string></plist>"), false)}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST(PropertyList, ReadsAnEncodingOfSeveralBytesACharacter) {
+  const auto list = PropertyList::parseXML(
+      declared("EUC-KR", "<plist><string>\xB6\xF3\xBA\xA7</string></plist>"));
+  ASSERT_TRUE(list && list->string());
+  EXPECT_EQ(*list->string(), "라벨");
+}
+
 struct BadRow {
   const char* name;
   std::string xml;
@@ -109,6 +173,19 @@ INSTANTIATE_TEST_SUITE_P(
         BadRow{"UnknownEntity", "<plist><string>&cut;</string></plist>"},
         BadRow{"OwnEntity",
                "<!DOCTYPE plist [<!ENTITY a \"b\">]><plist><string>&a;</string></plist>"},
+        BadRow{"EndlessEntity",
+               "<!DOCTYPE plist [<!ENTITY a \"&b;\"><!ENTITY b \"&a;\">]>"
+               "<plist><string>&a;</string></plist>"},
+        BadRow{"EntityOfAFile",
+               "<!DOCTYPE plist [<!ENTITY a SYSTEM \"file:///etc/hostname\">]>"
+               "<plist><string>&a;</string></plist>"},
+        BadRow{"UnknownEncoding",
+               "<?xml version=\"1.0\" encoding=\"no-such\"?><plist><true/></plist>"},
+        BadRow{"NotInTheDeclaredEncoding",
+               "<?xml version=\"1.0\" encoding=\"US-ASCII\"?><plist><string>\xE4</string></plist>"},
+        BadRow{"NulReference", "<plist><string>a&#0;b</string></plist>"},
+        BadRow{"TwoValues", "<plist><true/><true/></plist>"},
+        BadRow{"CommentNotClosed", "<plist><true/></plist><!-- "},
         BadRow{"TextAfterTheEnd", "<plist><true/></plist>more"},
         BadRow{"TwoLists", "<plist><true/></plist><plist><true/></plist>"},
         BadRow{"ListInAList", "<plist><plist><true/></plist></plist>"},
@@ -132,6 +209,16 @@ TEST(PropertyList, EndlessNestingDoesNotExhaustTheStack) {
   EXPECT_FALSE(parseValue(repeated("<array>", 300000)));
   EXPECT_FALSE(parseValue(repeated("<dict><key>a</key>", 300000)));
   EXPECT_FALSE(parseValue(repeated("<!-- </array> --><array>", 300000)));
+}
+
+TEST(PropertyList, EntitiesMadeOfEntitiesDoNotExhaustTheMemory) {
+  std::string entities = "<!ENTITY e0 \"labels\">";
+  for (int i = 1; i < 40; ++i) {
+    const std::string inner = "&e" + std::to_string(i - 1) + ";";
+    entities += "<!ENTITY e" + std::to_string(i) + " \"" + repeated(inner, 10) + "\">";
+  }
+  EXPECT_FALSE(PropertyList::parseXML("<!DOCTYPE plist [" + entities +
+                                      "]><plist><string>&e39;</string></plist>"));
 }
 
 TEST(PropertyList, ReadsALongListAndRefusesAHugeFile) {
