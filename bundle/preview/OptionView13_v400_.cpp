@@ -72,19 +72,22 @@ void OptionView13_v400_::clearBoxes() noexcept {
 
 bool OptionView13_v400_::isFlipped() const noexcept { return false; }
 
-// Special tape overrides the cuts. Either of the two cut boxes counts: the box that cuts every so
-// many labels drives the automatic cutter, too.
+// Special tape overrides the cuts, whose boxes are then not read. Either of the two cut boxes
+// counts: the box that cuts every so many labels drives the automatic cutter, too.
 ShownOptions OptionView13_v400_::readBoxes() const noexcept {
-  const bool special = isShownAndOn(specialTapeChkBx());
-  return {.isWN = isWN(),
-          .specialTape = special,
-          .cut = !special && (isShownAndOn(cutEveryChkBx()) || isShownAndOn(autoCutChkBx())),
-          .cutAtEnd = isShownAndOn(cutAndEndChkBx()),
-          .mirror = isShownAndOn(mirrorPrintChkBx()),
-          .halfCut = !special && isShownAndOn(halfCutChkBx()),
-          .chainPrint = !special && isShownAndOn(chainPrintChkBx()),
-          .offersHalfCut = isShown(halfCutChkBx()),
-          .offersMirror = isShown(mirrorPrintChkBx())};
+  ShownOptions shown{.isWN = isWN(), .specialTape = isShownAndOn(specialTapeChkBx())};
+  const bool cutEvery = !shown.specialTape && isShownAndOn(cutEveryChkBx());
+  shown.cutAtEnd = isShownAndOn(cutAndEndChkBx());
+  shown.mirror = isShownAndOn(mirrorPrintChkBx());
+  if (!shown.specialTape) {
+    shown.halfCut = isShownAndOn(halfCutChkBx());
+    const bool autoCut = isShownAndOn(autoCutChkBx());
+    shown.cut = cutEvery || autoCut;
+    shown.chainPrint = isShownAndOn(chainPrintChkBx());
+  }
+  shown.offersHalfCut = isShown(halfCutChkBx());
+  shown.offersMirror = isShown(mirrorPrintChkBx());
+  return shown;
 }
 
 std::shared_ptr<Image> OptionView13_v400_::targetDrawImage() const noexcept {
