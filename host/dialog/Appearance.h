@@ -1,7 +1,8 @@
-// The colours of the program in light and dark surroundings.
+// The look of the program in light and dark surroundings: its colours and its style.
 #pragma once
 
 #include <QPalette>
+#include <QProxyStyle>
 
 namespace cutline {
 
@@ -16,5 +17,16 @@ void applyStyle();
 // The palette of the whole program: dark when asked for, or when the desktop's own colours are
 // dark; light otherwise.
 void applyAppearance(bool dark);
+
+// Fusion with outlines that can be seen on dark windows: its own are darker than the window.
+class OutlinedStyle : public QProxyStyle {
+  Q_OBJECT
+
+ public:
+  OutlinedStyle();
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+};
 
 }  // namespace cutline

@@ -1,4 +1,4 @@
-// The dialog's language: which one it is, and its texts, numbers and fonts.
+// The dialog's language: which one it is, its texts, numbers and fonts, and sentences said in it.
 #pragma once
 
 #include <QLocale>
@@ -6,6 +6,8 @@
 #include <QTranslator>
 #include <string>
 #include <vector>
+
+#include "base/Sentence.h"
 
 namespace cutline {
 
@@ -37,5 +39,11 @@ class LanguageInForce {
   QTranslator mToolkitTexts;
   QTranslator mTexts;
 };
+
+// Sentences of the parts without a toolkit, in the dialog's language.
+QString translated(const Sentence& sentence);
+
+// The same for a line of its own: an error's words begin with a capital, a name stays as it is.
+QString asLine(const Sentence& sentence);
 
 }  // namespace cutline

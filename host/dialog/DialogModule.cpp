@@ -11,8 +11,7 @@
 #include "host/dialog/Appearance.h"
 #include "host/dialog/DialogLanguage.h"
 #include "host/dialog/DialogSession.h"
-#include "host/dialog/FirstPrinter.h"
-#include "host/dialog/Marks.h"
+#include "host/dialog/StartTimes.h"
 #include "platform/lib/Languages.h"
 #include "qt/QtText.h"
 
@@ -88,7 +87,7 @@ int runDialog(const DialogRequest& request) {
   preferFontsFor(language);
   const FirstPrinter printer = startFindingFirstPrinter(line);
   const std::unique_ptr<QApplication> application = makeApplication();
-  if (line.marks) printMark("qapp");
+  if (line.marks) printTime("qapp");
   const LanguageInForce inForce(language, tables);
   applyAppearance(line.dark);
   return DialogSession(request, printer).run();

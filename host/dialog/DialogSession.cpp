@@ -7,16 +7,51 @@
 #include <algorithm>
 #include <filesystem>
 #include <iostream>
+#include <optional>
+#include <thread>
 
+#include "cups/Destinations.h"
 #include "host/core/CommandLine.h"
 #include "host/core/Installation.h"
 #include "host/core/Module.h"
 #include "host/core/PluginLoader.h"
-#include "host/dialog/Marks.h"
-#include "host/dialog/translated.h"
+#include "host/core/PrinterSelection.h"
+#include "host/dialog/DialogLanguage.h"
+#include "host/dialog/StartTimes.h"
 #include "qt/QtText.h"
 
 namespace cutline {
+
+namespace {
+
+std::optional<Error> problemOfDocument(const std::optional<std::string>& path) {
+  std::error_code problem;
+  if (!path || std::filesystem::is_regular_file(*path, problem)) return std::nullopt;
+  return Error{Sentence(Phrase("host", "%1: there is no such document"), {*path})};
+}
+
+bool namesPrinter(const CommandLine& line) { return line.ppdPath || line.destination; }
+
+}  // namespace
+
+Result<PrinterChoice> findFirstPrinter(const CommandLine& line) {
+  if (const std::optional<Error> problem = problemOfDocument(line.file)) return *problem;
+  Result<PrinterChoice> choice = selectPrinter(line);
+  if (choice || namesPrinter(line)) return choice;
+  const Result<std::vector<Destination>> all = listDestinations(line.server);
+  if (!all || all->empty()) return choice;
+  CommandLine named = line;
+  named.destination = all->front().name;
+  return selectPrinter(named);
+}
+
+FirstPrinter startFindingFirstPrinter(const CommandLine& line) {
+  std::packaged_task<Result<PrinterChoice>()> task([line] { return findFirstPrinter(line); });
+  FirstPrinter printer = task.get_future().share();
+  std::thread(std::move(task)).detach();
+  return printer;
+}
+
 namespace {
 
 // A server that takes longer is waited for with the dialog on the screen.
@@ -54,7 +89,7 @@ DialogSession::DialogSession(const DialogRequest& request, FirstPrinter printer)
   mDialog->installEventFilter(this);
   connect(mDialog.get(), &QDialog::finished, this,
           [this] { QApplication::exit(mDialog->exitStatus()); });
-  if (mLine.marks) printMark("constructed");
+  if (mLine.marks) printTime("constructed");
 }
 
 PrintSource DialogSession::source() const {
@@ -132,8 +167,8 @@ void DialogSession::didPaintFirst() {
     if (mLine.command == Command::dialog) mDialog->startWatching();
     return;
   }
-  for (const char* name : {"painted", "complete"}) printMark(name);
-  printPeakMemoryMark();
+  for (const char* name : {"painted", "complete"}) printTime(name);
+  printPeakMemory();
   QApplication::exit(kExitDone);
 }
 

@@ -1,23 +1,36 @@
-// One run of the dialog: makes the toolkit and the platform, opens the printer, shows the dialog or
-// takes its picture.
+// One run of the dialog, from the search for its printer to its exit status.
 #pragma once
 
 #include <QApplication>
 #include <QObject>
+#include <future>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "base/Result.h"
+#include "host/core/CommandLine.h"
 #include "host/core/DialogModule.h"
 #include "host/core/HostPlatform.h"
 #include "host/core/PrintModel.h"
 #include "host/dialog/Background.h"
-#include "host/dialog/FirstPrinter.h"
 #include "host/dialog/PrintDialog.h"
 #include "qt/QtToolkit.h"
 
 namespace cutline {
 
+// The printer that the dialog opens with, looked for on another thread while the toolkit is made.
+// Also says why there is none, and whether the document exists.
+using FirstPrinter = std::shared_future<Result<PrinterChoice>>;
+
+// The thread is left alone when the dialog ends before the server has answered.
+FirstPrinter startFindingFirstPrinter(const CommandLine& line);
+
+// What the thread does. Without a named printer and without a default one it is the server's first.
+Result<PrinterChoice> findFirstPrinter(const CommandLine& line);
+
+// One run of the dialog: makes the toolkit and the platform, opens the printer, shows the dialog or
+// takes its picture.
 class DialogSession : public QObject {
   Q_OBJECT
 

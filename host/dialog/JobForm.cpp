@@ -8,7 +8,7 @@
 #include <QSignalBlocker>
 #include <QSpinBox>
 
-#include "host/dialog/StatusIcon.h"
+#include "host/dialog/NoticeView.h"
 #include "qt/QtText.h"
 #include "qt/accessibility.h"
 

@@ -1,17 +1,24 @@
-// Sends one job and follows it until it is over, in the background.
+// A job on its way: what sends and follows it, and what shows how far it is.
 #pragma once
 
 #include <QObject>
 #include <QString>
 #include <QTimer>
+#include <QWidget>
 #include <atomic>
 #include <memory>
 
+#include "cups/PrintJob.h"
 #include "host/dialog/Background.h"
 #include "host/dialog/PrintServer.h"
 
+class QLabel;
+class QProgressBar;
+class QPushButton;
+
 namespace cutline {
 
+// Sends one job and follows it until it is over, in the background.
 class JobRunner : public QObject {
   Q_OBJECT
 
@@ -52,6 +59,31 @@ class JobRunner : public QObject {
   int mMissed = 0;
   QTimer mTimer;
   Background mBackground;
+};
+
+// How far the job is, in place of the dialog's buttons.
+class JobProgress : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit JobProgress(QWidget* parent = nullptr);
+
+  void showSpooling(const QString& printer, quint64 sent, quint64 total);
+  void showState(int jobId, const JobStatus& status);
+  void showCancelling();
+
+ signals:
+  void cancelRequested();
+  // The job goes on without the dialog.
+  void leaveRequested();
+
+ private:
+  void showText(const QString& text);
+
+  QLabel* mText;
+  QProgressBar* mBar;
+  QPushButton* mCancel;
+  QPushButton* mLeave;
 };
 
 }  // namespace cutline

@@ -1,5 +1,4 @@
-// What the user should know before printing, one line each with a sign: failures, what the printer
-// is short of, choices that exclude each other, choices that a rule changes.
+// What the user should know before printing, and the signs that say how serious it is.
 #pragma once
 
 #include <QString>
@@ -7,15 +6,37 @@
 #include <QWidget>
 #include <map>
 
-#include "host/dialog/StatusIcon.h"
-
 class QVBoxLayout;
 
 namespace cutline {
 
+enum class Severity { good, info, warning, error };
+
+// A small sign that says how serious the text beside it is, drawn at any resolution.
+class StatusIcon : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit StatusIcon(Severity severity, QWidget* parent = nullptr);
+
+  Severity severity() const noexcept { return mSeverity; }
+  void setSeverity(Severity severity);
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  Severity mSeverity;
+};
+
 // Where notices come from, in the order in which they are shown. Each has its own lines.
 enum class NoticeTopic { failure, refusal, document, printer, conflicts, deviations };
 
+// What the user should know before printing, one line each with a sign: failures, what the printer
+// is short of, choices that exclude each other, choices that a rule changes.
 class NoticeView : public QWidget {
   Q_OBJECT
 

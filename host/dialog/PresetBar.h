@@ -1,15 +1,42 @@
-// The printer's saved instances, offered as presets.
+// The presets of a printer as the user chooses, names and deletes them.
 #pragma once
 
+#include <QDialog>
+#include <QString>
 #include <QStringList>
 #include <QWidget>
 
 class QComboBox;
 class QLabel;
+class QLineEdit;
 class QPushButton;
 
 namespace cutline {
 
+// What is wrong with a name for a preset; empty when it can be used. The print system keeps
+// instances in a text file whose words end at blanks, and names them PRINTER/INSTANCE.
+QString problemOfPresetName(const QString& name);
+
+// Asks for the name of a preset to save.
+class PresetNameDialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  PresetNameDialog(const QString& suggestion, QStringList taken, QWidget* parent);
+
+ signals:
+  void nameChosen(const QString& name);
+
+ private:
+  void check();
+
+  QStringList mTaken;
+  QLineEdit* mName;
+  QLabel* mHint;
+  QPushButton* mSave;
+};
+
+// The printer's saved instances, offered as presets.
 class PresetBar : public QWidget {
   Q_OBJECT
 

@@ -4,10 +4,10 @@
 #include <utility>
 
 #include "host/core/PrintModel.h"
+#include "host/dialog/DialogLanguage.h"
 #include "host/dialog/NoticeView.h"
 #include "host/dialog/PresetBar.h"
-#include "host/dialog/ServerClient.h"
-#include "host/dialog/translated.h"
+#include "host/dialog/PrintServer.h"
 #include "qt/QtText.h"
 
 namespace cutline {

@@ -2,32 +2,27 @@
 
 #include <QPushButton>
 #include <QStackedWidget>
-#include <QTimer>
 #include <utility>
 
 #include "host/core/CommandLine.h"
 #include "host/core/CutRules.h"
 #include "host/core/OptionTable.h"
+#include "host/dialog/DialogLanguage.h"
 #include "host/dialog/JobForm.h"
-#include "host/dialog/JobProgress.h"
+#include "host/dialog/JobRunner.h"
 #include "host/dialog/MoreOptionsPanel.h"
 #include "host/dialog/NoticeView.h"
-#include "host/dialog/PanelFrame.h"
+#include "host/dialog/PanelViews.h"
 #include "host/dialog/PresetBar.h"
 #include "host/dialog/PresetKeeper.h"
 #include "host/dialog/PrinterBar.h"
 #include "host/dialog/StripPane.h"
-#include "host/dialog/SummaryView.h"
 #include "host/dialog/mnemonics.h"
-#include "host/dialog/translated.h"
-#include "host/dialog/window_mnemonics.h"
 #include "qt/QtText.h"
 #include "qt/accessibility.h"
 
 namespace cutline {
 namespace {
-
-constexpr int kStateMilliseconds = 5000;
 
 bool isMirrored(const PpdFile& ppd) {
   const std::string keyword = "LxMirror";
@@ -36,10 +31,6 @@ bool isMirrored(const PpdFile& ppd) {
 
 StripDirection directionOf(const PpdFile& ppd) {
   return hasCutOptions(ppd) && !isLabelRoll(ppd) ? StripDirection::across : StripDirection::down;
-}
-
-QString fileNameOf(const std::string& path) {
-  return toQString(path.substr(path.find_last_of('/') + 1));
 }
 
 QStringList sentencesOf(const std::vector<Deviation>& deviations) {
@@ -114,86 +105,6 @@ void PrintDialog::connectSettings() {
   connect(mCancel, &QPushButton::clicked, this, &PrintDialog::reject);
 }
 
-void PrintDialog::connectDocument() {
-  StripView& strip = mStripPane->strip();
-  connect(&strip, &StripView::pagesWanted, mDocument, &DocumentLoader::request);
-  connect(mDocument, &DocumentLoader::pageDrawn, &strip, &StripView::showPage);
-  connect(mDocument, &DocumentLoader::opened, this, [this, &strip] {
-    strip.setMessage({});
-    mStripPane->setPlaceholder(mDocument->isPlaceholder());
-    strip.setPages(mDocument->pageSizes());
-  });
-  connect(mDocument, &DocumentLoader::unavailable, &strip,
-          [&strip] { strip.setMessage(tr("No preview: its module is not installed")); });
-  connect(mDocument, &DocumentLoader::failed, this, [this, &strip](const QString& reason) {
-    strip.setMessage(tr("This document cannot be shown"));
-    mNotices->setNotice(NoticeTopic::document, reason);
-    refreshPrintButton();
-  });
-  connect(mDocument, &DocumentLoader::pageFailed, this, [this](int page, const QString& reason) {
-    mNotices->setNotice(NoticeTopic::document, tr("Label %1: %2").arg(page + 1).arg(reason));
-  });
-  connect(mDocument, &DocumentLoader::becameIdle, this, &PrintDialog::becameSettled);
-}
-
-void PrintDialog::connectServer() {
-  connect(mServer, &ServerClient::printersListed, this, &PrintDialog::takePrinters);
-  connect(mServer, &ServerClient::listingFailed, this,
-          [this](const QString& reason) { mNotices->setNotice(NoticeTopic::failure, reason); });
-  connect(mServer, &ServerClient::printerOpened, this, &PrintDialog::openPrinter);
-  connect(mServer, &ServerClient::openingFailed, this, &PrintDialog::openingFailed);
-  connect(mServer, &ServerClient::stateKnown, this, &PrintDialog::takeState);
-  mStateTimer.setInterval(kStateMilliseconds);
-  connect(&mStateTimer, &QTimer::timeout, this, [this] {
-    if (mModel.hasQueue()) mServer->askState(mModel.destination().name);
-  });
-}
-
-void PrintDialog::connectJob() {
-  connect(mJob, &JobRunner::spooling, this, [this](quint64 sent, quint64 total) {
-    mProgress->showSpooling(toQString(mModel.destination().name.printer), sent, total);
-  });
-  connect(mJob, &JobRunner::stateChanged, this,
-          [this](const JobStatus& status) { mProgress->showState(mJob->jobId(), status); });
-  connect(mJob, &JobRunner::printed, this, [this] { finish(kExitDone); });
-  connect(mJob, &JobRunner::cancelled, this, [this] {
-    showJobRunning(false);
-    mNotices->setNotice(NoticeTopic::refusal, tr("The job was cancelled."));
-  });
-  connect(mJob, &JobRunner::failed, this, [this](const QString& reason) {
-    showJobRunning(false);
-    mNotices->setNotice(NoticeTopic::failure, reason);
-  });
-  connect(mProgress, &JobProgress::cancelRequested, this, [this] {
-    mProgress->showCancelling();
-    mJob->cancel();
-  });
-  connect(mProgress, &JobProgress::leaveRequested, this, [this] { finish(kExitDone); });
-}
-
-void PrintDialog::showWaiting(const QString& text) {
-  mSettings->setEnabled(false);
-  mMoreButton->setEnabled(false);
-  mPrint->setEnabled(false);
-  mPrinterBar->setWaiting(text);
-  mStripPane->strip().setMessage(text);
-}
-
-void PrintDialog::showFailure(const QString& reason) {
-  mExitStatus = kExitError;
-  mNotices->setNotice(NoticeTopic::failure, reason);
-  mPrinterBar->setWaiting(tr("No printer"));
-  mStripPane->strip().setMessage({});
-}
-
-void PrintDialog::openPrinter(const PrinterChoice& choice) {
-  setUpdatesEnabled(false);
-  mSettings->setEnabled(true);
-  mPanelFrame->releasePanels();
-  mModel.openPrinter(choice);
-  setUpdatesEnabled(true);
-}
-
 void PrintDialog::modelDidChange(ModelChange what) {
   struct Row {
     ModelChange change;
@@ -257,61 +168,6 @@ void PrintDialog::fitToPanels() {
   setMnemonics();
 }
 
-void PrintDialog::loadDocument() {
-  StripView& strip = mStripPane->strip();
-  if (mSource.path.empty()) {
-    strip.setMessage(tr("No document"));
-    QTimer::singleShot(0, this, &PrintDialog::becameSettled);
-    return;
-  }
-  strip.setMessage(tr("Opening %1...").arg(fileNameOf(mSource.path)));
-  mDocument->open(mSource.opener);
-}
-
-void PrintDialog::startWatching() {
-  if (!mModel.hasQueue()) return;
-  mServer->listPrinters();
-  mStateTimer.start();
-}
-
-void PrintDialog::takePrinters(const std::vector<Destination>& destinations) {
-  mPrinterBar->setPrinters(destinations);
-  mPrinterBar->setCurrent(mModel.destination());
-  mPresets->setDestinations(destinations);
-}
-
-void PrintDialog::takeState(const Destination& destination) {
-  if (destination.name.printer != mModel.destination().name.printer || mServer->isOpening()) return;
-  mPrinterBar->setState(destination);
-  const QString name = toQString(destination.name.printer);
-  QString notice;
-  if (destination.state == PrinterState::stopped) {
-    notice = tr("%1 does not print now (%2). A job waits until the printer is ready again.")
-                 .arg(name, translated(destination.stateText()));
-  }
-  if (!destination.acceptsJobs) {
-    notice = tr("%1 does not accept jobs. Choose another printer, or ask whoever looks after this "
-                "one.")
-                 .arg(name);
-  }
-  mNotices->setNotice(NoticeTopic::printer, notice);
-}
-
-void PrintDialog::choosePrinter(const QString& name) {
-  const Destination* printer = mPresets->find({toUtf8(name), std::nullopt});
-  if (!printer) return;
-  mServer->openPrinter(*printer);
-  mPrinterBar->setWaiting(tr("Opening %1...").arg(name));
-  mNotices->clear(NoticeTopic::printer);
-  refreshPrintButton();
-}
-
-void PrintDialog::openingFailed(const QString& reason) {
-  mPrinterBar->setCurrent(mModel.destination());
-  mNotices->setNotice(NoticeTopic::failure, reason);
-  refreshPrintButton();
-}
-
 void PrintDialog::choosePaper(const QString& name) { mModel.setPaper(toUtf8(name)); }
 
 void PrintDialog::chooseOption(const QString& keyword, const QString& choice) {
@@ -340,61 +196,6 @@ void PrintDialog::setMnemonics() {
   for (QWidget* root : {static_cast<QWidget*>(mPanelFrame), static_cast<QWidget*>(mMoreOptions)}) {
     assignMnemonics(*this, *root, reserved);
   }
-}
-
-QString PrintDialog::refusal() const {
-  if (!mModel.isOpen()) return tr("No printer is open.");
-  if (!mModel.hasQueue()) return tr("This is a PPD file, no printer: printing is switched off.");
-  if (mSource.path.empty())
-    return tr("There is no document to print: start with \"cutline FILE\".");
-  if (mDocument->hasFailed()) return tr("This document cannot be printed.");
-  return {};
-}
-
-void PrintDialog::refreshPrintButton() {
-  const QString reason = refusal();
-  mPrint->setEnabled(reason.isEmpty() && !mServer->isOpening());
-  mPrint->setToolTip(reason);
-  tellAccessibleDescription(*mPrint, reason);
-  mNotices->setNotice(NoticeTopic::refusal, reason);
-}
-
-void PrintDialog::print() {
-  finishPages(mJobForm->pages());
-  if (mJobForm->hasPagesProblem()) return mJobForm->focusPages();
-  if (!refusal().isEmpty() || mServer->isOpening() || mJob->isRunning()) return;
-  const Result<OptionList> options = mModel.prepareToPrint();
-  mNotices->setNotice(NoticeTopic::failure, options ? QString() : asLine(options.error().sentence));
-  if (!options) return;
-  mNotices->clear(NoticeTopic::refusal);
-  showJobRunning(true);
-  const DestinationName& name = mModel.destination().name;
-  mProgress->showSpooling(toQString(name.printer), 0, 0);
-  mJob->start({name, mSource.path, mSource.title, *options});
-}
-
-void PrintDialog::showJobRunning(bool isRunning) {
-  mSettings->setEnabled(!isRunning);
-  mMoreOptions->setEnabled(!isRunning);
-  mBottom->setCurrentIndex(isRunning ? 1 : 0);
-  if (isRunning) {
-    mStripPane->strip().setFocus();
-  } else {
-    mPrint->setFocus();
-  }
-}
-
-// A job that the server has goes on without the dialog; one that is being sent is given up first.
-void PrintDialog::reject() {
-  if (!mJob->isRunning()) return QDialog::reject();
-  if (mJob->isSubmitted()) return finish(kExitDone);
-  mProgress->showCancelling();
-  mJob->cancel();
-}
-
-void PrintDialog::finish(int exitStatus) {
-  mExitStatus = exitStatus;
-  done(exitStatus);
 }
 
 }  // namespace cutline

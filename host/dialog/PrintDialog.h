@@ -10,10 +10,9 @@
 #include <vector>
 
 #include "host/core/PrintModel.h"
-#include "host/dialog/DocumentLoader.h"
+#include "host/dialog/DocumentPages.h"
 #include "host/dialog/JobRunner.h"
 #include "host/dialog/PrintServer.h"
-#include "host/dialog/ServerClient.h"
 
 class QLabel;
 class QPushButton;

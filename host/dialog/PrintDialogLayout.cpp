@@ -7,16 +7,14 @@
 #include <algorithm>
 
 #include "host/dialog/JobForm.h"
-#include "host/dialog/JobProgress.h"
+#include "host/dialog/JobRunner.h"
 #include "host/dialog/MoreOptionsPanel.h"
 #include "host/dialog/NoticeView.h"
-#include "host/dialog/PanelFrame.h"
+#include "host/dialog/PanelViews.h"
 #include "host/dialog/PresetBar.h"
 #include "host/dialog/PrintDialog.h"
 #include "host/dialog/PrinterBar.h"
 #include "host/dialog/StripPane.h"
-#include "host/dialog/SummaryView.h"
-#include "host/dialog/tab_order.h"
 
 namespace cutline {
 namespace {
@@ -29,6 +27,33 @@ void alignCaptions(const std::vector<QLabel*>& captions) {
   int width = 0;
   for (const QLabel* caption : captions) width = std::max(width, caption->sizeHint().width());
   for (QLabel* caption : captions) caption->setMinimumWidth(width);
+}
+
+bool takesTabs(const QWidget& widget) {
+  return (widget.focusPolicy() & Qt::TabFocus) != 0 && widget.focusProxy() == nullptr;
+}
+
+std::vector<QWidget*> tabsUnder(QWidget& root) {
+  std::vector<QWidget*> found;
+  QWidget* each = &root;
+  do {
+    const bool isInside = each == &root || root.isAncestorOf(each);
+    if (isInside && takesTabs(*each)) found.push_back(each);
+    each = each->nextInFocusChain();
+  } while (each != &root);
+  return found;
+}
+
+// Makes the tab key visit what lies in the first of these, then in the second, and so on; within
+// one the order stays as it is.
+void chainTabs(const std::vector<QWidget*>& roots) {
+  QWidget* last = nullptr;
+  for (QWidget* root : roots) {
+    for (QWidget* each : tabsUnder(*root)) {
+      if (last) QWidget::setTabOrder(last, each);
+      last = each;
+    }
+  }
 }
 
 }  // namespace

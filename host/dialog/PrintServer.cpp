@@ -1,7 +1,11 @@
 #include "host/dialog/PrintServer.h"
 
+#include <utility>
+
 #include "cups/Destinations.h"
 #include "host/core/PrinterSelection.h"
+#include "host/dialog/DialogLanguage.h"
+#include "qt/QtText.h"
 
 namespace cutline {
 
@@ -37,6 +41,71 @@ Result<JobStatus> CupsPrintServer::status(const DestinationName& destination, in
 
 Result<Done> CupsPrintServer::cancel(const DestinationName& destination, int jobId) {
   return cancelJob(mOptions, destination, jobId);
+}
+
+ServerClient::ServerClient(std::shared_ptr<PrintServer> server, QObject* parent)
+    : QObject(parent), mServer(std::move(server)) {}
+
+void ServerClient::listPrinters() {
+  mBackground.start([this, server = mServer]() -> Background::Delivery {
+    return [this, list = server->destinations()] { takeList(list); };
+  });
+}
+
+void ServerClient::takeList(const Result<std::vector<Destination>>& list) {
+  if (!list) {
+    emit listingFailed(asLine(list.error().sentence));
+    return;
+  }
+  emit printersListed(*list);
+}
+
+void ServerClient::openPrinter(const Destination& destination) {
+  mIsOpening = true;
+  mBackground.start([this, server = mServer, destination,
+                     opening = ++mOpenings]() -> Background::Delivery {
+    return [this, opening, choice = server->open(destination)] { takePrinter(opening, choice); };
+  });
+}
+
+void ServerClient::takePrinter(int opening, const Result<PrinterChoice>& choice) {
+  if (opening != mOpenings) return;
+  mIsOpening = false;
+  if (!choice) {
+    emit openingFailed(asLine(choice.error().sentence));
+    return;
+  }
+  emit printerOpened(*choice);
+}
+
+void ServerClient::askState(const DestinationName& name) {
+  if (std::exchange(mIsAskingState, true)) return;
+  mBackground.start([this, server = mServer, name]() -> Background::Delivery {
+    return [this, destination = server->find(name)] { takeState(destination); };
+  });
+}
+
+void ServerClient::takeState(const Result<Destination>& destination) {
+  mIsAskingState = false;
+  if (destination) emit stateKnown(*destination);
+}
+
+void ServerClient::savePreset(const DestinationName& name, const OptionList& options) {
+  mBackground.start([this, server = mServer, name, options]() -> Background::Delivery {
+    return [this, name, saved = server->saveInstance(name, options)] {
+      if (!saved) return emit presetFailed(asLine(saved.error().sentence));
+      emit presetSaved(toQString(name.instance.value_or("")));
+    };
+  });
+}
+
+void ServerClient::removePreset(const DestinationName& name) {
+  mBackground.start([this, server = mServer, name]() -> Background::Delivery {
+    return [this, name, removed = server->removeInstance(name)] {
+      if (!removed) return emit presetFailed(asLine(removed.error().sentence));
+      emit presetRemoved(toQString(name.instance.value_or("")));
+    };
+  });
 }
 
 }  // namespace cutline

@@ -1,7 +1,9 @@
-// What the dialog asks of the print server. Every call may block for long: never on the thread that
-// draws. Calls may run on several threads at once.
+// What the dialog asks of the print server, and how it asks without waiting.
 #pragma once
 
+#include <QObject>
+#include <QString>
+#include <memory>
 #include <vector>
 
 #include "base/Result.h"
@@ -9,9 +11,12 @@
 #include "cups/PrintJob.h"
 #include "cups/ServerOptions.h"
 #include "host/core/PrintModel.h"
+#include "host/dialog/Background.h"
 
 namespace cutline {
 
+// What the dialog asks of the print server. Every call may block for long: never on the thread that
+// draws. Calls may run on several threads at once.
 class PrintServer {
  public:
   PrintServer() = default;
@@ -47,6 +52,48 @@ class CupsPrintServer final : public PrintServer {
 
  private:
   ServerOptions mOptions;
+};
+
+// Asks the print server in the background and tells the answers on the dialog's thread.
+class ServerClient : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit ServerClient(std::shared_ptr<PrintServer> server, QObject* parent = nullptr);
+
+  // printersListed, or listingFailed.
+  void listPrinters();
+  // printerOpened, or openingFailed. The answer to an earlier call that is still on its way is
+  // dropped.
+  void openPrinter(const Destination& destination);
+  bool isOpening() const noexcept { return mIsOpening; }
+  // stateKnown; nothing when the server does not answer, or is being asked already.
+  void askState(const DestinationName& name);
+  // presetSaved or presetFailed.
+  void savePreset(const DestinationName& name, const OptionList& options);
+  // presetRemoved or presetFailed.
+  void removePreset(const DestinationName& name);
+
+ signals:
+  void printersListed(const std::vector<cutline::Destination>& destinations);
+  void listingFailed(const QString& reason);
+  void printerOpened(const cutline::PrinterChoice& choice);
+  void openingFailed(const QString& reason);
+  void stateKnown(const cutline::Destination& destination);
+  void presetSaved(const QString& instance);
+  void presetRemoved(const QString& instance);
+  void presetFailed(const QString& reason);
+
+ private:
+  void takeList(const Result<std::vector<Destination>>& list);
+  void takePrinter(int opening, const Result<PrinterChoice>& choice);
+  void takeState(const Result<Destination>& destination);
+
+  std::shared_ptr<PrintServer> mServer;
+  int mOpenings = 0;
+  bool mIsOpening = false;
+  bool mIsAskingState = false;
+  Background mBackground;
 };
 
 }  // namespace cutline

@@ -5,7 +5,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
-#include "host/dialog/translated.h"
+#include "host/dialog/DialogLanguage.h"
 #include "qt/QtText.h"
 #include "qt/accessibility.h"
 

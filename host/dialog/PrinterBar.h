@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "cups/Destination.h"
-#include "host/dialog/StatusIcon.h"
+#include "host/dialog/NoticeView.h"
 
 class QComboBox;
 class QLabel;

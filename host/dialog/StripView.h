@@ -7,8 +7,7 @@
 #include <deque>
 #include <optional>
 
-#include "host/dialog/DocumentLoader.h"
-#include "host/dialog/PageCache.h"
+#include "host/dialog/DocumentPages.h"
 #include "host/dialog/PageSelection.h"
 #include "host/dialog/StripLayout.h"
 

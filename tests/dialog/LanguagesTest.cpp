@@ -11,10 +11,9 @@
 #include <QTest>
 
 #include "host/dialog/DialogLanguage.h"
-#include "host/dialog/JobProgress.h"
+#include "host/dialog/JobRunner.h"
 #include "host/dialog/NoticeView.h"
 #include "host/dialog/PresetBar.h"
-#include "host/dialog/PresetNameDialog.h"
 #include "platform/lib/Languages.h"
 #include "tests/dialog/DialogTest.h"
 #include "tests/dialog/FontSize.h"

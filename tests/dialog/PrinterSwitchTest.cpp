@@ -7,7 +7,7 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "host/dialog/PresetNameDialog.h"
+#include "host/dialog/PresetBar.h"
 #include "tests/dialog/DialogTest.h"
 
 namespace cutline {

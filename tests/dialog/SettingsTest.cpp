@@ -8,7 +8,7 @@
 #include <QSpinBox>
 #include <QTest>
 
-#include "host/dialog/translated.h"
+#include "host/dialog/DialogLanguage.h"
 #include "tests/dialog/DialogTest.h"
 
 namespace cutline {

@@ -22,7 +22,7 @@
 #include "host/core/Module.h"
 #include "host/core/PluginLoader.h"
 #include "host/core/PrinterSelection.h"
-#include "host/dialog/SummaryView.h"
+#include "host/dialog/PanelViews.h"
 #include "platform/ports/Drawing.h"
 #include "tests/e2e/SampleOptions.h"
 #include "tests/support/EndToEndTest.h"

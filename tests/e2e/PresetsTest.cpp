@@ -8,7 +8,6 @@
 #include <atomic>
 
 #include "host/dialog/PresetBar.h"
-#include "host/dialog/PresetNameDialog.h"
 #include "tests/e2e/DialogOnServer.h"
 #include "tests/e2e/SampleOptions.h"
 #include "tests/e2e/ServerInBetween.h"

@@ -6,7 +6,7 @@
 #include <QTest>
 #include <future>
 
-#include "host/dialog/window_mnemonics.h"
+#include "host/dialog/mnemonics.h"
 #include "qt/QtText.h"
 #include "tests/languages/StagedBundle.h"
 

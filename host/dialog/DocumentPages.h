@@ -1,11 +1,13 @@
-// Opens the document and draws its pages on another thread, one call at a time.
+// The pages of the document, drawn in the background and kept for the preview.
 #pragma once
 
 #include <QImage>
 #include <QObject>
 #include <QString>
+#include <cstdint>
 #include <deque>
 #include <functional>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -20,6 +22,7 @@ struct PageRequest {
   double scale;  // pixels a point
 };
 
+// Opens the document and draws its pages on another thread, one call at a time.
 class DocumentLoader : public QObject {
   Q_OBJECT
 
@@ -61,6 +64,28 @@ class DocumentLoader : public QObject {
   bool mHasFailed = false;
   bool mIsBusy = false;
   Background mBackground;
+};
+
+// The drawn pages that the preview holds. Forgets those that were not looked at for longest.
+class PageCache {
+ public:
+  // The page at whatever scale it was last drawn; a null image when there is none.
+  QImage image(int page);
+  // True when the page is there at this scale (pixels a point).
+  bool has(int page, double scale) const;
+  void insert(int page, double scale, QImage image);
+  void clear();
+
+ private:
+  struct Entry {
+    QImage image;
+    double scale = 0;
+    std::uint64_t lastUse = 0;
+  };
+  void forgetOldest();
+
+  std::map<int, Entry> mEntries;
+  std::uint64_t mUses = 0;
 };
 
 }  // namespace cutline

@@ -5,9 +5,9 @@ namespace cutline {
 
 // Since the moment in the environment's LX_T0 (CLOCK_MONOTONIC, milliseconds), or else since the
 // start of the process.
-void printMark(const char* name);
+void printTime(const char* name);
 
 // "MARK rss_MiB": the most memory that the process has held so far.
-void printPeakMemoryMark();
+void printPeakMemory();
 
 }  // namespace cutline

@@ -1,4 +1,4 @@
-// Holds the native views of the panels at their own size, each under its name.
+// What is seen of the panels: their views, and their summary.
 #pragma once
 
 #include <QWidget>
@@ -6,10 +6,13 @@
 
 #include "host/core/PrintModel.h"
 
+class QGridLayout;
+class QLabel;
 class QVBoxLayout;
 
 namespace cutline {
 
+// Holds the native views of the panels at their own size, each under its name.
 class PanelFrame : public QWidget {
   Q_OBJECT
 
@@ -27,6 +30,27 @@ class PanelFrame : public QWidget {
 
   QVBoxLayout* mColumn;
   std::vector<std::shared_ptr<View>> mViews;
+};
+
+// The panels' summary: "title: value" lines in two columns, each read from top to bottom.
+class SummaryView : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit SummaryView(QWidget* parent = nullptr);
+
+  void setLines(const std::vector<SummaryLine>& lines);
+
+ private:
+  struct Row {
+    QLabel* title;
+    QLabel* value;
+  };
+  void makeRows(std::size_t count);
+  Row makeRow(int row, int column);
+
+  QGridLayout* mGrid;
+  std::vector<Row> mRows;
 };
 
 }  // namespace cutline

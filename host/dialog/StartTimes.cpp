@@ -1,4 +1,4 @@
-#include "host/dialog/Marks.h"
+#include "host/dialog/StartTimes.h"
 
 #include <unistd.h>
 
@@ -45,12 +45,12 @@ double peakMemoryMib() {
 
 }  // namespace
 
-void printMark(const char* name) {
+void printTime(const char* name) {
   std::printf("MARK %s %.3f\n", name, nowMilliseconds() - startMilliseconds());
   std::fflush(stdout);
 }
 
-void printPeakMemoryMark() {
+void printPeakMemory() {
   std::printf("MARK rss_MiB %.1f\n", peakMemoryMib());
   std::fflush(stdout);
 }
