@@ -3,35 +3,12 @@
 
 #include "bundle/options/OptionPDE13_v400_.h"
 #include "bundle/options/option_model.h"
-#include "bundle/ppd/text_bytes.h"
 #include "bundle/preview/nil_controls.h"
 #include "platform/ports/Platform.h"
 #include "platform/ports/Toolkit.h"
 
 namespace cutline {
 namespace {
-
-// The numbers that the cut-every group can take, where the PPD says nothing.
-constexpr int kSmallestCount = 1;
-constexpr int kLargestCount = 99;
-
-int countOf(PDEChoice& choice) noexcept { return integerValue(choice.ppdTitle().value_or("")); }
-
-struct CountRange {
-  int smallest = kSmallestCount;
-  int largest = kLargestCount;
-};
-
-CountRange rangeOf(const ChoiceList* choices) noexcept {
-  if (!choices || choices->empty()) return {};
-  return {countOf(*choices->front()), countOf(*choices->back())};
-}
-
-// Not std::clamp: a PPD may list its numbers downwards.
-int nearestIn(const CountRange& range, int count) noexcept {
-  if (count < range.smallest) return range.smallest;
-  return count > range.largest ? range.largest : count;
-}
 
 // The presets of tape printers count from here: auto cut 4, half cut 2, chain printing 1.
 constexpr int kFirstTapeTag = 4;
@@ -65,29 +42,6 @@ void OptionPDE13_v400_::warnOfAutoCutOnHSMedia() noexcept {
 
 void OptionPDE13_v400_::changeOptionPopUpButton(View* /*sender*/) noexcept {
   updateUIItem(kItemOptionPopUp);
-}
-
-void OptionPDE13_v400_::changeCutEveryValue(View* sender) noexcept {
-  const CountRange range = rangeOf(mCutEvery_Choices.get());
-  int count = 0;
-  if (sender && sender == static_cast<View*>(mCutEveryStpr)) {
-    count = nearestIn(range, mCutEveryStpr->intValue());
-    mCutEveryStpr->setIntValue(count);
-    if (mCutEveryTxBx) mCutEveryTxBx->setStringValue(std::to_string(count));
-  } else if (sender && sender == static_cast<View*>(mCutEveryTxBx)) {
-    count = nearestIn(range, mCutEveryTxBx->intValue());
-    mCutEveryTxBx->setStringValue(std::to_string(count));
-    if (mCutEveryStpr) mCutEveryStpr->setIntValue(count);
-  }
-  selectionForItem(std::int64_t{count} - range.smallest, rowOf(OptionId::cutEvery).keyword,
-                   mCutEvery_Choices.get(), kItemCutEvery);
-  updateUIItem(kItemCutEvery);
-}
-
-void OptionPDE13_v400_::controlTextDidChange(const Notification& notification) noexcept {
-  View* field = mCutEveryTxBx;
-  const auto* object = std::get_if<const void*>(&notification.object);
-  if (field && object && *object == field) changeCutEveryValue(field);
 }
 
 int OptionPDE13_v400_::targetPopUpButtonTag() const noexcept {

@@ -1,5 +1,6 @@
 // The controls' first state, from the PPD's defaults and titles, and the rules that enable and
 // disable them.
+#include <algorithm>
 #include <cstring>
 
 #include "bundle/options/OptionPDE13_v400_.h"
@@ -78,7 +79,8 @@ void OptionPDE13_v400_::initializeUI_CutLabel() noexcept {
   const auto count = decodedText(mCutEvery_Option->defchoice, TextEncoding::system);
   if (mCutEveryTxBx && count) mCutEveryTxBx->setStringValue(*count);
   setEnabled(mCutEveryStpr, exists);
-  if (mCutEveryStpr) mCutEveryStpr->setIntValue(mCutEveryTxBx ? mCutEveryTxBx->intValue() : 0);
+  const std::int64_t position = indexOfDefaultOption(mCutEvery_Choices.get());
+  showInStepper(mCutEveryTxBx ? mCutEveryTxBx->intValue() : 0, std::max<std::int64_t>(position, 0));
 }
 
 void OptionPDE13_v400_::initializeUI_RemoveBlkSpace() noexcept {

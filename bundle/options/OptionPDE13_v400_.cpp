@@ -132,8 +132,14 @@ void OptionPDE13_v400_::PPDOptionKeyValueDidChange(
 
 void OptionPDE13_v400_::initUI() noexcept {
   if (set_formatSetting) return;
+  // The initialiser shows the PPD's default, which may be no choice, or not what is saved.
+  const ChoiceList* counts = mCutEvery_Choices.get();
+  const bool defaultIsSaved =
+      indexOfMarkedOption(counts, rowOf(OptionId::cutEvery).keyword) != -1 &&
+      indexOfDefaultOption(counts) != -1;
   for (const OptionRow& row : kOptions) (this->*row.initializeUI)();
   setValuesToKey();
+  if (!defaultIsSaved) showSavedCount();
   set_formatSetting = 1;
 }
 

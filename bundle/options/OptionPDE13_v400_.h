@@ -6,6 +6,7 @@
 //   CUTOPTION_initialize.cpp   first state of the controls, enabling rules
 //   CUTOPTION_Save.cpp         controls to PPD choices
 //   CUTOPTION_IBAction.cpp     what the user does, paper changes
+//   cut_every_count.cpp        the number of labels between two cuts
 //   layout.cpp, refresh.cpp, summary.cpp
 #pragma once
 
@@ -104,6 +105,9 @@ class OptionPDE13_v400_ : public BasePDE13_v400_ {
   void changeOption(View* sender) noexcept;             // changeOption:
   void changeOptionPopUpButton(View* sender) noexcept;  // changeOptionPopUpButton:
   void changeCutEveryValue(View* sender) noexcept;      // changeCutEveryValue:
+  // stepCutEveryValue:  The stepper's arrows. Where the PPD's numbers are not consecutive, which
+  // changeCutEveryValue: counts on, they lead to the neighbouring choice.
+  void stepCutEveryValue(View* sender) noexcept;
   // The tag of the preset that fits the boxes as they are, 1 to 16.
   virtual int targetPopUpButtonTag() const noexcept;
   // checkChangeSettingWhenPageSizeChanged:
@@ -197,9 +201,15 @@ class OptionPDE13_v400_ : public BasePDE13_v400_ {
   // CUTOPTION_IBAction.cpp
   void warnOfAutoCutOnHSMedia() noexcept;
 
+  // cut_every_count.cpp
+  void refreshCutEvery() noexcept;
+  // The choice at the position in field and stepper.
+  void showCount(std::int64_t position) noexcept;
+  void showInStepper(int count, std::int64_t position) noexcept;
+  void showSavedCount() noexcept;
+
   // refresh.cpp
   void readMarkedChoice(const OptionRow& row, PDEChoice* OptionPDE13_v400_::*selection) noexcept;
-  void refreshCutEvery() noexcept;
   void refreshCheckBox(const OptionRow& row) noexcept;
   void selectPresetOfBoxes() noexcept;
   void setBoxesFromPopUp() noexcept;

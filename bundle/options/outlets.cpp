@@ -60,6 +60,7 @@ constexpr std::array kActions = {
     Action{"changeOption:", &OptionPDE13_v400_::changeOption},
     Action{"changeOptionPopUpButton:", &OptionPDE13_v400_::changeOptionPopUpButton},
     Action{"changeCutEveryValue:", &OptionPDE13_v400_::changeCutEveryValue},
+    Action{"stepCutEveryValue:", &OptionPDE13_v400_::stepCutEveryValue},
 };
 
 template <typename Rows>

@@ -1,5 +1,6 @@
 #include "bundle/ppd/PDEChoice.h"
 
+#include <algorithm>
 #include <cstring>
 #include <string_view>
 
@@ -68,6 +69,13 @@ std::string PDEChoice::description() noexcept {
   return "<PDEChoice " + addressOf(this) + " userTitle:\"" + userTitle().value_or("(null)") +
          "\" ppdTitle:\"" + ppdTitle().value_or("(null)") + "\" marked:" + (marked ? "YES" : "NO") +
          " choice:" + std::to_string(position) + " of " + std::to_string(count) + ">";
+}
+
+std::optional<int> positionOf(const PDEChoice* choice, const ChoiceList& choices) noexcept {
+  const auto found = std::find_if(choices.begin(), choices.end(),
+                                  [&](const auto& each) { return each.get() == choice; });
+  if (found == choices.end()) return std::nullopt;
+  return static_cast<int>(found - choices.begin());
 }
 
 }  // namespace cutline

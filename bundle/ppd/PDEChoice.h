@@ -44,4 +44,7 @@ class PDEChoice {
 // lacks has no list, which is not the same as an empty one.
 using ChoiceList = std::vector<std::unique_ptr<PDEChoice>>;
 
+// The position of the object itself, not of its name; nothing when it isn't in the list.
+std::optional<int> positionOf(const PDEChoice* choice, const ChoiceList& choices) noexcept;
+
 }  // namespace cutline

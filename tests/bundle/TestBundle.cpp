@@ -30,7 +30,7 @@ class PanelBuilder {
     addField();
     auto stepper = mToolkit.createStepper({{92, 11}, {22, 24}});
     stepper->setRange(0, 1000);
-    add("mCutEveryStpr", stepper, "changeCutEveryValue:");
+    add("mCutEveryStpr", stepper, "stepCutEveryValue:");
     add("mCutEveryStr", mToolkit.createLabel({{120, 12}, {150, 18}}), "");
     addPopUp();
     add("mOptionDummyView", mToolkit.createButton({{280, 154}, {264, 84}}), "");

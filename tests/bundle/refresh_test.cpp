@@ -73,13 +73,13 @@ TEST_F(Refresh, AMarkThatTheListLacksTakesTheFirst) {
   EXPECT_EQ(nameOf(panel->mMirror_Selection), "A");
 }
 
-TEST_F(Refresh, NothingMarkedAndNoDefaultKeepsTheSelection) {
-  makePanel(PpdText().onOff("LxMirror", ""));
-  panel->updateMarkedSelections(kItemMirror);
-  EXPECT_EQ(panel->mMirror_Selection, nullptr);
+TEST_F(Refresh, NothingMarkedAndNoDefaultTakesTheFirstAsASaveDoes) {
+  makePanel(PpdText().onOff("LxMirror", "NONE").openUnmarked());
   select(OptionId::mirror, 1);
   panel->updateMarkedSelections(kItemMirror);
-  EXPECT_EQ(nameOf(panel->mMirror_Selection), "ON");
+  EXPECT_EQ(nameOf(panel->mMirror_Selection), "OFF");
+  panel->saveSetting_Mirror();
+  EXPECT_EQ(marked("LxMirror"), "OFF");
 }
 
 TEST_F(Refresh, AnEmptyListKeepsTheSelection) {

@@ -97,5 +97,69 @@ TEST_F(PanelFieldTest, UndoLeadsBackBeyondTheCorrection) {
   EXPECT_EQ(marked(), "99");
 }
 
+// The arrows beside the field, on PPDs that count otherwise.
+class PanelStepperTest : public PanelFieldTest {
+ protected:
+  static test::OpenPpd counting(const std::vector<std::string>& names,
+                                const std::string& defaultName) {
+    return test::PpdText()
+        .option("LxCutLabel", {names.begin(), names.end()}, defaultName)
+        .onOff("LxAutoTapeCut", "ON")
+        .open();
+  }
+  void SetUp() override {
+    PanelFieldTest::SetUp();
+    panel->mCutEveryStpr->setEnabled(true);
+    arrows = QtToolkit::widgetOf(*panel->mCutEveryStpr);
+    // The box that the number belongs to.
+    if (panel->mCutEveryChkBx->state() == CheckBox::kOff) panel->mCutEveryChkBx->performClick();
+  }
+  std::string after(Qt::Key key) {
+    QTest::keyClick(arrows, key);
+    EXPECT_EQ(shown(), marked());
+    return shown();
+  }
+
+  QWidget* arrows = nullptr;
+};
+
+class UpToTwentyTest : public PanelStepperTest {
+ protected:
+  UpToTwentyTest() { ppd = test::PpdText().cutLabel(0, 20, "1").onOff("LxAutoTapeCut").open(); }
+};
+
+TEST_F(UpToTwentyTest, ZeroIsReached) {
+  EXPECT_EQ(after(Qt::Key_Down), "0");
+  EXPECT_EQ(after(Qt::Key_Down), "0");
+  EXPECT_EQ(after(Qt::Key_PageUp), "10");
+  EXPECT_EQ(after(Qt::Key_PageUp), "20");
+  EXPECT_EQ(after(Qt::Key_Up), "20");
+}
+
+class UpToThousandTest : public PanelStepperTest {
+ protected:
+  UpToThousandTest() {
+    ppd = test::PpdText().cutLabel(1, 999, "500").onOff("LxAutoTapeCut").open();
+  }
+};
+
+TEST_F(UpToThousandTest, OneDownFromFiveHundredIsOneLess) {
+  EXPECT_EQ(after(Qt::Key_Down), "499");
+  user->selectAll();
+  user->type("999");
+  EXPECT_EQ(after(Qt::Key_Up), "999");
+  EXPECT_EQ(after(Qt::Key_Down), "998");
+}
+
+class GapsTest : public PanelStepperTest {
+ protected:
+  GapsTest() { ppd = counting({"1", "2", "5", "10", "Never"}, "2"); }
+};
+
+TEST_F(GapsTest, EveryChoiceIsReached) {
+  for (const char* name : {"5", "10", "Never", "Never"}) EXPECT_EQ(after(Qt::Key_Up), name);
+  for (const char* name : {"10", "5", "2", "1", "1"}) EXPECT_EQ(after(Qt::Key_Down), name);
+}
+
 }  // namespace
 }  // namespace cutline
