@@ -29,6 +29,10 @@ void PlainPopUpButton::setTitleOfItem(std::size_t index, const std::string& titl
   if (index < mItems.size()) mItems[index].title = title;
 }
 
+void PlainPopUpButton::setItem(std::size_t index, PopUpItem item) noexcept {
+  if (index < mItems.size()) mItems[index] = std::move(item);
+}
+
 bool PlainPopUpButton::selectItemWithTag(int tag) noexcept {
   const auto item = std::find_if(mItems.begin(), mItems.end(),
                                  [&](const PopUpItem& one) { return one.tag == tag; });

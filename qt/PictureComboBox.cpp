@@ -123,9 +123,19 @@ PictureComboBox::PictureComboBox() {
 void PictureComboBox::addEntry(const QString& title, const QString& words,
                                const std::shared_ptr<QtPicture>& picture) {
   addItem(title);
-  const int index = count() - 1;
+  setEntry(count() - 1, title, words, picture);
+}
+
+void PictureComboBox::setEntry(int index, const QString& title, const QString& words,
+                               const std::shared_ptr<QtPicture>& picture) {
+  setItemText(index, title);
   setItemData(index, words, Qt::AccessibleTextRole);
   setItemData(index, QVariant::fromValue(picture), kPictureRole);
+}
+
+QString PictureComboBox::shownText() const {
+  const QModelIndex current = model()->index(currentIndex(), modelColumn());
+  return current.isValid() ? visibleText(current) : placeholderText();
 }
 
 int PictureComboBox::rowWidth() const {
@@ -148,8 +158,7 @@ void PictureComboBox::showPopup() {
 
 bool PictureComboBox::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip || !toolTip().isEmpty()) return QComboBox::event(event);
-  const QModelIndex current = model()->index(currentIndex(), modelColumn());
-  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), visibleText(current), this);
+  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), shownText(), this);
   return true;
 }
 
@@ -162,7 +171,7 @@ void PictureComboBox::paintEvent(QPaintEvent*) {
   const auto picture = pictureOf(current);
   QRect room = contentOf(*this, option).adjusted(1, 0, -1, 0);
   if (picture) room = drawClosedPicture(painter, *picture, room, isEnabled());
-  const QString text = fontMetrics().elidedText(visibleText(current), Qt::ElideRight, room.width());
+  const QString text = fontMetrics().elidedText(shownText(), Qt::ElideRight, room.width());
   painter.drawItemText(room, Qt::AlignVCenter | Qt::AlignLeft, palette(), isEnabled(), text,
                        QPalette::ButtonText);
 }

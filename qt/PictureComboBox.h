@@ -42,6 +42,8 @@ class PictureComboBox : public QComboBox {
   // seen too while `title` is empty.
   void addEntry(const QString& title, const QString& words,
                 const std::shared_ptr<QtPicture>& picture);
+  void setEntry(int index, const QString& title, const QString& words,
+                const std::shared_ptr<QtPicture>& picture);
 
   void showPopup() override;
 
@@ -51,6 +53,8 @@ class PictureComboBox : public QComboBox {
   void wheelEvent(QWheelEvent* event) override;
 
  private:
+  // What the closed button says.
+  QString shownText() const;
   int rowWidth() const;
 
   bool mListPrepared = false;

@@ -23,6 +23,10 @@ std::string inWords(const PopUpItem& item) {
   return item.accessibilityLabel.empty() ? item.title : item.accessibilityLabel;
 }
 
+std::shared_ptr<QtPicture> pictureOf(const PopUpItem& item) {
+  return item.imagePath ? std::make_shared<QtPicture>(*item.imagePath) : nullptr;
+}
+
 }  // namespace
 
 QtPopUpButton::QtPopUpButton(const Rect& frame, std::shared_ptr<QtActions> actions)
@@ -34,9 +38,8 @@ QtPopUpButton::QtPopUpButton(const Rect& frame, std::shared_ptr<QtActions> actio
 void QtPopUpButton::addItem(PopUpItem item) noexcept {
   if (widget()) {
     const QSignalBlocker quiet(widget());
-    static_cast<PictureComboBox*>(widget())->addEntry(
-        toQString(item.title), toQString(inWords(item)),
-        item.imagePath ? std::make_shared<QtPicture>(*item.imagePath) : nullptr);
+    static_cast<PictureComboBox*>(widget())->addEntry(toQString(item.title),
+                                                      toQString(inWords(item)), pictureOf(item));
   }
   mItems.push_back(std::move(item));
   if (mItems.size() == 1) select(0);
@@ -61,6 +64,23 @@ void QtPopUpButton::setTitleOfItem(std::size_t index, const std::string& title) 
   if (index >= mItems.size()) return;
   mItems[index].title = title;
   if (widget()) widget()->setItemText(static_cast<int>(index), toQString(title));
+}
+
+void QtPopUpButton::setItem(std::size_t index, PopUpItem item) noexcept {
+  if (index >= mItems.size()) return;
+  if (widget()) {
+    const QSignalBlocker quiet(widget());
+    static_cast<PictureComboBox*>(widget())->setEntry(
+        static_cast<int>(index), toQString(item.title), toQString(inWords(item)), pictureOf(item));
+  }
+  mItems[index] = std::move(item);
+  nameCurrent();
+}
+
+void QtPopUpButton::setPlaceholder(const std::string& words) noexcept {
+  mPlaceholder = words;
+  if (widget()) widget()->setPlaceholderText(toQString(words));
+  nameCurrent();
 }
 
 bool QtPopUpButton::selectItemWithTag(int tag) noexcept {
@@ -102,7 +122,7 @@ std::optional<std::size_t> QtPopUpButton::indexOfTag(int tag) const noexcept {
 
 void QtPopUpButton::nameCurrent() noexcept {
   if (!widget()) return;
-  const std::string entry = mSelected ? inWords(mItems[*mSelected]) : std::string();
+  const std::string entry = mSelected ? inWords(mItems[*mSelected]) : mPlaceholder;
   const std::string label = accessibilityLabel();
   const std::string separator = label.empty() || entry.empty() ? "" : ": ";
   tellAccessibleName(*widget(), toQString(label + separator + entry));

@@ -21,6 +21,10 @@ class QtPopUpButton : public QtControlOf<PopUpButton, QComboBox> {
   void removeItemWithTitle(const std::string& title) noexcept override;
   std::vector<PopUpItem> items() const noexcept override { return mItems; }
   void setTitleOfItem(std::size_t index, const std::string& title) noexcept override;
+  void setItem(std::size_t index, PopUpItem item) noexcept override;
+  void deselect() noexcept override { select(std::nullopt); }
+  std::string placeholder() const noexcept override { return mPlaceholder; }
+  void setPlaceholder(const std::string& words) noexcept override;
   bool selectItemWithTag(int tag) noexcept override;
   int selectedTag() const noexcept override;
   bool performSelection(int tag) noexcept override;
@@ -35,6 +39,7 @@ class QtPopUpButton : public QtControlOf<PopUpButton, QComboBox> {
 
   std::vector<PopUpItem> mItems;
   std::optional<std::size_t> mSelected;
+  std::string mPlaceholder;
 };
 
 }  // namespace cutline

@@ -28,9 +28,16 @@ class PopUpButton : public virtual Control {
   virtual void removeItemWithTitle(const std::string& title) noexcept = 0;
   virtual std::vector<PopUpItem> items() const noexcept = 0;
   virtual void setTitleOfItem(std::size_t index, const std::string& title) noexcept = 0;
+  // Replaces the entry, which stays selected if it was; nothing beyond the last entry.
+  virtual void setItem(std::size_t index, PopUpItem item) noexcept = 0;
 
   // selectItemWithTag:  False, and no change, when no entry has the tag. Runs no action.
   virtual bool selectItemWithTag(int tag) noexcept = 0;
+  // Selects no entry; the closed list then shows and says the placeholder, which is empty at first.
+  // Runs no action.
+  virtual void deselect() noexcept = 0;
+  virtual std::string placeholder() const noexcept = 0;
+  virtual void setPlaceholder(const std::string& words) noexcept = 0;
   // The selected entry's tag; 0 when no entry is selected.
   virtual int selectedTag() const noexcept = 0;
   // What a user's choice in the list does: selects the entry and runs the action. False, and

@@ -36,7 +36,7 @@ class PrintDialogPlugIn {
 };
 
 // Changes whenever any header of platform/ changes what a bundle was compiled against.
-inline constexpr std::uint32_t kPlugInAbiVersion = 2;
+inline constexpr std::uint32_t kPlugInAbiVersion = 3;
 
 // A bundle exports one C function `const PrincipalClassEntry*()` for each principal class, named
 // kPrincipalClassSymbolPrefix followed by the class's name. The host refuses another `abi`.

@@ -57,6 +57,31 @@ TEST_F(PlainPopUpButtonTest, AnUnknownTagChangesNothing) {
   EXPECT_TRUE(log.lines.empty());
 }
 
+TEST_F(PlainPopUpButtonTest, SelectsNothingWithoutAnAction) {
+  addThree();
+  EXPECT_EQ(popUp->placeholder(), "");
+  popUp->setPlaceholder("Something else");
+  popUp->deselect();
+  EXPECT_EQ(popUp->selectedTag(), 0);
+  EXPECT_EQ(popUp->placeholder(), "Something else");
+  EXPECT_TRUE(log.lines.empty());
+  popUp->removeItemWithTitle("Off");
+  EXPECT_EQ(popUp->selectedTag(), 0);
+  EXPECT_TRUE(popUp->selectItemWithTag(8));
+}
+
+TEST_F(PlainPopUpButtonTest, AnEntryIsReplacedInItsPlace) {
+  addThree();
+  popUp->selectItemWithTag(8);
+  popUp->setItem(1, {"", 8, "/roll.svg", "Cut, too"});
+  EXPECT_EQ(tags(), (std::vector<int>{4, 8, 12}));
+  EXPECT_EQ(popUp->items()[1].imagePath, "/roll.svg");
+  EXPECT_EQ(popUp->items()[1].accessibilityLabel, "Cut, too");
+  EXPECT_EQ(popUp->selectedTag(), 8);
+  popUp->setItem(3, {"D", 1, {}, ""});
+  EXPECT_EQ(popUp->items().size(), 3U);
+}
+
 TEST_F(PlainPopUpButtonTest, AUsersChoiceRunsTheAction) {
   addThree();
   EXPECT_TRUE(popUp->performSelection(8));

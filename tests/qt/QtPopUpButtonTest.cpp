@@ -245,5 +245,33 @@ TEST_F(QtPopUpButtonTest, SelectionOutlivesTheWindow) {
   EXPECT_EQ(popUp->selectedTag(), 8);
 }
 
+TEST_F(QtPopUpButtonTest, WithNothingSelectedItShowsAndSaysThePlaceholder) {
+  clearTitles();
+  popUp->setPlaceholder("Something else");
+  popUp->deselect();
+  EXPECT_EQ(popUp->selectedTag(), 0);
+  EXPECT_EQ(widget->currentIndex(), -1);
+  EXPECT_EQ(spokenName(), "Preset: Something else");
+  show();
+  const QImage words = widget->grab().toImage();
+  EXPECT_EQ(countOf(words, qRgb(0, 255, 0)), 0) << "no entry's picture";
+  popUp->setPlaceholder("");
+  EXPECT_NE(widget->grab().toImage(), words);
+  EXPECT_TRUE(popUp->selectItemWithTag(6));
+  EXPECT_EQ(spokenName(), "Preset: Half cut");
+}
+
+TEST_F(QtPopUpButtonTest, AnEntryIsReplacedInItsPlace) {
+  popUp->selectItemWithTag(6);
+  popUp->setItem(1, {"", 6, pictures.addPlain("red.svg", "#ff0000"), "Cut, too"});
+  EXPECT_EQ(popUp->selectedTag(), 6);
+  EXPECT_EQ(spokenName(), "Preset: Cut, too");
+  show();
+  EXPECT_GT(countOf(widget->grab().toImage(), qRgb(255, 0, 0)), 0);
+  popUp->setItem(3, {"D", 1, {}, ""});
+  EXPECT_EQ(popUp->items().size(), 3U);
+  EXPECT_EQ(widget->count(), 3);
+}
+
 }  // namespace
 }  // namespace cutline
