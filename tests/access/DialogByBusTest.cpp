@@ -1,8 +1,8 @@
 // What is around the panel.
 #include "tests/access/EventLog.h"
 #include "tests/access/ScreenReaderTest.h"
-#include "tests/platform/TemporaryBundle.h"
-#include "tests/support/waiting.h"
+#include "tests/support/TemporaryBundle.h"
+#include "tests/support/qt/waiting.h"
 
 namespace cutline::test {
 namespace {

@@ -3,7 +3,7 @@
 
 #include "tests/access/EventLog.h"
 #include "tests/access/ScreenReaderTest.h"
-#include "tests/support/waiting.h"
+#include "tests/support/qt/waiting.h"
 
 namespace cutline::test {
 namespace {

@@ -1,7 +1,7 @@
 // A job is set up and printed with nothing but the accessibility bus.
 #include "host/core/CommandLine.h"
 #include "tests/access/ScreenReaderTest.h"
-#include "tests/support/waiting.h"
+#include "tests/support/qt/waiting.h"
 
 namespace cutline::test {
 namespace {

@@ -1,6 +1,6 @@
 #include "tests/access/ScreenReaderTest.h"
 
-#include "tests/support/waiting.h"
+#include "tests/support/qt/waiting.h"
 
 namespace cutline::test {
 

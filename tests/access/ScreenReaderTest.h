@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "tests/access/Accessible.h"
-#include "tests/support/Display.h"
 #include "tests/support/EndToEndTest.h"
+#include "tests/support/qt/Display.h"
 
 namespace cutline::test {
 

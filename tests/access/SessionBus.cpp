@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "tests/support/child_process.h"
+#include "tests/support/qt/child_process.h"
 
 namespace cutline::test {
 

@@ -2,10 +2,10 @@
 
 #include "bundle/plugin/BasePDE13_v400_.h"
 #include "bundle/ppd/PDEUtilsMethod13.h"
-#include "tests/bundle/PpdText.h"
 #include "tests/bundle/TestBundle.h"
-#include "tests/bundle/TestCallback.h"
 #include "tests/bundle/TestPlatform.h"
+#include "tests/support/PpdText.h"
+#include "tests/support/TestCallback.h"
 
 namespace cutline::test {
 namespace {

@@ -5,7 +5,7 @@
 #include <cstring>
 #include <string>
 
-#include "tests/bundle/PpdText.h"
+#include "tests/support/PpdText.h"
 
 namespace cutline::test {
 

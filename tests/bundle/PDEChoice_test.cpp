@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/bundle/PpdText.h"
 #include "tests/bundle/TestPlatform.h"
+#include "tests/support/PpdText.h"
 
 namespace cutline::test {
 namespace {

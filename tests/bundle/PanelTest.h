@@ -10,10 +10,10 @@
 #include "bundle/options/OptionPDE13_v400_.h"
 #include "bundle/options/option_model.h"
 #include "plain/PlainTextField.h"
-#include "tests/bundle/PpdText.h"
 #include "tests/bundle/TestBundle.h"
-#include "tests/bundle/TestCallback.h"
 #include "tests/bundle/TestPlatform.h"
+#include "tests/support/PpdText.h"
+#include "tests/support/TestCallback.h"
 
 namespace cutline::test {
 

@@ -7,7 +7,7 @@
 
 #include "platform/lib/DirectoryBundle.h"
 #include "tests/bundle/TestBundle.h"
-#include "tests/platform/TemporaryBundle.h"
+#include "tests/support/TemporaryBundle.h"
 
 namespace cutline::test {
 namespace {

@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
 #include "bundle/plugin/LXKMWNOptions14PlugIn13_v400_.h"
-#include "tests/bundle/PpdText.h"
 #include "tests/bundle/TestBundle.h"
-#include "tests/bundle/TestCallback.h"
 #include "tests/bundle/TestPlatform.h"
+#include "tests/support/PpdText.h"
+#include "tests/support/TestCallback.h"
 
 namespace cutline::test {
 namespace {

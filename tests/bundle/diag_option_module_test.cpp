@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "tests/bundle/DiagModule.h"
-#include "tests/bundle/PpdText.h"
+#include "tests/support/PpdText.h"
 
 namespace cutline::test {
 namespace {

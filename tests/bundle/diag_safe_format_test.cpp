@@ -18,8 +18,8 @@
 #include "bundle/diag/SafeFormat.h"
 #include "bundle/diag/printed_value.h"
 #include "bundle/ppd/PDEChoice.h"
-#include "tests/bundle/PpdText.h"
 #include "tests/bundle/TestPlatform.h"
+#include "tests/support/PpdText.h"
 
 namespace cutline::test {
 namespace {

@@ -6,15 +6,14 @@
 #include <unistd.h>
 
 #include <csignal>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "bundle/diag/settings_file.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace cutline::test {
 namespace {
@@ -24,27 +23,14 @@ using namespace std::string_view_literals;
 class SettingsFile : public testing::Test {
  protected:
   SettingsFile() {
-    EXPECT_TRUE(mkdtemp(path.data()));
-    directory = open(path.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC);
+    directory = open(folder.path().c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC);
     EXPECT_GE(directory, 0);
   }
-  ~SettingsFile() override {
-    close(directory);
-    std::filesystem::remove_all(path);
-  }
-  std::string contents(const std::string& file) const {
-    std::ifstream stream(path + "/" + file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-  }
-  std::size_t count() const {
-    const std::filesystem::directory_iterator all(path);
-    return static_cast<std::size_t>(std::distance(begin(all), end(all)));
-  }
-  void make(const std::string& file, const std::string& text) const {
-    std::ofstream(path + "/" + file) << text;
-  }
+  ~SettingsFile() override { close(directory); }
+  std::string contents(const std::string& file) const { return contentsOf(folder / file); }
+  std::size_t count() const { return folder.names().size(); }
 
-  std::string path = testing::TempDir() + "/cutline-dump-XXXXXX";
+  TemporaryFolder folder;
   int directory = -1;
 };
 
@@ -56,8 +42,8 @@ TEST_F(SettingsFile, IsNamedAfterTheDumpAndBelongsToTheUserAlone) {
                                 "<plist/>"));
   umask(mask);
   struct stat status {};
-  ASSERT_EQ(stat((path + "/LxPDE_j\xC3\xB6"
-                         "b %n.plist")
+  ASSERT_EQ(stat((folder / "LxPDE_j\xC3\xB6"
+                           "b %n.plist")
                      .c_str(),
                  &status),
             0);
@@ -85,30 +71,30 @@ TEST_F(SettingsFile, NamesOfDotsAreNames) {
 }
 
 TEST_F(SettingsFile, ReplacesAnOlderFileWithoutTouchingIt) {
-  make("LxPDE_job.plist", "old");
-  std::ifstream older(path + "/LxPDE_job.plist");
+  folder.write("LxPDE_job.plist", "old");
+  std::ifstream older(folder / "LxPDE_job.plist");
   EXPECT_TRUE(writeSettingsFile(directory, "job", "new"));
   EXPECT_EQ(contents("LxPDE_job.plist"), "new");
   EXPECT_EQ(std::string(std::istreambuf_iterator<char>(older), {}), "old");
 }
 
 TEST_F(SettingsFile, ReplacesALinkAndLeavesWhatItNames) {
-  make("precious", "kept");
-  std::filesystem::create_symlink("precious", path + "/LxPDE_job.plist");
+  folder.write("precious", "kept");
+  std::filesystem::create_symlink("precious", folder / "LxPDE_job.plist");
   EXPECT_TRUE(writeSettingsFile(directory, "job", "new"));
   EXPECT_EQ(contents("precious"), "kept");
-  EXPECT_FALSE(std::filesystem::is_symlink(path + "/LxPDE_job.plist"));
+  EXPECT_FALSE(std::filesystem::is_symlink(folder / "LxPDE_job.plist"));
   EXPECT_EQ(contents("LxPDE_job.plist"), "new");
 }
 
 TEST_F(SettingsFile, MakesNothingAtTheEndOfALinkThatLeadsNowhere) {
-  std::filesystem::create_symlink("nowhere", path + "/LxPDE_job.plist");
+  std::filesystem::create_symlink("nowhere", folder / "LxPDE_job.plist");
   EXPECT_TRUE(writeSettingsFile(directory, "job", "new"));
-  EXPECT_FALSE(std::filesystem::exists(path + "/nowhere"));
+  EXPECT_FALSE(std::filesystem::exists(folder / "nowhere"));
 }
 
 TEST_F(SettingsFile, WhatCannotBeWrittenLeavesNothingBehind) {
-  std::filesystem::create_directory(path + "/LxPDE_job.plist");
+  std::filesystem::create_directory(folder / "LxPDE_job.plist");
   EXPECT_FALSE(writeSettingsFile(directory, "job", "x"));
   EXPECT_FALSE(writeSettingsFile(directory, std::string(300, 'n'), "x"));
   EXPECT_EQ(count(), 1U);
@@ -117,7 +103,7 @@ TEST_F(SettingsFile, WhatCannotBeWrittenLeavesNothingBehind) {
 
 // A limit on the size of files stands in for a full disk.
 TEST_F(SettingsFile, AFullDiskLeavesTheOlderFile) {
-  make("LxPDE_job.plist", "old");
+  folder.write("LxPDE_job.plist", "old");
   rlimit before{};
   ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
   const auto handler = std::signal(SIGXFSZ, SIG_IGN);

@@ -8,15 +8,14 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <functional>
-#include <iterator>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "tests/bundle/DiagModule.h"
-#include "tests/bundle/ScriptedPrinting.h"
+#include "tests/support/ScriptedPrinting.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace cutline::test {
 namespace {
@@ -33,16 +32,14 @@ struct XmlSettings : ScriptedSettings {
 
 class SettingsDump : public testing::Test {
  protected:
-  SettingsDump() { EXPECT_TRUE(mkdtemp(root.data())); }
-  ~SettingsDump() override { std::filesystem::remove_all(root); }
-
   // Calls the function where the directory is the root. A user who may not change the root may do
   // so in a user namespace.
   void dump(PMPrintSettings settings, const char* name) {
     const pid_t child = fork();
     ASSERT_GE(child, 0);
     if (child == 0) {
-      if (chroot(root.c_str()) != 0 && (unshare(CLONE_NEWUSER) != 0 || chroot(root.c_str()) != 0))
+      if (chroot(root.path().c_str()) != 0 &&
+          (unshare(CLONE_NEWUSER) != 0 || chroot(root.path().c_str()) != 0))
         _exit(2);
       if (chdir("/") != 0) _exit(3);
       function(settings, name);
@@ -54,18 +51,10 @@ class SettingsDump : public testing::Test {
     ASSERT_NE(WEXITSTATUS(status), 2) << "needs the right to change the root or user namespaces";
     ASSERT_EQ(WEXITSTATUS(status), 0);
   }
-  std::vector<std::string> files() const {
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(root))
-      names.push_back(entry.path().filename());
-    return names;
-  }
-  std::string contents(const std::string& file) const {
-    std::ifstream stream(root + "/" + file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-  }
+  std::vector<std::string> files() const { return root.names(); }
+  std::string contents(const std::string& file) const { return contentsOf(root / file); }
 
-  std::string root = testing::TempDir() + "/cutline-root-XXXXXX";
+  TemporaryFolder root;
   XmlSettings settings;
   decltype(_PDELog_PMPrintSettings_WriteToFile)* function =
       diagnostic<decltype(_PDELog_PMPrintSettings_WriteToFile)>(
@@ -100,14 +89,14 @@ TEST_F(SettingsDump, DoesNothingWithoutData) {
 }
 
 TEST_F(SettingsDump, ANameDoesNotLeaveTheRootDirectory) {
-  std::filesystem::create_directory(root + "/LxPDE_a");
+  std::filesystem::create_directory(root / "LxPDE_a");
   dump(&settings, "a/b");
   EXPECT_EQ(files(), std::vector<std::string>{"LxPDE_a"});
-  EXPECT_TRUE(std::filesystem::is_empty(root + "/LxPDE_a"));
+  EXPECT_TRUE(std::filesystem::is_empty(root / "LxPDE_a"));
 }
 
 TEST_F(SettingsDump, AFailureIsIgnored) {
-  std::filesystem::create_directory(root + "/LxPDE_job.plist");
+  std::filesystem::create_directory(root / "LxPDE_job.plist");
   dump(&settings, "job");
   EXPECT_EQ(files(), std::vector<std::string>{"LxPDE_job.plist"});
 }

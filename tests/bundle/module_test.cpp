@@ -15,9 +15,9 @@
 #include "platform/lib/DirectoryBundle.h"
 #include "platform/ports/Controls.h"
 #include "platform/ports/PrintDialogPlugIn.h"
-#include "tests/bundle/PpdText.h"
-#include "tests/bundle/TestCallback.h"
 #include "tests/bundle/TestPlatform.h"
+#include "tests/support/PpdText.h"
+#include "tests/support/TestCallback.h"
 
 namespace cutline::test {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/bundle/PpdText.h"
-#include "tests/bundle/ScriptedPrinting.h"
 #include "tests/bundle/TestPlatform.h"
+#include "tests/support/PpdText.h"
+#include "tests/support/ScriptedPrinting.h"
 
 namespace cutline::test {
 namespace {

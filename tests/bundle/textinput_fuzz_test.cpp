@@ -1,60 +1,16 @@
-// Edits at random, against a model that walks the typed text step by step and converts nothing but
-// by its own table of characters.
+// Edits at random, against the model of the vetting rules.
 #include <algorithm>
 #include <climits>
-#include <cstdint>
-#include <cstdlib>
 #include <random>
 #include <sstream>
 
 #include "tests/bundle/FormatterTest.h"
-#include "tests/bundle/StyleCharacters.h"
+#include "tests/support/VettingModel.h"
 
 namespace cutline::test {
 namespace {
 
-// Characters that edits are made of, with their bytes in each system encoding; 0 where they are not
-// in it. Every other character here is ASCII, and has one byte in each.
-struct Character {
-  std::u16string units;
-  std::string utf8;
-  bool isInMacRoman;
-  std::size_t bytesInLatin1;
-  std::size_t bytesInShiftJis;
-};
-const std::vector<Character> kCharacters = {
-    {u"é", "é", true, 1, 0},
-    {u"ß", "ß", true, 1, 0},
-    {u"€", "€", true, 0, 0},
-    {u"Ω", "Ω", true, 0, 2},
-    {u"あ", "あ", false, 0, 2},
-    {u"ｱ", "ｱ", false, 0, 1},
-    {u"１", "１", false, 0, 2},
-    {u"\u00AD", "\u00AD", false, 1, 0},
-    {u"\u200B", "\u200B", false, 0, 0},
-    {u"😀", "😀", false, 0, 0},
-};
-
-// A text taken apart into characters; nothing when it isn't made of those.
-std::optional<std::vector<Character>> charactersOf(std::u16string_view text) {
-  std::vector<Character> characters;
-  while (!text.empty()) {
-    Character next{{text[0]}, {static_cast<char>(text[0])}, true, 1, 1};
-    const auto found = std::ranges::find_if(
-        kCharacters, [&](const Character& one) { return text.starts_with(one.units); });
-    if (found != kCharacters.end()) next = *found;
-    if (found == kCharacters.end() && text[0] >= 128) return std::nullopt;
-    text.remove_prefix(next.units.size());
-    characters.push_back(next);
-  }
-  return characters;
-}
-
-struct Settings {
-  int style = 0;
-  int maxLength = 0;
-  std::optional<int> maxValue, minValue;
-  std::vector<std::string> forbidden;
+struct Settings : VettingSettings {
   std::shared_ptr<const int> object;  // of notifications
 };
 
@@ -68,113 +24,14 @@ struct Outcome {
   NotificationObject object;
 };
 
-class Model {
- public:
-  Model(std::string codeset, Settings settings, const void* formatter)
-      : mCodeset(std::move(codeset)), mSettings(std::move(settings)), mFormatter(formatter) {}
-
-  Outcome outcome(const Edit& edit) const {
-    const std::size_t from = edit.selection.location;
-    const std::size_t to = edit.proposedSelection.location;
-    if (edit.proposed.empty() || to <= from || to > edit.proposed.size()) return {};
-    const std::u16string typed = edit.proposed.substr(from, to - from);
-
-    std::string name;
-    std::optional<std::string> character;
-    for (const char16_t c : typed) {
-      if (mSettings.style != 0 && !isInMacRoman(typed)) {
-        character = oneCharacter(c);
-        name = "InvalidCharacterNotification";
-        continue;
-      }
-      if (isForbidden(typed)) {
-        character = oneCharacter(c);
-        name = "InvalidCharacterNotification";
-        continue;
-      }
-      const std::int64_t length = lengthOf(edit.proposed);
-      if (mSettings.maxLength != 0 && length > mSettings.maxLength) {
-        name = "InvalidCharacterNotification";
-        continue;
-      }
-      if (mSettings.style == 0) continue;
-      if (!isAscii(typed) || !isInStyle(c, edit.original)) {
-        name = "InvalidCharacterNotification";
-        continue;
-      }
-      if (mSettings.style != 2 && mSettings.style != 4) continue;
-      if (mSettings.maxLength != 0 && length != mSettings.maxLength) continue;
-      const int value = valueOf(edit.proposed);
-      if (mSettings.maxValue && *mSettings.maxValue < value) {
-        name = "FormatErrorNotification";
-      } else if (mSettings.minValue && *mSettings.minValue > value) {
-        name = "FormatErrorNotification";
-      }
-    }
-    if (name.empty()) return {};
-    if (character) return {name, *character};
-    if (mSettings.object) return {name, static_cast<const void*>(mSettings.object.get())};
-    return {name, mFormatter};
-  }
-
- private:
-  static std::string oneCharacter(char16_t c) {
-    const auto characters = charactersOf({&c, 1});
-    return characters ? characters->front().utf8 : "\uFFFD";
-  }
-
-  static bool isInMacRoman(const std::u16string& text) {
-    const auto characters = charactersOf(text);
-    return characters && std::ranges::all_of(*characters, &Character::isInMacRoman);
-  }
-
-  static bool isAscii(const std::u16string& text) {
-    return std::ranges::all_of(text, [](char16_t c) { return c < 128; });
-  }
-
-  bool isForbidden(const std::u16string& text) const {
-    const auto characters = charactersOf(text);
-    if (!characters) return false;
-    std::string whole;
-    for (const Character& character : *characters) whole += character.utf8;
-    return std::ranges::count(mSettings.forbidden, whole) > 0;
-  }
-
-  std::int64_t lengthOf(const std::u16string& text) const {
-    const auto characters = charactersOf(text);
-    const auto inCharacters = static_cast<std::int64_t>(text.size());
-    if (!characters) return inCharacters;
-    std::size_t length = 0;
-    for (const Character& character : *characters) {
-      std::size_t bytes = character.utf8.size();
-      if (mCodeset == "ISO-8859-1") bytes = character.bytesInLatin1;
-      if (mCodeset == "Shift_JIS") bytes = character.bytesInShiftJis;
-      if (bytes == 0) return inCharacters;
-      length += bytes;
-    }
-    return static_cast<std::int64_t>(length);
-  }
-
-  bool isInStyle(char16_t c, const std::u16string& original) const {
-    if (mSettings.style == 4 && !original.empty() && c == u'.' &&
-        original.find(u'.') != original.npos) {
-      return false;
-    }
-    const auto taken = charactersOfStyle(mSettings.style);
-    return !taken || taken->find(static_cast<char>(c)) != taken->npos;
-  }
-
-  static int valueOf(const std::u16string& text) {
-    std::string ascii;
-    for (const char16_t c : text) ascii += c < 128 ? static_cast<char>(c) : '?';
-    const long long value = std::strtoll(ascii.c_str(), nullptr, 10);
-    return static_cast<int>(std::clamp<long long>(value, INT_MIN, INT_MAX));
-  }
-
-  std::string mCodeset;
-  Settings mSettings;
-  const void* mFormatter;
-};
+Outcome outcomeOf(const Edit& edit, const Settings& settings, const void* formatter) {
+  const auto refusal = refusalOf(settings, edit.original, edit.selection.location, edit.proposed,
+                                 edit.proposedSelection.location);
+  if (!refusal) return {};
+  if (refusal->character) return {refusal->name, *refusal->character};
+  if (settings.object) return {refusal->name, static_cast<const void*>(settings.object.get())};
+  return {refusal->name, formatter};
+}
 
 class Dice {
  public:
@@ -226,7 +83,7 @@ class Dice {
  private:
   std::u16string piece() {
     if (!oneIn(3)) return {static_cast<char16_t>(u'0' + below(10))};
-    if (oneIn(3)) return oneOf(kCharacters).units;
+    if (oneIn(3)) return oneOf(charactersBeyondAscii());
     if (oneIn(10)) return {static_cast<char16_t>(0xD800 + below(0x800))};
     if (oneIn(3)) return {oneOf(std::u16string_view(u"..-+ \t"))};
     return {static_cast<char16_t>(1 + below(127))};
@@ -282,9 +139,13 @@ TEST_P(FormatterFuzz, EditsAtRandomComeOutAsTheModelSays) {
   Settings settings;
   std::size_t refused = 0;
   for (int i = 0; i < kEdits; ++i) {
-    if (i % kEditsOfOneFormatter == 0) use(settings = dice.settings());
+    if (i % kEditsOfOneFormatter == 0) {
+      settings = dice.settings();
+      settings.codeset = GetParam();
+      use(settings);
+    }
     const Edit made = dice.edit();
-    const Outcome expected = Model(GetParam(), settings, formatter.get()).outcome(made);
+    const Outcome expected = outcomeOf(made, settings, formatter.get());
     SCOPED_TRACE("edit " + std::to_string(i) + " of seed " + std::to_string(kSeed) + ": " +
                  described(settings, made));
     posted.clear();

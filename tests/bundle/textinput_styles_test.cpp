@@ -3,7 +3,7 @@
 
 #include "bundle/textinput/CharacterSet.h"
 #include "tests/bundle/FormatterTest.h"
-#include "tests/bundle/StyleCharacters.h"
+#include "tests/support/VettingModel.h"
 
 namespace cutline::test {
 namespace {

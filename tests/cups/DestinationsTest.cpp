@@ -3,6 +3,7 @@
 
 #include "cups/Destinations.h"
 #include "tests/cups/ServerTest.h"
+#include "tests/support/Command.h"
 
 namespace cutline {
 namespace {

@@ -5,7 +5,8 @@
 #include <stdexcept>
 
 #include "cups/PpdFile.h"
-#include "tests/cups/TemporaryFolder.h"
+#include "tests/cups/Fixtures.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace cutline {
 namespace {

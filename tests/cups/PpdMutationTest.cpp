@@ -8,7 +8,8 @@
 #endif
 
 #include "cups/PpdFile.h"
-#include "tests/cups/TemporaryFolder.h"
+#include "tests/cups/Fixtures.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace cutline {
 namespace {

@@ -5,8 +5,9 @@
 
 #include "cups/PpdFile.h"
 #include "cups/PpdTexts.h"
-#include "tests/cups/TemporaryFolder.h"
-#include "tests/platform/TemporaryBundle.h"
+#include "tests/cups/Fixtures.h"
+#include "tests/support/TemporaryBundle.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace cutline {
 namespace {
@@ -37,8 +38,8 @@ class PpdTextsTest : public testing::Test {
   }
   // What the printer calls half cut to a reader of the languages.
   std::string halfCut(const std::string& ppd, const std::string& languages) const {
-    const ScopedEnvironment environment(
-        languageEnvironment({{"LANG", "en_US.UTF-8"}, {"LANGUAGE", languages}}));
+    const test::ScopedEnvironment environment(
+        test::languageEnvironment({{"LANG", "en_US.UTF-8"}, {"LANGUAGE", languages}}));
     return opened(ppd)->optionGroups().at(1).options.at(0).text;
   }
 
@@ -69,14 +70,15 @@ TEST_F(PpdTextsTest, AreThePpdsOwnWhereItsOwnLanguageComesFirst) {
 
 TEST_F(PpdTextsTest, FollowTheLocaleWhereNoLanguageIsSet) {
   const std::string ppd = speaking("en de", translation("de", "Halber Schnitt"));
-  const ScopedEnvironment environment(
-      languageEnvironment({{"LC_ALL", "de_DE.UTF-8"}, {"LC_MESSAGES", "en_US"}}));
+  const test::ScopedEnvironment environment(
+      test::languageEnvironment({{"LC_ALL", "de_DE.UTF-8"}, {"LC_MESSAGES", "en_US"}}));
   EXPECT_EQ(opened(ppd)->optionGroups().at(1).options.at(0).text, "Halber Schnitt");
 }
 
 TEST_F(PpdTextsTest, AreThePpdsOwnInTheUntranslatedLocale) {
   const std::string ppd = speaking("en de", translation("de", "Halber Schnitt"));
-  const ScopedEnvironment environment(languageEnvironment({{"LC_ALL", "C"}, {"LANGUAGE", "de"}}));
+  const test::ScopedEnvironment environment(
+      test::languageEnvironment({{"LC_ALL", "C"}, {"LANGUAGE", "de"}}));
   EXPECT_EQ(opened(ppd)->optionGroups().at(1).options.at(0).text, halfCut(ppd, "en"));
 }
 
@@ -86,7 +88,7 @@ TEST_F(PpdTextsTest, ATerritoryComesBeforeTheLanguageAlone) {
                                   translation("pt_BR", "Corte parcial"));
   EXPECT_EQ(halfCut(ppd, "pt_BR"), "Corte parcial");
   EXPECT_EQ(halfCut(ppd, "pt_PT"), "Meio corte");
-  const ScopedEnvironment environment(languageEnvironment({{"LANG", "pt_BR.UTF-8"}}));
+  const test::ScopedEnvironment environment(test::languageEnvironment({{"LANG", "pt_BR.UTF-8"}}));
   const auto choices = opened(ppd)->optionGroups().at(1).options.at(0).choices;
   EXPECT_EQ(choices.at(1).text, "Ligado");
 }
@@ -104,7 +106,7 @@ TEST_F(PpdTextsTest, ReachGroupsChoicesAndSizes) {
       speaking("en de",
                "*de.Translation Cutting/Schneiden: \"\"\n*de.LxHalfCut OFF/Aus: \"\"\n"
                "*de.LxHalfCut ON/Ein: \"\"\n*de.PageSize W24H100/Band 24 mm: \"\"\n");
-  const ScopedEnvironment environment(languageEnvironment({{"LANG", "de_DE.UTF-8"}}));
+  const test::ScopedEnvironment environment(test::languageEnvironment({{"LANG", "de_DE.UTF-8"}}));
   const auto file = opened(ppd);
   const OptionGroup group = file->optionGroups().at(1);
   EXPECT_EQ(group.name, "Cutting");

@@ -7,6 +7,7 @@
 
 #include "cups/PrintJob.h"
 #include "tests/cups/ServerTest.h"
+#include "tests/support/Command.h"
 
 namespace cutline {
 namespace {

@@ -4,7 +4,8 @@
 
 #include "cups/PrintTicket.h"
 #include "platform/lib/PropertyList.h"
-#include "tests/cups/TemporaryFolder.h"
+#include "tests/cups/Fixtures.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace cutline {
 namespace {

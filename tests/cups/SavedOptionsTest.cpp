@@ -3,7 +3,7 @@
 #include <cstdlib>
 
 #include "cups/SavedOptions.h"
-#include "tests/cups/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace cutline {
 namespace {

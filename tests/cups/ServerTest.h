@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "cups/Destinations.h"
-#include "tests/cups/PrivateServer.h"
+#include "tests/support/PrivateServer.h"
 
 namespace cutline::test {
 

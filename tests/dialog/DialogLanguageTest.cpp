@@ -12,7 +12,7 @@
 #include "host/dialog/PresetBar.h"
 #include "platform/lib/Languages.h"
 #include "tests/dialog/languages.h"
-#include "tests/platform/TemporaryBundle.h"
+#include "tests/support/TemporaryBundle.h"
 
 namespace cutline {
 
@@ -20,7 +20,7 @@ namespace {
 
 struct Row {
   const char* name;
-  ScopedEnvironment::Variables variables;
+  test::ScopedEnvironment::Variables variables;
   const char* code;
   const char* locale;
 };
@@ -28,7 +28,7 @@ struct Row {
 class DialogLanguageChoice : public testing::TestWithParam<Row> {};
 
 TEST_P(DialogLanguageChoice, IsTheFirstOfTheUsersThatThereIs) {
-  const ScopedEnvironment environment(languageEnvironment(GetParam().variables));
+  const test::ScopedEnvironment environment(test::languageEnvironment(GetParam().variables));
   const DialogLanguage language = chooseLanguage(preferredLocalizations(), tableDirectory());
   EXPECT_EQ(language.code, QLatin1String(GetParam().code));
   EXPECT_EQ(language.locale.name(), QLatin1String(GetParam().locale));
@@ -98,7 +98,8 @@ TEST(DialogLanguage, ADamagedTableLeavesTheTextsEnglish) {
 }
 
 TEST(DialogLanguage, HasFontsChosenForItWhereCharactersDifferByLanguage) {
-  const ScopedEnvironment environment(ScopedEnvironment::Variables{{"FC_LANG", std::nullopt}});
+  const test::ScopedEnvironment environment(
+      test::ScopedEnvironment::Variables{{"FC_LANG", std::nullopt}});
   preferFontsFor({QStringLiteral("de"), QLocale(QStringLiteral("de_DE"))});
   EXPECT_FALSE(qEnvironmentVariableIsSet("FC_LANG"));
   preferFontsFor({QStringLiteral("zh_TW"), QLocale(QStringLiteral("zh_HK"))});
@@ -106,7 +107,7 @@ TEST(DialogLanguage, HasFontsChosenForItWhereCharactersDifferByLanguage) {
 }
 
 TEST(DialogLanguage, LeavesTheUsersOwnChoiceOfFontsAlone) {
-  const ScopedEnvironment environment(ScopedEnvironment::Variables{{"FC_LANG", "ko"}});
+  const test::ScopedEnvironment environment(test::ScopedEnvironment::Variables{{"FC_LANG", "ko"}});
   preferFontsFor({QStringLiteral("ja"), QLocale(QStringLiteral("ja_JP"))});
   EXPECT_EQ(qgetenv("FC_LANG"), "ko");
 }

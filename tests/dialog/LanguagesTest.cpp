@@ -19,7 +19,7 @@
 #include "tests/dialog/FontSize.h"
 #include "tests/dialog/languages.h"
 #include "tests/dialog/window_checks.h"
-#include "tests/platform/TemporaryBundle.h"
+#include "tests/support/TemporaryBundle.h"
 
 namespace cutline {
 
@@ -31,11 +31,11 @@ constexpr QSize kSmallScreen{1280, 760};  // 1280 x 800 without a title bar
 class UsersLanguage {
  public:
   explicit UsersLanguage(const char* language)
-      : mEnvironment(languageEnvironment({{"LANG", "en_US.UTF-8"}, {"LANGUAGE", language}})),
+      : mEnvironment(test::languageEnvironment({{"LANG", "en_US.UTF-8"}, {"LANGUAGE", language}})),
         mInForce(chooseLanguage(preferredLocalizations(), tableDirectory()), tableDirectory()) {}
 
  private:
-  ScopedEnvironment mEnvironment;
+  test::ScopedEnvironment mEnvironment;
   LanguageInForce mInForce;
 };
 

@@ -109,7 +109,7 @@ TEST_P(WithoutWindow, PrintsWhatTheDialogPrints) {
     const PrintedJob clicked = newJob();
     std::string words = std::string("--print -d ") + GetParam();
     for (const auto& [keyword, choice] : wanted) words += " -o " + keyword + "=" + choice;
-    const tests::Result program = runProgram(words + " " + labels());
+    const CommandResult program = runProgram(words + " " + labels());
     ASSERT_EQ(program.status, kExitDone) << program.errors;
     const PrintedJob asked = newJob();
     EXPECT_EQ(asked.options(), clicked.options()) << "combination " << number;
@@ -127,14 +127,14 @@ TEST_F(EndToEndTest, CommandsWithoutAWindowLoadNoGuiLibrary) {
   for (const std::string& command :
        {std::string("--list"), std::string("--options -d tape24"),
         std::string("--summary -d tape24"), "--print -d tape24 -P 1 " + document}) {
-    const tests::Result result = runProgram(command, "LD_DEBUG=files");
+    const CommandResult result = runProgram(command, "LD_DEBUG=files");
     EXPECT_EQ(result.status, kExitDone) << command;
     EXPECT_NE(result.errors.find("libcutline-host.so"), std::string::npos) << command;
     for (const char* library : kGuiLibraries)
       EXPECT_EQ(result.errors.find(library), std::string::npos) << command << ": " << library;
   }
   // A command with a window does, so the names above are those to look for.
-  const tests::Result shown = runProgram("--marks -d tape24", "LD_DEBUG=files");
+  const CommandResult shown = runProgram("--marks -d tape24", "LD_DEBUG=files");
   EXPECT_EQ(shown.status, kExitDone) << shown.output;
   EXPECT_NE(shown.errors.find("libQt6Widgets"), std::string::npos);
 }

@@ -14,7 +14,7 @@
 #include "platform/ports/Controls.h"
 #include "qt/QtToolkit.h"
 #include "tests/support/PrintedJob.h"
-#include "tests/support/waiting.h"
+#include "tests/support/qt/waiting.h"
 
 class QComboBox;
 

@@ -8,8 +8,8 @@
 #include <QStyleOptionButton>
 
 #include "tests/e2e/DialogOnServer.h"
-#include "tests/support/Display.h"
 #include "tests/support/EndToEndTest.h"
+#include "tests/support/qt/Display.h"
 
 namespace cutline::test {
 

@@ -5,11 +5,11 @@
 #include <QTest>
 #include <filesystem>
 
-#include "tests/cups/TemporaryFolder.h"
 #include "tests/e2e/DialogOnServer.h"
 #include "tests/e2e/Program.h"
 #include "tests/e2e/ServerInBetween.h"
 #include "tests/support/EndToEndTest.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace cutline::test {
 
@@ -21,7 +21,7 @@ class QueueState {
   QueueState(const std::string& change, std::string back) : mBack(std::move(back)) {
     outputOf(change);
   }
-  ~QueueState() { tests::run(mBack); }
+  ~QueueState() { run(mBack); }
   QueueState(const QueueState&) = delete;
   QueueState& operator=(const QueueState&) = delete;
 
@@ -41,7 +41,7 @@ class Failures : public EndToEndTest {
 
   static void expectFailureOf(const std::string& words, const std::string& part,
                               const std::string& environment = {}) {
-    const tests::Result program = runProgram(words, environment);
+    const CommandResult program = runProgram(words, environment);
     EXPECT_EQ(program.status, kExitError) << words;
     EXPECT_EQ(program.output, "") << words;
     EXPECT_TRUE(program.errors.starts_with("cutline: ")) << program.errors;
@@ -70,7 +70,7 @@ TEST_F(Failures, AnUnknownChoiceIsNotPrinted) {
 }
 
 TEST_F(Failures, WrongUsageIsToldApart) {
-  const tests::Result program = runProgram("--print -d tape24 -n 0 " + labels());
+  const CommandResult program = runProgram("--print -d tape24 -n 0 " + labels());
   EXPECT_EQ(program.status, kExitUsage);
   EXPECT_TRUE(nothingNew());
 }

@@ -5,9 +5,9 @@
 #include <filesystem>
 #include <memory>
 
-#include "tests/samples/Command.h"
-#include "tests/samples/Folder.h"
+#include "tests/support/Command.h"
 #include "tests/support/EndToEndTest.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace cutline::test {
 
@@ -20,10 +20,10 @@ class Installation : public EndToEndTest {
  protected:
   // Symbols for debugging name the build, so they are left out.
   static void SetUpTestSuite() {
-    folder = std::make_unique<tests::Folder>();
-    const tests::Result installed =
-        tests::run(std::string(CUTLINE_CMAKE " --install " CUTLINE_BUILD_DIR " --strip --prefix ") +
-                   *folder / "first");
+    folder = std::make_unique<TemporaryFolder>();
+    const CommandResult installed =
+        run(std::string(CUTLINE_CMAKE " --install " CUTLINE_BUILD_DIR " --strip --prefix ") +
+            *folder / "first");
     ASSERT_EQ(installed.status, 0) << installed.errors;
     std::filesystem::rename(*folder / "first", prefix());
   }
@@ -31,41 +31,40 @@ class Installation : public EndToEndTest {
 
   static std::string prefix() { return *folder / "moved"; }
   static std::string place(const std::string& path) { return prefix() + "/" + path; }
-  static tests::Result program(const std::string& words, const std::string& before = {}) {
-    return tests::run(kClean + before + " " + place("bin/cutline") + " " + words);
+  static CommandResult program(const std::string& words, const std::string& before = {}) {
+    return run(kClean + before + " " + place("bin/cutline") + " " + words);
   }
   // The folders that a file looks for libraries in; empty when it names none.
   static std::string runPath(const std::string& path) {
-    return tests::run("readelf -d " + place(path) +
-                      " | sed -nE 's/.*\\((RUNPATH|RPATH)\\).*\\[(.*)\\]/\\2/p' | tr -d '\\n'")
+    return run("readelf -d " + place(path) +
+               " | sed -nE 's/.*\\((RUNPATH|RPATH)\\).*\\[(.*)\\]/\\2/p' | tr -d '\\n'")
         .output;
   }
   static std::string cutOptions() {
-    const std::string found =
-        tests::run("find " + prefix() + " -name CutOptions.so -printf %P").output;
+    const std::string found = run("find " + prefix() + " -name CutOptions.so -printf %P").output;
     EXPECT_NE(found, "");
     return found;
   }
 
  private:
-  static inline std::unique_ptr<tests::Folder> folder;
+  static inline std::unique_ptr<TemporaryFolder> folder;
 };
 
 TEST_F(Installation, SaysItsVersion) {
-  const tests::Result result = program("--version");
+  const CommandResult result = program("--version");
   EXPECT_EQ(result.status, 0) << result.errors;
   EXPECT_TRUE(result.output.starts_with("cutline ")) << result.output;
 }
 
 TEST_F(Installation, FindsItsOwnLibrariesPanelsAndSamples) {
-  const tests::Result result =
+  const CommandResult result =
       program("--options -o LxHalfCut=ON --ppd " + place("share/cutline/samples/ppd/tape-a.ppd"),
               "LD_DEBUG=files");
   EXPECT_EQ(result.status, 0);
   EXPECT_NE(result.output.find("LxHalfCut=ON\n"), std::string::npos) << result.output;
   EXPECT_NE(result.errors.find(place("bin/../lib/cutline/libcutline-host.so")), std::string::npos);
   EXPECT_EQ(result.errors.find(CUTLINE_BUILD_DIR), std::string::npos);
-  const tests::Result summary =
+  const CommandResult summary =
       program("--summary --ppd " + place("share/cutline/samples/ppd/tape-a.ppd"));
   EXPECT_NE(summary.output.find("Half cut between labels: No"), std::string::npos)
       << summary.output << summary.errors;
@@ -73,7 +72,7 @@ TEST_F(Installation, FindsItsOwnLibrariesPanelsAndSamples) {
 
 TEST_F(Installation, DrawsItsDialog) {
   const std::string picture = place("picture.png");
-  const tests::Result result =
+  const CommandResult result =
       program("--snapshot " + picture + " --ppd " + place("share/cutline/samples/ppd/tape-a.ppd") +
                   " " + place("share/cutline/samples/documents/labels.pdf"),
               "LD_DEBUG=files");
@@ -87,7 +86,7 @@ TEST_F(Installation, DrawsItsDialog) {
 }
 
 TEST_F(Installation, ListsThePrintersWithTheirPanels) {
-  const tests::Result result = program("--list");
+  const CommandResult result = program("--list");
   EXPECT_EQ(result.status, 0) << result.errors;
   for (const char* line :
        {"tape24 (default): tape; panels: Cut Options\n", "tapeb: tape; panels: Cut Options\n",
@@ -96,20 +95,20 @@ TEST_F(Installation, ListsThePrintersWithTheirPanels) {
 }
 
 TEST_F(Installation, PrintsOnItsOwnSampleServer) {
-  const tests::Folder folder;
+  const TemporaryFolder folder;
   const std::string script = place("share/cutline/samples/server/private-server.sh");
   const std::string server = folder / "s";
   const std::string unset = "env -u CUTLINE_PREFIX -u CUPS_SERVER ";
-  const tests::Result started = tests::run(unset + script + " start " + server);
+  const CommandResult started = run(unset + script + " start " + server);
   ASSERT_EQ(started.status, 0) << started.errors;
-  const tests::Result printed =
-      tests::run("eval \"$(" + script + " env " + server + ")\"; " + place("bin/cutline") +
-                 " --print -d tapeb -o LxHalfCut=ON -P 1-2 " +
-                 place("share/cutline/samples/documents/labels.pdf") + " && " + script +
-                 " wait-idle " + server);
-  EXPECT_EQ(tests::run(script + " stop " + server).status, 0);
+  const CommandResult printed =
+      run("eval \"$(" + script + " env " + server + ")\"; " + place("bin/cutline") +
+          " --print -d tapeb -o LxHalfCut=ON -P 1-2 " +
+          place("share/cutline/samples/documents/labels.pdf") + " && " + script + " wait-idle " +
+          server);
+  EXPECT_EQ(run(script + " stop " + server).status, 0);
   EXPECT_EQ(printed.status, 0) << printed.errors;
-  tests::Facts facts = tests::factsOf(server + "/printed/job-1.txt");
+  Facts facts = factsOf(server + "/printed/job-1.txt");
   EXPECT_EQ(facts["LxHalfCut"], "ON");
   EXPECT_EQ(facts["labels"], "2");
 }
@@ -128,8 +127,7 @@ TEST_F(Installation, NothingNamesTheBuild) {
   for (const auto& entry : std::filesystem::recursive_directory_iterator(prefix())) {
     if (!entry.is_regular_file()) continue;
     ++files;
-    EXPECT_EQ(tests::contentsOf(entry.path()).find(CUTLINE_BUILD_DIR), std::string::npos)
-        << entry.path();
+    EXPECT_EQ(contentsOf(entry.path()).find(CUTLINE_BUILD_DIR), std::string::npos) << entry.path();
   }
   EXPECT_GT(files, 40);
 }

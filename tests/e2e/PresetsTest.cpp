@@ -11,7 +11,7 @@
 #include "tests/e2e/DialogOnServer.h"
 #include "tests/e2e/SampleOptions.h"
 #include "tests/e2e/ServerInBetween.h"
-#include "tests/samples/Command.h"
+#include "tests/support/Command.h"
 #include "tests/support/EndToEndTest.h"
 
 namespace cutline::test {
@@ -63,7 +63,7 @@ TEST_F(Presets, OtherProgramsPrintWhatTheDialogSaved) {
   }
   ASSERT_EQ(only(wanted, savedChoices()), savedChoices());
   wanted.erase("copies");
-  const tests::Result printed = tests::run("lp -d tape24/shelf " + labels());
+  const CommandResult printed = run("lp -d tape24/shelf " + labels());
   ASSERT_EQ(printed.status, 0) << printed.errors;
   const PrintedJob job = newJob();
   EXPECT_EQ(only(job.options(), wanted), wanted);

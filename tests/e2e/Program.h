@@ -3,12 +3,12 @@
 
 #include <string>
 
-#include "tests/samples/Command.h"
+#include "tests/support/Command.h"
 
 namespace cutline::test {
 
 // `words` as typed in a shell. The dialog, where one is shown, needs no display. `before` are
 // settings of the environment, as in "LD_DEBUG=files".
-tests::Result runProgram(const std::string& words, const std::string& before = {});
+CommandResult runProgram(const std::string& words, const std::string& before = {});
 
 }  // namespace cutline::test

@@ -75,7 +75,7 @@ TEST_P(Rules, AreNamedInTheDialogAndKept) {
 TEST_P(Rules, AreNamedOnStandardErrorAndKept) {
   std::string words = "--print -d tape24";
   for (const auto& [keyword, choice] : GetParam().asked) words += " -o " + keyword + "=" + choice;
-  const tests::Result program = runProgram(words + " " + labels());
+  const CommandResult program = runProgram(words + " " + labels());
   EXPECT_EQ(program.status, kExitDone);
   for (const std::string& notice : GetParam().notices)
     EXPECT_NE(program.errors.find("cutline: " + notice + "\n"), std::string::npos)

@@ -6,7 +6,7 @@
 
 #include "host/core/CutRules.h"
 #include "tests/host/Dialog.h"
-#include "tests/host/PpdText.h"
+#include "tests/support/TestPrinter.h"
 
 namespace cutline {
 namespace {
@@ -20,7 +20,7 @@ class User {
 
   void usePrinter() {
     mPrinter = randomPrinter();
-    mDialog.open(ppdFor(mPrinter));
+    mDialog.open(test::ppdFor(mPrinter));
     mWanted = mPrinter.cutOptions;
     mDialog.expectHeldTogether(mWanted);
   }
@@ -45,8 +45,8 @@ class User {
   unsigned below(unsigned limit) { return static_cast<unsigned>(mRandom() % limit); }
   bool coin() { return below(2) == 1; }
 
-  TestPrinter randomPrinter() {
-    TestPrinter printer;
+  test::TestPrinter randomPrinter() {
+    test::TestPrinter printer;
     for (const std::string_view keyword : kCutKeywords) {
       if (below(5) == 0) continue;
       const std::string text(keyword);
@@ -71,7 +71,7 @@ class User {
   }
 
   void choosePaper() {
-    const std::string paper = kTestPapers[below(std::size(kTestPapers))];
+    const std::string paper = test::kTestPapers[below(std::size(test::kTestPapers))];
     mStory += " paper " + paper;
     ASSERT_TRUE(mDialog.model().setPaper(paper));
   }
@@ -102,7 +102,7 @@ class User {
 
   std::mt19937 mRandom;
   Dialog mDialog;
-  TestPrinter mPrinter;
+  test::TestPrinter mPrinter;
   Choices mWanted;
   std::string mStory;
 };

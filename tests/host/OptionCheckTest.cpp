@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "host/core/PrintModel.h"
-#include "tests/host/PpdText.h"
+#include "tests/support/TestPrinter.h"
 
 namespace cutline {
 namespace {
@@ -13,7 +13,7 @@ class OptionCheck : public testing::Test {
     const Result<Done> checked = check(options);
     return checked ? "" : checked.error().message;
   }
-  std::shared_ptr<PpdFile> mPpd = ppdFor(fullTapePrinter());
+  std::shared_ptr<PpdFile> mPpd = test::ppdFor(test::fullTapePrinter());
 };
 
 TEST_F(OptionCheck, TakesThePpdsOptionsWhateverTheirCapitals) {

@@ -2,11 +2,12 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <filesystem>
 #include <fstream>
 
 #include "host/core/PluginLoader.h"
-#include "tests/host/PpdText.h"
-#include "tests/host/TemporaryDirectory.h"
+#include "tests/support/TemporaryFolder.h"
+#include "tests/support/TestPrinter.h"
 
 namespace cutline {
 namespace {
@@ -50,7 +51,7 @@ class PluginLoaderTest : public testing::Test {
         << "the path is missing: " << loaded.error().message;
   }
 
-  TemporaryDirectory mDirectory;
+  test::TemporaryFolder mDirectory;
 };
 
 TEST_F(PluginLoaderTest, LoadsABundleAndMakesItsPrincipalObject) {
@@ -91,7 +92,7 @@ TEST_F(PluginLoaderTest, RefusesWhateverOthersCanWrite) {
 
 TEST_F(PluginLoaderTest, RefusesSymbolicLinks) {
   const fs::path bundle = makeBundle("GoodPlugIn");
-  const TemporaryDirectory elsewhere;
+  const test::TemporaryFolder elsewhere;
   for (const fs::path& part : {code(bundle), code(bundle).parent_path(),
                                bundle / "Contents/Info.plist", bundle / "Contents", bundle}) {
     SCOPED_TRACE(part);
@@ -152,18 +153,18 @@ TEST_F(PluginLoaderTest, TwoBundlesNeverTakeEachOthersCode) {
 }
 
 TEST_F(PluginLoaderTest, APpdSelectsByTheBundlesNameOnly) {
-  TestPrinter printer = fullTapePrinter();
-  EXPECT_EQ(PluginLoader::bundleNamesForPpd(*ppdFor(printer)),
+  test::TestPrinter printer = test::fullTapePrinter();
+  EXPECT_EQ(PluginLoader::bundleNamesForPpd(*test::ppdFor(printer)),
             std::vector<std::string>{"CutOptions.plugin"});
   printer.extension = "/anywhere/else/Test.plugin";
-  EXPECT_EQ(PluginLoader::bundleNamesForPpd(*ppdFor(printer)),
+  EXPECT_EQ(PluginLoader::bundleNamesForPpd(*test::ppdFor(printer)),
             std::vector<std::string>{"Test.plugin"});
-  EXPECT_TRUE(PluginLoader::bundleNamesForPpd(*ppdFor(TestPrinter())).empty());
+  EXPECT_TRUE(PluginLoader::bundleNamesForPpd(*test::ppdFor(test::TestPrinter())).empty());
 }
 
 TEST_F(PluginLoaderTest, FindsBundlesInTheTrustedDirectoriesOnly) {
   makeBundle("GoodPlugIn");
-  const TemporaryDirectory other;
+  const test::TemporaryFolder other;
   PluginLoader loader({other.path(), mDirectory.path()});
   EXPECT_TRUE(loader.bundleNamed("Test.plugin"));
   EXPECT_FALSE(loader.bundleNamed("Missing.plugin"));
@@ -179,12 +180,12 @@ TEST_F(PluginLoaderTest, LoadsEachBundleOnce) {
 
 TEST_F(PluginLoaderTest, TellsWhyAPrinterGetsNoPanel) {
   makeBundle("RefusingPlugIn");
-  TestPrinter printer = fullTapePrinter();
+  test::TestPrinter printer = test::fullTapePrinter();
   PluginLoader loader({mDirectory.path()});
-  EXPECT_TRUE(loader.plugInsForPpd(*ppdFor(printer)).empty());
+  EXPECT_TRUE(loader.plugInsForPpd(*test::ppdFor(printer)).empty());
   EXPECT_EQ(loader.takeProblems().size(), 1U);
   printer.extension = "Test.plugin";
-  EXPECT_TRUE(loader.plugInsForPpd(*ppdFor(printer)).empty());
+  EXPECT_TRUE(loader.plugInsForPpd(*test::ppdFor(printer)).empty());
   const std::vector<std::string> problems = loader.takeProblems();
   ASSERT_EQ(problems.size(), 1U);
   EXPECT_NE(problems.front().find("refuses"), std::string::npos);

@@ -6,7 +6,7 @@
 #include "host/core/PrintModel.h"
 #include "plain/PlainToolkit.h"
 #include "platform/ports/PrintDialogPanel.h"
-#include "tests/host/PpdText.h"
+#include "tests/support/TestPrinter.h"
 
 namespace cutline {
 namespace {
@@ -128,7 +128,7 @@ class PrintModelTest : public testing::Test {
   PlainToolkit mToolkit;
   HostPlatform mPlatform;
   ScriptedSource mSource;
-  std::shared_ptr<PpdFile> mPpd = ppdFor(fullTapePrinter());
+  std::shared_ptr<PpdFile> mPpd = test::ppdFor(test::fullTapePrinter());
 };
 
 TEST_F(PrintModelTest, AsksForKeywordsThenTheViewThenShowsRestoresAndSaves) {
@@ -176,7 +176,7 @@ TEST_F(PrintModelTest, APanelThatOutlivesTheDialogChangesNothing) {
 TEST_F(PrintModelTest, TheOldPpdOutlivesAPanelThatSomebodyKeeps) {
   const std::weak_ptr<PpdFile> watched = mPpd;
   auto model = open();
-  mPpd = ppdFor(fullTapePrinter());
+  mPpd = test::ppdFor(test::fullTapePrinter());
   auto kept = mSource.plugIns[0]->host;
   Destination other;
   other.name.printer = "other";
@@ -291,16 +291,16 @@ TEST_F(PrintModelTest, OptionsBesideThePpdAreSentAsTheyWereGiven) {
 
 TEST_F(PrintModelTest, EveryCutOptionIsSentAlsoAtItsDefault) {
   const OptionList options = open()->jobOptions();
-  for (const auto& [keyword, choice] : fullTapePrinter().cutOptions)
+  for (const auto& [keyword, choice] : test::fullTapePrinter().cutOptions)
     EXPECT_EQ(valueOf(options, keyword), choice);
 }
 
 TEST_F(PrintModelTest, OtherOptionsAreSentWhenTheyDifferOrWereAskedFor) {
-  TestPrinter printer = fullTapePrinter();
+  test::TestPrinter printer = test::fullTapePrinter();
   printer.more =
       "*OpenUI *Speed: PickOne\n*DefaultSpeed: Slow\n*Speed Slow: \"\"\n*Speed Fast: \"\"\n"
       "*CloseUI: *Speed\n";
-  mPpd = ppdFor(printer);
+  mPpd = test::ppdFor(printer);
   EXPECT_EQ(valueOf(open()->jobOptions(), "Speed"), "absent");
   EXPECT_EQ(valueOf(open({{{"Speed", "Slow"}}, {}, {}})->jobOptions(), "Speed"), "Slow");
   EXPECT_EQ(valueOf(open({{{"speed", "fast"}}, {}, {}})->jobOptions(), "Speed"), "Fast");
@@ -322,12 +322,12 @@ TEST_F(PrintModelTest, TheSummaryFollowsThePanelsOwnOrder) {
 class Constrained : public PrintModelTest {
  protected:
   Constrained() {
-    TestPrinter printer = fullTapePrinter();
+    test::TestPrinter printer = test::fullTapePrinter();
     printer.more =
         "*OpenUI *Speed: PickOne\n*DefaultSpeed: Slow\n*Speed Slow: \"\"\n*Speed Fast: \"\"\n"
         "*CloseUI: *Speed\n*UIConstraints: *Speed Fast *LxChainPrint ON\n"
         "*UIConstraints: *LxChainPrint ON *Speed Fast\n";
-    mPpd = ppdFor(printer);
+    mPpd = test::ppdFor(printer);
   }
 };
 

@@ -8,8 +8,8 @@
 #include <map>
 #include <sstream>
 
-#include "tests/host/PpdText.h"
-#include "tests/host/TemporaryDirectory.h"
+#include "tests/support/TemporaryFolder.h"
+#include "tests/support/TestPrinter.h"
 
 namespace cutline {
 namespace {
@@ -23,12 +23,12 @@ struct Outcome {
 class Program : public testing::Test {
  protected:
   Program() {
-    writePpd("tape.ppd", fullTapePrinter());
+    writePpd("tape.ppd", test::fullTapePrinter());
     std::ofstream(file("labels.txt")) << "label\n";
   }
 
-  void writePpd(const std::string& name, const TestPrinter& printer) {
-    std::ofstream(file(name)) << ppdText(printer);
+  void writePpd(const std::string& name, const test::TestPrinter& printer) {
+    std::ofstream(file(name)) << test::ppdText(printer);
   }
 
   std::string file(const std::string& name) const { return mDirectory.path() + "/" + name; }
@@ -65,7 +65,7 @@ class Program : public testing::Test {
     EXPECT_NE(outcome.err.find(part), std::string::npos) << outcome.err;
   }
 
-  TemporaryDirectory mDirectory;
+  test::TemporaryFolder mDirectory;
 };
 
 TEST_F(Program, ShowsWhatWouldBeSent) {
@@ -176,7 +176,7 @@ TEST_F(Program, AnotherDirectoryOfPanelsIsLookedAtFirst) {
 }
 
 TEST_F(Program, APrinterWithoutCutOptionsHasNoPanelAndNoCutOptions) {
-  writePpd("plain.ppd", TestPrinter());
+  writePpd("plain.ppd", test::TestPrinter());
   const Outcome outcome = run("--ppd plain.ppd --options");
   EXPECT_EQ(outcome.status, 0);
   EXPECT_EQ(outcome.err, "");

@@ -6,32 +6,32 @@
 
 #include "host/core/CutRules.h"
 #include "tests/host/Dialog.h"
-#include "tests/host/PpdText.h"
+#include "tests/support/TestPrinter.h"
 
 namespace cutline {
 namespace {
 
 OptionList asList(const Choices& choices) { return {choices.begin(), choices.end()}; }
 
-TestPrinter without(TestPrinter printer, const std::vector<std::string>& keywords) {
+test::TestPrinter without(test::TestPrinter printer, const std::vector<std::string>& keywords) {
   for (const std::string& keyword : keywords) printer.cutOptions.erase(keyword);
   return printer;
 }
 
-TestPrinter withAutoCutShown(TestPrinter printer) {
+test::TestPrinter withAutoCutShown(test::TestPrinter printer) {
   printer.showsAutoCut = true;
   return printer;
 }
 
-TestPrinter roll() {
-  TestPrinter printer;
+test::TestPrinter roll() {
+  test::TestPrinter printer;
   printer.isRoll = true;
   printer.cutOptions = {
       {"LxCutLabel", "1"}, {"LxAutoTapeCut", "ON"}, {"LxCutAtEnd", "ON"}, {"LxMirror", "OFF"}};
   return printer;
 }
 
-TestPrinter withDefaultsOn(TestPrinter printer) {
+test::TestPrinter withDefaultsOn(test::TestPrinter printer) {
   for (auto& [keyword, choice] : printer.cutOptions) choice = keyword == "LxCutLabel" ? "3" : "ON";
   return printer;
 }
@@ -48,24 +48,25 @@ std::string sample(const std::string& name) {
 }
 
 std::vector<Kind> kinds() {
-  const TestPrinter tapeWithoutMarks =
-      withAutoCutShown(without(fullTapePrinter(), {"LxCutLabel", "LxCutMark"}));
-  return {{"sampleTapeA", sample("tape-a")},
-          {"sampleTapeB", sample("tape-b")},
-          {"sampleRoll", sample("roll")},
-          {"rollWithoutAutoCut", ppdText(without(roll(), {"LxAutoTapeCut"}))},
-          {"rollOnByDefault", ppdText(withDefaultsOn(roll()))},
-          {"tapeWithTwoAutoCutBoxes", ppdText(withAutoCutShown(fullTapePrinter()))},
-          {"tapeWithoutAnyAutoCutBox", ppdText(without(fullTapePrinter(), {"LxCutLabel"}))},
-          {"tapeOnByDefault", ppdText(withDefaultsOn(fullTapePrinter()))},
-          {"tapeWithoutMarksOnByDefault", ppdText(withDefaultsOn(tapeWithoutMarks))}};
+  const test::TestPrinter tapeWithoutMarks =
+      withAutoCutShown(without(test::fullTapePrinter(), {"LxCutLabel", "LxCutMark"}));
+  return {
+      {"sampleTapeA", sample("tape-a")},
+      {"sampleTapeB", sample("tape-b")},
+      {"sampleRoll", sample("roll")},
+      {"rollWithoutAutoCut", test::ppdText(without(roll(), {"LxAutoTapeCut"}))},
+      {"rollOnByDefault", test::ppdText(withDefaultsOn(roll()))},
+      {"tapeWithTwoAutoCutBoxes", test::ppdText(withAutoCutShown(test::fullTapePrinter()))},
+      {"tapeWithoutAnyAutoCutBox", test::ppdText(without(test::fullTapePrinter(), {"LxCutLabel"}))},
+      {"tapeOnByDefault", test::ppdText(withDefaultsOn(test::fullTapePrinter()))},
+      {"tapeWithoutMarksOnByDefault", test::ppdText(withDefaultsOn(tapeWithoutMarks))}};
 }
 
 // A printer with every combination of its cut options: a bit an option, the first choice or the
 // second; the number of labels is the first one or the third.
 class Printer {
  public:
-  explicit Printer(const Kind& kind) : mPpd(ppdFromText(kind.text)) {
+  explicit Printer(const Kind& kind) : mPpd(test::ppdFromText(kind.text)) {
     for (const OptionGroup& group : mPpd->optionGroups())
       for (const PpdOption& option : group.options)
         if (isCutKeyword(option.keyword)) mOptions.push_back(option);
@@ -164,11 +165,11 @@ TEST_P(EachKind, EveryPrinterSwitchStartsFromTheNewPrintersOwnOptions) {
   const Printer printer(GetParam());
   const Choices saved = printer.combination(0xAA);
   Dialog dialog;
-  dialog.open(ppdFor(withDefaultsOn(fullTapePrinter())));
+  dialog.open(test::ppdFor(withDefaultsOn(test::fullTapePrinter())));
   dialog.open(printer.ppd(), asList(saved));
   dialog.expectHeldTogether(saved);
-  dialog.open(ppdFor(fullTapePrinter()));
-  dialog.expectHeldTogether(fullTapePrinter().cutOptions);
+  dialog.open(test::ppdFor(test::fullTapePrinter()));
+  dialog.expectHeldTogether(test::fullTapePrinter().cutOptions);
   dialog.open(printer.ppd());
   dialog.expectHeldTogether(printer.defaults());
 }

@@ -14,7 +14,7 @@ namespace {
 
 constexpr char kKey[] = "RS_HalfCut";  // no two languages say it alike
 
-std::string answer(const ScopedEnvironment::Variables& variables) {
+std::string answer(const test::ScopedEnvironment::Variables& variables) {
   const auto bundle = openStagedBundle(variables);
   return bundle ? bundle->localizedStringForKey(kKey, std::nullopt, std::nullopt) : std::string();
 }
@@ -24,37 +24,38 @@ std::string expected(const std::string& folder) { return stringTable(folder).at(
 // A way to ask for a language, while other variables ask for another one.
 struct Way {
   const char* name;
-  ScopedEnvironment::Variables (*variables)(const std::string& locale, const std::string& other);
+  test::ScopedEnvironment::Variables (*variables)(const std::string& locale,
+                                                  const std::string& other);
 };
 
 constexpr Way kWays[] = {
     {"Lang",
      [](const std::string& locale, const std::string&) {
-       return ScopedEnvironment::Variables{{"LANG", locale}};
+       return test::ScopedEnvironment::Variables{{"LANG", locale}};
      }},
     {"Messages",
      [](const std::string& locale, const std::string& other) {
-       return ScopedEnvironment::Variables{{"LC_MESSAGES", locale}, {"LANG", other}};
+       return test::ScopedEnvironment::Variables{{"LC_MESSAGES", locale}, {"LANG", other}};
      }},
     {"All",
      [](const std::string& locale, const std::string& other) {
-       return ScopedEnvironment::Variables{
+       return test::ScopedEnvironment::Variables{
            {"LC_ALL", locale}, {"LC_MESSAGES", other}, {"LANG", other}};
      }},
     {"Language",
      [](const std::string& locale, const std::string& other) {
-       return ScopedEnvironment::Variables{
+       return test::ScopedEnvironment::Variables{
            {"LANGUAGE", locale}, {"LC_ALL", other}, {"LC_MESSAGES", other}, {"LANG", other}};
      }},
     {"LanguageList",
      [](const std::string& locale, const std::string& other) {
-       return ScopedEnvironment::Variables{{"LANGUAGE", "xx:" + locale + ":" + other},
-                                           {"LANG", other}};
+       return test::ScopedEnvironment::Variables{{"LANGUAGE", "xx:" + locale + ":" + other},
+                                                 {"LANG", other}};
      }},
     {"LanguageWithoutTerritory",
      [](const std::string& locale, const std::string& other) {
        const bool isChinese = locale.starts_with("zh");
-       return ScopedEnvironment::Variables{
+       return test::ScopedEnvironment::Variables{
            {"LANGUAGE", locale.substr(0, locale.find(isChinese ? '.' : '_'))}, {"LANG", other}};
      }},
 };

@@ -2,7 +2,7 @@
 
 #include <regex>
 
-#include "tests/samples/Folder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace cutline {
 namespace {
@@ -20,12 +20,12 @@ std::string testPpdPath(const std::string& name) {
 }
 
 std::string withoutCutTexts(const std::string& path) {
-  return std::regex_replace(tests::contentsOf(path), kCutOption, "$1:");
+  return std::regex_replace(test::contentsOf(path), kCutOption, "$1:");
 }
 
 std::string withCutTexts(const std::string& path, const std::string& language,
                          const std::string& text) {
-  const std::string ppd = tests::contentsOf(path);
+  const std::string ppd = test::contentsOf(path);
   std::string texts = "*cupsLanguages: \"en " + language + "\"\n";
   for (std::sregex_iterator option(ppd.begin(), ppd.end(), kCutOption), end; option != end;
        ++option) {

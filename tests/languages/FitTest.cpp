@@ -19,7 +19,7 @@
 #include "tests/languages/LanguagePanel.h"
 #include "tests/languages/PaintedTexts.h"
 #include "tests/languages/StagedBundle.h"
-#include "tests/samples/Folder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace cutline {
 namespace {
@@ -43,15 +43,15 @@ class Fit : public testing::TestWithParam<std::tuple<Language, int>> {
   // A panel all of whose texts are the string tables'.
   LanguagePanel& open(const Printer& printer) {
     const std::string path = mFolder / "printer.ppd";
-    tests::write(path, withoutCutTexts(printer.path(printer.name)));
-    mPanel.emplace(ScopedEnvironment::Variables{{"LANG", std::get<Language>(GetParam()).locale}},
-                   path);
+    test::writeFile(path, withoutCutTexts(printer.path(printer.name)));
+    mPanel.emplace(
+        test::ScopedEnvironment::Variables{{"LANG", std::get<Language>(GetParam()).locale}}, path);
     return *mPanel;
   }
 
  private:
   FontSize mFont{std::get<int>(GetParam())};
-  tests::Folder mFolder;
+  test::TemporaryFolder mFolder;
   std::optional<LanguagePanel> mPanel;
 };
 

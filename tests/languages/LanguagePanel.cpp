@@ -18,10 +18,10 @@ const QString kNarrowLetters = QStringLiteral("EFIJLPRSTVXYZ");
 
 }  // namespace
 
-LanguagePanel::LanguagePanel(const ScopedEnvironment::Variables& variables,
+LanguagePanel::LanguagePanel(const test::ScopedEnvironment::Variables& variables,
                              const std::string& ppdPath)
     : mPlatform(mToolkit), mPlugIns({kPlugInDirectory}) {
-  const ScopedEnvironment environment(languageEnvironment(variables));
+  const test::ScopedEnvironment environment(test::languageEnvironment(variables));
   // libcups remembers the language of a thread.
   const auto ppd = std::async(std::launch::async, [&] { return PpdFile::open(ppdPath); }).get();
   if (!ppd) {

@@ -12,7 +12,7 @@
 #include "host/core/PrintModel.h"
 #include "platform/ports/View.h"
 #include "qt/QtToolkit.h"
-#include "tests/platform/TemporaryBundle.h"
+#include "tests/support/TemporaryBundle.h"
 
 namespace cutline {
 
@@ -20,7 +20,7 @@ class LanguagePanel {
  public:
   // Fails the test when the printer cannot be opened or has no panel; view() is null then. The
   // variables choose the language; what is not given is unset.
-  LanguagePanel(const ScopedEnvironment::Variables& variables, const std::string& ppdPath);
+  LanguagePanel(const test::ScopedEnvironment::Variables& variables, const std::string& ppdPath);
   ~LanguagePanel();
   LanguagePanel(const LanguagePanel&) = delete;
   LanguagePanel& operator=(const LanguagePanel&) = delete;

@@ -8,7 +8,7 @@
 #include "tests/languages/Language.h"
 #include "tests/languages/LanguagePanel.h"
 #include "tests/languages/StagedBundle.h"
-#include "tests/samples/Folder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace cutline {
 namespace {
@@ -47,11 +47,11 @@ class PpdTexts : public testing::TestWithParam<Language> {
  protected:
   // What the boxes say to a reader of the language, on a printer with this PPD.
   Texts boxTitles(const std::string& ppd) const {
-    tests::write(mPath, ppd);
+    test::writeFile(mPath, ppd);
     return LanguagePanel({{"LANG", GetParam().locale}}, mPath).boxTitles();
   }
   Texts summaryTitles(const std::string& ppd) const {
-    tests::write(mPath, ppd);
+    test::writeFile(mPath, ppd);
     LanguagePanel panel({{"LANG", GetParam().locale}}, mPath);
     Texts all;
     for (const SummaryLine& line : panel.model().summary()) all.push_back(line.title);
@@ -63,12 +63,12 @@ class PpdTexts : public testing::TestWithParam<Language> {
 
  private:
   StringTable mTable = stringTable(GetParam().folder);
-  tests::Folder mFolder;
+  test::TemporaryFolder mFolder;
   std::string mPath = mFolder / "printer.ppd";
 };
 
 TEST_P(PpdTexts, WinInEveryLanguage) {
-  const std::string ppd = tests::contentsOf(mPrinter);
+  const std::string ppd = test::contentsOf(mPrinter);
   EXPECT_EQ(boxTitles(ppd), titles([](auto texts) { return texts.inThePpd; }));
   EXPECT_EQ(summaryTitles(ppd)[kHalfCutLine], "Half cut between labels");
 }
@@ -80,7 +80,7 @@ TEST_P(PpdTexts, GiveWayToTheTablesWhereThereAreNone) {
 }
 
 TEST_P(PpdTexts, GiveWayToTheTablesWhereTheyCannotBeRead) {
-  const std::string ppd = tests::contentsOf(testPpdPath("odd-bad-text"));
+  const std::string ppd = test::contentsOf(testPpdPath("odd-bad-text"));
   EXPECT_EQ(boxTitles(ppd), Texts{text("RS_HalfCut")});
   EXPECT_EQ(summaryTitles(ppd), Texts{text("RS_STitle_HalfCut")});
 }

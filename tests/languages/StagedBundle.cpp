@@ -10,8 +10,8 @@ namespace cutline {
 
 std::string stagedBundlePath() { return std::string(kPlugInDirectory) + "/CutOptions.plugin"; }
 
-std::shared_ptr<Bundle> openStagedBundle(const ScopedEnvironment::Variables& variables) {
-  const ScopedEnvironment environment(languageEnvironment(variables));
+std::shared_ptr<Bundle> openStagedBundle(const test::ScopedEnvironment::Variables& variables) {
+  const test::ScopedEnvironment environment(test::languageEnvironment(variables));
   return DirectoryBundle::open(stagedBundlePath());
 }
 

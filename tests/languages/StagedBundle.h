@@ -6,7 +6,7 @@
 #include <string>
 
 #include "platform/ports/Bundle.h"
-#include "tests/platform/TemporaryBundle.h"
+#include "tests/support/TemporaryBundle.h"
 
 namespace cutline {
 
@@ -15,7 +15,7 @@ inline constexpr char kPlugInDirectory[] = CUTLINE_BUILD_DIR "/lib/cutline/plugi
 std::string stagedBundlePath();
 
 // Opened by a user whose languages these variables choose; what is not given is unset.
-std::shared_ptr<Bundle> openStagedBundle(const ScopedEnvironment::Variables& variables);
+std::shared_ptr<Bundle> openStagedBundle(const test::ScopedEnvironment::Variables& variables);
 
 // A language's string table, read as the bundle reads it; fails the test and is empty when that
 // gives no dictionary of texts.

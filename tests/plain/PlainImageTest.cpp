@@ -1,33 +1,14 @@
 #include <gtest/gtest.h>
-#include <stdlib.h>
 
 #include <filesystem>
-#include <fstream>
 #include <optional>
 #include <string>
 
 #include "plain/PlainImage.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace cutline {
 namespace {
-
-class TemporaryFile {
- public:
-  explicit TemporaryFile(const std::string& bytes) {
-    mPath = (std::filesystem::temp_directory_path() / "picture-XXXXXX").string();
-    if (mkdtemp(mPath.data())) std::ofstream(path(), std::ios::binary) << bytes;
-  }
-  ~TemporaryFile() {
-    std::error_code ignored;
-    std::filesystem::remove_all(mPath, ignored);
-  }
-  TemporaryFile(const TemporaryFile&) = delete;
-  TemporaryFile& operator=(const TemporaryFile&) = delete;
-  std::string path() const { return mPath + "/picture"; }
-
- private:
-  std::string mPath;
-};
 
 struct ImageRow {
   const char* name;
@@ -41,12 +22,13 @@ const std::string kPng("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\x01\x08\0\0\0\x54", 24
 class PlainImages : public testing::TestWithParam<ImageRow> {};
 
 TEST_P(PlainImages, TellTheSizeInTheirFile) {
-  const TemporaryFile file(GetParam().bytes);
-  const auto image = PlainImage::load(file.path());
+  const test::TemporaryFolder folder;
+  const std::string file = folder.write("picture", GetParam().bytes);
+  const auto image = PlainImage::load(file);
   ASSERT_EQ(image != nullptr, GetParam().size.has_value());
   if (!image) return;
   EXPECT_EQ(image->size(), *GetParam().size);
-  EXPECT_EQ(image->path(), file.path());
+  EXPECT_EQ(image->path(), file);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -15,8 +15,8 @@
 #include "platform/ports/PopUpButton.h"
 #include "platform/ports/TextField.h"
 #include "tests/platform/RecordingOwner.h"
-#include "tests/platform/TemporaryBundle.h"
 #include "tests/platform/ToolkitScope.h"
+#include "tests/support/TemporaryBundle.h"
 
 namespace cutline {
 namespace {
@@ -33,13 +33,13 @@ class CutOptionsFiles : public testing::Test {
  protected:
   void SetUp() override {
     std::filesystem::copy(kResources, bundle.resources(), std::filesystem::copy_options::recursive);
-    const ScopedEnvironment environment(languageEnvironment({}));
+    const test::ScopedEnvironment environment(test::languageEnvironment({}));
     opened = bundle.open();
     const ToolkitScope scope(&toolkit);
     ASSERT_TRUE(opened->loadNibNamed("OptionPDE", owner));
   }
 
-  TemporaryBundle bundle;
+  test::TemporaryBundle bundle;
   std::shared_ptr<Bundle> opened;
   PlainToolkit toolkit;
   RecordingOwner owner;

@@ -1,10 +1,11 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <filesystem>
 #include <optional>
 
 #include "platform/lib/DirectoryBundle.h"
-#include "tests/platform/TemporaryBundle.h"
+#include "tests/support/TemporaryBundle.h"
 
 namespace cutline {
 namespace {
@@ -15,11 +16,11 @@ class DirectoryBundleTest : public testing::Test {
  protected:
   // A bundle opened by a user of this language.
   std::shared_ptr<Bundle> openFor(const std::string& lang) const {
-    const ScopedEnvironment environment(languageEnvironment({{"LANG", lang}}));
+    const test::ScopedEnvironment environment(test::languageEnvironment({{"LANG", lang}}));
     return bundle.open();
   }
 
-  TemporaryBundle bundle;
+  test::TemporaryBundle bundle;
 };
 
 TEST_F(DirectoryBundleTest, TellsPathIdentifierAndPrincipalClass) {

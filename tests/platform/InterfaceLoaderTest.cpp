@@ -13,8 +13,8 @@
 #include "tests/platform/RecordingClient.h"
 #include "tests/platform/RecordingFormatter.h"
 #include "tests/platform/RecordingOwner.h"
-#include "tests/platform/TemporaryBundle.h"
 #include "tests/platform/ToolkitScope.h"
+#include "tests/support/TemporaryBundle.h"
 
 namespace cutline {
 namespace {
@@ -100,14 +100,14 @@ class InterfaceLoaderTest : public testing::Test {
   }
 
   bool load(Toolkit& with, const std::string& name = "Panel") {
-    const ScopedEnvironment environment(languageEnvironment({}));
+    const test::ScopedEnvironment environment(test::languageEnvironment({}));
     const ToolkitScope scope(&with, &log);
     const auto opened = bundle.open();
     return opened && opened->loadNibNamed(name, owner);
   }
 
   RecordingSystemLog log;
-  TemporaryBundle bundle;
+  test::TemporaryBundle bundle;
   PlainToolkit toolkit;
   RecordingOwner owner;
 };

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/lib/Languages.h"
-#include "tests/platform/TemporaryBundle.h"
+#include "tests/support/TemporaryBundle.h"
 
 namespace cutline {
 namespace {
@@ -46,14 +46,14 @@ INSTANTIATE_TEST_SUITE_P(
 
 struct EnvironmentRow {
   const char* name;
-  ScopedEnvironment::Variables variables;
+  test::ScopedEnvironment::Variables variables;
   Names folders;
 };
 
 class PreferredLocalizations : public testing::TestWithParam<EnvironmentRow> {};
 
 TEST_P(PreferredLocalizations, FollowTheEnvironment) {
-  const ScopedEnvironment environment(languageEnvironment(GetParam().variables));
+  const test::ScopedEnvironment environment(test::languageEnvironment(GetParam().variables));
   EXPECT_EQ(preferredLocalizations(), GetParam().folders);
 }
 

@@ -6,7 +6,7 @@
 
 #include "samples/printer/Bitmap.h"
 
-namespace cutline::tests {
+namespace cutline::test {
 
 inline printer::Bitmap bitmapOf(const std::vector<std::string>& rows) {
   printer::Bitmap bitmap(static_cast<std::uint32_t>(rows.front().size()),
@@ -30,4 +30,4 @@ inline std::vector<std::string> rowsOf(const printer::Bitmap& bitmap) {
   return rows;
 }
 
-}  // namespace cutline::tests
+}  // namespace cutline::test

@@ -5,7 +5,7 @@
 
 #include <vector>
 
-namespace cutline::tests {
+namespace cutline::test {
 namespace {
 
 void writePage(cups_raster_t* raster, cups_page_header2_t header, const Shading& shading,
@@ -49,4 +49,4 @@ void writeRaster(const std::string& path, const cups_page_header2_t& header, int
   ::close(file);
 }
 
-}  // namespace cutline::tests
+}  // namespace cutline::test

@@ -6,7 +6,7 @@
 #include <functional>
 #include <string>
 
-namespace cutline::tests {
+namespace cutline::test {
 
 // A page of tape 24 mm wide and 50 mm long at 180 dots an inch, with margins of 1 and 2 mm, in
 // grey.
@@ -19,4 +19,4 @@ using Shading = std::function<unsigned char(unsigned x, unsigned y)>;
 void writeRaster(const std::string& path, const cups_page_header2_t& header, int pages,
                  const Shading& shading, int rows = -1);
 
-}  // namespace cutline::tests
+}  // namespace cutline::test

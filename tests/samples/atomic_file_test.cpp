@@ -1,15 +1,15 @@
 #include <gtest/gtest.h>
 
 #include "samples/printer/AtomicFile.h"
-#include "tests/samples/Folder.h"
+#include "tests/support/TemporaryFolder.h"
 
-namespace cutline::tests {
+namespace cutline::test {
 namespace {
 
 using printer::AtomicFile;
 
 TEST(AtomicFile, AppearsWhenItIsWhole) {
-  const Folder folder;
+  const TemporaryFolder folder;
   AtomicFile file(folder / "result");
   ASSERT_NE(file.stream(), nullptr);
   std::fputs("text", file.stream());
@@ -21,7 +21,7 @@ TEST(AtomicFile, AppearsWhenItIsWhole) {
 }
 
 TEST(AtomicFile, LeavesNothingWhenItIsGivenUp) {
-  const Folder folder;
+  const TemporaryFolder folder;
   {
     const AtomicFile file(folder / "result");
     std::fputs("text", file.stream());
@@ -30,7 +30,7 @@ TEST(AtomicFile, LeavesNothingWhenItIsGivenUp) {
 }
 
 TEST(AtomicFile, LeavesNothingWhenItsNameIsTaken) {
-  const Folder folder;
+  const TemporaryFolder folder;
   const std::string taken = folder / "a";
   ASSERT_EQ(std::system(("mkdir " + taken).c_str()), 0);
   AtomicFile file(taken);
@@ -45,4 +45,4 @@ TEST(AtomicFile, HasNoStreamWithoutItsFolder) {
 }
 
 }  // namespace
-}  // namespace cutline::tests
+}  // namespace cutline::test

@@ -4,7 +4,7 @@
 
 #include "tests/samples/Dots.h"
 
-namespace cutline::tests {
+namespace cutline::test {
 namespace {
 
 using Rows = std::vector<std::string>;
@@ -44,4 +44,4 @@ TEST(Bitmap, GivesAPartOfItsRows) {
 }
 
 }  // namespace
-}  // namespace cutline::tests
+}  // namespace cutline::test

@@ -4,9 +4,9 @@
 
 #include "samples/printer/CommandStream.h"
 #include "tests/samples/Dots.h"
-#include "tests/samples/Folder.h"
+#include "tests/support/TemporaryFolder.h"
 
-namespace cutline::tests {
+namespace cutline::test {
 namespace {
 
 using namespace printer;
@@ -24,13 +24,13 @@ class CommandStream : public ::testing::Test {
   }
   // The reader of a stream that begins well and goes on with `rest`.
   CommandReader readerOf(const std::string& rest) {
-    write(file(), "cutline-printer 1\n" + rest);
+    writeFile(file(), "cutline-printer 1\n" + rest);
     CommandReader begun = reader();
     EXPECT_TRUE(begun.begin());
     return begun;
   }
 
-  Folder mFolder;
+  TemporaryFolder mFolder;
   int mInput = -1;
 };
 
@@ -59,7 +59,7 @@ TEST_F(CommandStream, BringsOverEveryCommand) {
 
 TEST_F(CommandStream, RefusesAnotherBeginning) {
   for (const char* text : {"", "cutline-printer 2\n", "cutline-printer 1", "%PDF-1.4\n"}) {
-    write(file(), text);
+    writeFile(file(), text);
     CommandReader in = reader();
     EXPECT_FALSE(in.begin()) << text;
     ::close(mInput);
@@ -92,4 +92,4 @@ TEST_F(CommandStream, SaysWhenThereIsNoRoom) {
 }
 
 }  // namespace
-}  // namespace cutline::tests
+}  // namespace cutline::test

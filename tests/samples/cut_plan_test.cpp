@@ -4,7 +4,7 @@
 
 #include "samples/printer/CutPlan.h"
 
-namespace cutline::tests {
+namespace cutline::test {
 namespace {
 
 using printer::Choices;
@@ -81,4 +81,4 @@ TEST(CutPlan, KnowsARollByItsFamily) {
 }
 
 }  // namespace
-}  // namespace cutline::tests
+}  // namespace cutline::test

@@ -2,7 +2,7 @@
 
 #include "samples/printer/DeviceUri.h"
 
-namespace cutline::tests {
+namespace cutline::test {
 namespace {
 
 using printer::deviceUriOf;
@@ -38,4 +38,4 @@ TEST(DeviceUri, RefusesWhatItIsNot) {
 }
 
 }  // namespace
-}  // namespace cutline::tests
+}  // namespace cutline::test

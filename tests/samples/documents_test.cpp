@@ -2,11 +2,11 @@
 
 #include <cstdlib>
 
-#include "tests/samples/Command.h"
-#include "tests/samples/Folder.h"
-#include "tests/samples/PngPicture.h"
+#include "tests/support/Command.h"
+#include "tests/support/PngPicture.h"
+#include "tests/support/TemporaryFolder.h"
 
-namespace cutline::tests {
+namespace cutline::test {
 namespace {
 
 constexpr const char* kFonts = "/usr/share/fonts/truetype/dejavu";
@@ -19,8 +19,8 @@ std::string textOf(int page) {
 }
 
 TEST(Documents, AreWhatTheGeneratorDraws) {
-  const Folder folder;
-  const Result result =
+  const TemporaryFolder folder;
+  const CommandResult result =
       run(built("tests/cutline-sample-documents ") + kFonts + ' ' + folder.path());
   ASSERT_EQ(result.status, 0) << result.errors;
   EXPECT_EQ(contentsOf(folder / "labels.pdf"), contentsOf(source("samples/documents/labels.pdf")));
@@ -33,7 +33,7 @@ TEST(Documents, AreWhatTheGeneratorDraws) {
 }
 
 TEST(Documents, HaveTwelveLabelsOfTheDefaultSize) {
-  const Result info = run("pdfinfo " + source("samples/documents/labels.pdf"));
+  const CommandResult info = run("pdfinfo " + source("samples/documents/labels.pdf"));
   EXPECT_NE(info.output.find("Pages:           12\n"), std::string::npos) << info.output;
   EXPECT_NE(info.output.find("Page size:       141.73 x 68.03 pts"), std::string::npos);
   for (int page = 1; page <= 12; ++page) {
@@ -48,4 +48,4 @@ TEST(Documents, HaveAPictureOfTheSameSize) {
 }
 
 }  // namespace
-}  // namespace cutline::tests
+}  // namespace cutline::test

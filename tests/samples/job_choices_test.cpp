@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
 #include "samples/printer/JobChoices.h"
-#include "tests/samples/Command.h"
+#include "tests/support/Command.h"
 
-namespace cutline::tests {
+namespace cutline::test {
 namespace {
 
 using printer::choicesOf;
@@ -51,4 +51,4 @@ TEST(JobChoices, AreNoneWithoutAPpd) {
 }
 
 }  // namespace
-}  // namespace cutline::tests
+}  // namespace cutline::test

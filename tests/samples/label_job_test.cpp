@@ -4,9 +4,9 @@
 
 #include "samples/printer/LabelJob.h"
 #include "tests/samples/Dots.h"
-#include "tests/samples/Folder.h"
+#include "tests/support/TemporaryFolder.h"
 
-namespace cutline::tests {
+namespace cutline::test {
 namespace {
 
 using namespace printer;
@@ -51,7 +51,7 @@ class LabelJobTest : public ::testing::Test {
     ::close(out);
   }
 
-  Folder mFolder;
+  TemporaryFolder mFolder;
 };
 
 // One letter a command.
@@ -110,7 +110,7 @@ TEST(LabelJobWithoutPrinter, SaysThatNothingIsTaken) {
 }
 
 TEST_F(LabelJobTest, KeepsABlankLabelWhole) {
-  Folder folder;
+  TemporaryFolder folder;
   const int out = ::open((folder / "job").c_str(), O_WRONLY | O_CREAT, 0600);
   CommandWriter writer(out);
   const CutPlan plan(Choices{{"LxRemoveBlkSpace", "ON"}});
@@ -121,4 +121,4 @@ TEST_F(LabelJobTest, KeepsABlankLabelWhole) {
 }
 
 }  // namespace
-}  // namespace cutline::tests
+}  // namespace cutline::test

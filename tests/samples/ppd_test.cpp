@@ -3,10 +3,10 @@
 
 #include <memory>
 
-#include "tests/samples/Command.h"
-#include "tests/samples/Folder.h"
+#include "tests/support/Command.h"
+#include "tests/support/TemporaryFolder.h"
 
-namespace cutline::tests {
+namespace cutline::test {
 namespace {
 
 using Ppd = std::unique_ptr<ppd_file_t, decltype(&ppdClose)>;
@@ -37,22 +37,22 @@ std::string valueOf(ppd_file_t* ppd, const char* attribute) {
 
 TEST(SamplePpds, ConformToTheSpecificationOfPpds) {
   for (const char* name : {"tape-a", "tape-b", "roll"}) {
-    const Result result =
+    const CommandResult result =
         run("cupstestppd -q -I filters " + source("samples/ppd/") + name + ".ppd");
     EXPECT_EQ(result.status, 0) << name << result.output;
   }
 }
 
 TEST(SamplePpds, AreWhatTheGeneratorWrites) {
-  const Folder folder;
+  const TemporaryFolder folder;
   ASSERT_EQ(run("mkdir " + folder / "s" + ' ' + folder / "f" + " && " +
                 source("samples/ppd/generate") + ' ' + folder / "s" + ' ' + folder / "f")
                 .status,
             0);
-  const Result samples =
+  const CommandResult samples =
       run("diff -r -x generate -x texts " + source("samples/ppd") + ' ' + folder / "s");
   EXPECT_EQ(samples.status, 0) << samples.output;
-  const Result fixtures = run("diff -r " + source("tests/samples/ppd") + ' ' + folder / "f");
+  const CommandResult fixtures = run("diff -r " + source("tests/samples/ppd") + ' ' + folder / "f");
   EXPECT_EQ(fixtures.status, 0) << fixtures.output;
 }
 
@@ -154,4 +154,4 @@ TEST(FixturePpds, HaveATextThatIsNoUtf8) {
 }
 
 }  // namespace
-}  // namespace cutline::tests
+}  // namespace cutline::test

@@ -10,11 +10,11 @@
 #include <sstream>
 
 #include "tests/languages/Language.h"
-#include "tests/platform/TemporaryBundle.h"
-#include "tests/samples/Command.h"
-#include "tests/samples/Folder.h"
+#include "tests/support/Command.h"
+#include "tests/support/TemporaryBundle.h"
+#include "tests/support/TemporaryFolder.h"
 
-namespace cutline::tests {
+namespace cutline::test {
 namespace {
 
 using Ppd = std::unique_ptr<ppd_file_t, decltype(&ppdClose)>;
@@ -161,7 +161,7 @@ TEST(SamplePpdTextLines, FitIntoTheRecords) {
 
 TEST(SamplePpdTextLines, AreUtf8) {
   for (const char* printer : kPrinters) {
-    const Result result = run("iconv -f UTF-8 -t UTF-16 " + pathOf(printer) + " >/dev/null");
+    const CommandResult result = run("iconv -f UTF-8 -t UTF-16 " + pathOf(printer) + " >/dev/null");
     EXPECT_EQ(result.status, 0) << printer << ": " << result.errors;
   }
 }
@@ -187,25 +187,25 @@ class PpdGenerator : public testing::Test {
     run("cp -r " + source("samples/ppd") + ' ' + mFolder / "ppd" + " && mkdir " + mFolder / "out");
   }
   // Changes the German table by this command of sed.
-  Result afterChange(const std::string& command) const {
+  CommandResult afterChange(const std::string& command) const {
     run("sed -i " + quoted(command) + ' ' + mFolder / "ppd/texts/de");
     return run(mFolder / "ppd/generate" + ' ' + mFolder / "out" + ' ' + mFolder / "out");
   }
   std::string written(const std::string& name) const { return contentsOf(mFolder / "out/" + name); }
 
  private:
-  Folder mFolder;
+  TemporaryFolder mFolder;
 };
 
 TEST_F(PpdGenerator, WritesWhatTheTablesSay) {
-  const Result result = afterChange("s/|Spiegel.*/|Andersherum/");
+  const CommandResult result = afterChange("s/|Spiegel.*/|Andersherum/");
   EXPECT_EQ(result.status, 0) << result.errors;
   EXPECT_NE(written("roll.ppd").find("\n*de.Translation LxMirror/Andersherum: \"\"\n"),
             std::string::npos);
 }
 
 TEST_F(PpdGenerator, FailsWhereALanguageLacksAText) {
-  const Result result = afterChange("/^Mirror printing|/d");
+  const CommandResult result = afterChange("/^Mirror printing|/d");
   EXPECT_NE(result.status, 0);
   EXPECT_NE(result.errors.find("texts/de: no text, or no good one, for \"Mirror printing\""),
             std::string::npos)
@@ -224,4 +224,4 @@ TEST_F(PpdGenerator, FailsWhereATextWouldEndTooSoon) {
 }
 
 }  // namespace
-}  // namespace cutline::tests
+}  // namespace cutline::test

@@ -1,12 +1,12 @@
 // The print server of one's own, with real jobs through the system's filters.
 #include <gtest/gtest.h>
 
-#include "tests/samples/Command.h"
-#include "tests/samples/Facts.h"
-#include "tests/samples/Folder.h"
-#include "tests/samples/PngPicture.h"
+#include "tests/support/Command.h"
+#include "tests/support/Facts.h"
+#include "tests/support/PngPicture.h"
+#include "tests/support/TemporaryFolder.h"
 
-namespace cutline::tests {
+namespace cutline::test {
 namespace {
 
 const std::string kScript = built("share/cutline/samples/server/private-server.sh");
@@ -18,21 +18,21 @@ class Server {
   explicit Server(const std::string& arguments = {}) { mStarted = script("start", arguments); }
   ~Server() { script("stop"); }
 
-  const Result& started() const { return mStarted; }
-  const Folder& folder() const { return mFolder; }
+  const CommandResult& started() const { return mStarted; }
+  const TemporaryFolder& folder() const { return mFolder; }
   std::string place() const { return mFolder / "s"; }
-  Result script(const std::string& verb, const std::string& arguments = {}) const {
+  CommandResult script(const std::string& verb, const std::string& arguments = {}) const {
     return run(quoted(kScript) + ' ' + verb + ' ' + place() + ' ' + arguments);
   }
   // A command of a shell that prints here.
-  Result client(const std::string& command) const {
+  CommandResult client(const std::string& command) const {
     return run("eval \"$(" + quoted(kScript) + " env " + place() + ")\"; " + command);
   }
   // Prints, and waits until the printer is done.
   void print(const std::string& arguments) const {
-    const Result result = client("lp " + arguments);
+    const CommandResult result = client("lp " + arguments);
     EXPECT_EQ(result.status, 0) << result.errors;
-    const Result idle = script("wait-idle", "30");
+    const CommandResult idle = script("wait-idle", "30");
     EXPECT_EQ(idle.status, 0) << idle.errors;
   }
   std::string printed(const std::string& name) const { return place() + "/printed/" + name; }
@@ -43,8 +43,8 @@ class Server {
   std::string log() const { return contentsOf(place() + "/log/error_log"); }
 
  private:
-  Folder mFolder;
-  Result mStarted;
+  TemporaryFolder mFolder;
+  CommandResult mStarted;
 };
 
 // How many processes were started with, or work in, the server's folder.
@@ -127,7 +127,7 @@ TEST(PrivateServer, LeavesNothingOfACancelledJob) {
   const Server server("--pace 2000");
   server.client("lp -d tape24 " + kLabels);
   // The printer is at its first labels by now.
-  const Result busy = server.client(
+  const CommandResult busy = server.client(
       "for i in $(seq 100); do lpstat -p tape24 | grep -q printing && exit; sleep 0.05; done; exit "
       "1");
   EXPECT_EQ(busy.status, 0);
@@ -153,10 +153,10 @@ TEST(PrivateServer, DoesNotWaitForAJobThatStopped) {
   // A filter that fails although the printer got all.
   const std::string filter = server.place() + "/programs/filter/rastertocutline";
   ASSERT_EQ(run("mv " + filter + ' ' + filter + ".real").status, 0);
-  write(filter, "#!/bin/sh\n" + filter + ".real \"$@\"\nexit 1\n");
+  writeFile(filter, "#!/bin/sh\n" + filter + ".real \"$@\"\nexit 1\n");
   ASSERT_EQ(run("chmod 755 " + filter).status, 0);
   ASSERT_EQ(server.client("lp -d tape24 -P 1 " + kLabels).status, 0);
-  const Result idle = server.script("wait-idle", "30");
+  const CommandResult idle = server.script("wait-idle", "30");
   EXPECT_EQ(idle.status, 1);
   EXPECT_NE(idle.errors.find("job 1 stopped on an error"), std::string::npos) << idle.errors;
 }
@@ -184,7 +184,7 @@ TEST(PrivateServer, LeavesNoProcessBehind) {
 
 TEST(PrivateServer, StartsAgainInTheSameFolder) {
   const Server server;
-  const Result again = server.script("start");
+  const CommandResult again = server.script("start");
   EXPECT_EQ(again.status, 1);
   EXPECT_NE(again.errors.find("a server runs already"), std::string::npos);
   EXPECT_EQ(server.script("stop").status, 0);
@@ -194,7 +194,7 @@ TEST(PrivateServer, StartsAgainInTheSameFolder) {
 
 TEST(PrivateServer, RunsForAPlainUserToo) {
   // Root can become nobody; anyone else is plain already, and the other tests show it.
-  const Folder folder;
+  const TemporaryFolder folder;
   const std::string place = folder / "s";
   run("mkdir -m 777 " + place);
   // The build can lie where only its owner may look, as below root's home.
@@ -206,7 +206,7 @@ TEST(PrivateServer, RunsForAPlainUserToo) {
   const std::string script = quoted(samples + "server/private-server.sh");
   const std::string as =
       run("id -u").output == "0\n" ? "setpriv --reuid=65534 --regid=65534 --clear-groups " : "";
-  const Result result =
+  const CommandResult result =
       run("cd /; export CUTLINE_PREFIX=" + prefix + "; " + as + script + " start " + place +
           " && eval \"$(" + script + " env " + place + ")\" && " + as + "lp -d tape24 -P 1 " +
           samples + "documents/labels.pdf && " + as + script + " wait-idle " + place + " 30; " +
@@ -215,10 +215,10 @@ TEST(PrivateServer, RunsForAPlainUserToo) {
 }
 
 TEST(PrivateServer, TakesThePrintersProgramsFromWhereItIsTold) {
-  const Folder folder;
-  const Result none = run("CUTLINE_PREFIX=/nonexistent bash -c " +
-                          quoted("cp " + kScript + ' ' + folder.path() + " && " +
-                                 folder / "private-server.sh" + " start " + folder / "s"));
+  const TemporaryFolder folder;
+  const CommandResult none = run("CUTLINE_PREFIX=/nonexistent bash -c " +
+                                 quoted("cp " + kScript + ' ' + folder.path() + " && " +
+                                        folder / "private-server.sh" + " start " + folder / "s"));
   EXPECT_EQ(none.status, 1);
   EXPECT_NE(none.errors.find("cannot find rastertocutline; looked in: /nonexistent"),
             std::string::npos)
@@ -226,7 +226,7 @@ TEST(PrivateServer, TakesThePrintersProgramsFromWhereItIsTold) {
 }
 
 TEST(PrivateServer, ExplainsWhatIsWrong) {
-  const Folder folder;
+  const TemporaryFolder folder;
   const std::string deep = folder / std::string(90, 'x');
   EXPECT_NE(run(kScript + " start " + deep).errors.find("too long a name"), std::string::npos);
   EXPECT_NE(run(kScript + " start " + folder / "s" + " a=/nonexistent.ppd")
@@ -244,10 +244,10 @@ TEST(PrivateServer, ExplainsWhatIsWrong) {
 TEST(PrivateServer, GivesUpWaiting) {
   const Server server("--pace 5000");
   server.client("lp -d tape24 " + kLabels);
-  const Result idle = server.script("wait-idle", "1");
+  const CommandResult idle = server.script("wait-idle", "1");
   EXPECT_EQ(idle.status, 1);
   EXPECT_NE(idle.errors.find("not idle after 1 seconds: tape24-1"), std::string::npos);
 }
 
 }  // namespace
-}  // namespace cutline::tests
+}  // namespace cutline::test

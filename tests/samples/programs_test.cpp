@@ -1,13 +1,13 @@
 // The driver and the printer as programs, without a print server.
 #include <gtest/gtest.h>
 
-#include "tests/samples/Command.h"
-#include "tests/samples/Facts.h"
-#include "tests/samples/Folder.h"
-#include "tests/samples/PngPicture.h"
 #include "tests/samples/RasterFile.h"
+#include "tests/support/Command.h"
+#include "tests/support/Facts.h"
+#include "tests/support/PngPicture.h"
+#include "tests/support/TemporaryFolder.h"
 
-namespace cutline::tests {
+namespace cutline::test {
 namespace {
 
 unsigned char stripes(unsigned x, unsigned y) { return (x + 2 * y) % 5 == 0 ? 0 : 255; }
@@ -29,7 +29,7 @@ class Programs : public ::testing::Test {
   std::string backendCommand(const std::string& options = {}) const {
     return uri() + backend() + " 7 somebody 'a title' 1 " + quoted(options);
   }
-  Result print(const std::string& options) const {
+  CommandResult print(const std::string& options) const {
     return run("set -o pipefail; " + filterCommand(options) + " | " + backendCommand(options));
   }
   // What is left besides the raster.
@@ -39,11 +39,11 @@ class Programs : public ::testing::Test {
     return names;
   }
 
-  Folder mFolder;
+  TemporaryFolder mFolder;
 };
 
 TEST_F(Programs, StoreAPictureAndTheOptionsOfAJob) {
-  const Result result = print("LxHalfCut=ON LxCutLabel=2");
+  const CommandResult result = print("LxHalfCut=ON LxCutLabel=2");
   EXPECT_EQ(result.status, 0) << result.errors;
   EXPECT_EQ(results(), (std::vector<std::string>{"job-7.png", "job-7.txt"}));
   Facts facts = factsOf(printed("job-7.txt"));
@@ -81,10 +81,10 @@ TEST_F(Programs, KeepALineBreakInATitleOutOfTheList) {
 
 TEST_F(Programs, TakeTheirInputFromAFileToo) {
   const std::string commands = mFolder / "commands";
-  const Result driver =
+  const CommandResult driver =
       run(ppd() + filter() + " 8 somebody title 1 '' " + raster() + " >" + commands);
   EXPECT_EQ(driver.status, 0) << driver.errors;
-  const Result printer = run(uri() + backend() + " 8 somebody title 1 '' " + commands);
+  const CommandResult printer = run(uri() + backend() + " 8 somebody title 1 '' " + commands);
   EXPECT_EQ(printer.status, 0) << printer.errors;
   EXPECT_EQ(factsOf(printed("job-8.txt"))["labels"], "3");
 }
@@ -96,13 +96,13 @@ TEST_F(Programs, SayHowTheyAreCalled) {
 }
 
 TEST_F(Programs, PrinterIsFoundByItsAddressOnly) {
-  const Result devices = run(backend());
+  const CommandResult devices = run(backend());
   EXPECT_EQ(devices.status, 0);
   EXPECT_EQ(devices.output, "file cutline-strip \"Unknown\" \"Virtual label printer\"\n");
 }
 
 TEST_F(Programs, DriverRefusesAJobWithoutPpd) {
-  const Result result = run("PPD=/nonexistent " + filter() + " 7 u t 1 '' <" + raster());
+  const CommandResult result = run("PPD=/nonexistent " + filter() + " 7 u t 1 '' <" + raster());
   EXPECT_EQ(result.status, 1);
   EXPECT_EQ(result.output, "");
   EXPECT_EQ(result.errors, "ERROR: The printer's PPD file cannot be read.\n");
@@ -110,7 +110,7 @@ TEST_F(Programs, DriverRefusesAJobWithoutPpd) {
 
 TEST_F(Programs, DriverRefusesADocumentWithoutPages) {
   writeRaster(raster(), tapePage(), 0, stripes);
-  const Result result = print("");
+  const CommandResult result = print("");
   EXPECT_NE(result.status, 0);
   EXPECT_NE(result.errors.find("no pages"), std::string::npos);
   EXPECT_TRUE(results().empty());
@@ -120,13 +120,13 @@ TEST_F(Programs, DriverRefusesAPageThatIsTooLarge) {
   cups_page_header2_t huge = tapePage();
   huge.cupsPageSize[1] = 1e8F;
   writeRaster(raster(), huge, 1, stripes);
-  const Result result = print("");
+  const CommandResult result = print("");
   EXPECT_NE(result.errors.find("too large"), std::string::npos);
   EXPECT_TRUE(results().empty());
 }
 
 TEST_F(Programs, DriverSaysWhenThePrinterIsGone) {
-  const Result result = run(filterCommand() + " >/dev/full");
+  const CommandResult result = run(filterCommand() + " >/dev/full");
   EXPECT_EQ(result.status, 1);
   EXPECT_EQ(result.errors, "ERROR: The printer takes no more data.\n");
   EXPECT_EQ(run("set -o pipefail; (sleep 0.3; " + filterCommand() + ") | true").status, 1);
@@ -134,7 +134,7 @@ TEST_F(Programs, DriverSaysWhenThePrinterIsGone) {
 
 TEST_F(Programs, PrinterStoresNothingOfAJobThatBreaksOff) {
   for (const char* part : {"head -c 20000", "head -c 100", "cat /dev/null", "grep -av ^end$"}) {
-    const Result result = run(filterCommand() + " | " + part + " | " + backendCommand());
+    const CommandResult result = run(filterCommand() + " | " + part + " | " + backendCommand());
     EXPECT_NE(result.status, 0) << part;
     EXPECT_NE(result.errors.find(": The "), std::string::npos) << part;
     EXPECT_TRUE(results().empty()) << part;
@@ -142,20 +142,22 @@ TEST_F(Programs, PrinterStoresNothingOfAJobThatBreaksOff) {
 }
 
 TEST_F(Programs, PrinterRefusesDataThatItsDriverDidNotMake) {
-  const Result result = run(backendCommand() + " </dev/urandom");
+  const CommandResult result = run(backendCommand() + " </dev/urandom");
   EXPECT_EQ(result.status, 1);
   EXPECT_NE(result.errors.find("not made by the printer's driver"), std::string::npos);
 }
 
 TEST_F(Programs, PrinterSaysWhenItsFolderIsMissing) {
-  const Result result = run(filterCommand() + " | DEVICE_URI=cutline-strip:/nonexistent/folder " +
-                            backend() + " 7 u t 1 ''");
+  const CommandResult result =
+      run(filterCommand() + " | DEVICE_URI=cutline-strip:/nonexistent/folder " + backend() +
+          " 7 u t 1 ''");
   EXPECT_EQ(result.status, 1);
   EXPECT_NE(result.errors.find("Cannot write to /nonexistent/folder."), std::string::npos);
 }
 
 TEST_F(Programs, PrinterLeavesNothingWhenThereIsNoSpace) {
-  const Result result = run(filterCommand() + " | (ulimit -f 1; " + backendCommand() + ") 2>&1");
+  const CommandResult result =
+      run(filterCommand() + " | (ulimit -f 1; " + backendCommand() + ") 2>&1");
   EXPECT_NE(result.output.find("Cannot write"), std::string::npos) << result.output;
   EXPECT_TRUE(results().empty());
 }
@@ -169,7 +171,7 @@ TEST_F(Programs, PrinterRefusesAWrongAddressOrJobNumber) {
 TEST_F(Programs, PrinterLeavesNothingOfACancelledJob) {
   const std::string slow =
       "DEVICE_URI=cutline-strip:" + mFolder.path() + "?pace=60000 " + backend() + " 7 u t 1 ''";
-  const Result result =
+  const CommandResult result =
       run(filterCommand() + " >" + (mFolder / "raster.commands") + "; " + slow + ' ' +
           (mFolder / "raster.commands") + " & sleep 0.3; kill -TERM $!; wait $!; echo $?");
   EXPECT_EQ(result.output, "0\n") << result.errors;
@@ -179,4 +181,4 @@ TEST_F(Programs, PrinterLeavesNothingOfACancelledJob) {
 }
 
 }  // namespace
-}  // namespace cutline::tests
+}  // namespace cutline::test

@@ -3,10 +3,10 @@
 #include <unistd.h>
 
 #include "samples/printer/RasterPages.h"
-#include "tests/samples/Folder.h"
 #include "tests/samples/RasterFile.h"
+#include "tests/support/TemporaryFolder.h"
 
-namespace cutline::tests {
+namespace cutline::test {
 namespace {
 
 using printer::Halftone;
@@ -34,7 +34,7 @@ class RasterPagesTest : public ::testing::Test {
     mInput = -1;
   }
 
-  Folder mFolder;
+  TemporaryFolder mFolder;
   int mInput = -1;
 };
 
@@ -125,11 +125,11 @@ TEST_F(RasterPagesTest, RefusesAPageThatBreaksOff) {
 }
 
 TEST_F(RasterPagesTest, RefusesWhatIsNoRaster) {
-  write(mFolder / "raster", "%PDF-1.4 and more");
+  writeFile(mFolder / "raster", "%PDF-1.4 and more");
   RasterPages pages = opened();
   EXPECT_FALSE(pages.next());
   EXPECT_EQ(pages.problem(), "the data is no CUPS raster");
 }
 
 }  // namespace
-}  // namespace cutline::tests
+}  // namespace cutline::test

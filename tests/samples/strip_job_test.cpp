@@ -3,11 +3,11 @@
 #include <unistd.h>
 
 #include "samples/printer/StripJob.h"
-#include "tests/samples/Facts.h"
-#include "tests/samples/Folder.h"
-#include "tests/samples/PngPicture.h"
+#include "tests/support/Facts.h"
+#include "tests/support/PngPicture.h"
+#include "tests/support/TemporaryFolder.h"
 
-namespace cutline::tests {
+namespace cutline::test {
 namespace {
 
 using namespace printer;
@@ -15,7 +15,7 @@ using namespace printer;
 class StripJobTest : public ::testing::Test {
  protected:
   bool read(StripJob& job, const std::string& commands) {
-    write(mFolder / "commands", commands);
+    writeFile(mFolder / "commands", commands);
     const int in = ::open((mFolder / "commands").c_str(), O_RDONLY);
     CommandReader reader(in);
     const bool whole = job.read(reader, mCancelled);
@@ -23,7 +23,7 @@ class StripJobTest : public ::testing::Test {
     return whole;
   }
 
-  Folder mFolder;
+  TemporaryFolder mFolder;
   volatile int mCancelled = 0;
 };
 
@@ -80,4 +80,4 @@ TEST_F(StripJobTest, DrawsALongJobUpToTheEndOfAPicture) {
 }
 
 }  // namespace
-}  // namespace cutline::tests
+}  // namespace cutline::test

@@ -3,10 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "tests/samples/Dots.h"
-#include "tests/samples/Folder.h"
-#include "tests/samples/PngPicture.h"
+#include "tests/support/PngPicture.h"
+#include "tests/support/TemporaryFolder.h"
 
-namespace cutline::tests {
+namespace cutline::test {
 namespace {
 
 using printer::Bitmap;
@@ -34,7 +34,7 @@ class StripTest : public ::testing::Test {
     return PngPicture(path);
   }
 
-  Folder mFolder;
+  TemporaryFolder mFolder;
   Strip mStrip;
 };
 
@@ -146,4 +146,4 @@ TEST_F(StripTest, SaysWhenItCannotBeWritten) {
 }
 
 }  // namespace
-}  // namespace cutline::tests
+}  // namespace cutline::test

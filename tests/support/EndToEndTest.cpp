@@ -21,8 +21,6 @@ int runAllTestsWithServer() {
 
 PrivateServer& server() { return *theServer; }
 
-std::string built(const std::string& path) { return std::string(CUTLINE_BUILD_DIR "/") + path; }
-
 std::string labels() { return built("share/cutline/samples/documents/labels.pdf"); }
 
 EndToEndTest::EndToEndTest() {

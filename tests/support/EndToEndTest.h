@@ -7,6 +7,7 @@
 #include <set>
 #include <string>
 
+#include "tests/support/Command.h"
 #include "tests/support/PrintedJob.h"
 
 namespace cutline::test {
@@ -19,8 +20,6 @@ inline constexpr const char* kPrinters[] = {"tape24", "tapeb", "roll62"};
 int runAllTestsWithServer();
 // That server.
 PrivateServer& server();
-// The build tree's files, as in an installation.
-std::string built(const std::string& path);
 // Twelve labels on as many pages.
 std::string labels();
 constexpr int kLabels = 12;

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "cups/CupsOptions.h"
-#include "tests/samples/PngPicture.h"
+#include "tests/support/PngPicture.h"
 
 namespace cutline::test {
 
@@ -25,7 +25,7 @@ bool isOfTheServer(const std::string& name) {
 
 PrintedJob::PrintedJob(const PrivateServer& server, int jobId)
     : mPicturePath(server.printedFile(jobId, ".png")),
-      mFacts(tests::factsOf(server.printedFile(jobId, ".txt"))) {
+      mFacts(factsOf(server.printedFile(jobId, ".txt"))) {
   for (const auto& [name, value] : CupsOptions::parse(fact("filter.argv5").c_str()).list())
     if (!isOfTheServer(name)) mOptions[name] = value;
 }
@@ -41,15 +41,15 @@ int PrintedJob::number(const std::string& name) const {
 }
 
 int PrintedJob::printedLabels() const {
-  const tests::PngPicture picture(mPicturePath);
+  const PngPicture picture(mPicturePath);
   int count = 0;
   for (int label = 1; label <= number("labels"); ++label) {
-    const printer::Place place = tests::placeOf(fact("label." + std::to_string(label)));
+    const printer::Place place = placeOf(fact("label." + std::to_string(label)));
     if (picture.inkIn(place) > kInkOfALabel) ++count;
   }
   return count;
 }
 
-printer::Place PrintedJob::firstLabel() const { return tests::placeOf(fact("label.1")); }
+printer::Place PrintedJob::firstLabel() const { return placeOf(fact("label.1")); }
 
 }  // namespace cutline::test

@@ -4,8 +4,8 @@
 #include <map>
 #include <string>
 
-#include "tests/cups/PrivateServer.h"
-#include "tests/samples/Facts.h"
+#include "tests/support/Facts.h"
+#include "tests/support/PrivateServer.h"
 
 namespace cutline::test {
 
@@ -28,7 +28,7 @@ class PrintedJob {
 
  private:
   std::string mPicturePath;
-  tests::Facts mFacts;
+  Facts mFacts;
   Choices mOptions;
 };
 

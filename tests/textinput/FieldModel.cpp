@@ -95,7 +95,7 @@ std::optional<LineState> HistoryModel::redo() {
 }
 
 std::u16string FieldModel::shown(const std::u16string& text) const {
-  return showsMillimetres ? decimal(leadingNumber(text)) + u" mm" : text;
+  return showsMillimetres ? decimal(test::leadingNumber(text)) + u" mm" : text;
 }
 
 // Every key ends a composition.
@@ -206,7 +206,7 @@ void FieldModel::settle(Place place) {
     std::size_t left = was.size();
     while (to > from && left > from && was[left - 1] == is[to - 1]) --to, --left;
   }
-  if (const auto refusal = refusalOf(settings, mSettled.text, from, mLine.text, to)) {
+  if (const auto refusal = test::refusalOf(settings, mSettled.text, from, mLine.text, to)) {
     mRefusals.push_back(*refusal);
     mLine = mSettled;
     mComposing = false;
@@ -222,7 +222,7 @@ void FieldModel::tell() {
   mEdited = true;
   ++mChanges;
   if (!isClamped) return;
-  const std::u16string corrected = shown(decimal(std::clamp(leadingNumber(text()), 1, 99)));
+  const std::u16string corrected = shown(decimal(std::clamp(test::leadingNumber(text()), 1, 99)));
   if (corrected != text()) correct(corrected);
 }
 

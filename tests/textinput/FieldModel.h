@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/textinput/VettingModel.h"
+#include "tests/support/VettingModel.h"
 
 namespace cutline {
 
@@ -48,7 +48,7 @@ class HistoryModel {
 
 class FieldModel {
  public:
-  VettingSettings settings;
+  test::VettingSettings settings;
   bool showsMillimetres = false;
   bool isClamped = false;  // the panel corrects each change to a number from 1 to 99
 
@@ -56,7 +56,7 @@ class FieldModel {
   const LineState& line() const { return mLine; }
   const std::u16string& text() const { return mSettled.text; }
   const HistoryModel& history() const { return mHistory; }
-  const std::vector<Refusal>& refusals() const { return mRefusals; }
+  const std::vector<test::Refusal>& refusals() const { return mRefusals; }
   int changes() const { return mChanges; }
   int actions() const { return mActions; }
   bool isComposing() const { return mComposing; }
@@ -100,7 +100,7 @@ class FieldModel {
   bool mComposing = false;
   bool mEdited = false;
   HistoryModel mHistory;
-  std::vector<Refusal> mRefusals;
+  std::vector<test::Refusal> mRefusals;
   int mChanges = 0;
   int mActions = 0;
 };

@@ -17,8 +17,8 @@
 #include "platform/ports/TextField.h"
 #include "qt/QtFieldEditor.h"
 #include "tests/platform/RecordingOwner.h"
-#include "tests/platform/TemporaryBundle.h"
 #include "tests/qt/LineUser.h"
+#include "tests/support/TemporaryBundle.h"
 #include "tests/textinput/TypingPlatform.h"
 
 namespace cutline {
@@ -26,7 +26,7 @@ namespace cutline {
 class FieldTest : public testing::Test {
  protected:
   void SetUp() override {
-    const TemporaryBundle bundle;
+    const test::TemporaryBundle bundle;
     const auto file = readResource(CUTLINE_SOURCE_DIR "/tests/textinput/StrictFields.plist");
     ASSERT_TRUE(file);
     bundle.write("Resources/StrictFields.plist", *file);

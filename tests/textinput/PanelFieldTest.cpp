@@ -10,9 +10,9 @@
 #include "platform/lib/DirectoryBundle.h"
 #include "platform/ports/Controls.h"
 #include "qt/QtFieldEditor.h"
-#include "tests/bundle/PpdText.h"
-#include "tests/bundle/TestCallback.h"
 #include "tests/qt/LineUser.h"
+#include "tests/support/PpdText.h"
+#include "tests/support/TestCallback.h"
 #include "tests/textinput/TypingPlatform.h"
 
 namespace cutline {

@@ -8,18 +8,16 @@
 #include <string>
 
 #include "platform/ports/Bundle.h"
+#include "tests/support/TemporaryFolder.h"
 
-namespace cutline {
+namespace cutline::test {
 
 class TemporaryBundle {
  public:
   TemporaryBundle();
-  ~TemporaryBundle();
-  TemporaryBundle(const TemporaryBundle&) = delete;
-  TemporaryBundle& operator=(const TemporaryBundle&) = delete;
 
-  std::string path() const { return mPath.string(); }
-  std::filesystem::path resources() const { return mPath / "Contents" / "Resources"; }
+  const std::string& path() const noexcept { return mFolder.path(); }
+  std::filesystem::path resources() const { return mFolder / "Contents/Resources"; }
 
   // `name` is relative to Contents; folders on the way are made.
   void write(const std::string& name, const std::string& bytes) const;
@@ -32,7 +30,7 @@ class TemporaryBundle {
   std::shared_ptr<Bundle> open() const;
 
  private:
-  std::filesystem::path mPath;
+  TemporaryFolder mFolder;
 };
 
 // Sets environment variables for one scope; an absent value unsets the variable.
@@ -52,4 +50,4 @@ class ScopedEnvironment {
 // The four variables that choose the language of messages; what is not given is unset.
 ScopedEnvironment::Variables languageEnvironment(const ScopedEnvironment::Variables& given);
 
-}  // namespace cutline
+}  // namespace cutline::test

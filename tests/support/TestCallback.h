@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "platform/ports/PrintDialogPanel.h"
-#include "tests/bundle/ScriptedPrinting.h"
+#include "tests/support/ScriptedPrinting.h"
 
 namespace cutline::test {
 

@@ -1,4 +1,4 @@
-#include "tests/bundle/PpdText.h"
+#include "tests/support/PpdText.h"
 
 #include <gtest/gtest.h>
 #include <sys/mman.h>
@@ -6,8 +6,6 @@
 
 namespace cutline::test {
 namespace {
-
-std::string quoted(const std::string& text) { return "\"" + text + "\""; }
 
 // An open file in memory with this content, positioned at its start.
 int memoryFile(const std::string& content) {
@@ -21,9 +19,13 @@ int memoryFile(const std::string& content) {
 
 }  // namespace
 
-PpdText& PpdText::attribute(const std::string& name, const std::string& value) {
-  mBody += "*" + name + ": " + quoted(value) + "\n";
+PpdText& PpdText::line(const std::string& text) {
+  mBody += text + "\n";
   return *this;
+}
+
+PpdText& PpdText::attribute(const std::string& name, const std::string& value) {
+  return line("*" + name + ": \"" + value + "\"");
 }
 
 PpdText& PpdText::option(const std::string& keyword, const std::vector<PpdChoice>& choices,
@@ -57,8 +59,12 @@ PpdText& PpdText::pageSizes(const std::vector<std::string>& names) {
   return *this;
 }
 
+std::string PpdText::text() const {
+  return "*PPD-Adobe: \"4.3\"\n*LanguageEncoding: UTF-8\n" + mBody;
+}
+
 OpenPpd PpdText::openUnmarked() const {
-  const int fd = memoryFile("*PPD-Adobe: \"4.3\"\n*LanguageEncoding: UTF-8\n" + mBody);
+  const int fd = memoryFile(text());
   OpenPpd ppd(ppdOpenFd(fd));
   int line = 0;
   EXPECT_TRUE(ppd) << ppdErrorString(ppdLastError(&line)) << " in line " << line << "\n" << mBody;

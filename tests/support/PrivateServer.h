@@ -8,7 +8,7 @@
 #include <string>
 
 #include "cups/ServerOptions.h"
-#include "tests/cups/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace cutline::test {
 
@@ -53,8 +53,5 @@ class PrivateServer {
   std::unique_ptr<FILE, ClosePipe> mGuard;
   std::string mSocket, mHome, mRoot;
 };
-
-// What a shell command wrote on both its streams. Throws when its status is not 0.
-std::string outputOf(const std::string& command);
 
 }  // namespace cutline::test

@@ -1,8 +1,8 @@
-#include "tests/samples/PngPicture.h"
+#include "tests/support/PngPicture.h"
 
 #include <png.h>
 
-namespace cutline::tests {
+namespace cutline::test {
 
 PngPicture::PngPicture(const std::string& path) {
   png_image image{};
@@ -44,4 +44,4 @@ bool PngPicture::isSame(const printer::Place& place, const PngPicture& other,
   return true;
 }
 
-}  // namespace cutline::tests
+}  // namespace cutline::test

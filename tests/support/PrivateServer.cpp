@@ -1,37 +1,16 @@
-#include "tests/cups/PrivateServer.h"
+#include "tests/support/PrivateServer.h"
 
-#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <stdexcept>
 
+#include "tests/support/Command.h"
+
 namespace cutline::test {
 
-namespace {
-
-std::string quoted(const std::string& text) { return '\'' + text + '\''; }
-
-}  // namespace
-
-std::string outputOf(const std::string& command) {
-  FILE* pipe = popen((command + " 2>&1").c_str(), "r");
-  if (!pipe) throw std::runtime_error("cannot run " + command);
-  std::string output;
-  std::array<char, 4096> block{};
-  for (std::size_t count = 0; (count = fread(block.data(), 1, block.size(), pipe)) > 0;) {
-    output.append(block.data(), count);
-  }
-  if (pclose(pipe) != 0) throw std::runtime_error(command + ": " + output);
-  return output;
-}
-
 PrivateServer::PrivateServer(const std::string& arguments) {
-  // The server's filters run as another user when this one is root.
-  std::filesystem::permissions(mFolder.path(), std::filesystem::perms(0755));
-  // The server lives on, so it must not hold the pipe's end.
-  outputOf(script("start") + ' ' + arguments + " >" + quoted(mFolder.path() + "/start.log") +
-           " </dev/null");
+  outputOf(script("start") + ' ' + arguments + " >" + quoted(mFolder / "start.log"));
   mGuard.reset(popen(("trap '' INT TERM HUP; cat >/dev/null; " + script("stop") + "; rm -rf " +
                       quoted(mFolder.path()))
                          .c_str(),
@@ -63,13 +42,13 @@ bool PrivateServer::hasPrinted(int jobId) const {
 }
 
 std::string PrivateServer::printedFile(int jobId, const std::string& ending) const {
-  return mFolder.path() + "/printed/job-" + std::to_string(jobId) + ending;
+  return mFolder / "printed/job-" + std::to_string(jobId) + ending;
 }
 
 // The list is stored last, so where it is the picture is too.
 std::set<int> PrivateServer::printedJobs() const {
   std::set<int> jobs;
-  for (const auto& file : std::filesystem::directory_iterator(mFolder.path() + "/printed")) {
+  for (const auto& file : std::filesystem::directory_iterator(mFolder / "printed")) {
     const std::string name = file.path().filename();
     if (name.starts_with("job-") && name.ends_with(".txt")) jobs.insert(std::stoi(name.substr(4)));
   }

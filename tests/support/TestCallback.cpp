@@ -1,4 +1,4 @@
-#include "tests/bundle/TestCallback.h"
+#include "tests/support/TestCallback.h"
 
 #include <ostream>
 

@@ -7,7 +7,7 @@
 
 #include "samples/printer/Strip.h"
 
-namespace cutline::tests {
+namespace cutline::test {
 
 class PngPicture {
  public:
@@ -30,4 +30,4 @@ class PngPicture {
   std::vector<std::uint8_t> mBytes;
 };
 
-}  // namespace cutline::tests
+}  // namespace cutline::test

@@ -1,14 +1,13 @@
-// PPD files made for tests: printers with any of the nine cut options.
+// PPD files of printers with any of the nine cut options.
 #pragma once
 
 #include <map>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "cups/PpdFile.h"
 
-namespace cutline {
+namespace cutline::test {
 
 // What the tests vary of a printer.
 struct TestPrinter {
@@ -34,4 +33,4 @@ inline std::shared_ptr<PpdFile> ppdFor(const TestPrinter& printer) {
 // All nine options, off, cutting each label.
 TestPrinter fullTapePrinter();
 
-}  // namespace cutline
+}  // namespace cutline::test

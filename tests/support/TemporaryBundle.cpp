@@ -1,13 +1,10 @@
-#include "tests/platform/TemporaryBundle.h"
+#include "tests/support/TemporaryBundle.h"
 
 #include <stdlib.h>
 
-#include <fstream>
-#include <stdexcept>
-
 #include "platform/lib/DirectoryBundle.h"
 
-namespace cutline {
+namespace cutline::test {
 namespace {
 
 void setVariable(const std::string& name, const std::optional<std::string>& value) {
@@ -26,23 +23,13 @@ std::optional<std::string> variable(const std::string& name) {
 }  // namespace
 
 TemporaryBundle::TemporaryBundle() {
-  std::string name = (std::filesystem::temp_directory_path() / "bundle-XXXXXX").string();
-  if (!mkdtemp(name.data())) throw std::runtime_error("no temporary directory");
-  mPath = name;
   writePropertyList("Info.plist",
                     "<dict><key>CFBundleIdentifier</key><string>org.cutline.Test</string>"
                     "<key>NSPrincipalClass</key><string>TestPlugIn</string></dict>");
 }
 
-TemporaryBundle::~TemporaryBundle() {
-  std::error_code ignored;
-  std::filesystem::remove_all(mPath, ignored);
-}
-
 void TemporaryBundle::write(const std::string& name, const std::string& bytes) const {
-  const auto file = mPath / "Contents" / name;
-  std::filesystem::create_directories(file.parent_path());
-  std::ofstream(file, std::ios::binary) << bytes;
+  mFolder.write("Contents/" + name, bytes);
 }
 
 void TemporaryBundle::writePropertyList(const std::string& name, const std::string& value) const {
@@ -82,4 +69,4 @@ ScopedEnvironment::Variables languageEnvironment(const ScopedEnvironment::Variab
   return all;
 }
 
-}  // namespace cutline
+}  // namespace cutline::test

@@ -39,6 +39,10 @@ class PpdText {
   // The names of the page sizes; the first is the default.
   PpdText& pageSizes(const std::vector<std::string>& names);
 
+  // Any line of its own.
+  PpdText& line(const std::string& text);
+
+  std::string text() const;
   // Opens the file; marks its defaults unless told not to.
   OpenPpd open() const;
   OpenPpd openUnmarked() const;

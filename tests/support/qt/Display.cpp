@@ -1,12 +1,12 @@
-#include "tests/support/Display.h"
+#include "tests/support/qt/Display.h"
 
 #include <QFile>
 #include <QtEndian>
 #include <map>
 #include <stdexcept>
 
-#include "tests/support/child_process.h"
-#include "tests/support/waiting.h"
+#include "tests/support/qt/child_process.h"
+#include "tests/support/qt/waiting.h"
 
 namespace cutline::test {
 

@@ -1,10 +1,10 @@
-#include "tests/samples/Facts.h"
+#include "tests/support/Facts.h"
 
 #include <sstream>
 
-#include "tests/samples/Folder.h"
+#include "tests/support/TemporaryFolder.h"
 
-namespace cutline::tests {
+namespace cutline::test {
 
 Facts factsOf(const std::string& path) {
   Facts facts;
@@ -24,4 +24,4 @@ printer::Place placeOf(const std::string& value) {
   return place;
 }
 
-}  // namespace cutline::tests
+}  // namespace cutline::test

@@ -1,4 +1,4 @@
-#include "tests/support/child_process.h"
+#include "tests/support/qt/child_process.h"
 
 #include <sys/prctl.h>
 

@@ -6,7 +6,7 @@
 
 #include "samples/printer/Strip.h"
 
-namespace cutline::tests {
+namespace cutline::test {
 
 using Facts = std::map<std::string, std::string>;
 
@@ -15,4 +15,4 @@ Facts factsOf(const std::string& path);
 // The place in a value like "79,21,354,170".
 printer::Place placeOf(const std::string& value);
 
-}  // namespace cutline::tests
+}  // namespace cutline::test

@@ -1,4 +1,4 @@
-#include "tests/support/waiting.h"
+#include "tests/support/qt/waiting.h"
 
 #include <QTest>
 
