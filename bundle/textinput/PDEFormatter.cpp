@@ -10,7 +10,6 @@
 #include "bundle/textinput/EditVetting.h"
 #include "bundle/textinput/text_styles.h"
 #include "platform/lib/CalendarDate.h"
-#include "platform/ports/NotificationCenter.h"
 #include "platform/ports/Platform.h"
 #include "platform/ports/Toolkit.h"
 
@@ -69,6 +68,12 @@ void PDEFormatter::setCalendarLocale(std::shared_ptr<const PropertyList> locale)
 
 void PDEFormatter::setNotificationObject(std::shared_ptr<const void> object) noexcept {
   mObject = std::move(object);
+  mObjectIdentity = mObject ? NotificationObject(mObject.get()) : NotificationObject();
+}
+
+void PDEFormatter::setNotificationIdentity(NotificationObject identity) noexcept {
+  mObject.reset();
+  mObjectIdentity = std::move(identity);
 }
 
 void PDEFormatter::setMaxValue(std::int32_t value) noexcept {
@@ -142,7 +147,8 @@ bool PDEFormatter::isPartialStringValid(std::optional<std::u16string>* partialSt
 
 void PDEFormatter::refuse(const std::string& notification,
                           const std::optional<std::string>& character) const noexcept {
-  NotificationObject object = mObject ? mObject.get() : static_cast<const void*>(this);
+  NotificationObject object = mObjectIdentity;
+  if (object == NotificationObject()) object = static_cast<const void*>(this);
   if (character) object = *character;
   if (Toolkit* toolkit = currentPlatform().toolkit) toolkit->beep();
   NotificationCenter::defaultCenter().postNotificationName(notification, object);

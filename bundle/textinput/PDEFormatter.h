@@ -10,6 +10,7 @@
 
 #include "bundle/diag/Describable.h"
 #include "platform/ports/Formatter.h"
+#include "platform/ports/NotificationCenter.h"
 
 namespace cutline {
 
@@ -56,6 +57,9 @@ class PDEFormatter final : public Formatter {
   // it by this address, which for a view is that of its View. Kept alive; null for none.
   void setNotificationObject(std::shared_ptr<const void> object) noexcept;
   const std::shared_ptr<const void>& notificationObject() const noexcept { return mObject; }
+  // The same for an object that isn't kept alive, such as a view around the formatter's own field,
+  // or for a text.
+  void setNotificationIdentity(NotificationObject identity) noexcept;
 
   // setTextStyle:  Which characters are accepted; see text_styles.h.
   void setTextStyle(std::int32_t style) noexcept { mTextStyle = style; }
@@ -118,6 +122,8 @@ class PDEFormatter final : public Formatter {
   std::optional<std::vector<std::string>> mInvalidCaracters;  // the platform's spelling
   std::shared_ptr<const CalendarDate> mDate;
   std::shared_ptr<const PropertyList> mLocale;
+
+  NotificationObject mObjectIdentity;  // what observers know the notification object by
 };
 
 }  // namespace cutline

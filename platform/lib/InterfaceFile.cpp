@@ -104,11 +104,16 @@ bool read(const PropertyList& from, const char* key, int* value) {
   return true;
 }
 
-bool read(const PropertyList& from, const char* key, std::optional<std::string>* value) {
-  return !from.objectForKey(key) || read(from, key, &value->emplace());
+bool read(const PropertyList& from, const char* key, PropertyList::Date* value) {
+  const PropertyList* entry = from.objectForKey(key);
+  if (!entry) return true;
+  if (!entry->date()) return false;
+  *value = *entry->date();
+  return true;
 }
 
-bool read(const PropertyList& from, const char* key, std::optional<int>* value) {
+template <typename Value>
+bool read(const PropertyList& from, const char* key, std::optional<Value>* value) {
   return !from.objectForKey(key) || read(from, key, &value->emplace());
 }
 
@@ -156,6 +161,27 @@ bool read(const PropertyList& from, const char* key, std::vector<Element>* eleme
   return true;
 }
 
+bool read(const PropertyList& from, const char* key,
+          std::optional<FormatterDescription::NameLists>* lists) {
+  const PropertyList* entry = from.objectForKey(key);
+  if (!entry) return true;
+  if (!entry->dictionary()) return false;
+  lists->emplace();
+  for (const auto& [name, list] : *entry->dictionary()) {
+    if (!read(*entry, name.c_str(), &(**lists)[name])) return false;
+  }
+  return true;
+}
+
+bool read(const PropertyList& from, std::optional<ObjectDescription>* object) {
+  const PropertyList* entry = from.objectForKey("notificationObject");
+  if (!entry) return true;
+  auto& [outlet, owner, text] = object->emplace();
+  const bool isRead = entry->dictionary() && read(*entry, "outlet", &outlet) &&
+                      read(*entry, "owner", &owner) && read(*entry, "text", &text);
+  return isRead && outlet.has_value() + owner + text.has_value() == 1;
+}
+
 bool read(const PropertyList& from, FormatterDescription* formatter) {
   return from.objectForKey("class") && read(from, "class", &formatter->className) &&
          read(from, "formatString", &formatter->formatString) &&
@@ -163,13 +189,18 @@ bool read(const PropertyList& from, FormatterDescription* formatter) {
          read(from, "maxLength", &formatter->maxLength) &&
          read(from, "minValue", &formatter->minValue) &&
          read(from, "maxValue", &formatter->maxValue) &&
-         read(from, "invalidCharacters", &formatter->invalidCharacters);
+         read(from, "validityMinValue", &formatter->validityMinValue) &&
+         read(from, "validityMaxValue", &formatter->validityMaxValue) &&
+         read(from, "invalidCharacters", &formatter->invalidCharacters) &&
+         read(from, "calendarDate", &formatter->calendarDate) &&
+         read(from, "calendarLocale", &formatter->calendarLocale);
 }
 
 bool readTextInput(const PropertyList& from, ViewDescription* view) {
   const PropertyList* formatter = from.objectForKey("formatter");
   return read(from, "delegate", &view->delegate) && read(from, "class", &view->className) &&
-         (!formatter || read(*formatter, &view->formatter.emplace()));
+         (!formatter || (read(*formatter, &view->formatter.emplace()) &&
+                         read(*formatter, &view->notificationObject)));
 }
 
 bool readTexts(const PropertyList& from, ViewDescription* view) {
@@ -196,6 +227,16 @@ bool hasDistinctOutlets(const ViewDescription& view, std::set<std::string>& seen
   return true;
 }
 
+// An object that isn't there would leave a formatter speaking about itself, in silence.
+bool hasNamedObjects(const ViewDescription& view, const std::set<std::string>& outlets) {
+  const auto& object = view.notificationObject;
+  if (object && object->outlet && !outlets.contains(*object->outlet)) return false;
+  for (const ViewDescription& subview : view.subviews) {
+    if (!hasNamedObjects(subview, outlets)) return false;
+  }
+  return true;
+}
+
 }  // namespace
 
 std::optional<ViewDescription> interfaceInFile(const PropertyList& file) noexcept {
@@ -204,7 +245,7 @@ std::optional<ViewDescription> interfaceInFile(const PropertyList& file) noexcep
   view.resizing = Autoresizing::none;
   if (!top || !readOne(*top, &view)) return std::nullopt;
   std::set<std::string> outlets;
-  if (!hasDistinctOutlets(view, outlets)) return std::nullopt;
+  if (!hasDistinctOutlets(view, outlets) || !hasNamedObjects(view, outlets)) return std::nullopt;
   return view;
 }
 

@@ -19,9 +19,21 @@
 //   `description` (may be absent), integer `tag`
 // - subviews: array of views
 //
-// A formatter's dictionary has a string `class`, which must be there, a string `formatString`, the
-// integers `textStyle`, `maxLength`, `minValue` and `maxValue`, and `invalidCharacters`, an array
-// of strings.
+// A formatter is a dictionary with these entries, of which only `class` must be there:
+//
+// - class: string, the bundle's own class
+// - formatString: string
+// - textStyle, maxLength: integers
+// - minValue, maxValue: integers; a limit that is given is checked
+// - validityMinValue, validityMaxValue: booleans, whether the limit is checked, where that is to
+//   differ from whether it is given
+// - invalidCharacters: array of strings
+// - notificationObject: dictionary, what the formatter's notifications are about in place of the
+//   formatter itself: one entry of `outlet` (string, the view at this outlet of the file), `owner`
+//   (true, the file's owner) or `text` (string)
+// - calendarDate: date, what a style for dates shows, in UTC
+// - calendarLocale: dictionary, the names of months, days and halves of the day: arrays of strings
+//   under the names that CalendarDate reads
 //
 // Entries of other names are ignored.
 #pragma once
@@ -45,6 +57,13 @@ struct ItemDescription {
   std::string description;  // a key of the string table
 };
 
+// Which object of a file is meant; one of the three.
+struct ObjectDescription {
+  std::optional<std::string> outlet;
+  bool owner = false;
+  std::optional<std::string> text;
+};
+
 struct ViewDescription {
   ViewKind kind = ViewKind::view;
   Rect frame;
@@ -52,8 +71,9 @@ struct ViewDescription {
   std::string title;
   std::string accessibilityLabel;
   std::string action;
-  std::string className;  // of a text field; empty for the toolkit's own
-  std::optional<FormatterDescription> formatter;
+  std::string className;                          // of a text field; empty for the toolkit's own
+  std::optional<FormatterDescription> formatter;  // its notification object is still to be found
+  std::optional<ObjectDescription> notificationObject;  // of the formatter
   bool delegate = false;
   std::string ppdKeyword;
   int minValue = 0;

@@ -47,7 +47,13 @@ void logMissingClass(const std::string& className, const std::string& outlet) {
   if (log) log->log("interface file: no class \"" + className + "\" for \"" + outlet + "\"");
 }
 
-// Makes the views of a file, then connects them: an owner never sees half a tree.
+void logMissingObject(const std::string& outlet) {
+  SystemLog* log = currentPlatform().systemLog;
+  if (log) log->log("interface file: no view \"" + outlet + "\" for notifications to be about");
+}
+
+// Makes the views of a file, gives text fields their classes, which may speak of other views, then
+// connects everything: an owner never sees half a tree.
 class InterfaceBuilder {
  public:
   InterfaceBuilder(Toolkit& toolkit, const Bundle& bundle, const InterfaceClasses* classes)
@@ -63,6 +69,17 @@ class InterfaceBuilder {
       if (auto made = build(subview)) view->addSubview(std::move(made));
     }
     return view;
+  }
+
+  void attachClasses(const InterfaceOwner& owner) const {
+    for (const auto& [description, view] : mMade) {
+      auto* field = dynamic_cast<TextField*>(view.get());
+      if (!field) continue;
+      attachFormatter(*field, *description, owner);
+      attachClient(*field, *description);
+      // A text is shown as the formatter has it, so it comes last.
+      field->setStringValue(localized(description->title));
+    }
   }
 
   void connect(InterfaceOwner& owner) const {
@@ -82,8 +99,6 @@ class InterfaceBuilder {
     if (!description.accessibilityLabel.empty()) {
       view.setAccessibilityLabel(localized(description.accessibilityLabel));
     }
-    // A text is shown as the formatter has it, so the formatter comes first.
-    if (auto* field = dynamic_cast<TextField*>(&view)) attachClasses(*field, description);
     fillTitle(view, localized(description.title));
     if (auto* box = dynamic_cast<CheckBox*>(&view)) box->setPPDKeyword(description.ppdKeyword);
     if (auto* stepper = dynamic_cast<Stepper*>(&view)) {
@@ -92,12 +107,29 @@ class InterfaceBuilder {
     if (auto* popUp = dynamic_cast<PopUpButton*>(&view)) addItems(*popUp, description.items);
   }
 
-  void attachClasses(TextField& field, const ViewDescription& description) const {
-    if (description.formatter) {
-      auto made = mClasses ? mClasses->formatter(*description.formatter) : nullptr;
-      if (!made) logMissingClass(description.formatter->className, description.outlet);
-      field.setFormatter(std::move(made));
+  void attachFormatter(TextField& field, const ViewDescription& description,
+                       const InterfaceOwner& owner) const {
+    if (!description.formatter) return;
+    FormatterDescription wanted = *description.formatter;
+    if (description.notificationObject) {
+      wanted.notificationObject = objectOf(*description.notificationObject, owner);
     }
+    auto made = mClasses ? mClasses->formatter(wanted) : nullptr;
+    if (!made) logMissingClass(wanted.className, description.outlet);
+    field.setFormatter(std::move(made));
+  }
+
+  NotificationObject objectOf(const ObjectDescription& object, const InterfaceOwner& owner) const {
+    if (object.text) return *object.text;
+    if (object.owner) return static_cast<const void*>(&owner);
+    for (const auto& [description, view] : mMade) {
+      if (description->outlet == object.outlet) return static_cast<const void*>(view.get());
+    }
+    logMissingObject(object.outlet.value_or(std::string()));
+    return {};
+  }
+
+  void attachClient(TextField& field, const ViewDescription& description) const {
     if (description.className.empty()) return;
     auto client = mClasses ? mClasses->textField(description.className, field) : nullptr;
     if (!client) logMissingClass(description.className, description.outlet);
@@ -107,7 +139,6 @@ class InterfaceBuilder {
   static void fillTitle(View& view, const std::string& title) {
     if (auto* button = dynamic_cast<Button*>(&view)) button->setTitle(title);
     if (auto* label = dynamic_cast<Label*>(&view)) label->setStringValue(title);
-    if (auto* field = dynamic_cast<TextField*>(&view)) field->setStringValue(title);
   }
 
   void addItems(PopUpButton& popUp, const std::vector<ItemDescription>& items) const {
@@ -144,6 +175,7 @@ bool loadInterface(const PropertyList& file, const Bundle& bundle, InterfaceOwne
   if (!toolkit || !description) return false;
   InterfaceBuilder builder(*toolkit, bundle, owner.interfaceClasses());
   if (!builder.build(*description)) return false;
+  builder.attachClasses(owner);
   builder.connect(owner);
   owner.awakeFromNib();
   return true;

@@ -97,6 +97,15 @@ Value dataOf(plist_t node) {
   return bytes ? PropertyList::Data(bytes, bytes + length) : PropertyList::Data();
 }
 
+Value dateOf(plist_t node) {
+  using namespace std::chrono;
+  constexpr sys_days kEpochOfLists = year(2001) / January / 1;
+  std::int32_t wholeSeconds = 0;
+  std::int32_t rest = 0;
+  plist_get_date_val(node, &wholeSeconds, &rest);
+  return kEpochOfLists + seconds(wholeSeconds) + duration_cast<milliseconds>(microseconds(rest));
+}
+
 std::optional<Value> arrayOf(plist_t node, int depth) {
   PropertyList::Array array;
   plist_array_iter created = nullptr;
@@ -148,7 +157,7 @@ std::optional<Value> convert(plist_t node, int depth) {
     case PLIST_DICT:
       return dictionaryOf(node, depth);
     case PLIST_DATE:
-      return Value();
+      return dateOf(node);
     default:
       return std::nullopt;
   }

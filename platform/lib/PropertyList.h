@@ -1,7 +1,8 @@
-// A property list value (strings, numbers, booleans, data, arrays and dictionaries), read from its
-// XML form. A value of our own, so that no caller depends on the parsing library.
+// A property list value (strings, numbers, booleans, data, dates, arrays and dictionaries), read
+// from its XML form. A value of our own, so that no caller depends on the parsing library.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -17,8 +18,9 @@ class PropertyList {
   using Array = std::vector<PropertyList>;
   using Dictionary = std::map<std::string, PropertyList>;
   using Data = std::vector<std::uint8_t>;
-  using Value = std::variant<std::monostate, bool, std::int64_t, double, std::string, Data, Array,
-                             Dictionary>;
+  using Date = std::chrono::sys_time<std::chrono::milliseconds>;
+  using Value = std::variant<std::monostate, bool, std::int64_t, double, std::string, Data, Date,
+                             Array, Dictionary>;
 
   PropertyList() = default;
   explicit PropertyList(Value value) : mValue(std::move(value)) {}
@@ -31,6 +33,7 @@ class PropertyList {
   const Array* array() const noexcept { return std::get_if<Array>(&mValue); }
   const Dictionary* dictionary() const noexcept { return std::get_if<Dictionary>(&mValue); }
   const bool* boolean() const noexcept { return std::get_if<bool>(&mValue); }
+  const Date* date() const noexcept { return std::get_if<Date>(&mValue); }
   // Integers and reals alike.
   std::optional<double> number() const noexcept;
 

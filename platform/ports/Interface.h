@@ -1,6 +1,8 @@
 // What a panel and its bundle give an interface file that is loaded for them.
 #pragma once
 
+#include <chrono>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -19,13 +21,23 @@ class TextFieldClient;
 // The formatter of a text field, as an interface file gives it. What it doesn't say is left to the
 // class.
 struct FormatterDescription {
+  // Names by the calendar's names of their lists, as "NSMonthNameArray".
+  using NameLists = std::map<std::string, std::vector<std::string>>;
+
   std::string className;
   std::optional<std::string> formatString;
   std::optional<int> textStyle;
-  std::optional<int> maxLength;  // bytes of the system's encoding; 0 means no limit
-  std::optional<int> minValue;   // given: the class checks it
-  std::optional<int> maxValue;   // given: the class checks it
+  std::optional<int> maxLength;          // bytes of the system's encoding; 0 means no limit
+  std::optional<int> minValue;           // given: the class checks it, unless told not to
+  std::optional<int> maxValue;           // likewise
+  std::optional<bool> validityMinValue;  // whether the class checks it
+  std::optional<bool> validityMaxValue;  // likewise
   std::vector<std::string> invalidCharacters;
+  // What notifications of the formatter are about: a view or the owner (by the address of its
+  // InterfaceOwner), neither of which it keeps alive, or a text.
+  NotificationObject notificationObject;
+  std::optional<std::chrono::sys_time<std::chrono::milliseconds>> calendarDate;
+  std::optional<NameLists> calendarLocale;
 };
 
 // The classes of a bundle's own that its interface files name. Implemented by the bundle; asked by

@@ -1,13 +1,14 @@
 // The classes that an interface file may name.
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <climits>
 
 #include "bundle/options/OptionPDE13_v400_.h"
 #include "bundle/textinput/PDEFormatter.h"
 #include "bundle/textinput/PDETextField13_v400_.h"
 #include "bundle/textinput/interface_classes.h"
-#include "platform/lib/InterfaceFile.h"
+#include "platform/lib/CalendarDate.h"
 #include "platform/ports/TextField.h"
 #include "tests/bundle/TestPlatform.h"
 
@@ -20,6 +21,10 @@ class InterfaceClassesTest : public testing::Test {
     FormatterDescription description;
     description.className = name;
     return description;
+  }
+  static FormatterDescription::NameLists names(const std::string& key,
+                                               const std::vector<std::string>& list) {
+    return {{key, list}};
   }
   std::shared_ptr<PDEFormatter> made() const {
     return std::dynamic_pointer_cast<PDEFormatter>(bundleInterfaceClasses().formatter(described));
@@ -68,6 +73,39 @@ TEST_F(InterfaceClassesTest, OneLimitLeavesTheOtherUnchecked) {
   described.maxValue = INT_MAX;
   EXPECT_FALSE(made()->isValidityMinValue());
   EXPECT_TRUE(made()->isValidityMaxValue());
+}
+
+TEST_F(InterfaceClassesTest, WhatIsSaidOfTheCheckOfALimitIsMoreThanThatThereIsALimit) {
+  described.minValue = 1;
+  described.validityMinValue = false;
+  described.validityMaxValue = true;
+  const auto formatter = made();
+  EXPECT_EQ(formatter->minValue(), 1);
+  EXPECT_FALSE(formatter->isValidityMinValue());
+  EXPECT_EQ(formatter->maxValue(), 0);
+  EXPECT_TRUE(formatter->isValidityMaxValue());
+}
+
+TEST_F(InterfaceClassesTest, ADateIsShownInItsStyleAndItsLanguage) {
+  using namespace std::chrono;
+  described.calendarDate = sys_days(2026y / May / 1) + 14h;
+  EXPECT_EQ(made()->textStyle(), 5);
+  EXPECT_EQ(made()->formatString(), std::nullopt);
+  EXPECT_EQ(made()->stringForObjectValue("any"), "2026-05-01 14:00:00 +0000");
+  described.formatString = "%e %B, %I %p";
+  described.calendarLocale = names("NSAMPMDesignation", {"vorm.", "nachm."});
+  EXPECT_EQ(made()->stringForObjectValue("any"), "1 May, 02 nachm.");
+}
+
+TEST_F(InterfaceClassesTest, ALocaleWithoutADateIsKeptForOne) {
+  described.textStyle = 5;
+  described.calendarLocale = names("NSMonthNameArray", {"Januar"});
+  const auto formatter = made();
+  EXPECT_EQ(formatter->formatString(), "%@");
+  EXPECT_EQ(formatter->stringForObjectValue("any"), "any");
+  formatter->setFormatString("%B");
+  formatter->setCalendarDate(std::make_shared<CalendarDate>(CalendarDate::Moment()));
+  EXPECT_EQ(formatter->stringForObjectValue("any"), "Januar");
 }
 
 TEST_F(InterfaceClassesTest, EachFormatterIsItsOwn) { EXPECT_NE(made(), made()); }

@@ -90,6 +90,38 @@ TEST_F(TextInputInterface, WhatIsThereMayAlwaysBeDeleted) {
   EXPECT_TRUE(posted.empty());
 }
 
+class NotificationObjectsOfAFile : public TextInputInterface {
+ protected:
+  // What is heard when the formatter, whose notifications are about that, refuses a number.
+  NotificationObject heard(const std::string& object) {
+    load(R"(<key>outlet</key><string>mNumber</string><key>formatter</key><dict>
+      <key>class</key><string>PDEFormatter</string><key>textStyle</key><integer>2</integer>
+      <key>maxValue</key><integer>9</integer><key>notificationObject</key><dict>)" +
+         object + "</dict></dict>");
+    field->typeText("10");
+    EXPECT_EQ(lastName(), "FormatErrorNotification");
+    return lastObject();
+  }
+};
+
+TEST_F(NotificationObjectsOfAFile, AreHeardByWhoeverObservesThem) {
+  const auto panelView = heard("<key>outlet</key><string>kPDEView</string>");
+  EXPECT_EQ(panelView, NotificationObject(static_cast<const void*>(panel.kPDEView.get())));
+  const auto fieldItself = heard("<key>outlet</key><string>mNumber</string>");
+  const View* view = field.get();
+  EXPECT_EQ(fieldItself, NotificationObject(static_cast<const void*>(view)));
+  const InterfaceOwner* owner = &panel;
+  EXPECT_EQ(heard("<key>owner</key><true/>"), NotificationObject(static_cast<const void*>(owner)));
+  EXPECT_EQ(heard("<key>text</key><string>number</string>"),
+            NotificationObject(std::string("number")));
+}
+
+TEST_F(NotificationObjectsOfAFile, GiveWayToAForbiddenCharacter) {
+  heard("<key>text</key><string>number</string>");
+  field->typeText("ä\u0416");
+  EXPECT_EQ(lastObject(), characterAsObject("\u0416"));
+}
+
 class ReportingField : public TextInputInterface {
  protected:
   ReportingField() {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <string>
 
 #include "platform/lib/InterfaceFile.h"
@@ -96,6 +97,54 @@ TEST(InterfaceFile, ReadsTheClassesOfATextField) {
   EXPECT_EQ(view->formatter->invalidCharacters, (std::vector<std::string>{"a", ""}));
 }
 
+TEST(InterfaceFile, ReadsWhetherLimitsAreChecked) {
+  const auto view = interfaceWith(
+      formatter(text("class", "F") + entry("minValue", "<integer>1</integer>") +
+                entry("validityMinValue", "<false/>") + entry("validityMaxValue", "<true/>")));
+  ASSERT_TRUE(view && view->formatter);
+  EXPECT_EQ(view->formatter->validityMinValue, false);
+  EXPECT_EQ(view->formatter->validityMaxValue, true);
+  EXPECT_EQ(view->formatter->minValue, 1);
+  EXPECT_FALSE(view->formatter->maxValue);
+}
+
+TEST(InterfaceFile, ReadsTheDateOfAFormatterAndItsNames) {
+  using namespace std::chrono;
+  const auto view = interfaceWith(
+      formatter(text("class", "F") + entry("calendarDate", "<date>2026-05-01T08:00:00Z</date>") +
+                entry("calendarLocale",
+                      "<dict><key>NSAMPMDesignation</key><array><string>vorm.</string>"
+                      "<string>nachm.</string></array></dict>")));
+  ASSERT_TRUE(view && view->formatter);
+  EXPECT_EQ(view->formatter->calendarDate, sys_days(2026y / May / 1) + 8h);
+  const FormatterDescription::NameLists names = {{"NSAMPMDesignation", {"vorm.", "nachm."}}};
+  EXPECT_EQ(view->formatter->calendarLocale, names);
+}
+
+std::string about(const std::string& entries) {
+  return formatter(text("class", "F") +
+                   entry("notificationObject", "<dict>" + entries + "</dict>"));
+}
+
+TEST(InterfaceFile, ReadsWhatNotificationsOfAFormatterAreAbout) {
+  const auto ofOutlet = interfaceWith(about(text("outlet", "mField")) + text("outlet", "mField"));
+  ASSERT_TRUE(ofOutlet && ofOutlet->notificationObject);
+  EXPECT_EQ(ofOutlet->notificationObject->outlet, "mField");
+  const auto ofOwner = interfaceWith(about(entry("owner", "<true/>")));
+  ASSERT_TRUE(ofOwner && ofOwner->notificationObject);
+  EXPECT_TRUE(ofOwner->notificationObject->owner);
+  const auto ofText = interfaceWith(about(text("text", "")));
+  ASSERT_TRUE(ofText && ofText->notificationObject);
+  EXPECT_EQ(ofText->notificationObject->text, "");
+}
+
+TEST(InterfaceFile, AnOutletThatNotificationsAreAboutMayComeLaterInTheFile) {
+  const std::string label = text("kind", "Label") + text("frame", "{{0, 0}, {1, 1}}");
+  const std::string subviews = "<array><dict>" + about(text("outlet", "mLabel")) + "</dict><dict>" +
+                               label + text("outlet", "mLabel") + "</dict></array>";
+  EXPECT_TRUE(interfaceWith(kPlain + entry("subviews", subviews)));
+}
+
 TEST(InterfaceFile, SaysNothingOfAFormatterThatTheFileDoesNotSay) {
   const auto view = interfaceWith(formatter(text("class", "PDEFormatter")));
   ASSERT_TRUE(view && view->formatter);
@@ -104,6 +153,11 @@ TEST(InterfaceFile, SaysNothingOfAFormatterThatTheFileDoesNotSay) {
   EXPECT_FALSE(view->formatter->maxLength);
   EXPECT_FALSE(view->formatter->minValue);
   EXPECT_FALSE(view->formatter->maxValue);
+  EXPECT_FALSE(view->formatter->validityMinValue);
+  EXPECT_FALSE(view->formatter->validityMaxValue);
+  EXPECT_FALSE(view->formatter->calendarDate);
+  EXPECT_FALSE(view->formatter->calendarLocale);
+  EXPECT_FALSE(view->notificationObject);
   EXPECT_TRUE(view->formatter->invalidCharacters.empty());
   EXPECT_EQ(view->className, "");
   EXPECT_FALSE(interfaceWith(kField)->formatter);
@@ -202,6 +256,22 @@ INSTANTIATE_TEST_SUITE_P(
         BadRow{"InvalidCharacterIsANumber",
                formatter(text("class", "F") +
                          entry("invalidCharacters", "<array><integer>1</integer></array>"))},
+        BadRow{"ValidityIsANumber",
+               formatter(text("class", "F") + entry("validityMinValue", "<integer>1</integer>"))},
+        BadRow{"NotificationObjectIsText",
+               formatter(text("class", "F") + text("notificationObject", "mField"))},
+        BadRow{"NotificationObjectIsNothing", about("")},
+        BadRow{"NotificationObjectIsNotTheOwner", about(entry("owner", "<false/>"))},
+        BadRow{"NotificationObjectsAreTwo", about(text("text", "a") + entry("owner", "<true/>"))},
+        BadRow{"NotificationOutletIsANumber", about(entry("outlet", "<integer>1</integer>"))},
+        BadRow{"NotificationOutletIsNowhere", about(text("outlet", "mField"))},
+        BadRow{"DateIsText", formatter(text("class", "F") + text("calendarDate", "2026-05-01"))},
+        BadRow{"LocaleIsAnArray",
+               formatter(text("class", "F") + entry("calendarLocale", "<array/>"))},
+        BadRow{"NamesAreText",
+               formatter(text("class", "F") +
+                         entry("calendarLocale",
+                               "<dict>" + text("NSMonthNameArray", "May") + "</dict>"))},
         BadRow{"OutletTwice",
                kPlain + text("outlet", "mBox") +
                    entry("subviews",

@@ -271,6 +271,7 @@ class FewClasses : public InterfaceClasses {
   std::shared_ptr<Formatter> formatter(
       const FormatterDescription& description) const noexcept override {
     asked.push_back(description.className + " " + std::to_string(*description.maxLength));
+    object = description.notificationObject;
     return made;
   }
   std::shared_ptr<TextFieldClient> textField(const std::string& className,
@@ -283,6 +284,7 @@ class FewClasses : public InterfaceClasses {
   bool knowsFields = true;
   mutable std::vector<std::string> asked;
   mutable std::vector<std::string> events;
+  mutable NotificationObject object;  // of the formatter that was asked for last
 };
 
 class InterfaceClassesTest : public InterfaceLoaderTest {
@@ -309,6 +311,67 @@ TEST_F(InterfaceClassesTest, AreInPlaceBeforeTheText) {
             (std::vector<std::string>{"become", "change NSTextDidChangeNotification"}));
   EXPECT_EQ(classes.made->asked.size(), 1U);
   EXPECT_TRUE(log.messages().empty());
+}
+
+// A panel of a field and, behind it, a stepper; the field's formatter speaks about that object.
+class NotificationObjectsOfAFile : public InterfaceClassesTest {
+ protected:
+  bool loadAbout(const std::string& object, Toolkit& with) {
+    bundle.writePropertyList("Resources/Panel.plist", R"(<dict><key>view</key><dict>
+      <key>kind</key><string>View</string>
+      <key>outlet</key><string>kView</string>
+      <key>frame</key><string>{{0, 0}, {300, 200}}</string>
+      <key>subviews</key><array>
+        <dict>
+          <key>kind</key><string>TextField</string>
+          <key>outlet</key><string>mField</string>
+          <key>frame</key><string>{{36, 120}, {52, 22}}</string>
+          <key>formatter</key><dict>
+            <key>class</key><string>OwnFormatter</string>
+            <key>maxLength</key><integer>3</integer>
+            <key>notificationObject</key><dict>)" + object +
+                                                          R"(</dict>
+          </dict>
+        </dict>
+        <dict>
+          <key>kind</key><string>Stepper</string>
+          <key>outlet</key><string>mStepper</string>
+          <key>frame</key><string>{{92, 120}, {22, 24}}</string>
+        </dict>
+      </array></dict></dict>)");
+    classes.made = std::make_shared<RecordingFormatter>();
+    return load(with);
+  }
+  NotificationObject viewAt(const std::string& outlet) const {
+    return static_cast<const void*>(owner.outlet<View>(outlet));
+  }
+};
+
+TEST_F(NotificationObjectsOfAFile, AreViewsOfTheFile) {
+  for (const std::string outlet : {"kView", "mField", "mStepper"}) {
+    ASSERT_TRUE(loadAbout("<key>outlet</key><string>" + outlet + "</string>", toolkit));
+    EXPECT_EQ(classes.object, viewAt(outlet)) << outlet;
+  }
+  EXPECT_TRUE(log.messages().empty());
+}
+
+TEST_F(NotificationObjectsOfAFile, AreTheOwnerOrATextOrNothing) {
+  ASSERT_TRUE(loadAbout("<key>owner</key><true/>", toolkit));
+  const InterfaceOwner* panel = &owner;
+  EXPECT_EQ(classes.object, NotificationObject(static_cast<const void*>(panel)));
+  ASSERT_TRUE(loadAbout("<key>text</key><string>tape</string>", toolkit));
+  EXPECT_EQ(classes.object, NotificationObject(std::string("tape")));
+  bundle.writePropertyList("Resources/Panel.plist", kFieldWithClasses);
+  ASSERT_TRUE(load(toolkit));
+  EXPECT_EQ(classes.object, NotificationObject());
+}
+
+TEST_F(NotificationObjectsOfAFile, ThatTheToolkitCannotMakeAreNamedInTheLog) {
+  PoorToolkit poor;
+  ASSERT_TRUE(loadAbout("<key>outlet</key><string>mStepper</string>", poor));
+  EXPECT_EQ(classes.object, NotificationObject());
+  EXPECT_EQ(log.messages(), std::vector<std::string>{"interface file: no view \"mStepper\" for "
+                                                     "notifications to be about"});
 }
 
 TEST_F(InterfaceClassesTest, ThatTheBundleLacksLeaveTheToolkitsOwnAndALineInTheLog) {

@@ -77,13 +77,19 @@ TEST(PropertyList, AnswersNullForAMissingEntryAndForNoDictionary) {
   EXPECT_EQ(PropertyList().objectForKey("view"), nullptr);
 }
 
-TEST(PropertyList, ADateHasNoValueButDoesNotSpoilItsNeighbours) {
+TEST(PropertyList, ReadsDates) {
+  using namespace std::chrono;
   const auto list = parseValue(
-      "<dict><key>made</key><date>2020-01-01T00:00:00Z</date><key>name</key><string>x</string>"
-      "</dict>");
-  ASSERT_TRUE(list);
-  EXPECT_FALSE(list->objectForKey("made")->string());
-  EXPECT_EQ(*list->objectForKey("name")->string(), "x");
+      "<array><date>2020-02-29T12:34:56Z</date><date>2001-01-01T00:00:00Z</date>"
+      "<date>1999-12-31T23:59:59Z</date><string>2020-02-29T12:34:56Z</string></array>");
+  ASSERT_TRUE(list && list->array());
+  const auto& dates = *list->array();
+  ASSERT_EQ(dates.size(), 4U);
+  EXPECT_EQ(*dates[0].date(), sys_days(2020y / February / 29) + 12h + 34min + 56s);
+  EXPECT_EQ(*dates[1].date(), sys_days(2001y / January / 1));
+  EXPECT_EQ(*dates[2].date(), sys_days(2000y / January / 1) - 1s);
+  EXPECT_FALSE(dates[0].string());
+  EXPECT_FALSE(dates[3].date());
 }
 
 const std::string kLabel = "<plist><string>B\xC3\xA4nder</string></plist>";
