@@ -35,7 +35,8 @@ class PrintDialogPlugIn {
       const std::shared_ptr<PDEPluginCallback13_v400_>& hostInfo) noexcept = 0;
 };
 
-// Changes whenever any header of platform/ changes what a bundle was compiled against.
+// Changes whenever a header of platform/ports/ changes what a bundle was compiled against;
+// scripts/port-hash notices.
 inline constexpr std::uint32_t kPlugInAbiVersion = 3;
 
 // A bundle exports one C function `const PrincipalClassEntry*()` for each principal class, named

@@ -3,8 +3,7 @@
 
 #include <filesystem>
 
-#include "tests/support/Command.h"
-#include "tests/support/TemporaryFolder.h"
+#include "tests/scripts/TreeCopy.h"
 
 namespace cutline::test {
 namespace {
@@ -12,16 +11,13 @@ namespace {
 constexpr char kFolders[] =
     "base platform bundle plain qt cups host samples bench tests docs scripts";
 
-// A copy of the sources, made once: the check reads them and changes nothing.
-const TemporaryFolder& tree() {
-  static const TemporaryFolder folder;
-  static const CommandResult copied =
-      run("cd " + quoted(source("")) + " && cp -r " + kFolders + ' ' + quoted(folder.path()));
-  EXPECT_EQ(copied.status, 0) << copied.errors;
-  return folder;
+// Made once: the check reads it and changes nothing.
+const TreeCopy& tree() {
+  static const TreeCopy copy(kFolders);
+  return copy;
 }
 
-CommandResult check() { return run(tree() / "scripts/check-layers"); }
+CommandResult check() { return tree().run("scripts/check-layers"); }
 
 TEST(Layers, AreKeptByTheTreeAsItIs) {
   const CommandResult result = check();
@@ -34,6 +30,10 @@ struct Forbidden {
   const char* file;
   const char* header;  // as it is included
   const char* complaint;
+
+  friend std::ostream& operator<<(std::ostream& out, const Forbidden& row) {
+    return out << row.header << " in " << row.file;
+  }
 };
 
 // A file of the copy that goes with the test.
@@ -104,7 +104,7 @@ TEST(Layers, AreThoseOfThePicture) {
   const CommandResult changed = run("sed -i 's/controls in memory/controls somewhere/' " +
                                     quoted(tree() / "scripts/layers.txt"));
   const CommandResult different = check();
-  const CommandResult drawn = run(tree() / "scripts/check-layers --write-picture");
+  const CommandResult drawn = tree().run("scripts/check-layers --write-picture");
   const CommandResult same = check();
   EXPECT_EQ(changed.status, 0);
   EXPECT_EQ(different.status, 1);
