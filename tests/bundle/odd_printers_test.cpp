@@ -82,8 +82,10 @@ TEST_F(OddPrinters, ASingleChoiceIsSentWhateverIsClicked) {
     EXPECT_EQ(sent("LxCutLabel") + sent("LxHalfCut") + sent("LxMirror"), "1OFFON");
     EXPECT_EQ(box(OptionId::halfCut)->state(), CheckBox::kOff);
     EXPECT_EQ(box(OptionId::mirror)->state(), CheckBox::kOff) << "the first choice is its place";
+    callback->marks.clear();
     click(OptionId::halfCut);
     click(OptionId::mirror);
+    EXPECT_TRUE(callback->marks.empty());
     save();
   }
   EXPECT_EQ(sent("LxAutoTapeCut"), "") << "the printer has no such option";

@@ -1,9 +1,7 @@
 // The order in which the PPD is asked and the boxes are read.
-#include <map>
-
-#include "plain/PlainButton.h"
 #include "tests/bundle/PanelTest.h"
 #include "tests/bundle/PpdQueries.h"
+#include "tests/bundle/ToldBox.h"
 
 namespace cutline::test {
 namespace {
@@ -77,26 +75,6 @@ TEST_F(QueryOrder, BeforePrintingEachOptionIsAskedInTheCanonicalOrder) {
   makePanel(allNine());
   EXPECT_EQ(asked([&] { panel->shouldPrint(); }), each("marked", nineKeywords()));
 }
-
-// A box that tells when its state is read.
-class ToldBox final : public virtual CheckBox, public PlainButton {
- public:
-  ToldBox(std::string name, Questions& reads)
-      : PlainButton({}, std::make_shared<PlainActions>()), mName(std::move(name)), mReads(reads) {}
-
-  int state() const noexcept override {
-    mReads.push_back(mName);
-    return mState;
-  }
-  void setState(int state) noexcept override { mState = state; }
-  std::string ppdKeyword() const noexcept override { return {}; }
-  void setPPDKeyword(const std::string& /*keyword*/) noexcept override {}
-
- private:
-  std::string mName;
-  Questions& mReads;
-  int mState = kOff;
-};
 
 class BoxOrder : public testing::Test {
  protected:
