@@ -104,8 +104,9 @@ bool QtFieldEditor::event(QEvent* event) {
   }
 }
 
-// QLineEdit counts characters among those that are composed, so composing ends before a key that
-// the input method has left to the line.
+// QLineEdit counts characters among those that are composed (Qt 6.4.2: Delete while a composition
+// has taken the selection's place takes the character behind it away, too), so composing ends
+// before a key that the input method has left to the line.
 bool QtFieldEditor::handleKey(QKeyEvent& event) {
   if (!isModifier(event)) commitComposition();
   const bool isUndo = event.matches(QKeySequence::Undo);
@@ -152,8 +153,9 @@ bool QtFieldEditor::passToLine(QEvent& event) {
   return handled;
 }
 
-// QLineEdit moves the caret with the drag. The selection that counts is the one from before, which
-// comes back unless the drop is taken.
+// QLineEdit moves the caret with the drag, and in Qt 6.4.2 leaves it there without the selection
+// when the drag only passes by. The selection that counts is the one from before, which comes back
+// unless the drop is taken.
 bool QtFieldEditor::handleDrag(QEvent& event) {
   const bool handled = passToLine(event);
   mDragging = event.type() == QEvent::DragEnter && event.isAccepted();
@@ -201,7 +203,8 @@ void QtFieldEditor::show(const EditedText& state) {
   --mDepth;
 }
 
-// QLineEdit's own menu, with its history replaced.
+// QLineEdit's own menu, with its history replaced. The actions of Qt 6.4.2 have no names to find
+// them by: undo and redo are the first two.
 void QtFieldEditor::contextMenuEvent(QContextMenuEvent* event) {
   QMenu* const menu = createStandardContextMenu();
   if (!menu) return;

@@ -2,7 +2,7 @@
 // it counts. QLineEdit has many ways in (keys, input methods, the clipboard, drops, its menu,
 // assistive technology) and no say in most of them, so the editor looks at what each event has made
 // of the line, and puts the line back when its delegate refuses that. Its history is its own, for
-// QLineEdit's forgets what could be redone when an edit is taken back.
+// QLineEdit's (Qt 6.4.2) is lost when the line is put back with setText.
 #pragma once
 
 #include <QLineEdit>
@@ -23,8 +23,9 @@ class QtFieldEditor : public QLineEdit {
     virtual void didChange() noexcept = 0;
     // The line has got the keyboard.
     virtual void didTakeFocus() noexcept = 0;
-    // Return was pressed, or the line has lost the keyboard. (QLineEdit tells of the latter only
-    // after edits that it knows for edits.)
+    // Return was pressed, or the line has lost the keyboard. (In Qt 6.4.2
+    // QLineEdit::editingFinished tells of the latter only after edits that QLineEdit knows for
+    // edits.)
     virtual void didEndEditing() noexcept = 0;
   };
 

@@ -7,8 +7,8 @@
 
 namespace cutline {
 
-// Composing is no edit yet: QLineEdit takes the selection away at the start, but what counts is
-// what the input method commits.
+// Composing is no edit yet: QLineEdit (Qt 6.4.2) takes the selection away at the start and
+// tells of a change, but what counts is what the input method commits.
 bool QtFieldEditor::handleComposition(QInputMethodEvent& event) {
   const bool wasComposing = mComposing;
   const bool handled = passToLine(event);

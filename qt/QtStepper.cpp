@@ -80,7 +80,7 @@ void QtStepper::setIntValue(int value) noexcept {
   widget()->setValue(mValue);
 }
 
-// Assistive technology steps a greyed widget, too.
+// Through assistive technology Qt 6.4.2 steps a greyed spin box, too.
 void QtStepper::userDidStep(int value) noexcept {
   if (!widget()->isEnabled()) return setIntValue(mValue);
   mValue = value;

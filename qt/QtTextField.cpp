@@ -74,7 +74,7 @@ void QtTextField::setTextDidChange(std::function<void()> handler) noexcept {
   mTextDidChange = std::move(handler);
 }
 
-// Assistive technology reaches a greyed line, too.
+// Through assistive technology Qt 6.4.2 changes the text of a greyed line, too.
 bool QtTextField::mayChange(const EditProposal& edit) noexcept {
   if (!widget()->isEnabled()) return false;
   const auto formatter = mFormatter;
@@ -102,7 +102,8 @@ void QtTextField::tellOfChange() noexcept {
   call.client->textDidChange(notification(kTextDidChange));
 }
 
-// Qt has put the keyboard here already: a client that doesn't want it can only give it away again.
+// Qt (6.4.2) asks nobody before it puts the keyboard here: a client that doesn't want it can only
+// give it away again.
 void QtTextField::didTakeFocus() noexcept {
   if (mTakingFocus || !mClient) return;
   const ClientCall call(*this);

@@ -14,8 +14,8 @@ QtWindowWatcher::QtWindowWatcher(QtViewCore& view) : mView(view) {
 
 bool QtWindowWatcher::eventFilter(QObject* watched, QEvent* event) {
   const QEvent::Type type = event->type();
-  // A widget gets no word when a parent of its parent moves to another window, but it is shown
-  // anew there.
+  // In Qt 6.4.2 a widget gets no word when a parent of its parent moves to another window, but it
+  // is shown anew there.
   if (watched == mView.widget() && (type == QEvent::Show || type == QEvent::ParentChange)) {
     watchWindow();
   }

@@ -110,7 +110,8 @@ void QtViewCore::showAsFlagged() noexcept {
     mWidget->setVisible(!mHidden);
     return;
   }
-  // Showing a widget without parent would open a window: the host's window shows it later.
+  // Showing a widget without parent would open a window: the host's window shows it later. In Qt
+  // 6.4.2 one that was hidden by itself before would stay hidden there, but for this attribute.
   mWidget->setAttribute(Qt::WA_WState_ExplicitShowHide, false);
 }
 

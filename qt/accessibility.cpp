@@ -56,9 +56,15 @@ AccessibleComboBox::AccessibleComboBox(QComboBox& box)
     : QAccessibleWidget(&box, QAccessible::ComboBox), mBox(box) {}
 
 QString AccessibleComboBox::text(QAccessible::Text kind) const {
-  const bool isEntry = kind == QAccessible::Name || kind == QAccessible::Value;
-  const QString entry = isEntry ? mBox.currentText() : QString();
+  if (kind == QAccessible::Value) return value();
+  const QString entry = kind == QAccessible::Name ? mBox.currentText() : QString();
   return entry.isEmpty() ? QAccessibleWidget::text(kind) : entry;
+}
+
+QString AccessibleComboBox::value() const {
+  if (mBox.currentIndex() < 0) return mBox.placeholderText();
+  const QString entry = mBox.currentText();
+  return entry.isEmpty() ? mBox.currentData(Qt::AccessibleTextRole).toString() : entry;
 }
 
 QAccessible::State AccessibleComboBox::state() const {

@@ -21,12 +21,14 @@ void makeAccessible();
 // before anybody has asked for the widget: Qt asks once. Name and description are the widget's own.
 void setAccessibleRole(QWidget& widget, QAccessible::Role role);
 
-// QWidget's setters announce a change even where nothing has changed; these do not.
+// QWidget's setters in Qt 6.4.2 announce a change even where nothing has changed, and a screen
+// reader says the words again; these do not.
 void tellAccessibleName(QWidget& widget, const QString& name);
 void tellAccessibleDescription(QWidget& widget, const QString& description);
 
-// A check box as assistive technology has it. Unlike Qt's own it is ticked as by a click, so that
-// whoever listens to the user's clicks hears of it.
+// A check box as assistive technology has it. Qt 6.4.2's own is ticked without a click, so that
+// whoever listens to the user's clicks does not hear of it, and says of a mixed box that it is
+// checked as well.
 class AccessibleCheckBox : public QAccessibleWidget {
  public:
   explicit AccessibleCheckBox(QCheckBox& box);
@@ -42,15 +44,17 @@ class AccessibleCheckBox : public QAccessibleWidget {
   QCheckBox& mBox;
 };
 
-// A list to choose from as assistive technology has it. Unlike Qt's own it can be given the
-// keyboard, and an entry can be chosen without one.
+// A list to choose from as assistive technology has it. Qt 6.4.2's own can only be opened, even
+// when it is greyed: it is not given the keyboard, no entry is chosen without one, and the opened
+// list has no name.
 class AccessibleComboBox : public QAccessibleWidget {
  public:
   // For boxes that are not edited.
   explicit AccessibleComboBox(QComboBox& box);
 
   // The name is the current entry; what the list is for says its label. An entry without a text is
-  // named by the widget's own accessible name.
+  // named by the widget's own accessible name. The value is the entry's text, or in place of an
+  // empty one its words, or without an entry what the box shows instead.
   QString text(QAccessible::Text kind) const override;
   QAccessible::State state() const override;
 
@@ -64,6 +68,8 @@ class AccessibleComboBox : public QAccessibleWidget {
   void doAction(const QString& name) override;
 
  private:
+  QString value() const;
+
   QComboBox& mBox;
 };
 

@@ -23,7 +23,8 @@ struct ScriptName {
 constexpr std::array kScriptNames =
     std::to_array<ScriptName>({{"zh-Hans", "zh_CN"}, {"zh-Hant", "zh_TW"}});
 
-// Where the toolkit knows a language by one of its countries only.
+// Where Qt knows a language by one of its countries only: 6.4.2 has Portuguese as Brazil writes it,
+// and without this row the few texts of its own stay English beside Portuguese ones.
 constexpr std::array kToolkitNames = std::to_array<ScriptName>({{"pt", "pt_BR"}});
 
 QString english() { return QStringLiteral("en"); }

@@ -21,8 +21,9 @@ struct DialogLanguage {
 DialogLanguage chooseLanguage(const std::vector<std::string>& names, const QString& directory);
 
 // Has fontconfig choose fonts for this language: Han characters are drawn differently in Chinese,
-// Japanese and Korean. Before the application is made, and before any thread is started, because it
-// changes the environment. A choice of the user's own (FC_LANG) is left alone.
+// Japanese and Korean, and Qt 6.4.2 leaves the language to fontconfig, which knows the
+// environment's locale only. Before the application is made, and before any thread is started,
+// because it changes the environment. A choice of the user's own (FC_LANG) is left alone.
 void preferFontsFor(const DialogLanguage& language);
 
 // The program speaks the language as long as this lives.

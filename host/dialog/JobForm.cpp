@@ -41,7 +41,7 @@ JobForm::JobForm(QWidget* parent)
   mPaperCaption->setBuddy(mPapers);
   layOut();
   connect(mCopies, &QSpinBox::valueChanged, this, &JobForm::copiesChosen);
-  // Not textEdited, which says nothing of what assistive technology types.
+  // Not textEdited, which in Qt 6.4.2 says nothing of what assistive technology types.
   connect(mPages, &QLineEdit::textChanged, this, &JobForm::pagesEdited);
   connect(mPages, &QLineEdit::editingFinished, this, [this] { emit pagesFinished(pages()); });
   connect(mPapers, &QComboBox::activated, this,

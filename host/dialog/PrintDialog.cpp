@@ -80,8 +80,8 @@ PrintDialog::PrintDialog(PrintModel& model, std::shared_ptr<PrintServer> server,
   mModel.setListener(this);
 }
 
-// The widgets outlive this part of the dialog by a moment, and one that loses the focus then still
-// reports what was typed into it.
+// The widgets outlive this part of the dialog by a moment, and in Qt 6.4.2 one that loses the focus
+// then still reports what was typed into it, to a dialog that is half gone.
 PrintDialog::~PrintDialog() {
   for (QObject* child : findChildren<QObject*>()) child->disconnect(this);
   mModel.setListener(nullptr);

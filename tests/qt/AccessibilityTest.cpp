@@ -115,6 +115,7 @@ TEST_F(AccessibleCheckBoxTest, AGreyedBoxOffersAndTakesNothing) {
 
 TEST_F(AccessibleCheckBoxTest, TakesTheKeyboard) {
   show();
+  giveKeyboardElsewhere();
   spoken().actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
   EXPECT_TRUE(widget->hasFocus());
   EXPECT_TRUE(spoken().state().focused);
@@ -183,6 +184,7 @@ TEST_F(AccessibleComboBoxTest, OpensItsList) {
 
 TEST_F(AccessibleComboBoxTest, TakesTheKeyboard) {
   show();
+  giveKeyboardElsewhere();
   perform(Action::setFocusAction());
   EXPECT_TRUE(box->hasFocus());
 }

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QLineEdit>
 #include <QString>
 #include <QTemporaryDir>
 #include <QTest>
@@ -44,6 +45,15 @@ class QtPanelFixture : public testing::Test {
     window->show();
     window->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  }
+
+  // To another widget of the window.
+  void giveKeyboardElsewhere() {
+    auto* const other = new QLineEdit(window.get());
+    window->layout()->addWidget(other);
+    other->show();
+    other->setFocus();
+    ASSERT_TRUE(other->hasFocus());
   }
 
   // Adds the control to the panel and answers its widget.

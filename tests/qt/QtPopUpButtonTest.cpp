@@ -261,6 +261,31 @@ TEST_F(QtPopUpButtonTest, WithNothingSelectedItShowsAndSaysThePlaceholder) {
   EXPECT_EQ(spokenName(), "Preset: Half cut");
 }
 
+TEST_F(QtPopUpButtonTest, AssistiveTechnologyHearsTheEntryAsTheValue) {
+  const auto value = [&] {
+    return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Value).toStdString();
+  };
+  clearTitles();
+  popUp->selectItemWithTag(6);
+  EXPECT_EQ(value(), "Half cut");
+  popUp->setPlaceholder("Something else");
+  popUp->deselect();
+  EXPECT_EQ(value(), "Something else");
+}
+
+TEST_F(QtPopUpButtonTest, FromNothingSelectedTheKeyboardGetsToTheFirstEntry) {
+  popUp->deselect();
+  show();
+  widget->setFocus();
+  QTest::keyClick(widget, Qt::Key_Up);
+  EXPECT_EQ(popUp->selectedTag(), 0);
+  EXPECT_TRUE(events.empty());
+  QTest::keyClick(widget, Qt::Key_Down);
+  EXPECT_EQ(widget->currentIndex(), 0);
+  EXPECT_EQ(popUp->selectedTag(), popUp->items().front().tag);
+  EXPECT_EQ(events, (Events{"action", "observer"}));
+}
+
 TEST_F(QtPopUpButtonTest, AnEntryIsReplacedInItsPlace) {
   popUp->selectItemWithTag(6);
   popUp->setItem(1, {"", 6, pictures.addPlain("red.svg", "#ff0000"), "Cut, too"});

@@ -54,7 +54,7 @@ TEST_F(QtWindowWatcherTest, RootDeepInTheWindowReportsToo) {
 }
 
 TEST_F(QtWindowWatcherTest, FollowsItsParentIntoAnotherWindow) {
-  auto* const middle = new QWidget;
+  auto* const middle = new QWidget(window.get());
   (new QVBoxLayout(middle))->addWidget(QtToolkit::widgetOf(*root));
   window->layout()->addWidget(middle);
   show();
