@@ -15,6 +15,9 @@ namespace {
 constexpr std::array<std::string_view, 4> kSettledElsewhere = {"media", "PageRegion", "copies",
                                                                "page-ranges"};
 
+// Before the keyword of an option, in a preset: its value is what was wanted.
+constexpr std::string_view kWantedPrefix = "cutline-wanted-";
+
 bool isSettledElsewhere(const std::string& name) {
   return std::find(kSettledElsewhere.begin(), kSettledElsewhere.end(), name) !=
          kSettledElsewhere.end();
@@ -59,6 +62,23 @@ OptionList jobOptions(const OpenPrinter& printer) {
   addMarked(options, printer, "PageSize");
   addOthers(options, printer);
   addBesidePpd(options, printer);
+  return options;
+}
+
+OptionList presetOptions(const OpenPrinter& printer) {
+  OptionList options = jobOptions(printer);
+  for (const auto& [keyword, choice] : printer.wanted().all())
+    if (printer.ppd().markedChoice(keyword) != choice)
+      options.emplace_back(std::string(kWantedPrefix) + keyword, choice);
+  return options;
+}
+
+OptionList withWishes(const OptionList& preset) {
+  OptionList options;
+  for (const auto& option : preset)
+    if (!option.first.starts_with(kWantedPrefix)) options.push_back(option);
+  for (const auto& [name, value] : preset)
+    if (name.starts_with(kWantedPrefix)) set(options, name.substr(kWantedPrefix.size()), value);
   return options;
 }
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "host/core/CutRules.h"
+#include "host/core/JobOptions.h"
 #include "platform/ports/Controls.h"
 #include "platform/ports/NotificationCenter.h"
 #include "platform/ports/Platform.h"
@@ -12,16 +14,14 @@ namespace cutline {
 namespace {
 
 constexpr char kPaperDidChange[] = "PMPrintDestinationPaperDidChangeNotification";
-// A click can move another box at most once (special tape frees the boxes it held), so this is more
-// than the panels need.
-constexpr int kMaxSettlingRounds = 4;
 
 NotificationCenter& notificationCenter() {
   NotificationCenter* own = currentPlatform().notificationCenter;
   return own != nullptr ? *own : NotificationCenter::defaultCenter();
 }
 
-bool isOperable(const CheckBox& box) { return !box.isHidden() && box.isEnabled(); }
+// The state of a box whose option has this choice: the first one is off.
+int stateFor(int position) { return position > 0 ? CheckBox::kOn : CheckBox::kOff; }
 
 }  // namespace
 
@@ -31,8 +31,9 @@ OpenPrinter::OpenPrinter(PrinterChoice choice, PanelSource& source, const Option
       mOptions(*mChoice.ppd),
       mPapers(mChoice.ppd->paperSizes()),
       mTicket(std::make_shared<PrintTicket>(mChoice.ppd, mChoice.destination.deviceURI)),
-      mLayers{mChoice.destination.savedOptions, asked},
-      mLayoutDidChange(std::move(layoutDidChange)) {
+      mLayers{withWishes(mChoice.destination.savedOptions), asked},
+      mLayoutDidChange(std::move(layoutDidChange)),
+      mWanted(*mChoice.ppd, mOptions) {
   const HostCall call(*this);
   markLayers();
   mPanels =
@@ -48,7 +49,7 @@ OpenPrinter::~OpenPrinter() {
 
 void OpenPrinter::restart(const OptionList& options) {
   const HostCall call(*this);
-  mLayers = {options};
+  mLayers = {withWishes(options)};
   run();
 }
 
@@ -60,7 +61,7 @@ void OpenPrinter::markLayers() {
       if (const PpdOption* option = mOptions.find(name)) mAskedFor.insert(option->keyword);
 }
 
-// The whole sequence: mark, let the panels know the paper, restore, tick, save.
+// The whole sequence: mark, let the panels know the paper, restore, place the boxes, save.
 void OpenPrinter::run() {
   markLayers();
   wantMarked();
@@ -68,31 +69,52 @@ void OpenPrinter::run() {
 }
 
 void OpenPrinter::runFromPaper() {
-  postPaperChange();
+  mWanted.paperWasChosen();
+  notificationCenter().postNotificationName(kPaperDidChange, std::monostate{});
+  runFromMarks();
+}
+
+// Panels restore from the marks, so these are what the boxes are to show.
+void OpenPrinter::runFromMarks() {
+  for (const auto& [keyword, choice] : mWanted.all()) mark(keyword, mWanted.shown(keyword));
   mPanels->restore();
   settle();
 }
 
-void OpenPrinter::postPaperChange() {
-  notificationCenter().postNotificationName(kPaperDidChange, std::monostate{});
-}
-
-// The other boxes of the clicked box's option go where the click has put the mark.
-void OpenPrinter::followClicked(const CheckBox& clicked) {
-  const std::string keyword = clicked.ppdKeyword();
-  for (CheckBox* box : mPanels->boxes())
-    if (box != &clicked && box->ppdKeyword() == keyword)
-      click(*box, mChoice.ppd->markedChoice(keyword));
-}
-
-// Saves, and brings back what is wanted: a restore can have moved boxes, and a rule that no longer
-// holds leaves behind what it had changed. Saving comes first because it can free boxes.
+// A restore or a click can have moved other boxes than those that were meant; a save turns what the
+// boxes say into marks.
 void OpenPrinter::settle() {
-  int round = 0;
-  do {
-    mPanels->save();
-  } while (clickStrays() && ++round < kMaxSettlingRounds);
-  markStrays();
+  for (CheckBox* box : mPanels->boxes()) place(*box);
+  mPanels->save();
+  markUnshown();
+  mSettled = boxStates();
+}
+
+// The box of an option that the PPD lacks can switch nothing, and stays off.
+void OpenPrinter::place(CheckBox& box) {
+  const std::string keyword = box.ppdKeyword();
+  const std::string choice = mWanted.shown(keyword);
+  if (choice.empty() && mOptions.find(keyword) != nullptr) return;
+  const int state = stateFor(mOptions.position(keyword, choice).value_or(0));
+  if (box.state() == state) return;
+  if (box.isEnabled()) return box.performClick();
+  box.setState(state);
+}
+
+// What no box says: options without one, third choices, and what a rule sends.
+void OpenPrinter::markUnshown() {
+  for (const auto& [keyword, choice] : mWanted.all()) {
+    const std::string sent = mWanted.sent(keyword);
+    const bool isShown = hasBox(keyword) && sent == mWanted.shown(keyword) &&
+                         mOptions.position(keyword, sent).value_or(0) <= 1;
+    if (!isShown) mark(keyword, sent);
+  }
+}
+
+void OpenPrinter::mark(const std::string& keyword, const std::string& choice) {
+  if (mChoice.ppd->markedChoice(keyword) == choice) return;
+  mChoice.ppd->markChoice(keyword, choice);
+  mPanels->report(nullptr, keyword, choice);
 }
 
 bool OpenPrinter::hasBox(const std::string& keyword) const {
@@ -101,46 +123,18 @@ bool OpenPrinter::hasBox(const std::string& keyword) const {
                      [&](const CheckBox* box) { return box->ppdKeyword() == keyword; });
 }
 
-// Options of the panels that no box stands for.
-void OpenPrinter::markStrays() {
-  for (const auto& [keyword, choice] : mWanted) {
-    if (hasBox(keyword) || ruleFor(keyword) != CutRule::none) continue;
-    if (mChoice.ppd->markedChoice(keyword) == choice) continue;
-    mChoice.ppd->markChoice(keyword, choice);
-    mPanels->report(nullptr, keyword, choice);
-  }
-}
-
-bool OpenPrinter::clickStrays() {
-  bool clicked = false;
-  for (CheckBox* box : mPanels->boxes()) {
-    const std::string keyword = box->ppdKeyword();
-    if (ruleFor(keyword) == CutRule::none) clicked |= click(*box, wanted(keyword));
-  }
-  return clicked;
-}
-
-bool OpenPrinter::click(CheckBox& box, const std::string& choice) {
-  const std::optional<int> position = mOptions.position(box.ppdKeyword(), choice);
-  if (!position || !isOperable(box) || box.state() == *position) return false;
-  box.performClick();
-  return true;
-}
-
-CutRule OpenPrinter::ruleFor(const std::string& keyword) const {
-  return cutRuleFor(*mChoice.ppd, mOptions, keyword, hasBox(keyword));
+bool OpenPrinter::isReachedByPanels(const PpdOption& option) const {
+  if (!mPanels->declares(option.keyword)) return false;
+  if (hasBox(option.keyword)) return option.choices.size() <= 2;
+  return !panelMayLackControl(mOptions, option.keyword);
 }
 
 void OpenPrinter::choosePaper(const std::string& name) {
   const HostCall call(*this);
-  const auto before = std::pair(panelMarks(), boxStates());
-  mChoice.ppd->markChoice("PageSize", name);
-  mAskedFor.insert("PageSize");
   mLastChosen = "PageSize";
-  mPanels->report(nullptr, "PageSize", name);
-  postPaperChange();
-  if (std::pair(panelMarks(), boxStates()) != before) return runFromPaper();
-  settle();
+  mAskedFor.insert("PageSize");
+  mark("PageSize", name);
+  runFromPaper();
 }
 
 void OpenPrinter::chooseOption(const std::string& keyword, const std::string& choice) {
@@ -150,22 +144,24 @@ void OpenPrinter::chooseOption(const std::string& keyword, const std::string& ch
 
 void OpenPrinter::chooseOptions(const OptionList& changes) {
   const HostCall call(*this);
+  bool changesPaper = false;
   bool concernsPanels = false;
   for (const auto& [keyword, choice] : changes) {
     mChoice.ppd->markChoice(keyword, choice);
     mAskedFor.insert(keyword);
     want(keyword, choice);
     mPanels->report(nullptr, keyword, choice);
-    concernsPanels |= keyword == "PageSize" || mPanels->declares(keyword);
+    changesPaper |= keyword == "PageSize";
+    concernsPanels |= mPanels->declares(keyword);
   }
-  if (concernsPanels) runFromPaper();
+  if (changesPaper) return runFromPaper();
+  if (concernsPanels) runFromMarks();
 }
 
 bool OpenPrinter::userDidAct(View& sender) {
   if (mHostCalls > 0) return false;
   const HostCall call(*this);
-  if (dynamic_cast<const PopUpButton*>(&sender) != nullptr) wantShown();
-  if (const auto* box = dynamic_cast<const CheckBox*>(&sender)) followClicked(*box);
+  if (auto* presets = dynamic_cast<PopUpButton*>(&sender)) wantChosen(*presets);
   settle();
   return true;
 }
@@ -196,52 +192,69 @@ void OpenPrinter::panelWillChange(const PDEPluginCallback13_v400_& from, const s
 void OpenPrinter::panelDidResize() { mLayoutDidChange(); }
 
 void OpenPrinter::want(const std::string& keyword, const std::string& choice) {
-  if (mPanels->declares(keyword)) mWanted[keyword] = choice;
+  if (mPanels->declares(keyword)) mWanted.want(keyword, choice);
 }
 
 void OpenPrinter::wantMarked() {
   mWanted.clear();
   for (const std::string& keyword : mPanels->keywords()) {
     const std::string marked = mChoice.ppd->markedChoice(keyword);
-    if (!marked.empty()) mWanted[keyword] = marked;
+    if (!marked.empty()) mWanted.want(keyword, marked);
   }
 }
 
 // The preset list moves boxes and marks nothing, so the boxes say what the user chose.
-void OpenPrinter::wantShown() {
-  for (const CheckBox* box : mPanels->boxes()) {
-    if (!isOperable(*box)) continue;
-    const std::string keyword = box->ppdKeyword();
-    if (const auto choice = mOptions.choiceAt(keyword, box->state())) want(keyword, *choice);
+void OpenPrinter::wantChosen(PopUpButton& presets) {
+  std::map<std::string, std::string> moved;
+  std::vector<CheckBox*> unmoved;
+  for (const auto& [box, state] : boxStates()) {
+    const auto choice = mOptions.choiceAt(box->ppdKeyword(), state);
+    if (choice && mSettled[box] != state) moved[box->ppdKeyword()] = *choice;
   }
+  for (CheckBox* box : mPanels->boxes())
+    if (!moved.contains(box->ppdKeyword())) unmoved.push_back(box);
+  for (const auto& [keyword, choice] : moved) want(keyword, choice);
+  wantIfMeant(presets, unmoved);
 }
 
-std::string OpenPrinter::wanted(const std::string& keyword) const {
-  const auto entry = mWanted.find(keyword);
-  return entry != mWanted.end() ? entry->second : std::string();
+// A preset can mean the state that a box has already, and that state need not be what is wanted: a
+// rule can have put the box there, or the option has more choices than the box has states. Such a
+// box is turned over and the preset chosen once more: if it is turned back, it was meant. The last
+// time has the panel follow the boxes that were not.
+void OpenPrinter::wantIfMeant(PopUpButton& presets, const std::vector<CheckBox*>& unmoved) {
+  BoxStates doubtful;
+  for (CheckBox* box : unmoved) {
+    const auto choice = mOptions.choiceAt(box->ppdKeyword(), box->state());
+    if (choice && *choice != mWanted.wanted(box->ppdKeyword())) doubtful[box] = box->state();
+  }
+  if (doubtful.empty()) return;
+  for (const auto& [box, state] : doubtful) box->setState(stateFor(state == CheckBox::kOff));
+  presets.performSelection(presets.selectedTag());
+  for (const auto& [box, state] : doubtful) {
+    if (box->state() == state)
+      want(box->ppdKeyword(), *mOptions.choiceAt(box->ppdKeyword(), state));
+    box->setState(state);
+  }
+  presets.performSelection(presets.selectedTag());
 }
 
 OpenPrinter::BoxStates OpenPrinter::boxStates() const {
   BoxStates states;
-  for (CheckBox* box : mPanels->boxes()) states.emplace_back(box, box->state());
+  for (CheckBox* box : mPanels->boxes()) states.emplace(box, box->state());
   return states;
-}
-
-OptionList OpenPrinter::panelMarks() const {
-  OptionList marks;
-  for (const std::string& keyword : mPanels->keywords())
-    marks.emplace_back(keyword, mChoice.ppd->markedChoice(keyword));
-  return marks;
 }
 
 std::vector<Deviation> OpenPrinter::deviations() const {
   std::vector<Deviation> deviations;
   const std::string paper = mChoice.ppd->markedPaper().text;
-  for (const auto& [keyword, choice] : mWanted) {
+  for (const auto& [keyword, choice] : mWanted.all()) {
     const std::string marked = mChoice.ppd->markedChoice(keyword);
-    if (marked == choice) continue;
+    const bool isAsWanted = marked == choice;
+    const CutRule rule = isAsWanted ? brokenBy(*mChoice.ppd, mOptions, keyword, hasBox(keyword))
+                                    : rulingOver(*mChoice.ppd, mOptions, keyword);
+    if (isAsWanted && rule == CutRule::none) continue;
     deviations.push_back({keyword, choice, marked,
-                          sentenceForRule(ruleFor(keyword), mOptions.optionText(keyword),
+                          sentenceForRule(rule, mOptions.optionText(keyword),
                                           mOptions.choiceText(keyword, marked), paper)});
   }
   return deviations;

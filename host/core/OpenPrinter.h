@@ -4,9 +4,9 @@
 // Panels have habits that would lose a user's choices in a host that only relays calls: the first
 // willShow starts the controls from the PPD's defaults and saves them, a full refresh puts boxes
 // back to what the preset list can express, two boxes can stand for one option, and a save reads
-// the boxes. So the host remembers what is wanted, marks it, lets the panels restore and save, and
-// then clicks each box that does not stand where it should, as a user would. A box whose option one
-// of the panel's own rules governs now is left to the rule, and follows when the rule is gone.
+// the boxes. So the host remembers what is wanted, marks it, lets the panels restore, puts each box
+// where it should stand - by a click, as a user would, or, where a box cannot be used, by setting
+// it - and lets the panels save. Last it marks what no box can say.
 #pragma once
 
 #include <functional>
@@ -17,11 +17,13 @@
 #include <utility>
 #include <vector>
 
-#include "host/core/CutRules.h"
 #include "host/core/OptionTable.h"
 #include "host/core/PanelSet.h"
+#include "host/core/WantedChoices.h"
 
 namespace cutline {
+
+class PopUpButton;
 
 class OpenPrinter final : private PanelHostOwner {
  public:
@@ -56,7 +58,12 @@ class OpenPrinter final : private PanelHostOwner {
   Result<Done> askToPrint();
   void save();
 
+  const WantedChoices& wanted() const noexcept { return mWanted; }
+  // What is sent otherwise than wanted, or against a rule, or unseen.
   std::vector<Deviation> deviations() const;
+  // False for an option that no panel declared, or some choice of which its panel's controls do not
+  // reach: the dialog shows a list for it.
+  bool isReachedByPanels(const PpdOption& option) const;
   // The user's last choice, which gives way last.
   const std::string& lastChosen() const noexcept { return mLastChosen; }
 
@@ -72,7 +79,7 @@ class OpenPrinter final : private PanelHostOwner {
    private:
     OpenPrinter& mPrinter;
   };
-  using BoxStates = std::vector<std::pair<CheckBox*, int>>;
+  using BoxStates = std::map<CheckBox*, int>;
 
   void panelWillChange(const PDEPluginCallback13_v400_& from, const std::string& key,
                        const std::string& choice) override;
@@ -81,21 +88,18 @@ class OpenPrinter final : private PanelHostOwner {
   void markLayers();
   void want(const std::string& keyword, const std::string& choice);
   void wantMarked();
-  void wantShown();
-  std::string wanted(const std::string& keyword) const;
+  void wantChosen(PopUpButton& presets);
+  void wantIfMeant(PopUpButton& presets, const std::vector<CheckBox*>& unmoved);
 
   void run();
   void runFromPaper();
-  void postPaperChange();
-  void followClicked(const CheckBox& clicked);
+  void runFromMarks();
   void settle();
-  bool clickStrays();
-  void markStrays();
-  bool click(CheckBox& box, const std::string& choice);
+  void place(CheckBox& box);
+  void markUnshown();
+  void mark(const std::string& keyword, const std::string& choice);
   bool hasBox(const std::string& keyword) const;
-  CutRule ruleFor(const std::string& keyword) const;
   BoxStates boxStates() const;
-  OptionList panelMarks() const;
 
   PrinterChoice mChoice;
   OptionTable mOptions;
@@ -105,7 +109,8 @@ class OpenPrinter final : private PanelHostOwner {
   std::set<std::string> mAskedFor;
   std::function<void()> mLayoutDidChange;
   int mHostCalls = 0;
-  std::map<std::string, std::string> mWanted;  // by keyword, of the panels' options
+  WantedChoices mWanted;
+  BoxStates mSettled;  // the boxes as the user saw them last
   std::string mLastChosen;
   std::unique_ptr<PanelSet> mPanels;
 };

@@ -107,7 +107,7 @@ std::vector<GeneratedGroup> PrintModel::generatedOptions() const {
     GeneratedGroup generated{group.text, {}};
     for (const PpdOption& option : group.options) {
       if (hasOwnControl(option.keyword) || option.choices.empty()) continue;
-      if (mPrinter->panels().declares(option.keyword)) continue;
+      if (mPrinter->isReachedByPanels(option)) continue;
       generated.options.push_back({option, mPrinter->ppd().markedChoice(option.keyword)});
     }
     if (!generated.options.empty()) groups.push_back(std::move(generated));
@@ -177,7 +177,7 @@ OptionList PrintModel::jobOptions() const {
 Result<OptionList> PrintModel::savePreset() {
   mPrinter->save();
   tell(ModelChange::options);
-  OptionList options = cutline::jobOptions(*mPrinter);
+  OptionList options = presetOptions(*mPrinter);
   options.emplace_back("copies", std::to_string(copies()));
   return options;
 }

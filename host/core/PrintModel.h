@@ -41,7 +41,7 @@ struct PanelEntry {
   std::shared_ptr<PrintDialogPanel> panel;
 };
 
-// A PPD option that no panel takes care of.
+// A PPD option that no panel takes care of, or some choice of which no control of a panel reaches.
 struct GeneratedOption {
   PpdOption option;
   std::string marked;  // the marked choice's keyword; empty when none is marked
@@ -56,11 +56,12 @@ struct SummaryLine {
   std::string value;
 };
 
-// One thing that a panel's rule changes against what was asked.
+// One thing that a user would not expect of what is sent: a rule changes what was asked for, or
+// speaks against it, or nothing on the panel shows it.
 struct Deviation {
   std::string keyword;
   std::string asked;  // the choice that was asked for
-  std::string sent;   // the choice that will be sent
+  std::string sent;   // the choice that will be sent; the same when nothing was changed
   Sentence sentence;  // for people
 };
 
@@ -108,8 +109,8 @@ class PrintModel final : public ActionObserver {
   // By PageSize choice. An unknown name is an error that lists the names.
   Result<Done> setPaper(const std::string& name);
 
-  // Options that no panel declared, in the PPD's groups and order; installable options and the
-  // paper's own options left out. Empty when there are none.
+  // Options that the panels leave to the dialog, in the PPD's groups and order; installable options
+  // and the paper's own options left out. Empty when there are none.
   std::vector<GeneratedGroup> generatedOptions() const;
   // A user's choice in the generated options. An unknown keyword or choice is an error.
   Result<Done> setOption(const std::string& keyword, const std::string& choice);
@@ -122,7 +123,7 @@ class PrintModel final : public ActionObserver {
 
   // The panels' summary lines, in display order.
   std::vector<SummaryLine> summary() const;
-  // What the panels' rules change against what was asked or clicked, now.
+  // What a user must hear of before printing: changed by a rule, or sent against one, or unseen.
   std::vector<Deviation> deviations() const;
   // Pairs of choices that the PPD does not allow together, each in a sentence.
   std::vector<Sentence> conflicts() const;
@@ -133,7 +134,8 @@ class PrintModel final : public ActionObserver {
   // default or were asked for, copies, page ranges.
   OptionList jobOptions() const;
 
-  // Saves the panels' values and answers what to store as an instance of this destination.
+  // Saves the panels' values and answers what to store as an instance of this destination: what is
+  // sent, and beside it what is wanted where a rule changes that.
   Result<OptionList> savePreset();
   // Lays an instance's options over the PPD's defaults and runs the sequence. What was asked on the
   // command line is replaced by it.

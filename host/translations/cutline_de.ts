@@ -843,12 +843,24 @@
         <translation>%1: wird als „%2“ gesendet, weil Spezialband eingeschaltet ist.</translation>
     </message>
     <message>
-        <source>%1: stays &quot;%2&quot; because it cannot be changed on the paper &quot;%3&quot;.</source>
-        <translation>%1: bleibt „%2“, weil es beim Papier „%3“ nicht geändert werden kann.</translation>
+        <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; keeps its blank space.</source>
+        <translation>%1: wird als „%2“ gesendet, weil das Papier „%3“ seinen Leerraum behält.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; must not be cut automatically.</source>
         <translation>%1: wird als „%2“ gesendet, weil das Papier „%3“ nicht automatisch geschnitten werden darf.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot; although the paper &quot;%3&quot; must not be cut automatically.</source>
+        <translation>%1: wird als „%2“ gesendet, obwohl das Papier „%3“ nicht automatisch geschnitten werden darf.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot;, but nothing is cut while special tape is on.</source>
+        <translation>%1: wird als „%2“ gesendet, aber bei Spezialband wird nichts geschnitten.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot;, which the picture does not show.</source>
+        <translation>%1: wird als „%2“ gesendet, was das Bild nicht zeigt.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot;.</source>

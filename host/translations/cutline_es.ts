@@ -843,12 +843,24 @@
         <translation>%1: se envía como «%2» porque la cinta especial está activada.</translation>
     </message>
     <message>
-        <source>%1: stays &quot;%2&quot; because it cannot be changed on the paper &quot;%3&quot;.</source>
-        <translation>%1: sigue como «%2» porque no se puede cambiar con el papel «%3».</translation>
+        <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; keeps its blank space.</source>
+        <translation>%1: se envía como «%2» porque el papel «%3» conserva su espacio en blanco.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; must not be cut automatically.</source>
         <translation>%1: se envía como «%2» porque el papel «%3» no se debe cortar automáticamente.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot; although the paper &quot;%3&quot; must not be cut automatically.</source>
+        <translation>%1: se envía como «%2» aunque el papel «%3» no se debe cortar automáticamente.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot;, but nothing is cut while special tape is on.</source>
+        <translation>%1: se envía como «%2», pero no se corta nada mientras la cinta especial está activada.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot;, which the picture does not show.</source>
+        <translation>%1: se envía como «%2», lo que la imagen no muestra.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot;.</source>

@@ -843,12 +843,24 @@
         <translation>%1 : « %2 » est envoyé, car le ruban spécial est activé.</translation>
     </message>
     <message>
-        <source>%1: stays &quot;%2&quot; because it cannot be changed on the paper &quot;%3&quot;.</source>
-        <translation>%1 : reste « %2 », car ce réglage ne peut pas changer avec le papier « %3 ».</translation>
+        <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; keeps its blank space.</source>
+        <translation>%1 : « %2 » est envoyé, car le papier « %3 » garde ses espaces vides.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; must not be cut automatically.</source>
         <translation>%1 : « %2 » est envoyé, car le papier « %3 » ne doit pas être coupé automatiquement.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot; although the paper &quot;%3&quot; must not be cut automatically.</source>
+        <translation>%1 : « %2 » est envoyé, bien que le papier « %3 » ne doive pas être coupé automatiquement.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot;, but nothing is cut while special tape is on.</source>
+        <translation>%1 : « %2 » est envoyé, mais rien n’est coupé tant que le ruban spécial est activé.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot;, which the picture does not show.</source>
+        <translation>%1 : « %2 » est envoyé, ce que l’image ne montre pas.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot;.</source>

@@ -843,12 +843,24 @@
         <translation>%1: inviata come «%2» perché il nastro speciale è attivo.</translation>
     </message>
     <message>
-        <source>%1: stays &quot;%2&quot; because it cannot be changed on the paper &quot;%3&quot;.</source>
-        <translation>%1: resta «%2» perché non si può cambiare con la carta «%3».</translation>
+        <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; keeps its blank space.</source>
+        <translation>%1: inviata come «%2» perché la carta «%3» conserva lo spazio vuoto.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; must not be cut automatically.</source>
         <translation>%1: inviata come «%2» perché la carta «%3» non va tagliata automaticamente.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot; although the paper &quot;%3&quot; must not be cut automatically.</source>
+        <translation>%1: inviata come «%2» anche se la carta «%3» non va tagliata automaticamente.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot;, but nothing is cut while special tape is on.</source>
+        <translation>%1: inviata come «%2», ma con il nastro speciale attivo non si taglia nulla.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot;, which the picture does not show.</source>
+        <translation>%1: inviata come «%2», cosa che l’immagine non mostra.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot;.</source>

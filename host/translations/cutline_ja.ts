@@ -843,12 +843,24 @@
         <translation>%1: 特殊テープがオンのため、「%2」で送信されます。</translation>
     </message>
     <message>
-        <source>%1: stays &quot;%2&quot; because it cannot be changed on the paper &quot;%3&quot;.</source>
-        <translation>%1: 用紙「%3」では変更できないため、「%2」のままです。</translation>
+        <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; keeps its blank space.</source>
+        <translation>%1: 用紙「%3」の余白は変えられないため、「%2」で送信されます。</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; must not be cut automatically.</source>
         <translation>%1: 用紙「%3」は自動カットできないため、「%2」で送信されます。</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot; although the paper &quot;%3&quot; must not be cut automatically.</source>
+        <translation>%1: 用紙「%3」は自動カットできませんが、「%2」で送信されます。</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot;, but nothing is cut while special tape is on.</source>
+        <translation>%1: 「%2」で送信されますが、特殊テープがオンの間は何もカットされません。</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot;, which the picture does not show.</source>
+        <translation>%1: 「%2」で送信されますが、画像には表示されません。</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot;.</source>

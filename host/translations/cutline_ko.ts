@@ -843,12 +843,24 @@
         <translation>%1: 특수 테이프가 켜져 있어 “%2”(으)로 보냅니다.</translation>
     </message>
     <message>
-        <source>%1: stays &quot;%2&quot; because it cannot be changed on the paper &quot;%3&quot;.</source>
-        <translation>%1: 용지 “%3”에서는 변경할 수 없어 “%2” 그대로입니다.</translation>
+        <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; keeps its blank space.</source>
+        <translation>%1: 용지 “%3”은(는) 여백이 그대로 유지되므로 “%2”(으)로 보냅니다.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; must not be cut automatically.</source>
         <translation>%1: 용지 “%3”은(는) 자동으로 절단하면 안 되므로 “%2”(으)로 보냅니다.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot; although the paper &quot;%3&quot; must not be cut automatically.</source>
+        <translation>%1: 용지 “%3”은(는) 자동으로 절단하면 안 되지만 “%2”(으)로 보냅니다.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot;, but nothing is cut while special tape is on.</source>
+        <translation>%1: “%2”(으)로 보내지만 특수 테이프가 켜져 있는 동안에는 절단하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot;, which the picture does not show.</source>
+        <translation>%1: “%2”(으)로 보내지만 그림에는 나타나지 않습니다.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot;.</source>

@@ -843,12 +843,24 @@
         <translation>%1: wordt als ‘%2’ verzonden omdat speciale tape aanstaat.</translation>
     </message>
     <message>
-        <source>%1: stays &quot;%2&quot; because it cannot be changed on the paper &quot;%3&quot;.</source>
-        <translation>%1: blijft ‘%2’ omdat het bij het papier ‘%3’ niet kan worden gewijzigd.</translation>
+        <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; keeps its blank space.</source>
+        <translation>%1: wordt als ‘%2’ verzonden omdat het papier ‘%3’ zijn lege ruimte houdt.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; must not be cut automatically.</source>
         <translation>%1: wordt als ‘%2’ verzonden omdat het papier ‘%3’ niet automatisch mag worden gesneden.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot; although the paper &quot;%3&quot; must not be cut automatically.</source>
+        <translation>%1: wordt als ‘%2’ verzonden, hoewel het papier ‘%3’ niet automatisch mag worden gesneden.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot;, but nothing is cut while special tape is on.</source>
+        <translation>%1: wordt als ‘%2’ verzonden, maar er wordt niets gesneden zolang speciale tape aanstaat.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot;, which the picture does not show.</source>
+        <translation>%1: wordt als ‘%2’ verzonden, wat de afbeelding niet laat zien.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot;.</source>

@@ -843,12 +843,24 @@
         <translation>%1: enviado como “%2” porque a fita especial está ativada.</translation>
     </message>
     <message>
-        <source>%1: stays &quot;%2&quot; because it cannot be changed on the paper &quot;%3&quot;.</source>
-        <translation>%1: continua “%2” porque não pode ser alterado com o papel “%3”.</translation>
+        <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; keeps its blank space.</source>
+        <translation>%1: enviado como “%2” porque o papel “%3” mantém o espaço em branco.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; must not be cut automatically.</source>
         <translation>%1: enviado como “%2” porque o papel “%3” não deve ser cortado automaticamente.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot; although the paper &quot;%3&quot; must not be cut automatically.</source>
+        <translation>%1: enviado como “%2”, embora o papel “%3” não deva ser cortado automaticamente.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot;, but nothing is cut while special tape is on.</source>
+        <translation>%1: enviado como “%2”, mas nada é cortado enquanto a fita especial está ativada.</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot;, which the picture does not show.</source>
+        <translation>%1: enviado como “%2”, o que a imagem não mostra.</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot;.</source>

@@ -843,12 +843,24 @@
         <translation>%1：因为特殊标签带已开启，将以“%2”发送。</translation>
     </message>
     <message>
-        <source>%1: stays &quot;%2&quot; because it cannot be changed on the paper &quot;%3&quot;.</source>
-        <translation>%1：因为使用纸张“%3”时无法更改，保持“%2”。</translation>
+        <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; keeps its blank space.</source>
+        <translation>%1：因为纸张“%3”保留空白，将以“%2”发送。</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; must not be cut automatically.</source>
         <translation>%1：因为纸张“%3”不得自动裁切，将以“%2”发送。</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot; although the paper &quot;%3&quot; must not be cut automatically.</source>
+        <translation>%1：虽然纸张“%3”不得自动裁切，仍将以“%2”发送。</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot;, but nothing is cut while special tape is on.</source>
+        <translation>%1：将以“%2”发送，但特殊标签带开启时不会裁切。</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot;, which the picture does not show.</source>
+        <translation>%1：将以“%2”发送，但图片中不显示。</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot;.</source>

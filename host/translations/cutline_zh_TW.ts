@@ -843,12 +843,24 @@
         <translation>%1：因為特殊標籤帶已開啟，將以「%2」傳送。</translation>
     </message>
     <message>
-        <source>%1: stays &quot;%2&quot; because it cannot be changed on the paper &quot;%3&quot;.</source>
-        <translation>%1：因為使用紙張「%3」時無法變更，保持「%2」。</translation>
+        <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; keeps its blank space.</source>
+        <translation>%1：因為紙張「%3」保留空白，將以「%2」傳送。</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot; because the paper &quot;%3&quot; must not be cut automatically.</source>
         <translation>%1：因為紙張「%3」不得自動裁切，將以「%2」傳送。</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot; although the paper &quot;%3&quot; must not be cut automatically.</source>
+        <translation>%1：雖然紙張「%3」不得自動裁切，仍將以「%2」傳送。</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot;, but nothing is cut while special tape is on.</source>
+        <translation>%1：將以「%2」傳送，但特殊標籤帶開啟時不會裁切。</translation>
+    </message>
+    <message>
+        <source>%1: sent as &quot;%2&quot;, which the picture does not show.</source>
+        <translation>%1：將以「%2」傳送，但圖片中不顯示。</translation>
     </message>
     <message>
         <source>%1: sent as &quot;%2&quot;.</source>

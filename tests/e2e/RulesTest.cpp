@@ -37,18 +37,19 @@ const std::vector<Rule> kRules = {
      {"Half cut between labels: sent as \"Off\" because special tape is on.",
       "Chain printing (saves tape): sent as \"Off\" because special tape is on.",
       "Print cut marks: sent as \"Off\" because special tape is on.",
-      "Cut automatically: sent as \"Off\" because special tape is on."}},
+      "Cut automatically: sent as \"Off\" because special tape is on.",
+      "Cut after the last label: sent as \"On\", but nothing is cut while special tape is on."}},
     {"BlankSpaceOnDieCutLabels",
      {{"PageSize", "DC24H50"}, {"LxRemoveBlkSpace", "ON"}},
      {{"PageSize", "DC24H50"}, {"LxRemoveBlkSpace", "OFF"}},
-     {"Remove blank space: stays \"Off\" because it cannot be changed on the paper \"Die-cut "
-      "labels "
-      "24 x 50 mm\"."}},
+     {"Remove blank space: sent as \"Off\" because the paper \"Die-cut labels 24 x 50 mm\" keeps "
+      "its blank space."}},
     {"BlankSpaceOnPreSpacedLabels",
      {{"PageSize", "AV24H60"}, {"LxRemoveBlkSpace", "ON"}},
      {{"PageSize", "AV24H60"}, {"LxRemoveBlkSpace", "OFF"}},
-     {"Remove blank space: stays \"Off\" because it cannot be changed on the paper \"Pre-spaced "
-      "labels 24 x 60 mm\"."}},
+     {"Remove blank space: sent as \"Off\" because the paper \"Pre-spaced labels 24 x 60 mm\" "
+      "keeps "
+      "its blank space."}},
     {"AutoCutOnTube",
      {{"PageSize", "HS24H50"}, {"LxAutoTapeCut", "ON"}},
      {{"PageSize", "HS24H50"}, {"LxAutoTapeCut", "OFF"}},
@@ -105,14 +106,15 @@ TEST_F(RulesByHand, SpecialTapeGreysWhatItTurnsOffAndGivesItBack) {
   EXPECT_EQ(job.options().at("LxAutoTapeCut"), "ON");
 }
 
-TEST_F(RulesByHand, BlankSpaceStaysAsItWasOnDieCutLabels) {
+TEST_F(RulesByHand, BlankSpaceIsKeptOnDieCutLabelsAndTheTickWaits) {
   DialogOnServer dialog("tapeb");
   click(dialog.box("LxRemoveBlkSpace"));
   choose(dialog.named<QComboBox>("Paper"), QStringLiteral("DC24H50"));
   EXPECT_FALSE(dialog.box("LxRemoveBlkSpace")->isEnabled());
-  EXPECT_TRUE(dialog.model().deviations().empty());
+  EXPECT_EQ(dialog.checkBox("LxRemoveBlkSpace")->state(), CheckBox::kOn);
+  EXPECT_TRUE(dialog.willShow(QString::fromStdString(kRules[1].notices[0])));
   dialog.print();
-  EXPECT_EQ(newJob().options().at("LxRemoveBlkSpace"), "ON");
+  EXPECT_EQ(newJob().options().at("LxRemoveBlkSpace"), "OFF");
 }
 
 TEST_F(RulesByHand, TubeTurnsAutoCutOffAndTapeTurnsItOnAgain) {
@@ -143,16 +145,18 @@ QString clickAndAnswer(QWidget* box) {
   return text;
 }
 
-TEST_F(RulesByHand, TickingAutoCutOnTubeWarnsOfTheCutter) {
+TEST_F(RulesByHand, TickingAutoCutOnTubeWarnsOfTheCutterAndIsNamed) {
   DialogOnServer dialog("tape24");
   choose(dialog.named<QComboBox>("Paper"), QStringLiteral("HS24H50"));
   const QString alert = clickAndAnswer(dialog.box("LxAutoTapeCut"));
   EXPECT_TRUE(alert.contains(QStringLiteral("can jam the cutter"))) << alert.toStdString();
-  const std::string sent = dialog.sent()["LxAutoTapeCut"];
-  EXPECT_EQ(dialog.checkBox("LxAutoTapeCut")->state(),
-            sent == "ON" ? CheckBox::kOn : CheckBox::kOff);
+  EXPECT_EQ(dialog.checkBox("LxAutoTapeCut")->state(), CheckBox::kOn);
+  EXPECT_TRUE(
+      dialog.willShow(QStringLiteral("Cut automatically: sent as \"On\" although the paper "
+                                     "\"Heat-shrink tube 24 x 50 mm\" must not "
+                                     "be cut automatically.")));
   dialog.print();
-  EXPECT_EQ(newJob().options().at("LxAutoTapeCut"), sent);
+  EXPECT_EQ(newJob().options().at("LxAutoTapeCut"), "ON");
 }
 
 }  // namespace

@@ -3,9 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 
 #include "host/core/CutRules.h"
 #include "host/core/OptionTable.h"
+#include "plain/PlainCustomView.h"
+#include "plain/RecordingDrawingContext.h"
 
 namespace cutline {
 
@@ -36,22 +39,11 @@ std::string shownState(PrintModel& model) {
   return state;
 }
 
-bool begins(const std::string& text, const char* prefix) { return text.starts_with(prefix); }
-
 }  // namespace
 
 PluginLoader& testPlugIns() {
   static PluginLoader loader({CUTLINE_BUILD_DIR "/lib/cutline/plugins"});
   return loader;
-}
-
-bool ruleMayChange(const PpdFile& ppd, const std::string& keyword) {
-  const std::string paper = ppd.markedChoice("PageSize");
-  const bool special = ppd.markedChoice("LxSpecialTape") == "ON";
-  if (keyword == "LxHalfCut" || keyword == "LxChainPrint" || keyword == "LxCutMark") return special;
-  if (keyword == "LxAutoTapeCut") return special || begins(paper, "HS");
-  if (keyword == "LxRemoveBlkSpace") return begins(paper, "DC") || begins(paper, "AV");
-  return false;
 }
 
 Dialog::Dialog(const AskedSettings& asked) : mPlatform(mToolkit), mModel(testPlugIns(), asked) {}
@@ -95,52 +87,95 @@ Choices Dialog::sent() {
   return choices;
 }
 
+std::set<std::string> Dialog::boxKeywords() {
+  std::set<std::string> keywords;
+  for (const CheckBox* box : boxes())
+    if (mModel.ppdFile()->hasOption(box->ppdKeyword())) keywords.insert(box->ppdKeyword());
+  return keywords;
+}
+
+PlainTextField* Dialog::countField() {
+  const std::vector<PlainTextField*> fields = controls<PlainTextField>(mModel);
+  return fields.empty() ? nullptr : fields.front();
+}
+
+std::string Dialog::picture() {
+  RecordingDrawingContext context;
+  for (PlainCustomView* view : controls<PlainCustomView>(mModel)) view->draw(context);
+  if (context.drawnImages().empty()) return "";
+  return std::filesystem::path(context.drawnImages().back().path).stem();
+}
+
+std::set<std::string> Dialog::generatedCutKeywords() {
+  std::set<std::string> keywords;
+  for (const GeneratedGroup& group : mModel.generatedOptions())
+    for (const GeneratedOption& option : group.options)
+      if (isCutKeyword(option.option.keyword)) keywords.insert(option.option.keyword);
+  return keywords;
+}
+
 void Dialog::expectHeldTogether(const Choices& wanted) {
-  expectShownIsMarked();
-  expectMarkedIsSent();
-  expectOnlyRulesDiffer(wanted);
+  expectHeldTogether(Wishes(*mModel.ppdFile(), wanted));
+}
+
+void Dialog::expectHeldTogether(const Wishes& wishes) {
+  expectShown(wishes);
+  expectSent(wishes);
+  expectSummary(wishes);
+  expectNamed(wishes);
   if (testing::Test::HasNonfatalFailure())
     ADD_FAILURE() << "shown: " << shownState(mModel) << " paper " << marked("PageSize");
 }
 
-void Dialog::expectShownIsMarked() {
+// A box that cannot be used keeps what comes back with its use, and so does the one for cut marks,
+// which can be ticked ahead under special tape.
+void Dialog::expectShown(const Wishes& wishes) {
+  if (mModel.panels().empty()) return;
   const OptionTable table(*mModel.ppdFile());
   for (const CheckBox* box : boxes()) {
     const std::string keyword = box->ppdKeyword();
-    const auto position = table.position(keyword, marked(keyword));
-    if (!position || !box->isEnabled()) continue;
-    // Cut marks can be ticked ahead while special tape keeps them off.
-    if (keyword == "LxCutMark" && ruleMayChange(*mModel.ppdFile(), keyword)) continue;
-    EXPECT_EQ(box->state(), *position) << keyword << " is shown otherwise than marked";
+    const int position = table.position(keyword, wishes.shown(keyword)).value_or(0);
+    EXPECT_EQ(box->state(), position > 0 ? CheckBox::kOn : CheckBox::kOff) << keyword;
+    if (!box->isEnabled() || keyword == "LxCutMark") continue;
+    EXPECT_EQ(wishes.shown(keyword), wishes.sent(keyword)) << keyword << " is shown, not sent";
   }
+  PlainTextField* count = countField();
+  EXPECT_EQ(count != nullptr ? count->stringValue() : "", wishes.shown("LxCutLabel"));
+  const bool isRoll = isLabelRoll(*mModel.ppdFile());
+  EXPECT_EQ(picture(), wishes.picture(isRoll, boxKeywords()));
 }
 
-void Dialog::expectMarkedIsSent() {
+void Dialog::expectSent(const Wishes& wishes) {
   const Choices job = sent();
-  for (const std::string_view name : kCutKeywords) {
-    const std::string keyword(name);
-    if (!mModel.ppdFile()->hasOption(keyword) || marked(keyword).empty()) continue;
-    const auto entry = job.find(keyword);
-    ASSERT_NE(entry, job.end()) << keyword << " is not sent";
-    EXPECT_EQ(entry->second, marked(keyword)) << keyword;
+  for (const auto& [keyword, choice] : wishes.wanted()) {
+    EXPECT_EQ(marked(keyword), wishes.sent(keyword)) << keyword << " is marked otherwise";
+    EXPECT_EQ(job.contains(keyword) ? job.at(keyword) : "nothing", wishes.sent(keyword))
+        << keyword << " is sent otherwise";
   }
 }
 
-void Dialog::expectOnlyRulesDiffer(const Choices& wanted) {
-  std::map<std::string, Deviation> reported;
-  for (const Deviation& deviation : mModel.deviations()) reported[deviation.keyword] = deviation;
-  for (const auto& [keyword, choice] : wanted) {
-    if (marked(keyword) == choice) {
-      EXPECT_FALSE(reported.contains(keyword)) << keyword << " is reported but as wanted";
-      continue;
-    }
-    EXPECT_TRUE(ruleMayChange(*mModel.ppdFile(), keyword))
-        << keyword << ": " << choice << " was wanted, " << marked(keyword)
-        << " is sent, and no rule explains it";
-    ASSERT_TRUE(reported.contains(keyword)) << keyword << " is changed and not reported";
-    EXPECT_EQ(reported[keyword].asked, choice);
-    EXPECT_EQ(reported[keyword].sent, marked(keyword));
+// Lines are titled with the PPD's text. The one for the number tells of automatic cutting.
+void Dialog::expectSummary(const Wishes& wishes) {
+  const OptionTable table(*mModel.ppdFile());
+  Choices lines;
+  for (const SummaryLine& line : mModel.summary()) lines[line.title] = line.value;
+  for (const auto& [keyword, choice] : wishes.wanted()) {
+    const auto line = lines.find(table.optionText(keyword));
+    if (keyword == "LxCutLabel" || line == lines.end()) continue;
+    const int position = table.position(keyword, wishes.sent(keyword)).value_or(-1);
+    const std::string third = table.choiceText(keyword, wishes.sent(keyword));
+    EXPECT_EQ(line->second, position == 0 ? "No" : position == 1 ? "Yes" : third) << keyword;
   }
+}
+
+void Dialog::expectNamed(const Wishes& wishes) {
+  std::set<std::string> named;
+  for (const Deviation& deviation : mModel.deviations()) {
+    EXPECT_TRUE(named.insert(deviation.keyword).second) << deviation.keyword << " is named twice";
+    EXPECT_EQ(deviation.asked, wishes.wanted().at(deviation.keyword));
+    EXPECT_EQ(deviation.sent, wishes.sent(deviation.keyword));
+  }
+  EXPECT_EQ(named, wishes.named(boxKeywords()));
 }
 
 void Dialog::expectSettled() {

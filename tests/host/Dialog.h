@@ -3,19 +3,20 @@
 
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
 #include "host/core/HostPlatform.h"
 #include "host/core/PluginLoader.h"
 #include "host/core/PrintModel.h"
+#include "plain/PlainTextField.h"
 #include "plain/PlainToolkit.h"
 #include "platform/ports/Controls.h"
 #include "platform/ports/PopUpButton.h"
+#include "tests/host/Wishes.h"
 
 namespace cutline {
-
-using Choices = std::map<std::string, std::string>;  // by keyword
 
 // The bundles of the build tree; loaded once a process.
 PluginLoader& testPlugIns();
@@ -37,23 +38,31 @@ class Dialog {
 
   std::string marked(const std::string& keyword);
   Choices sent();
-  // Fails the running test unless shown, marked and sent are the same, and unless each difference
-  // between `wanted` and sent has one of the three rules' reasons and is reported.
+  // Keywords of the boxes that are there, whether or not they can be used.
+  std::set<std::string> boxKeywords();
+  // The number of labels between two cuts.
+  PlainTextField* countField();
+  // The name of the picture that the panel draws.
+  std::string picture();
+  // Keywords of the panel's own options among those that the dialog shows by itself.
+  std::set<std::string> generatedCutKeywords();
+  // Fails the running test unless boxes, picture, summary, marks and job are what must come of the
+  // wishes, and exactly what a user must hear of is named.
+  void expectHeldTogether(const Wishes& wishes);
+  // The same of a printer that was just opened with these.
   void expectHeldTogether(const Choices& wanted);
   // Fails the running test when another pass of the sequence would change something.
   void expectSettled();
 
  private:
-  void expectShownIsMarked();
-  void expectMarkedIsSent();
-  void expectOnlyRulesDiffer(const Choices& wanted);
+  void expectShown(const Wishes& wishes);
+  void expectSent(const Wishes& wishes);
+  void expectSummary(const Wishes& wishes);
+  void expectNamed(const Wishes& wishes);
 
   PlainToolkit mToolkit;
   HostPlatform mPlatform;
   PrintModel mModel;
 };
-
-// Whether one of the three rules may change the option now.
-bool ruleMayChange(const PpdFile& ppd, const std::string& keyword);
 
 }  // namespace cutline

@@ -19,7 +19,7 @@ test::TestPrinter without(test::TestPrinter printer, const std::vector<std::stri
 }
 
 test::TestPrinter withAutoCutShown(test::TestPrinter printer) {
-  printer.showsAutoCut = true;
+  printer.autoCutHidden = "False";
   return printer;
 }
 
@@ -156,7 +156,6 @@ TEST_P(EachKind, WantedChoicesComeBackWhenTheRuleThatChangedThemIsGone) {
       wanted["LxSpecialTape"] = "OFF";
     }
     dialog.expectHeldTogether(wanted);
-    EXPECT_TRUE(dialog.model().deviations().empty());
     ASSERT_FALSE(HasFailure()) << "combination " << number;
   }
 }

@@ -25,12 +25,15 @@ void addPaperFacts(PpdText& ppd, const std::string& defaultPaper) {
   }
 }
 
-void addCutOption(PpdText& ppd, const std::string& keyword, const std::string& defaultChoice) {
+void addCutOption(PpdText& ppd, const std::string& keyword, const std::string& defaultChoice,
+                  bool offersAuto) {
   if (keyword == "LxCutLabel") {
     ppd.cutLabel(1, 9, defaultChoice);
-  } else {
-    ppd.option(keyword, {{"OFF", "Off"}, {"ON", "On"}}, defaultChoice, keyword.substr(2));
+    return;
   }
+  std::vector<PpdChoice> choices = {{"OFF", "Off"}, {"ON", "On"}};
+  if (offersAuto) choices.emplace_back("AUTO", "Auto");
+  ppd.option(keyword, choices, defaultChoice, keyword.substr(2));
 }
 
 }  // namespace
@@ -41,14 +44,15 @@ std::string ppdText(const TestPrinter& printer) {
   for (const char* name : {"ModelName", "ShortNickName", "NickName"}) ppd.attribute(name, kName);
   ppd.line("*ColorDevice: False");
   if (printer.isRoll) ppd.attribute("LxTapeType", "WN");
-  if (printer.showsAutoCut) ppd.attribute("LxAutoCutObjHidden", "False");
+  if (!printer.autoCutHidden.empty()) ppd.attribute("LxAutoCutObjHidden", printer.autoCutHidden);
   if (!printer.extension.empty()) ppd.attribute("APDialogExtension", printer.extension);
   addPapers(ppd, "PageSize", printer.paper);
   addPapers(ppd, "PageRegion", printer.paper);
   addPaperFacts(ppd, printer.paper);
   for (const std::string& keyword : nineKeywords()) {
     const auto option = printer.cutOptions.find(keyword);
-    if (option != printer.cutOptions.end()) addCutOption(ppd, keyword, option->second);
+    if (option != printer.cutOptions.end())
+      addCutOption(ppd, keyword, option->second, printer.offersAuto.contains(keyword));
   }
   return ppd.text() + printer.more;
 }

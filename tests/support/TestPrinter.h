@@ -3,6 +3,7 @@
 
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 
 #include "cups/PpdFile.h"
@@ -13,7 +14,8 @@ namespace cutline::test {
 struct TestPrinter {
   // Option keyword and default choice. LxCutLabel offers 1 to 9, the others OFF and ON.
   std::map<std::string, std::string> cutOptions;
-  bool showsAutoCut = false;  // LxAutoCutObjHidden "False"
+  std::set<std::string> offersAuto;  // cut options with a third choice, AUTO
+  std::string autoCutHidden;  // LxAutoCutObjHidden; "False" shows its box, and none when empty
   bool isRoll = false;        // LxTapeType "WN"
   std::string paper = "W12";  // the default one of kTestPapers
   std::string extension;      // *APDialogExtension; none when empty
