@@ -1,17 +1,12 @@
 // What the program and its dialog module (cutline-dialog.so, loaded on demand) agree on.
 #pragma once
 
-#include <cstdint>
-
 #include "host/core/CommandLine.h"
 
 namespace cutline {
 
 class Installation;
 class PluginLoader;
-
-// Changes whenever a header of host/core/ that the module uses changes.
-inline constexpr std::uint32_t kDialogAbiVersion = 2;
 
 // Everything is borrowed and outlives the call.
 struct DialogRequest {
@@ -21,13 +16,13 @@ struct DialogRequest {
 };
 
 inline constexpr char kDialogModuleName[] = "cutline-dialog.so";
-inline constexpr char kDialogAbiSymbol[] = "CutlineDialogAbi";
+inline constexpr char kDialogBuildSymbol[] = "CutlineDialogBuild";
 inline constexpr char kDialogRunSymbol[] = "CutlineRunDialog";
 
 extern "C" {
-// Both exported by the module. The first answers kDialogAbiVersion as the module was compiled with
-// it, and is asked before the second.
-std::uint32_t CutlineDialogAbi() noexcept;
+// Both exported by the module. The first answers the module's buildId(), and is asked before the
+// second.
+const char* CutlineDialogBuild() noexcept;
 // Makes the toolkit and its platform, shows the dialog (or takes its snapshot), prints what the
 // user asked for and answers the program's exit status. An error that ends the dialog before it is
 // shown goes to standard error as one line "cutline: ...". Throws nothing.

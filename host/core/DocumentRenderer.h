@@ -44,15 +44,14 @@ class DocumentRenderer {
   virtual Result<std::shared_ptr<Document>> open(const std::string& path) noexcept = 0;
 };
 
-inline constexpr std::uint32_t kDocumentAbiVersion = 2;
 inline constexpr char kDocumentModuleName[] = "cutline-document.so";
-inline constexpr char kDocumentAbiSymbol[] = "CutlineDocumentAbi";
+inline constexpr char kDocumentBuildSymbol[] = "CutlineDocumentBuild";
 inline constexpr char kDocumentRendererSymbol[] = "CutlineDocumentRenderer";
 
 extern "C" {
-// Both exported by the module; the first is asked before the second and answers
-// kDocumentAbiVersion.
-std::uint32_t CutlineDocumentAbi() noexcept;
+// Both exported by the module; the first is asked before the second and answers the module's
+// buildId().
+const char* CutlineDocumentBuild() noexcept;
 // The module's renderer, borrowed; it lives as long as the process.
 cutline::DocumentRenderer* CutlineDocumentRenderer() noexcept;
 }

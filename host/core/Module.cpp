@@ -2,6 +2,9 @@
 
 #include <dlfcn.h>
 
+#include <string_view>
+
+#include "host/core/BuildId.h"
 #include "host/core/DocumentRenderer.h"
 #include "host/core/Installation.h"
 
@@ -9,7 +12,7 @@ namespace cutline {
 
 namespace {
 
-using AbiFunction = std::uint32_t (*)() noexcept;
+using BuildFunction = const char* (*)() noexcept;
 using RendererFunction = DocumentRenderer* (*)() noexcept;
 
 Error damaged(const std::string& path, const std::string& reason) {
@@ -18,22 +21,22 @@ Error damaged(const std::string& path, const std::string& reason) {
 
 }  // namespace
 
-Result<void*> loadModule(const std::string& path, const char* abiSymbol, std::uint32_t abi,
-                         const char* symbol) {
+Result<void*> loadModule(const std::string& path, const char* buildSymbol, const char* symbol) {
   void* module = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
   if (module == nullptr) return damaged(path, dlerror());
-  const auto askAbi = reinterpret_cast<AbiFunction>(dlsym(module, abiSymbol));
-  if (askAbi == nullptr) return damaged(path, std::string("has no ") + abiSymbol);
-  if (askAbi() != abi) return damaged(path, "belongs to another version of the program");
+  const auto askBuild = reinterpret_cast<BuildFunction>(dlsym(module, buildSymbol));
+  if (askBuild == nullptr) return damaged(path, std::string("has no ") + buildSymbol);
+  if (askBuild() != std::string_view(buildId())) {
+    return damaged(path, "belongs to another build of the program");
+  }
   void* address = dlsym(module, symbol);
   if (address == nullptr) return damaged(path, std::string("has no ") + symbol);
   return address;
 }
 
 Result<DocumentRenderer*> loadDocumentRenderer(const Installation& installation) {
-  const Result<void*> function =
-      loadModule(installation.modulePath(kDocumentModuleName), kDocumentAbiSymbol,
-                 kDocumentAbiVersion, kDocumentRendererSymbol);
+  const Result<void*> function = loadModule(installation.modulePath(kDocumentModuleName),
+                                            kDocumentBuildSymbol, kDocumentRendererSymbol);
   if (!function) return function.error();
   return reinterpret_cast<RendererFunction>(*function)();
 }

@@ -27,8 +27,8 @@ int fail(const Error& error, int status = kExitError) {
 
 int showDialog(const CommandLine& line, PluginLoader& plugIns) {
   const Installation installation = Installation::ofThisProgram();
-  const Result<void*> function = loadModule(installation.modulePath(kDialogModuleName),
-                                            kDialogAbiSymbol, kDialogAbiVersion, kDialogRunSymbol);
+  const Result<void*> function =
+      loadModule(installation.modulePath(kDialogModuleName), kDialogBuildSymbol, kDialogRunSymbol);
   if (!function) return fail(function.error());
   return reinterpret_cast<DialogFunction>(*function)({&line, &plugIns, &installation});
 }

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "host/core/BuildId.h"
 #include "host/core/Installation.h"
 #include "host/dialog/Appearance.h"
 #include "host/dialog/DialogLanguage.h"
@@ -97,7 +98,7 @@ int runDialog(const DialogRequest& request) {
 
 }  // namespace
 
-std::uint32_t CutlineDialogAbi() noexcept { return kDialogAbiVersion; }
+const char* CutlineDialogBuild() noexcept { return buildId(); }
 
 int CutlineRunDialog(const DialogRequest& request) noexcept {
   try {

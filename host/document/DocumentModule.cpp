@@ -1,9 +1,10 @@
+#include "host/core/BuildId.h"
 #include "host/core/DocumentRenderer.h"
 #include "host/document/FileRenderer.h"
 
 namespace cutline {
 
-std::uint32_t CutlineDocumentAbi() noexcept { return kDocumentAbiVersion; }
+const char* CutlineDocumentBuild() noexcept { return buildId(); }
 
 DocumentRenderer* CutlineDocumentRenderer() noexcept {
   static FileRenderer renderer;

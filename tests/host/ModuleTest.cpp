@@ -10,18 +10,22 @@ namespace {
 constexpr char kModule[] = CUTLINE_BUILD_DIR "/tests/modules/PlainModule.so";
 
 TEST(Module, AnswersTheSymbolsAddress) {
-  const auto address = loadModule(kModule, "TestModuleAbi", 7, "TestModuleAnswer");
+  const auto address = loadModule(kModule, "TestModuleBuild", "TestModuleAnswer");
   ASSERT_TRUE(address) << address.error().message;
   EXPECT_EQ(reinterpret_cast<int (*)()>(*address)(), 42);
 }
 
-TEST(Module, RefusesAnotherAbi) {
-  EXPECT_FALSE(loadModule(kModule, "TestModuleAbi", 8, "TestModuleAnswer"));
+TEST(Module, RefusesAnotherBuild) {
+  const auto address = loadModule(kModule, "TestModuleOtherBuild", "TestModuleAnswer");
+  ASSERT_FALSE(address);
+  EXPECT_EQ(address.error().message, std::string(kModule) +
+                                         ": belongs to another build of the program; install the "
+                                         "program again");
 }
 
 TEST(Module, RefusesAMissingSymbol) {
-  EXPECT_FALSE(loadModule(kModule, "NoSuchAbi", 7, "TestModuleAnswer"));
-  EXPECT_FALSE(loadModule(kModule, "TestModuleAbi", 7, "NoSuchAnswer"));
+  EXPECT_FALSE(loadModule(kModule, "NoSuchBuild", "TestModuleAnswer"));
+  EXPECT_FALSE(loadModule(kModule, "TestModuleBuild", "NoSuchAnswer"));
 }
 
 TEST(Module, AMissingModuleIsNamed) {

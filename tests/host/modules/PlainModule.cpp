@@ -1,7 +1,12 @@
 // A module of a program, and no plug-in.
-#include <cstdint>
+#include "host/core/BuildId.h"
 
 extern "C" {
-__attribute__((visibility("default"))) std::uint32_t TestModuleAbi() noexcept { return 7; }
+__attribute__((visibility("default"))) const char* TestModuleBuild() noexcept {
+  return cutline::buildId();
+}
+__attribute__((visibility("default"))) const char* TestModuleOtherBuild() noexcept {
+  return "0123456789abcdef";
+}
 __attribute__((visibility("default"))) int TestModuleAnswer() noexcept { return 42; }
 }
