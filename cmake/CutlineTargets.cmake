@@ -56,5 +56,5 @@ function(cutline_add_test NAME)
   target_compile_definitions(${NAME} PRIVATE
     CUTLINE_SOURCE_DIR="${CMAKE_SOURCE_DIR}" CUTLINE_BUILD_DIR="${CMAKE_BINARY_DIR}")
   add_test(NAME ${NAME} COMMAND ${NAME})
-  set_tests_properties(${NAME} PROPERTIES TIMEOUT 600 ENVIRONMENT "${ARG_ENVIRONMENT}")
+  set_tests_properties(${NAME} PROPERTIES TIMEOUT 1800 ENVIRONMENT "${ARG_ENVIRONMENT}")
 endfunction()
