@@ -50,6 +50,14 @@ constexpr std::array kReasonTexts = std::to_array<ReasonText>({
     {"aborted-by-system", Phrase("cups", "by the print server")},
 });
 
+std::vector<Sentence> remarksOf(const std::vector<std::string>& reasons) {
+  std::vector<Sentence> remarks;
+  for (const ReasonText& row : kReasonTexts) {
+    if (std::ranges::find(reasons, row.keyword) != reasons.end()) remarks.push_back(row.text);
+  }
+  return remarks;
+}
+
 const StateText& rowOf(JobState state) {
   return *std::ranges::find(kStateTexts, state, &StateText::state);
 }
@@ -74,6 +82,17 @@ std::vector<std::string> textsOf(ipp_t* answer, const char* name) {
   return texts;
 }
 
+// The larger of the server's two counts. They follow what the filters tell, which all that make
+// pages do.
+std::optional<int> pagesOf(ipp_t* answer) {
+  std::optional<int> pages;
+  for (const char* name : {"job-impressions-completed", "job-media-sheets-completed"}) {
+    ipp_attribute_t* count = ippFindAttribute(answer, name, IPP_TAG_INTEGER);
+    if (count) pages = std::max(pages.value_or(0), ippGetInteger(count, 0));
+  }
+  return pages;
+}
+
 std::optional<JobStatus> statusOf(ipp_t* answer) {
   ipp_attribute_t* attribute = ippFindAttribute(answer, "job-state", IPP_TAG_ENUM);
   if (!attribute) return std::nullopt;
@@ -81,7 +100,7 @@ std::optional<JobStatus> statusOf(ipp_t* answer) {
       kStateTexts, static_cast<ipp_jstate_t>(ippGetInteger(attribute, 0)), &StateText::ipp);
   if (row == kStateTexts.end()) return std::nullopt;
   return JobStatus{row->state, textOf(answer, "job-printer-state-message", IPP_TAG_TEXT),
-                   textsOf(answer, "job-state-reasons")};
+                   textsOf(answer, "job-state-reasons"), pagesOf(answer)};
 }
 
 IppMessage newRequest(ipp_op_t operation, const DestinationName& destination) {
@@ -94,8 +113,8 @@ IppMessage newRequest(ipp_op_t operation, const DestinationName& destination) {
 }
 
 IppMessage jobRequest(const DestinationName& destination, int jobId) {
-  constexpr std::array<const char*, 3> kWanted{"job-state", "job-state-reasons",
-                                               "job-printer-state-message"};
+  constexpr std::array kWanted{"job-state", "job-state-reasons", "job-printer-state-message",
+                               "job-impressions-completed", "job-media-sheets-completed"};
   IppMessage request = newRequest(IPP_OP_GET_JOB_ATTRIBUTES, destination);
   ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
   ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
@@ -133,13 +152,9 @@ void addPause(http_t* http, const DestinationName& destination, JobStatus& statu
 
 bool JobStatus::isFinal() const noexcept { return rowOf(state).isFinal; }
 
-Sentence JobStatus::text() const {
-  std::vector<Sentence> remarks;
-  for (const ReasonText& row : kReasonTexts) {
-    if (std::ranges::find(reasons, row.keyword) != reasons.end()) remarks.push_back(row.text);
-  }
-  return withRemarks(rowOf(state).text, remarks);
-}
+bool JobStatus::saysMoreThanItsState() const { return !remarksOf(reasons).empty(); }
+
+Sentence JobStatus::text() const { return withRemarks(rowOf(state).text, remarksOf(reasons)); }
 
 Result<JobStatus> jobStatus(const ServerOptions& server, const DestinationName& destination,
                             int jobId) {

@@ -1,6 +1,7 @@
 // How far a print job has come.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,8 +17,13 @@ struct JobStatus {
   JobState state = JobState::pending;
   std::string message;               // the printer's own words, may be empty
   std::vector<std::string> reasons;  // IPP job-state-reasons
+  // How many pages the server has counted; nothing where it counts none, as for what goes to the
+  // printer as it is.
+  std::optional<int> pages = std::nullopt;
 
   bool isFinal() const noexcept;
+  // Whether one of the reasons tells what the job waits for.
+  bool saysMoreThanItsState() const;
   // The state in plain words, such as "Printing" or "Waiting - the printer is paused".
   Sentence text() const;
 };

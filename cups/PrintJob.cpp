@@ -1,14 +1,9 @@
 #include "cups/PrintJob.h"
 
-#include <algorithm>
-#include <cerrno>
-#include <cstring>
-#include <filesystem>
-#include <fstream>
 #include <vector>
 
 #include "cups/CupsOptions.h"
-#include "cups/DocumentFormat.h"
+#include "cups/DocumentFile.h"
 #include "cups/ServerConnection.h"
 
 namespace cutline {
@@ -17,46 +12,16 @@ namespace {
 
 constexpr std::size_t kBlockSize = 65536;
 
-struct Document {
-  std::ifstream file;
-  std::string name;
-  std::string format;
-  std::uint64_t size = 0;
-};
-
-Error unreadable(const std::string& path, Sentence reason) {
-  return Sentence(Phrase("cups", "cannot read the document \"%1\": %2"), {path, std::move(reason)});
-}
-
-Result<Document> openDocument(const std::string& path) {
-  std::error_code problem;
-  if (std::filesystem::is_directory(path, problem))
-    return unreadable(path, Phrase("cups", "it is a folder"));
-  Document document{std::ifstream(path, std::ios::binary), "", "", 0};
-  if (!document.file) return unreadable(path, std::string(std::strerror(errno)));
-  document.size = std::filesystem::file_size(path, problem);
-  if (problem) return unreadable(path, problem.message());
-  if (document.size == 0) return unreadable(path, Phrase("cups", "it is empty"));
-  std::string start(std::min<std::uint64_t>(kBlockSize, document.size), '\0');
-  document.file.read(start.data(), static_cast<std::streamsize>(start.size()));
-  document.format =
-      documentFormat({start.data(), static_cast<std::size_t>(document.file.gcount())});
-  document.file.clear();
-  document.file.seekg(0);
-  document.name = std::filesystem::path(path).filename();
-  return document;
-}
-
 // How the sending of a document ended.
 enum class Sending { done, givenUp, unreadable, refused };
 
 // Sends the document's blocks; the library sends a request's body in chunks.
-Sending sendBlocks(http_t* http, Document& document, const SpoolProgress& progress) {
+Sending sendBlocks(http_t* http, DocumentFile& document, const SpoolProgress& progress) {
   std::vector<char> block(kBlockSize);
   std::uint64_t sent = 0;
-  while (document.file) {
-    document.file.read(block.data(), static_cast<std::streamsize>(block.size()));
-    const auto count = static_cast<std::size_t>(document.file.gcount());
+  while (document.stream) {
+    document.stream.read(block.data(), static_cast<std::streamsize>(block.size()));
+    const auto count = static_cast<std::size_t>(document.stream.gcount());
     if (count == 0) break;
     if (cupsWriteRequestData(http, block.data(), count) != HTTP_STATUS_CONTINUE) {
       return Sending::refused;
@@ -68,7 +33,7 @@ Sending sendBlocks(http_t* http, Document& document, const SpoolProgress& progre
   return sent < document.size ? Sending::unreadable : Sending::done;
 }
 
-Sending sendDocument(http_t* http, const char* printer, int jobId, Document& document,
+Sending sendDocument(http_t* http, const char* printer, int jobId, DocumentFile& document,
                      const SpoolProgress& progress) {
   const http_status_t started =
       cupsStartDocument(http, printer, jobId, document.name.c_str(), document.format.c_str(),
@@ -109,7 +74,7 @@ Error takenBack(const ServerOptions& server, const PrintRequest& request, int jo
 
 Result<int> submitJob(const ServerOptions& server, const PrintRequest& request,
                       const SpoolProgress& progress) {
-  auto document = openDocument(request.path);
+  auto document = DocumentFile::open(request.path);
   if (!document) return document.error();
   if (progress && !progress(0, document->size)) return givenUp();
   auto connection = ServerConnection::open(server);

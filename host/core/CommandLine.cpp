@@ -2,9 +2,9 @@
 
 #include <getopt.h>
 
-#include <charconv>
 #include <vector>
 
+#include "base/Numbers.h"
 #include "cups/CupsOptions.h"
 #include "host/core/PageRanges.h"
 
@@ -12,11 +12,11 @@ namespace cutline {
 
 namespace {
 
-constexpr int kMaxCopies = 9999;
 // Long options without a letter of their own.
 enum LongOption {
   kPpd = 256,
   kPrint,
+  kWait,
   kSummary,
   kOptions,
   kSnapshot,
@@ -32,6 +32,7 @@ enum LongOption {
 constexpr char kShortOptions[] = ":d:n:P:t:o:h:EU:";
 constexpr option kLongOptions[] = {{"ppd", required_argument, nullptr, kPpd},
                                    {"print", no_argument, nullptr, kPrint},
+                                   {"wait", no_argument, nullptr, kWait},
                                    {"summary", no_argument, nullptr, kSummary},
                                    {"options", no_argument, nullptr, kOptions},
                                    {"snapshot", required_argument, nullptr, kSnapshot},
@@ -59,6 +60,7 @@ Print labels and tapes: shows a print dialog with the printer's cut options.
 
   --ppd FILE             work on this PPD file instead of a printer; cannot print
   --print                print at once, without a window; FILE absent or - reads standard input
+  --wait                 with --print: end when the job has ended
   --summary              show the panel's summary and end
   --options              show what would be sent with the job and end
   --snapshot PNG         save a picture of the dialog as it opens and end
@@ -69,7 +71,9 @@ Print labels and tapes: shows a print dialog with the printer's cut options.
   --marks                print times of the start on standard output and end (for measuring)
   --help, --version      show this text, or the version, and end
 
-Exit status: 0 done, 1 error, 2 wrong usage, 3 cancelled.
+Exit status: 0 done, 1 error, 2 wrong usage, 3 cancelled. --print is done when the print
+server has taken the whole document; with --wait, when the job has ended and something came
+out: it is an error when the job was cancelled or given up, or ended without a page.
 )";
 
 using Problem = std::optional<std::string>;
@@ -81,25 +85,18 @@ Problem setCommand(CommandLine& line, Command command) {
   return std::nullopt;
 }
 
-std::optional<int> wholeNumber(const std::string& text) {
-  int number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  const bool whole = error == std::errc() && end == text.data() + text.size();
-  return whole ? std::optional<int>(number) : std::nullopt;
-}
-
 Problem setCopies(CommandLine& line, const std::string& text) {
-  const std::optional<int> copies = wholeNumber(text);
-  if (!copies || *copies < 1 || *copies > kMaxCopies)
-    return "copies: \"" + text + "\" is no number from 1 to " + std::to_string(kMaxCopies);
+  const std::optional<int> copies = numberIn<int>(text);
+  if (!copies || *copies < 1 || *copies > kMostCopies)
+    return "copies: \"" + text + "\" is no number from 1 to " + std::to_string(kMostCopies);
   line.asked.copies = copies;
   return std::nullopt;
 }
 
 Problem setPages(CommandLine& line, const std::string& text) {
-  const Result<std::string> ranges = normalizedPageRanges(text);
+  const Result<PageRanges> ranges = PageRanges::parse(text);
   if (!ranges) return ranges.error().message;
-  line.asked.pageRanges = *ranges;
+  line.asked.pageRanges = ranges->text();
   return std::nullopt;
 }
 
@@ -170,6 +167,8 @@ Problem apply(CommandLine& line, int option, const std::string& text) {
       return store(line.ppdPath, text);
     case kPrint:
       return setCommand(line, Command::print);
+    case kWait:
+      return turnOn(line.waits);
     case kSummary:
       return setCommand(line, Command::summary);
     case kOptions:
@@ -192,6 +191,7 @@ Problem apply(CommandLine& line, int option, const std::string& text) {
 }
 
 Problem checkTogether(const CommandLine& line) {
+  if (line.waits && line.command != Command::print) return "--wait goes with --print only";
   if (!line.ppdPath) return std::nullopt;
   if (line.destination) return "--ppd and -d exclude each other";
   if (line.command == Command::list) return "--ppd and --list exclude each other";

@@ -31,6 +31,7 @@ struct CommandLine {
   std::string snapshotPath;                    // --snapshot
   int scale = 1;                               // --scale: pixels per point, 1 or 2
   bool dark = false;                           // --dark
+  bool waits = false;                          // --wait: until the job has ended
   bool marks = false;                          // --marks: times on standard output, then end
 };
 

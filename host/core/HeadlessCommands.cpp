@@ -1,13 +1,17 @@
 #include "host/core/HeadlessCommands.h"
 
+#include <algorithm>
+#include <chrono>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
+#include <thread>
 
 #include "cups/Destinations.h"
 #include "cups/PrintJob.h"
 #include "host/core/CutRules.h"
+#include "host/core/DocumentCheck.h"
 #include "host/core/HostPlatform.h"
+#include "host/core/JobEnd.h"
 #include "host/core/PluginLoader.h"
 #include "host/core/PrintModel.h"
 #include "host/core/PrinterSelection.h"
@@ -55,6 +59,13 @@ class Session {
   PrintModel mModel;
 };
 
+// Short against what a printer needs for a label.
+constexpr std::chrono::milliseconds kBetweenQuestions{250};
+
+void tell(std::ostream& notes, const std::string& text) {
+  notes << "cutline: " << text << std::endl;
+}
+
 struct Streams {
   std::ostream& out;
   std::ostream& notes;
@@ -78,34 +89,43 @@ Result<Done> showOptions(const CommandLine& line, PluginLoader& plugIns, const S
   return Done{};
 }
 
-Result<Done> checkDocument(const std::string& path) {
-  std::error_code error;
-  const auto status = std::filesystem::status(path, error);
-  if (!std::filesystem::exists(status)) return Error{path + ": there is no such document"};
-  if (!std::filesystem::is_regular_file(status)) return Error{path + ": is no document"};
-  if (!std::ifstream(path)) return Error{path + ": you may not read this document"};
-  if (std::filesystem::file_size(path, error) == 0) return Error{path + ": the document is empty"};
-  return Done{};
-}
-
 std::string titleOf(const CommandLine& line) {
   return line.title.value_or(std::filesystem::path(*line.file).filename().string());
 }
 
+// What goes to the printer as it is has no pages that the server could count.
+bool isCounted(const OptionList& options) {
+  return std::none_of(options.begin(), options.end(),
+                      [](const auto& option) { return option.first == "raw"; });
+}
+
+Result<Done> follow(const CommandLine& line, const DestinationName& name, int job,
+                    const OptionList& options, const Streams& streams) {
+  const auto ask = [&] {
+    Result<JobStatus> status = jobStatus(line.server, name, job);
+    if (status && !isCounted(options)) status->pages.reset();
+    return status;
+  };
+  return waitForEnd({jobName(name, job), ask,
+                     [] { std::this_thread::sleep_for(kBetweenQuestions); },
+                     [&](const std::string& text) { tell(streams.notes, text); }});
+}
+
 Result<Done> print(const CommandLine& line, PluginLoader& plugIns, const Streams& streams) {
-  Result<Done> readable = checkDocument(*line.file);
-  if (!readable) return readable;
+  const Result<DocumentFacts> document = checkDocument(*line.file);
+  if (!document) return document.error();
   Session session(line, plugIns, streams.notes);
   Result<Done> opened = session.openSelected();
   if (!opened) return opened;
   const Result<OptionList> options = session.model().prepareToPrint();
   if (!options) return options.error();
+  if (Result<Done> checked = checkPages(*document, *options); !checked) return checked;
   const DestinationName name = session.model().destination().name;
   const Result<int> job = submitJob(line.server, {name, *line.file, titleOf(line), *options},
                                     [](std::uint64_t, std::uint64_t) { return true; });
   if (!job) return job.error();
-  streams.out << "request id is " << name.printer << "-" << *job << " (1 file(s))\n";
-  return Done{};
+  streams.out << "request id is " << jobName(name, *job) << " (1 file(s))" << std::endl;
+  return line.waits ? follow(line, name, *job, *options, streams) : Result<Done>(Done{});
 }
 
 std::string familyOf(const PpdFile& ppd) {

@@ -1,8 +1,9 @@
 #include "host/core/PrintModel.h"
 
 #include <algorithm>
-#include <charconv>
 
+#include "base/Lists.h"
+#include "base/Numbers.h"
 #include "host/core/ConflictResolution.h"
 #include "host/core/CutRules.h"
 #include "host/core/JobOptions.h"
@@ -14,8 +15,6 @@ namespace cutline {
 
 namespace {
 
-constexpr int kMaxCopies = 9999;
-
 std::optional<std::string> lastValue(const OptionList& options, const std::string& name) {
   const auto found = std::find_if(options.rbegin(), options.rend(),
                                   [&](const auto& option) { return option.first == name; });
@@ -24,9 +23,8 @@ std::optional<std::string> lastValue(const OptionList& options, const std::strin
 
 std::optional<int> copiesOf(const OptionList& options) {
   const std::string text = lastValue(options, "copies").value_or("");
-  int copies = 0;
-  std::from_chars(text.data(), text.data() + text.size(), copies);
-  return copies >= 1 && copies <= kMaxCopies ? std::optional<int>(copies) : std::nullopt;
+  const std::optional<int> copies = numberIn<int>(text);
+  return copies && *copies >= 1 && *copies <= kMostCopies ? copies : std::nullopt;
 }
 
 bool hasOwnControl(const std::string& keyword) {
@@ -34,9 +32,9 @@ bool hasOwnControl(const std::string& keyword) {
 }
 
 std::string listOf(const std::vector<PaperSize>& papers) {
-  std::string names;
-  for (const PaperSize& paper : papers) names += (names.empty() ? "" : ", ") + paper.name;
-  return names;
+  std::vector<std::string> names;
+  for (const PaperSize& paper : papers) names.push_back(paper.name);
+  return listed(names);
 }
 
 }  // namespace
@@ -133,9 +131,9 @@ int PrintModel::copies() const noexcept {
 }
 
 Result<Done> PrintModel::setCopies(int copies) {
-  if (copies < 1 || copies > kMaxCopies)
+  if (copies < 1 || copies > kMostCopies)
     return Error{Sentence(Phrase("host", "copies: %1 is not between 1 and %2"),
-                          {std::to_string(copies), std::to_string(kMaxCopies)})};
+                          {std::to_string(copies), std::to_string(kMostCopies)})};
   mAsked.copies = copies;
   tell(ModelChange::job);
   return Done{};
@@ -147,9 +145,9 @@ std::string PrintModel::pageRanges() const {
 }
 
 Result<Done> PrintModel::setPageRanges(const std::string& text) {
-  const Result<std::string> ranges = normalizedPageRanges(text);
+  const Result<PageRanges> ranges = PageRanges::parse(text);
   if (!ranges) return ranges.error();
-  mAsked.pageRanges = *ranges;
+  mAsked.pageRanges = ranges->text();
   tell(ModelChange::job);
   return Done{};
 }

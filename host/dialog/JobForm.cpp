@@ -8,17 +8,12 @@
 #include <QSignalBlocker>
 #include <QSpinBox>
 
+#include "base/Numbers.h"
 #include "host/dialog/NoticeView.h"
 #include "qt/QtText.h"
 #include "qt/accessibility.h"
 
 namespace cutline {
-namespace {
-
-constexpr int kMostCopies = 9999;
-
-}  // namespace
-
 JobForm::JobForm(QWidget* parent)
     : QWidget(parent),
       mCopiesCaption(new QLabel(tr("&Copies:"), this)),

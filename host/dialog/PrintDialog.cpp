@@ -160,7 +160,9 @@ void PrintDialog::showPaper() {
 void PrintDialog::showJob() {
   mJobForm->setCopies(mModel.copies());
   mJobForm->setPages(toQString(mModel.pageRanges()));
-  mStripPane->strip().setSelection(PageSelection(mModel.pageRanges()));
+  // Ranges that were saved may be none; they are named when the user prints.
+  const Result<PageRanges> ranges = PageRanges::parse(mModel.pageRanges());
+  mStripPane->strip().setSelection(ranges ? *ranges : PageRanges());
 }
 
 void PrintDialog::fitToPanels() {
@@ -182,7 +184,19 @@ void PrintDialog::editPages(const QString& text) {
 
 void PrintDialog::finishPages(const QString& text) {
   const Result<Done> set = mModel.setPageRanges(toUtf8(text));
-  mJobForm->setPagesProblem(set ? QString() : asLine(set.error().sentence));
+  showPagesProblem(set ? checkPages() : set);
+}
+
+void PrintDialog::showPagesProblem(const Result<Done>& checked) {
+  mJobForm->setPagesProblem(checked ? QString() : asLine(checked.error().sentence));
+}
+
+// Against a document whose pages can be counted here.
+Result<Done> PrintDialog::checkPages() const {
+  const Result<PageRanges> ranges = PageRanges::parse(mModel.pageRanges());
+  if (!ranges) return ranges.error();
+  if (!mDocument->isOpen() || mDocument->isPlaceholder()) return Done{};
+  return ranges->checkWithin(static_cast<int>(mDocument->pageSizes().size()));
 }
 
 void PrintDialog::showMoreOptions(bool shown) {

@@ -90,6 +90,8 @@ class PrintDialog : public QDialog, private PrintModelListener {
   void chooseOption(const QString& keyword, const QString& choice);
   void editPages(const QString& text);
   void finishPages(const QString& text);
+  void showPagesProblem(const Result<Done>& checked);
+  Result<Done> checkPages() const;
   void showMoreOptions(bool shown);
 
   void takePrinters(const std::vector<Destination>& destinations);

@@ -31,6 +31,7 @@ void PrintDialog::connectDocument() {
     strip.setMessage({});
     mStripPane->setPlaceholder(mDocument->isPlaceholder());
     strip.setPages(mDocument->pageSizes());
+    showPagesProblem(checkPages());
   });
   connect(mDocument, &DocumentLoader::unavailable, &strip,
           [&strip] { strip.setMessage(tr("No preview: its module is not installed")); });

@@ -58,7 +58,7 @@ void StripView::setPages(std::vector<Size> pages) {
   emit currentPageChanged(mCurrentPage);
 }
 
-void StripView::setSelection(const PageSelection& selection) {
+void StripView::setSelection(const PageRanges& selection) {
   mSelection = selection;
   viewport()->update();
 }

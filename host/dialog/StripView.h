@@ -7,8 +7,8 @@
 #include <deque>
 #include <optional>
 
+#include "host/core/PageRanges.h"
 #include "host/dialog/DocumentPages.h"
-#include "host/dialog/PageSelection.h"
 #include "host/dialog/StripLayout.h"
 
 namespace cutline {
@@ -23,7 +23,7 @@ class StripView : public QAbstractScrollArea {
   void setPaper(const PaperSize& paper, StripDirection direction);
   // The document's pages, in points; none yet shows one empty label.
   void setPages(std::vector<Size> pages);
-  void setSelection(const PageSelection& selection);
+  void setSelection(const PageRanges& selection);
   void setMirrored(bool mirrored);
   // Shown over the strip, for waiting and for failures; empty shows none.
   void setMessage(const QString& message);
@@ -78,7 +78,7 @@ class StripView : public QAbstractScrollArea {
   std::optional<PaperSize> mPaper;
   StripDirection mDirection = StripDirection::across;
   std::vector<Size> mPages;
-  PageSelection mSelection;
+  PageRanges mSelection;
   bool mIsMirrored = false;
   QString mMessage;
   QString mWords;

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <exception>
 
-#include "host/document/file_error.h"
+#include "host/core/DocumentCheck.h"
 #include "host/document/page_image.h"
 
 namespace cutline {
@@ -26,13 +26,12 @@ bool ImageDocument::canRead(const QString& path) {
   return reader.canRead();
 }
 
-Result<std::shared_ptr<Document>> ImageDocument::open(const QString& path) {
-  QImageReader reader(path);
+Result<std::shared_ptr<Document>> ImageDocument::open(const std::string& path) {
+  QImageReader reader(QString::fromStdString(path));
   reader.setDecideFormatFromContent(true);
   QImage image = reader.read();
   if (image.isNull()) {
-    return aboutFile(path, {Phrase("document", "the picture cannot be read: %1"),
-                            {reader.errorString().toStdString()}});
+    return unreadable(path, reader.errorString().toStdString());
   }
   return std::shared_ptr<Document>(std::make_shared<ImageDocument>(std::move(image)));
 }

@@ -13,7 +13,7 @@ class ImageDocument final : public Document {
   // True when the file begins as a picture of a known kind; it may still be damaged.
   static bool canRead(const QString& path);
   // The error says that the file is damaged, or too large.
-  static Result<std::shared_ptr<Document>> open(const QString& path);
+  static Result<std::shared_ptr<Document>> open(const std::string& path);
 
   explicit ImageDocument(QImage image) : mImage(std::move(image)) {}
 

@@ -6,7 +6,7 @@
 #include <QVariant>
 #include <exception>
 
-#include "host/document/file_error.h"
+#include "host/core/DocumentCheck.h"
 #include "host/document/page_image.h"
 
 namespace cutline {
@@ -43,18 +43,11 @@ Error undrawable(int page, const std::string& reason) {
 
 }  // namespace
 
-Result<std::shared_ptr<Document>> PdfDocument::open(const QString& path) {
+Result<std::shared_ptr<Document>> PdfDocument::open(const std::string& path) {
   Poppler::setDebugErrorFunction(ignoreFlaw, {});
-  std::unique_ptr<Poppler::Document> document = Poppler::Document::load(path);
-  if (!document) {
-    return aboutFile(path,
-                     Phrase("document", "the PDF is damaged; open it elsewhere and save it again"));
-  }
-  if (document->isLocked()) {
-    return aboutFile(path,
-                     Phrase("document", "the PDF is locked with a password; save it without one"));
-  }
-  if (document->numPages() < 1) return aboutFile(path, Phrase("document", "the PDF has no pages"));
+  std::unique_ptr<Poppler::Document> document =
+      Poppler::Document::load(QString::fromStdString(path));
+  if (!document || document->isLocked() || document->numPages() < 1) return damagedPdf(path);
   document->setRenderHint(Poppler::Document::Antialiasing);
   document->setRenderHint(Poppler::Document::TextAntialiasing);
   return std::shared_ptr<Document>(std::make_shared<PdfDocument>(std::move(document)));

@@ -1,8 +1,8 @@
 // A PDF file.
 #pragma once
 
-#include <QString>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "host/core/DocumentRenderer.h"
@@ -15,8 +15,8 @@ namespace cutline {
 
 class PdfDocument final : public Document {
  public:
-  // The error says whether the file is damaged, locked by a password or without pages.
-  static Result<std::shared_ptr<Document>> open(const QString& path);
+  // A file that passed the check of documents; an error when it cannot be drawn all the same.
+  static Result<std::shared_ptr<Document>> open(const std::string& path);
 
   explicit PdfDocument(std::unique_ptr<Poppler::Document> document);
   ~PdfDocument() override;

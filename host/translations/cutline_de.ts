@@ -415,6 +415,10 @@
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
         <translation>%1: der Druckserver auf „%2“ meldet: %3</translation>
     </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>das ist keine Datei</translation>
+    </message>
 </context>
 <context>
     <name>cutline::DialogSession</name>
@@ -776,22 +780,6 @@
 <context>
     <name>document</name>
     <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>is a directory; name a document</source>
-        <translation>ist ein Ordner; geben Sie ein Dokument an</translation>
-    </message>
-    <message>
-        <source>the file is empty</source>
-        <translation>die Datei ist leer</translation>
-    </message>
-    <message>
-        <source>the picture cannot be read: %1</source>
-        <translation>das Bild kann nicht gelesen werden: %1</translation>
-    </message>
-    <message>
         <source>the picture cannot be drawn: %1</source>
         <translation>das Bild kann nicht gezeichnet werden: %1</translation>
     </message>
@@ -810,18 +798,6 @@
     <message>
         <source>page %1 cannot be drawn: %2</source>
         <translation>Seite %1 kann nicht gezeichnet werden: %2</translation>
-    </message>
-    <message>
-        <source>the PDF is damaged; open it elsewhere and save it again</source>
-        <translation>die PDF-Datei ist beschädigt; öffnen Sie sie in einem anderen Programm, und speichern Sie sie neu</translation>
-    </message>
-    <message>
-        <source>the PDF is locked with a password; save it without one</source>
-        <translation>die PDF-Datei ist mit einem Kennwort gesperrt; speichern Sie sie ohne Kennwort</translation>
-    </message>
-    <message>
-        <source>the PDF has no pages</source>
-        <translation>die PDF-Datei hat keine Seiten</translation>
     </message>
     <message>
         <source>the page cannot be drawn: %1</source>
@@ -909,6 +885,26 @@
     <message>
         <source>%1: there is no such document</source>
         <translation>%1: dieses Dokument gibt es nicht</translation>
+    </message>
+    <message>
+        <source>the PDF is locked with a password; save it without one</source>
+        <translation>die PDF-Datei ist mit einem Kennwort gesperrt; speichern Sie sie ohne Kennwort</translation>
+    </message>
+    <message>
+        <source>the PDF has no pages</source>
+        <translation>die PDF-Datei hat keine Seiten</translation>
+    </message>
+    <message>
+        <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
+        <translation>Seitenbereich „%1“: das Dokument hat keine Seite %2, seine letzte ist Seite %3</translation>
+    </message>
+    <message>
+        <source>the PDF is locked against printing; ask its owner for another one</source>
+        <translation>die PDF-Datei ist gegen Drucken gesperrt; bitten Sie ihren Besitzer um eine andere</translation>
+    </message>
+    <message>
+        <source>the picture is damaged; open it elsewhere and save it again</source>
+        <translation>das Bild ist beschädigt; öffnen Sie es in einem anderen Programm, und speichern Sie es neu</translation>
     </message>
 </context>
 </TS>

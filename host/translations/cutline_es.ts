@@ -415,6 +415,10 @@
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
         <translation>%1: el servidor de impresión «%2» dice: %3</translation>
     </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>no es un archivo</translation>
+    </message>
 </context>
 <context>
     <name>cutline::DialogSession</name>
@@ -776,22 +780,6 @@
 <context>
     <name>document</name>
     <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>is a directory; name a document</source>
-        <translation>es una carpeta; indique un documento</translation>
-    </message>
-    <message>
-        <source>the file is empty</source>
-        <translation>el archivo está vacío</translation>
-    </message>
-    <message>
-        <source>the picture cannot be read: %1</source>
-        <translation>no se puede leer la imagen: %1</translation>
-    </message>
-    <message>
         <source>the picture cannot be drawn: %1</source>
         <translation>no se puede dibujar la imagen: %1</translation>
     </message>
@@ -810,18 +798,6 @@
     <message>
         <source>page %1 cannot be drawn: %2</source>
         <translation>no se puede dibujar la página %1: %2</translation>
-    </message>
-    <message>
-        <source>the PDF is damaged; open it elsewhere and save it again</source>
-        <translation>el archivo PDF está dañado; ábralo en otro programa y guárdelo de nuevo</translation>
-    </message>
-    <message>
-        <source>the PDF is locked with a password; save it without one</source>
-        <translation>el archivo PDF está protegido con contraseña; guárdelo sin ella</translation>
-    </message>
-    <message>
-        <source>the PDF has no pages</source>
-        <translation>el archivo PDF no tiene páginas</translation>
     </message>
     <message>
         <source>the page cannot be drawn: %1</source>
@@ -909,6 +885,26 @@
     <message>
         <source>%1: there is no such document</source>
         <translation>%1: ese documento no existe</translation>
+    </message>
+    <message>
+        <source>the PDF is locked with a password; save it without one</source>
+        <translation>el archivo PDF está protegido con contraseña; guárdelo sin ella</translation>
+    </message>
+    <message>
+        <source>the PDF has no pages</source>
+        <translation>el archivo PDF no tiene páginas</translation>
+    </message>
+    <message>
+        <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
+        <translation>intervalo de páginas «%1»: el documento no tiene la página %2, la última es la página %3</translation>
+    </message>
+    <message>
+        <source>the PDF is locked against printing; ask its owner for another one</source>
+        <translation>el archivo PDF está protegido contra la impresión; pida otro a su propietario</translation>
+    </message>
+    <message>
+        <source>the picture is damaged; open it elsewhere and save it again</source>
+        <translation>la imagen está dañada; ábrala en otro programa y guárdela de nuevo</translation>
     </message>
 </context>
 </TS>

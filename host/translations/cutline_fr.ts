@@ -415,6 +415,10 @@
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
         <translation>%1 : le serveur d’impression « %2 » répond : %3</translation>
     </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>ce n’est pas un fichier</translation>
+    </message>
 </context>
 <context>
     <name>cutline::DialogSession</name>
@@ -776,22 +780,6 @@
 <context>
     <name>document</name>
     <message>
-        <source>%1: %2</source>
-        <translation>%1 : %2</translation>
-    </message>
-    <message>
-        <source>is a directory; name a document</source>
-        <translation>c’est un dossier ; indiquez un document</translation>
-    </message>
-    <message>
-        <source>the file is empty</source>
-        <translation>le fichier est vide</translation>
-    </message>
-    <message>
-        <source>the picture cannot be read: %1</source>
-        <translation>l’image est illisible : %1</translation>
-    </message>
-    <message>
         <source>the picture cannot be drawn: %1</source>
         <translation>l’image ne peut pas être dessinée : %1</translation>
     </message>
@@ -810,18 +798,6 @@
     <message>
         <source>page %1 cannot be drawn: %2</source>
         <translation>la page %1 ne peut pas être dessinée : %2</translation>
-    </message>
-    <message>
-        <source>the PDF is damaged; open it elsewhere and save it again</source>
-        <translation>le fichier PDF est endommagé ; ouvrez-le dans un autre programme et enregistrez-le de nouveau</translation>
-    </message>
-    <message>
-        <source>the PDF is locked with a password; save it without one</source>
-        <translation>le fichier PDF est protégé par un mot de passe ; enregistrez-le sans mot de passe</translation>
-    </message>
-    <message>
-        <source>the PDF has no pages</source>
-        <translation>le fichier PDF n’a pas de pages</translation>
     </message>
     <message>
         <source>the page cannot be drawn: %1</source>
@@ -909,6 +885,26 @@
     <message>
         <source>%1: there is no such document</source>
         <translation>%1 : ce document n’existe pas</translation>
+    </message>
+    <message>
+        <source>the PDF is locked with a password; save it without one</source>
+        <translation>le fichier PDF est protégé par un mot de passe ; enregistrez-le sans mot de passe</translation>
+    </message>
+    <message>
+        <source>the PDF has no pages</source>
+        <translation>le fichier PDF n’a pas de pages</translation>
+    </message>
+    <message>
+        <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
+        <translation>plage de pages « %1 » : le document n’a pas de page %2, la dernière est la page %3</translation>
+    </message>
+    <message>
+        <source>the PDF is locked against printing; ask its owner for another one</source>
+        <translation>le fichier PDF est protégé contre l’impression ; demandez-en un autre à son propriétaire</translation>
+    </message>
+    <message>
+        <source>the picture is damaged; open it elsewhere and save it again</source>
+        <translation>l’image est endommagée ; ouvrez-la dans un autre programme et enregistrez-la de nouveau</translation>
     </message>
 </context>
 </TS>

@@ -415,6 +415,10 @@
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
         <translation>%1: il server di stampa «%2» dice: %3</translation>
     </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>non è un file</translation>
+    </message>
 </context>
 <context>
     <name>cutline::DialogSession</name>
@@ -776,22 +780,6 @@
 <context>
     <name>document</name>
     <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>is a directory; name a document</source>
-        <translation>è una cartella; indicare un documento</translation>
-    </message>
-    <message>
-        <source>the file is empty</source>
-        <translation>il file è vuoto</translation>
-    </message>
-    <message>
-        <source>the picture cannot be read: %1</source>
-        <translation>impossibile leggere l’immagine: %1</translation>
-    </message>
-    <message>
         <source>the picture cannot be drawn: %1</source>
         <translation>impossibile disegnare l’immagine: %1</translation>
     </message>
@@ -810,18 +798,6 @@
     <message>
         <source>page %1 cannot be drawn: %2</source>
         <translation>impossibile disegnare la pagina %1: %2</translation>
-    </message>
-    <message>
-        <source>the PDF is damaged; open it elsewhere and save it again</source>
-        <translation>il file PDF è danneggiato; aprirlo in un altro programma e salvarlo di nuovo</translation>
-    </message>
-    <message>
-        <source>the PDF is locked with a password; save it without one</source>
-        <translation>il file PDF è protetto da password; salvarlo senza password</translation>
-    </message>
-    <message>
-        <source>the PDF has no pages</source>
-        <translation>il file PDF non ha pagine</translation>
     </message>
     <message>
         <source>the page cannot be drawn: %1</source>
@@ -909,6 +885,26 @@
     <message>
         <source>%1: there is no such document</source>
         <translation>%1: questo documento non esiste</translation>
+    </message>
+    <message>
+        <source>the PDF is locked with a password; save it without one</source>
+        <translation>il file PDF è protetto da password; salvarlo senza password</translation>
+    </message>
+    <message>
+        <source>the PDF has no pages</source>
+        <translation>il file PDF non ha pagine</translation>
+    </message>
+    <message>
+        <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
+        <translation>intervallo di pagine «%1»: il documento non ha la pagina %2, l’ultima è la pagina %3</translation>
+    </message>
+    <message>
+        <source>the PDF is locked against printing; ask its owner for another one</source>
+        <translation>il file PDF è protetto dalla stampa; chiederne un altro al proprietario</translation>
+    </message>
+    <message>
+        <source>the picture is damaged; open it elsewhere and save it again</source>
+        <translation>l’immagine è danneggiata; aprirla in un altro programma e salvarla di nuovo</translation>
     </message>
 </context>
 </TS>

@@ -415,6 +415,10 @@
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
         <translation>%1: プリントサーバー「%2」からの応答: %3</translation>
     </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>ファイルではありません</translation>
+    </message>
 </context>
 <context>
     <name>cutline::DialogSession</name>
@@ -776,22 +780,6 @@
 <context>
     <name>document</name>
     <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>is a directory; name a document</source>
-        <translation>フォルダーです。文書を指定してください</translation>
-    </message>
-    <message>
-        <source>the file is empty</source>
-        <translation>ファイルが空です</translation>
-    </message>
-    <message>
-        <source>the picture cannot be read: %1</source>
-        <translation>画像を読み取れません: %1</translation>
-    </message>
-    <message>
         <source>the picture cannot be drawn: %1</source>
         <translation>画像を描画できません: %1</translation>
     </message>
@@ -810,18 +798,6 @@
     <message>
         <source>page %1 cannot be drawn: %2</source>
         <translation>ページ %1 を描画できません: %2</translation>
-    </message>
-    <message>
-        <source>the PDF is damaged; open it elsewhere and save it again</source>
-        <translation>PDF が壊れています。別のプログラムで開いて保存し直してください</translation>
-    </message>
-    <message>
-        <source>the PDF is locked with a password; save it without one</source>
-        <translation>PDF はパスワードで保護されています。パスワードなしで保存してください</translation>
-    </message>
-    <message>
-        <source>the PDF has no pages</source>
-        <translation>PDF にページがありません</translation>
     </message>
     <message>
         <source>the page cannot be drawn: %1</source>
@@ -909,6 +885,26 @@
     <message>
         <source>%1: there is no such document</source>
         <translation>%1: その文書はありません</translation>
+    </message>
+    <message>
+        <source>the PDF is locked with a password; save it without one</source>
+        <translation>PDF はパスワードで保護されています。パスワードなしで保存してください</translation>
+    </message>
+    <message>
+        <source>the PDF has no pages</source>
+        <translation>PDF にページがありません</translation>
+    </message>
+    <message>
+        <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
+        <translation>ページ範囲「%1」: 文書に %2 ページはありません。最後は %3 ページです</translation>
+    </message>
+    <message>
+        <source>the PDF is locked against printing; ask its owner for another one</source>
+        <translation>PDF は印刷が禁止されています。所有者に別のファイルを依頼してください</translation>
+    </message>
+    <message>
+        <source>the picture is damaged; open it elsewhere and save it again</source>
+        <translation>画像が壊れています。別のプログラムで開いて保存し直してください</translation>
     </message>
 </context>
 </TS>

@@ -415,6 +415,10 @@
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
         <translation>%1: 프린트 서버 “%2”의 응답: %3</translation>
     </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>파일이 아닙니다</translation>
+    </message>
 </context>
 <context>
     <name>cutline::DialogSession</name>
@@ -776,22 +780,6 @@
 <context>
     <name>document</name>
     <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>is a directory; name a document</source>
-        <translation>폴더입니다. 문서를 지정하십시오</translation>
-    </message>
-    <message>
-        <source>the file is empty</source>
-        <translation>파일이 비어 있습니다</translation>
-    </message>
-    <message>
-        <source>the picture cannot be read: %1</source>
-        <translation>그림을 읽을 수 없습니다: %1</translation>
-    </message>
-    <message>
         <source>the picture cannot be drawn: %1</source>
         <translation>그림을 그릴 수 없습니다: %1</translation>
     </message>
@@ -810,18 +798,6 @@
     <message>
         <source>page %1 cannot be drawn: %2</source>
         <translation>페이지 %1을(를) 그릴 수 없습니다: %2</translation>
-    </message>
-    <message>
-        <source>the PDF is damaged; open it elsewhere and save it again</source>
-        <translation>PDF가 손상되었습니다. 다른 프로그램에서 열어 다시 저장하십시오</translation>
-    </message>
-    <message>
-        <source>the PDF is locked with a password; save it without one</source>
-        <translation>PDF가 암호로 잠겨 있습니다. 암호 없이 저장하십시오</translation>
-    </message>
-    <message>
-        <source>the PDF has no pages</source>
-        <translation>PDF에 페이지가 없습니다</translation>
     </message>
     <message>
         <source>the page cannot be drawn: %1</source>
@@ -909,6 +885,26 @@
     <message>
         <source>%1: there is no such document</source>
         <translation>%1: 그런 문서가 없습니다</translation>
+    </message>
+    <message>
+        <source>the PDF is locked with a password; save it without one</source>
+        <translation>PDF가 암호로 잠겨 있습니다. 암호 없이 저장하십시오</translation>
+    </message>
+    <message>
+        <source>the PDF has no pages</source>
+        <translation>PDF에 페이지가 없습니다</translation>
+    </message>
+    <message>
+        <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
+        <translation>페이지 범위 “%1”: 문서에 %2페이지가 없습니다. 마지막은 %3페이지입니다</translation>
+    </message>
+    <message>
+        <source>the PDF is locked against printing; ask its owner for another one</source>
+        <translation>PDF의 인쇄가 금지되어 있습니다. 소유자에게 다른 파일을 요청하십시오</translation>
+    </message>
+    <message>
+        <source>the picture is damaged; open it elsewhere and save it again</source>
+        <translation>그림이 손상되었습니다. 다른 프로그램에서 열어 다시 저장하십시오</translation>
     </message>
 </context>
 </TS>

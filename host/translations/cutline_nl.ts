@@ -415,6 +415,10 @@
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
         <translation>%1: de printserver op ‘%2’ zegt: %3</translation>
     </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>het is geen bestand</translation>
+    </message>
 </context>
 <context>
     <name>cutline::DialogSession</name>
@@ -776,22 +780,6 @@
 <context>
     <name>document</name>
     <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>is a directory; name a document</source>
-        <translation>is een map; noem een document</translation>
-    </message>
-    <message>
-        <source>the file is empty</source>
-        <translation>het bestand is leeg</translation>
-    </message>
-    <message>
-        <source>the picture cannot be read: %1</source>
-        <translation>de afbeelding kan niet worden gelezen: %1</translation>
-    </message>
-    <message>
         <source>the picture cannot be drawn: %1</source>
         <translation>de afbeelding kan niet worden getekend: %1</translation>
     </message>
@@ -810,18 +798,6 @@
     <message>
         <source>page %1 cannot be drawn: %2</source>
         <translation>pagina %1 kan niet worden getekend: %2</translation>
-    </message>
-    <message>
-        <source>the PDF is damaged; open it elsewhere and save it again</source>
-        <translation>het PDF-bestand is beschadigd; open het in een ander programma en sla het opnieuw op</translation>
-    </message>
-    <message>
-        <source>the PDF is locked with a password; save it without one</source>
-        <translation>het PDF-bestand is met een wachtwoord beveiligd; sla het zonder wachtwoord op</translation>
-    </message>
-    <message>
-        <source>the PDF has no pages</source>
-        <translation>het PDF-bestand heeft geen pagina’s</translation>
     </message>
     <message>
         <source>the page cannot be drawn: %1</source>
@@ -909,6 +885,26 @@
     <message>
         <source>%1: there is no such document</source>
         <translation>%1: dit document bestaat niet</translation>
+    </message>
+    <message>
+        <source>the PDF is locked with a password; save it without one</source>
+        <translation>het PDF-bestand is met een wachtwoord beveiligd; sla het zonder wachtwoord op</translation>
+    </message>
+    <message>
+        <source>the PDF has no pages</source>
+        <translation>het PDF-bestand heeft geen pagina’s</translation>
+    </message>
+    <message>
+        <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
+        <translation>paginabereik ‘%1’: het document heeft geen pagina %2, de laatste is pagina %3</translation>
+    </message>
+    <message>
+        <source>the PDF is locked against printing; ask its owner for another one</source>
+        <translation>het PDF-bestand is tegen afdrukken beveiligd; vraag de eigenaar om een ander bestand</translation>
+    </message>
+    <message>
+        <source>the picture is damaged; open it elsewhere and save it again</source>
+        <translation>de afbeelding is beschadigd; open deze in een ander programma en sla deze opnieuw op</translation>
     </message>
 </context>
 </TS>

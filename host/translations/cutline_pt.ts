@@ -415,6 +415,10 @@
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
         <translation>%1: o servidor de impressão “%2” diz: %3</translation>
     </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>não é um arquivo</translation>
+    </message>
 </context>
 <context>
     <name>cutline::DialogSession</name>
@@ -776,22 +780,6 @@
 <context>
     <name>document</name>
     <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>is a directory; name a document</source>
-        <translation>é uma pasta; indique um documento</translation>
-    </message>
-    <message>
-        <source>the file is empty</source>
-        <translation>o arquivo está vazio</translation>
-    </message>
-    <message>
-        <source>the picture cannot be read: %1</source>
-        <translation>não é possível ler a imagem: %1</translation>
-    </message>
-    <message>
         <source>the picture cannot be drawn: %1</source>
         <translation>não é possível desenhar a imagem: %1</translation>
     </message>
@@ -810,18 +798,6 @@
     <message>
         <source>page %1 cannot be drawn: %2</source>
         <translation>não é possível desenhar a página %1: %2</translation>
-    </message>
-    <message>
-        <source>the PDF is damaged; open it elsewhere and save it again</source>
-        <translation>o arquivo PDF está danificado; abra-o em outro programa e salve-o de novo</translation>
-    </message>
-    <message>
-        <source>the PDF is locked with a password; save it without one</source>
-        <translation>o arquivo PDF está protegido por senha; salve-o sem senha</translation>
-    </message>
-    <message>
-        <source>the PDF has no pages</source>
-        <translation>o arquivo PDF não tem páginas</translation>
     </message>
     <message>
         <source>the page cannot be drawn: %1</source>
@@ -909,6 +885,26 @@
     <message>
         <source>%1: there is no such document</source>
         <translation>%1: este documento não existe</translation>
+    </message>
+    <message>
+        <source>the PDF is locked with a password; save it without one</source>
+        <translation>o arquivo PDF está protegido por senha; salve-o sem senha</translation>
+    </message>
+    <message>
+        <source>the PDF has no pages</source>
+        <translation>o arquivo PDF não tem páginas</translation>
+    </message>
+    <message>
+        <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
+        <translation>intervalo de páginas “%1”: o documento não tem a página %2, a última é a página %3</translation>
+    </message>
+    <message>
+        <source>the PDF is locked against printing; ask its owner for another one</source>
+        <translation>o arquivo PDF está protegido contra impressão; peça outro ao proprietário</translation>
+    </message>
+    <message>
+        <source>the picture is damaged; open it elsewhere and save it again</source>
+        <translation>a imagem está danificada; abra-a em outro programa e salve-a de novo</translation>
     </message>
 </context>
 </TS>

@@ -415,6 +415,10 @@
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
         <translation>%1：打印服务器“%2”返回：%3</translation>
     </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>它不是文件</translation>
+    </message>
 </context>
 <context>
     <name>cutline::DialogSession</name>
@@ -776,22 +780,6 @@
 <context>
     <name>document</name>
     <message>
-        <source>%1: %2</source>
-        <translation>%1：%2</translation>
-    </message>
-    <message>
-        <source>is a directory; name a document</source>
-        <translation>是文件夹；请指定文档</translation>
-    </message>
-    <message>
-        <source>the file is empty</source>
-        <translation>文件为空</translation>
-    </message>
-    <message>
-        <source>the picture cannot be read: %1</source>
-        <translation>无法读取图片：%1</translation>
-    </message>
-    <message>
         <source>the picture cannot be drawn: %1</source>
         <translation>无法绘制图片：%1</translation>
     </message>
@@ -810,18 +798,6 @@
     <message>
         <source>page %1 cannot be drawn: %2</source>
         <translation>无法绘制第 %1 页：%2</translation>
-    </message>
-    <message>
-        <source>the PDF is damaged; open it elsewhere and save it again</source>
-        <translation>PDF 已损坏；请用其他程序打开并重新保存</translation>
-    </message>
-    <message>
-        <source>the PDF is locked with a password; save it without one</source>
-        <translation>PDF 受密码保护；请保存为不带密码的文件</translation>
-    </message>
-    <message>
-        <source>the PDF has no pages</source>
-        <translation>PDF 没有页面</translation>
     </message>
     <message>
         <source>the page cannot be drawn: %1</source>
@@ -909,6 +885,26 @@
     <message>
         <source>%1: there is no such document</source>
         <translation>%1：没有这个文档</translation>
+    </message>
+    <message>
+        <source>the PDF is locked with a password; save it without one</source>
+        <translation>PDF 受密码保护；请保存为不带密码的文件</translation>
+    </message>
+    <message>
+        <source>the PDF has no pages</source>
+        <translation>PDF 没有页面</translation>
+    </message>
+    <message>
+        <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
+        <translation>页面范围“%1”：文档没有第 %2 页，最后一页是第 %3 页</translation>
+    </message>
+    <message>
+        <source>the PDF is locked against printing; ask its owner for another one</source>
+        <translation>PDF 禁止打印；请向其所有者索取另一个文件</translation>
+    </message>
+    <message>
+        <source>the picture is damaged; open it elsewhere and save it again</source>
+        <translation>图片已损坏；请用其他程序打开并重新保存</translation>
     </message>
 </context>
 </TS>

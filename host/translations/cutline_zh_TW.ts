@@ -415,6 +415,10 @@
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
         <translation>%1：列印伺服器「%2」回應：%3</translation>
     </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>它不是檔案</translation>
+    </message>
 </context>
 <context>
     <name>cutline::DialogSession</name>
@@ -776,22 +780,6 @@
 <context>
     <name>document</name>
     <message>
-        <source>%1: %2</source>
-        <translation>%1：%2</translation>
-    </message>
-    <message>
-        <source>is a directory; name a document</source>
-        <translation>是資料夾；請指定文件</translation>
-    </message>
-    <message>
-        <source>the file is empty</source>
-        <translation>檔案是空的</translation>
-    </message>
-    <message>
-        <source>the picture cannot be read: %1</source>
-        <translation>無法讀取圖片：%1</translation>
-    </message>
-    <message>
         <source>the picture cannot be drawn: %1</source>
         <translation>無法繪製圖片：%1</translation>
     </message>
@@ -810,18 +798,6 @@
     <message>
         <source>page %1 cannot be drawn: %2</source>
         <translation>無法繪製第 %1 頁：%2</translation>
-    </message>
-    <message>
-        <source>the PDF is damaged; open it elsewhere and save it again</source>
-        <translation>PDF 已損壞；請用其他程式開啟並重新儲存</translation>
-    </message>
-    <message>
-        <source>the PDF is locked with a password; save it without one</source>
-        <translation>PDF 受密碼保護；請另存為不含密碼的檔案</translation>
-    </message>
-    <message>
-        <source>the PDF has no pages</source>
-        <translation>PDF 沒有頁面</translation>
     </message>
     <message>
         <source>the page cannot be drawn: %1</source>
@@ -909,6 +885,26 @@
     <message>
         <source>%1: there is no such document</source>
         <translation>%1：沒有這個文件</translation>
+    </message>
+    <message>
+        <source>the PDF is locked with a password; save it without one</source>
+        <translation>PDF 受密碼保護；請另存為不含密碼的檔案</translation>
+    </message>
+    <message>
+        <source>the PDF has no pages</source>
+        <translation>PDF 沒有頁面</translation>
+    </message>
+    <message>
+        <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
+        <translation>頁面範圍「%1」：文件沒有第 %2 頁，最後一頁是第 %3 頁</translation>
+    </message>
+    <message>
+        <source>the PDF is locked against printing; ask its owner for another one</source>
+        <translation>PDF 禁止列印；請向其擁有者索取另一個檔案</translation>
+    </message>
+    <message>
+        <source>the picture is damaged; open it elsewhere and save it again</source>
+        <translation>圖片已損壞；請用其他程式開啟並重新儲存</translation>
     </message>
 </context>
 </TS>

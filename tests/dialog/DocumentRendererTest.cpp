@@ -168,7 +168,7 @@ TEST_F(DocumentRendererTest, AMissingFileIsNamed) {
 }
 
 TEST_F(DocumentRendererTest, ADirectoryIsNoDocument) {
-  EXPECT_NE(errorOf(mDirectory.path().toStdString()).find("directory"), std::string::npos);
+  EXPECT_NE(errorOf(mDirectory.path().toStdString()).find("it is a folder"), std::string::npos);
 }
 
 TEST_F(DocumentRendererTest, AnEmptyFileIsNoDocument) {

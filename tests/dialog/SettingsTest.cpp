@@ -96,6 +96,20 @@ TEST_F(SettingsTest, AWrongPageRangeIsNotPrinted) {
   EXPECT_TRUE(pages->hasFocus());
 }
 
+TEST_F(SettingsTest, PagesThatTheDocumentLacksAreNotPrinted) {
+  openQueue(samplePpd("tape-a"));
+  ASSERT_TRUE(waitUntil([this] { return shows(QStringLiteral("Label 1 of 3")); }));
+  auto* pages = named<QLineEdit>("Pages");
+  pages->setFocus();
+  QTest::keyClicks(pages, "2-4");
+  click(buttonWithText<QPushButton>("Pr&int"));
+  EXPECT_TRUE(shows(QStringLiteral("its last is page 3")));
+  EXPECT_TRUE(server().submissions().empty());
+  pages->selectAll();
+  QTest::keyClicks(pages, "2-3");
+  EXPECT_FALSE(shows(QStringLiteral("Page range")));
+}
+
 TEST_F(SettingsTest, ACorrectedPageRangeLosesItsMessage) {
   openQueue(samplePpd("tape-a"));
   auto* pages = named<QLineEdit>("Pages");

@@ -114,7 +114,7 @@ TEST_F(StripViewTest, MirroringTurnsTheTextRound) {
 TEST_F(StripViewTest, SkippedPagesAreDimmed) {
   drawHalves(0);
   ASSERT_GE(leftmost(Qt::red), 0);
-  mStrip.setSelection(PageSelection("2-"));
+  mStrip.setSelection(*PageRanges::parse("2-"));
   EXPECT_EQ(leftmost(Qt::red), -1);
 }
 

@@ -9,6 +9,7 @@
 #include "tests/e2e/Program.h"
 #include "tests/e2e/ServerInBetween.h"
 #include "tests/support/EndToEndTest.h"
+#include "tests/support/PdfFile.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace cutline::test {
@@ -28,6 +29,12 @@ class QueueState {
  private:
   std::string mBack;
 };
+
+CommandLine documentOn(const std::string& printer, const std::string& path) {
+  CommandLine line = dialogOn(printer);
+  line.file = path;
+  return line;
+}
 
 class Failures : public EndToEndTest {
  protected:
@@ -66,6 +73,75 @@ TEST_F(Failures, AnUnknownPrinterIsNamed) {
 TEST_F(Failures, AnUnknownChoiceIsNotPrinted) {
   expectFailureOf("--print -d tape24 -o LxHalfCut=MAYBE " + labels(), "MAYBE");
   expectFailureOf("-d tape24 -o LxHalfCut=MAYBE " + labels(), "MAYBE");
+  EXPECT_TRUE(nothingNew());
+}
+
+// The document's name is one that each refusal has to name.
+TEST_F(Failures, ADocumentThatCannotBePrintedIsNotSent) {
+  const TemporaryFolder folder;
+  const std::string path = folder.path() + "/labels.pdf";
+  const std::string jobs = outputOf("lpstat -W all");
+  const auto expectRefusal = [&](const std::string& reason) {
+    expectFailureOf("--print -d tape24 " + path, "cannot read the document \"" + path + "\": ");
+    expectFailureOf("--print -d tape24 - <" + path, reason);
+    DialogOnServer dialog(documentOn("tape24", path));
+    EXPECT_TRUE(dialog.willShow(QString::fromStdString(reason)));
+  };
+  writePdf(path, 2, {"secret", true, true});
+  expectRefusal("locked with a password");
+  writePdf(path, 2, {"", false, true});
+  expectRefusal("locked against printing");
+  writePdf(path, 0);
+  expectRefusal("has no pages");
+  std::filesystem::copy_file(labels(), path, std::filesystem::copy_options::overwrite_existing);
+  std::filesystem::resize_file(path, std::filesystem::file_size(path) / 2);
+  expectRefusal("the PDF is damaged");
+  EXPECT_EQ(outputOf("lpstat -W all"), jobs);
+}
+
+TEST_F(Failures, PagesThatTheDocumentLacksAreNotSent) {
+  const std::string jobs = outputOf("lpstat -W all");
+  for (const char* pages : {"13", "1-13", "2,20-"}) {
+    const std::string option = std::string("-P ") + pages + " ";
+    expectFailureOf("--print -d tape24 " + option + labels(), "its last is page 12");
+  }
+  expectFailureOf("--print -d tape24 -P 2 " + built("share/cutline/samples/documents/label.png"),
+                  "its last is page 1");
+  CommandLine line = dialogOn("tape24");
+  line.asked.pageRanges = "13";
+  DialogOnServer dialog(line);
+  EXPECT_TRUE(dialog.willShow(QStringLiteral("its last is page 12")));
+  dialog.press("Pr&int");
+  EXPECT_EQ(outputOf("lpstat -W all"), jobs);
+  EXPECT_EQ(runProgram("--print -d tape24 -P 12- " + labels()).status, kExitDone);
+  EXPECT_EQ(newJob().number("labels"), 1);
+}
+
+TEST_F(Failures, WaitingTellsWhetherSomethingCameOut) {
+  const CommandResult done = runProgram("--print --wait -d tape24 -P 1 " + labels());
+  EXPECT_EQ(done.status, kExitDone) << done.errors;
+  // The server has nothing left to do by then.
+  EXPECT_EQ(outputOf("lpstat -W not-completed"), "");
+  EXPECT_EQ(newJob().number("labels"), 1);
+  const TemporaryFolder folder;
+  const std::string text = folder.write("shelf.txt", "Shelf 12\n");
+  const CommandResult none = runProgram("--print --wait -d tape24 -P 50 " + text);
+  EXPECT_EQ(none.status, kExitError) << none.output;
+  EXPECT_TRUE(none.output.starts_with("request id is tape24-")) << none.output;
+  EXPECT_NE(none.errors.find("the job tape24-"), std::string::npos) << none.errors;
+  EXPECT_TRUE(nothingNew());
+}
+
+TEST_F(Failures, WaitingForAJobThatSomebodyCancelsIsAnError) {
+  const QueueState stopped("cupsdisable tape24", "cupsenable tape24");
+  // Cancelled when the program has told that its job waits.
+  const CommandResult result =
+      run("{ env QT_QPA_PLATFORM=offscreen " + quoted(built("bin/cutline")) +
+          " --print --wait -d tape24 " + labels() +
+          " 2>&1; echo status $?; } | while read -r line; do echo \"$line\"; case $line in "
+          "*'is paused'*) cancel -a tape24;; esac; done");
+  EXPECT_NE(result.output.find("was cancelled"), std::string::npos) << result.output;
+  EXPECT_NE(result.output.find("status 1"), std::string::npos) << result.output;
   EXPECT_TRUE(nothingNew());
 }
 

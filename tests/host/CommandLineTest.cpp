@@ -75,6 +75,8 @@ TEST(CommandLineTest, EachCommandHasItsOption) {
   EXPECT_EQ(parse({"--list"})->command, Command::list);
   EXPECT_EQ(parse({"--help"})->command, Command::help);
   EXPECT_EQ(parse({"--version"})->command, Command::version);
+  EXPECT_FALSE(parse({"--print", "f"})->waits);
+  EXPECT_TRUE(parse({"--wait", "--print", "f"})->waits);
   const auto snapshot = parse({"--snapshot", "a.png", "--scale", "2", "--dark", "--marks"});
   ASSERT_TRUE(snapshot);
   EXPECT_EQ(snapshot->command, Command::snapshot);
@@ -97,6 +99,8 @@ TEST(CommandLineTest, WrongUsageIsNamed) {
                                                        {"--scale", "3"},
                                                        {"a", "b"},
                                                        {"--print", "--summary"},
+                                                       {"--wait"},
+                                                       {"--wait", "--options"},
                                                        {"--ppd"},
                                                        {"--ppd", "a.ppd", "--print"},
                                                        {"-o", "copies=x"},
@@ -115,9 +119,10 @@ TEST(CommandLineTest, WrongUsageIsNamed) {
 TEST(CommandLineTest, AMinusStandsForStandardInput) { EXPECT_EQ(parse({"-"})->file, "-"); }
 
 TEST(CommandLineTest, TheHelpNamesEveryOption) {
-  for (const char* option : {"-d", "-n", "-P", "-t", "-o", "-h", "-E", "-U", "--ppd", "--print",
-                             "--summary", "--options", "--snapshot", "--scale", "--dark", "--list",
-                             "--plugin-dir", "--help", "--version"})
+  for (const char* option :
+       {"-d",      "-n",     "-P",      "-t",           "-o",        "-h",        "-E",
+        "-U",      "--ppd",  "--print", "--wait",       "--summary", "--options", "--snapshot",
+        "--scale", "--dark", "--list",  "--plugin-dir", "--help",    "--version"})
     EXPECT_NE(helpText().find(option), std::string::npos) << option;
 }
 

@@ -126,7 +126,7 @@ TEST_F(Program, AnUnreadablePpdIsNamed) {
 
 TEST_F(Program, AnUnreadableDocumentIsNamedBeforeTheServerIsAsked) {
   expectError(run("-d tape --print missing.pdf"), 1, "missing.pdf");
-  expectError(run("-d tape --print ."), 1, "is no document");
+  expectError(run("-d tape --print ."), 1, "it is a folder");
   std::ofstream(file("empty.pdf")) << "";
   expectError(run("-d tape --print empty.pdf"), 1, "empty");
 }

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "cups/DocumentFormat.h"
+#include "cups/DocumentFile.h"
 
 namespace cutline {
 namespace {

@@ -1,0 +1,47 @@
+#include "host/core/JobEnd.h"
+
+namespace cutline {
+
+namespace {
+
+constexpr int kMostMissed = 10;  // answers in a row
+
+std::string inBrackets(const std::string& text) { return text.empty() ? "" : " (" + text + ")"; }
+
+Error nothingCame(const JobWatch& watch, const std::string& what, const JobStatus& status) {
+  return {"the job " + watch.job + " " + what + inBrackets(status.message)};
+}
+
+Result<Done> judge(const JobWatch& watch, const JobStatus& status) {
+  if (status.state == JobState::canceled) return nothingCame(watch, "was cancelled", status);
+  if (status.state == JobState::aborted)
+    return nothingCame(watch, "was given up by the printer", status);
+  if (status.pages == 0) return nothingCame(watch, "ended without a printed page", status);
+  return Done{};
+}
+
+bool isStuck(const JobStatus& status) {
+  if (status.state == JobState::held || status.state == JobState::stopped) return true;
+  return status.state == JobState::pending && status.saysMoreThanItsState();
+}
+
+}  // namespace
+
+Result<Done> waitForEnd(const JobWatch& watch) {
+  std::string noted;
+  for (int missed = 0;; watch.pause()) {
+    const Result<JobStatus> status = watch.ask();
+    if (!status && ++missed == kMostMissed)
+      return Error{"the job " + watch.job +
+                   " was sent, and how it ends is not known: " + status.error().message};
+    if (!status) continue;
+    missed = 0;
+    if (status->isFinal()) return judge(watch, *status);
+    const std::string text = status->text().english();
+    if (!isStuck(*status) || text == noted) continue;
+    watch.note("the job " + watch.job + ": " + text);
+    noted = text;
+  }
+}
+
+}  // namespace cutline
