@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "base/Lists.h"
 #include "cups/CustomSize.h"
 #include "cups/PpdRecords.h"
 
@@ -51,12 +52,10 @@ std::string choiceToSend(ppd_file_t* ppd, const ppd_option_t& option, const ppd_
 }
 
 Sentence choiceNames(const ppd_option_t& option) {
-  std::string names;
-  for (const ppd_choice_t& choice : choicesOf(option)) {
-    names += (names.empty() ? "" : ", ") + std::string(choice.choice);
-  }
+  std::vector<std::string> names;
+  for (const ppd_choice_t& choice : choicesOf(option)) names.emplace_back(choice.choice);
   if (names.empty()) return Phrase("cups", "it has none");
-  return {Phrase("cups", "its choices are %1"), {names}};
+  return {Phrase("cups", "its choices are %1"), {listed(names)}};
 }
 
 Result<Done> checkCustomSize(const ppd_file_t* ppd, const std::string& choice) {
@@ -78,6 +77,21 @@ Result<Done> checkCustom(ppd_file_t* ppd, const ppd_option_t& option, const std:
   return Done{};
 }
 
+// Null for none. Choices that differ in capitals alone are different to whoever writes one exactly.
+const ppd_choice_t* choiceNamed(const ppd_option_t& option, const std::string& name) {
+  const ppd_choice_t* found = nullptr;
+  for (const ppd_choice_t& choice : choicesOf(option)) {
+    if (name == choice.choice) return &choice;
+    if (!found && strcasecmp(choice.choice, name.c_str()) == 0) found = &choice;
+  }
+  return found;
+}
+
+std::string spelledOne(const ppd_option_t& option, const std::string& name) {
+  const ppd_choice_t* choice = choiceNamed(option, name);
+  return choice ? choice->choice : name;
+}
+
 bool isCustomValue(const std::string& choice) {
   return choice.starts_with("Custom.") || choice.starts_with('{');
 }
@@ -95,14 +109,20 @@ std::string markedText(ppd_file_t* ppd, const ppd_option_t& option) {
   return text;
 }
 
+std::string spelledChoice(const ppd_option_t& option, const std::string& choice) {
+  if (isCustomValue(choice)) return choice;
+  if (option.ui != PPD_UI_PICKMANY) return spelledOne(option, choice);
+  std::string text;
+  for (const std::string& part : partsBetweenCommas(choice))
+    text += (text.empty() ? "" : ",") + spelledOne(option, part);
+  return text;
+}
+
 Result<Done> checkChoiceOf(ppd_file_t* ppd, const ppd_option_t& option, const std::string& choice) {
   if (isCustomValue(choice) && ppdFindCustomOption(ppd, option.keyword)) {
     return checkCustom(ppd, option, choice);
   }
-  const bool isKnown = std::ranges::any_of(choicesOf(option), [&](const ppd_choice_t& known) {
-    return strcasecmp(known.choice, choice.c_str()) == 0;
-  });
-  if (isKnown) return Done{};
+  if (choiceNamed(option, choice)) return Done{};
   return Error{Sentence(Phrase("cups", "the option %1 has no choice \"%2\": %3"),
                         {std::string(option.keyword), choice, choiceNames(option)})};
 }

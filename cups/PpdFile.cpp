@@ -201,6 +201,12 @@ bool PpdFile::hasOption(const std::string& keyword) const {
   return ppdFindOption(mPpd, keyword.c_str()) != nullptr;
 }
 
+OptionList::value_type PpdFile::spelled(const OptionList::value_type& option) const {
+  const ppd_option_t* known = ppdFindOption(mPpd, option.first.c_str());
+  if (!known) return option;
+  return {known->keyword, spelledChoice(*known, option.second)};
+}
+
 Result<Done> PpdFile::checkChoice(const std::string& keyword, const std::string& choice) const {
   const ppd_option_t* option = ppdFindOption(mPpd, keyword.c_str());
   return option ? checkChoiceOf(mPpd, *option, choice) : Done{};

@@ -72,6 +72,9 @@ class PpdFile {
   // The marked choice's keyword; empty when nothing is marked. "Custom" for any custom value.
   std::string markedChoice(const std::string& keyword) const;
   bool hasOption(const std::string& keyword) const;
+  // An option and its choice as the PPD spells them, in whichever letters they were written; what
+  // the PPD does not have stays as it is.
+  OptionList::value_type spelled(const OptionList::value_type& option) const;
   // An error when the PPD has the option and not the choice: it lists the choices. An option that
   // the PPD does not have is no error here.
   Result<Done> checkChoice(const std::string& keyword, const std::string& choice) const;

@@ -6,6 +6,7 @@
 
 #include "base/Numbers.h"
 #include "cups/CupsOptions.h"
+#include "host/core/OptionSpelling.h"
 #include "host/core/PageRanges.h"
 
 namespace cutline {
@@ -107,7 +108,8 @@ Problem setScale(CommandLine& line, const std::string& text) {
 }
 
 // One option of -o. Copies and pages have their own places; a plain `media` names the page size.
-Problem setOption(CommandLine& line, const std::string& name, const std::string& value) {
+Problem setOption(CommandLine& line, const std::string& typed, const std::string& value) {
+  const std::string name = spelledJobAttribute(typed);
   if (name == "copies") return setCopies(line, value);
   if (name == "page-ranges") return setPages(line, value);
   const bool isPageSize = name == "media" && value.find(',') == std::string::npos;

@@ -8,6 +8,7 @@
 #include "host/core/CutRules.h"
 #include "host/core/JobOptions.h"
 #include "host/core/OpenPrinter.h"
+#include "host/core/OptionSpelling.h"
 #include "host/core/PageRanges.h"
 #include "platform/ports/Platform.h"
 
@@ -59,7 +60,10 @@ void PrintModel::tell(ModelChange what) {
 
 void PrintModel::openPrinter(PrinterChoice choice) {
   mPrinter.reset();
-  mPrinter = std::make_unique<OpenPrinter>(std::move(choice), mPanelSource, mAsked.options,
+  OptionList& saved = choice.destination.savedOptions;
+  saved = spelledFor(*choice.ppd, saved);
+  const OptionList asked = spelledFor(*choice.ppd, mAsked.options);
+  mPrinter = std::make_unique<OpenPrinter>(std::move(choice), mPanelSource, asked,
                                            [this] { tell(ModelChange::layout); });
   tell(ModelChange::printer);
   tell(ModelChange::options);
@@ -119,8 +123,9 @@ Result<Done> PrintModel::setOption(const std::string& keyword, const std::string
     return Error{Sentence(Phrase("host", "this printer has no option \"%1\""), {keyword})};
   }
   if (Result<Done> known = mPrinter->ppd().checkChoice(keyword, choice); !known) return known;
-  if (option->keyword == "PageSize") return setPaper(choice);
-  mPrinter->chooseOption(option->keyword, choice);
+  const auto spelled = mPrinter->ppd().spelled({keyword, choice});
+  if (spelled.first == "PageSize") return setPaper(spelled.second);
+  mPrinter->chooseOption(spelled.first, spelled.second);
   tell(ModelChange::options);
   return Done{};
 }
@@ -182,8 +187,9 @@ Result<OptionList> PrintModel::savePreset() {
 
 Result<Done> PrintModel::applyPreset(const OptionList& options) {
   mAsked.options.clear();
-  if (const std::optional<int> copies = copiesOf(options)) mAsked.copies = copies;
-  mPrinter->restart(options);
+  const OptionList spelled = spelledFor(*ppdFile(), options);
+  if (const std::optional<int> copies = copiesOf(spelled)) mAsked.copies = copies;
+  mPrinter->restart(spelled);
   tell(ModelChange::job);
   tell(ModelChange::paper);
   tell(ModelChange::options);

@@ -68,6 +68,14 @@ TEST(CommandLineTest, CopiesAndPagesAmongTheOptionsTakeTheirOwnPlaces) {
   EXPECT_TRUE(line->asked.options.empty());
 }
 
+TEST(CommandLineTest, CapitalsDoNotCountInTheNamesOfOptions) {
+  const auto line = parse({"-o", "COPIES=4 Page-Ranges=2-3 MEDIA=W24"});
+  ASSERT_TRUE(line) << line.error().message;
+  EXPECT_EQ(line->asked.copies, 4);
+  EXPECT_EQ(line->asked.pageRanges, "2-3");
+  EXPECT_EQ(line->asked.options, (OptionList{{"PageSize", "W24"}}));
+}
+
 TEST(CommandLineTest, EachCommandHasItsOption) {
   EXPECT_EQ(parse({"--print", "f"})->command, Command::print);
   EXPECT_EQ(parse({"--summary"})->command, Command::summary);

@@ -274,6 +274,38 @@ TEST_F(PrintModelTest, CopiesAndPagesAreCheckedAndSent) {
   EXPECT_EQ(valueOf(model->jobOptions(), "page-ranges"), "1-4");
 }
 
+// As libcups reads options: the printer gets its own spelling, and each option once.
+TEST_F(PrintModelTest, CapitalsDoNotCountInOptions) {
+  const OptionList saved = {{"COPIES", "5"},
+                            {"Page-Ranges", "2"},
+                            {"Job-Priority", "70"},
+                            {"lxhalfcut", "on"},
+                            {"pagesize", "w24"}};
+  const auto model = open({{{"LXMIRROR", "on"}, {"JOB-PRIORITY", "80"}}, {}, {}}, saved);
+  EXPECT_EQ(model->copies(), 5);
+  EXPECT_EQ(model->pageRanges(), "2");
+  const OptionList sent = model->jobOptions();
+  EXPECT_EQ(valueOf(sent, "LxHalfCut"), "ON");
+  EXPECT_EQ(valueOf(sent, "LxMirror"), "ON");
+  EXPECT_EQ(valueOf(sent, "PageSize"), "W24");
+  EXPECT_EQ(valueOf(sent, "job-priority"), "80");
+  for (const char* other : {"COPIES", "Page-Ranges", "Job-Priority", "JOB-PRIORITY", "lxhalfcut"})
+    EXPECT_EQ(valueOf(sent, other), "absent") << other;
+  EXPECT_TRUE(model->deviations().empty());
+}
+
+TEST_F(PrintModelTest, CapitalsDoNotCountInAPresetAndInAChoice) {
+  const auto model = open();
+  ASSERT_TRUE(model->applyPreset({{"lxhalfcut", "on"}, {"Copies", "3"}}));
+  EXPECT_EQ(model->copies(), 3);
+  EXPECT_EQ(valueOf(model->jobOptions(), "LxHalfCut"), "ON");
+  ASSERT_TRUE(model->setOption("lxmirror", "on"));
+  ASSERT_TRUE(model->setOption("PAGESIZE", "w24"));
+  EXPECT_EQ(valueOf(model->jobOptions(), "LxMirror"), "ON");
+  EXPECT_EQ(model->currentPaper().name, "W24");
+  EXPECT_TRUE(model->deviations().empty());
+}
+
 TEST_F(PrintModelTest, SavedCopiesAndPagesStandWhereNoneWereAskedFor) {
   const OptionList saved = {{"copies", "5"}, {"page-ranges", "2"}};
   EXPECT_EQ(open({}, saved)->copies(), 5);
