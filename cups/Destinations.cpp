@@ -4,7 +4,9 @@
 #include <array>
 #include <cctype>
 #include <memory>
+#include <utility>
 
+#include "base/Lists.h"
 #include "cups/CupsOptions.h"
 #include "cups/SavedOptions.h"
 #include "cups/ServerConnection.h"
@@ -41,13 +43,8 @@ PrinterState stateOf(const std::string& value) {
 
 std::vector<std::string> reasonsOf(const std::string& value) {
   std::vector<std::string> reasons;
-  std::string_view rest = value;
-  while (!rest.empty()) {
-    const auto comma = std::min(rest.find(','), rest.size());
-    const std::string_view reason = rest.substr(0, comma);
-    if (!reason.empty() && reason != "none") reasons.emplace_back(reason);
-    rest.remove_prefix(std::min(comma + 1, rest.size()));
-  }
+  for (std::string& reason : partsBetweenCommas(value))
+    if (!reason.empty() && reason != "none") reasons.push_back(std::move(reason));
   return reasons;
 }
 
@@ -65,6 +62,16 @@ Destination destinationOf(const cups_dest_t& dest) {
   return destination;
 }
 
+// libcups 2.4.2 lists no default at all once the user's file of options exists and names none; it
+// still finds the server's default when it is asked for that alone.
+void markDefault(http_t* http, std::vector<Destination>& list) {
+  cups_dest_t* dest = cupsGetNamedDest(http, nullptr, nullptr);
+  if (!dest) return;
+  const DestinationArray owner(1, dest);
+  const DestinationName name = destinationOf(*dest).name;
+  for (Destination& destination : list) destination.isDefault = destination.name == name;
+}
+
 Result<std::vector<Destination>> listOn(http_t* http) {
   cups_dest_t* dests = nullptr;
   const int count = cupsGetDests2(http, &dests);
@@ -76,13 +83,8 @@ Result<std::vector<Destination>> listOn(http_t* http) {
   }
   std::vector<Destination> list;
   for (const cups_dest_t& dest : array) list.push_back(destinationOf(dest));
+  if (std::ranges::none_of(list, &Destination::isDefault)) markDefault(http, list);
   return list;
-}
-
-std::string joined(const std::vector<std::string>& names) {
-  std::string text;
-  for (const std::string& name : names) text += (text.empty() ? "" : ", ") + name;
-  return text;
 }
 
 // What follows a colon in an error: the names that would have been right.
@@ -91,7 +93,7 @@ Sentence knownPrinters(const std::vector<Destination>& list) {
   names.reserve(list.size());
   for (const Destination& destination : list) names.push_back(destination.name.text());
   if (names.empty()) return Phrase("cups", "it has no printers");
-  return {Phrase("cups", "it has %1"), {joined(names)}};
+  return {Phrase("cups", "it has %1"), {listed(names)}};
 }
 
 Error unknownPrinter(http_t* http, const std::string& printer) {
@@ -123,7 +125,7 @@ Error unknownInstance(const DestinationName& name) {
   const std::vector<std::string> instances = savedInstances(name.printer);
   const Sentence saved = instances.empty()
                              ? Phrase("cups", "none are saved")
-                             : Sentence(Phrase("cups", "saved are %1"), {joined(instances)});
+                             : Sentence(Phrase("cups", "saved are %1"), {listed(instances)});
   return Sentence(Phrase("cups", "the printer \"%1\" has no saved settings \"%2\": %3"),
                   {name.printer, *name.instance, saved});
 }
@@ -137,7 +139,7 @@ Result<Destination> findNamed(http_t* http, const DestinationName& name) {
   if (name.instance && !savedOptionsFor(name)) return unknownInstance(name);
   Destination destination = destinationOf(*dest);
   if (!name.instance) return destination;
-  destination.name.instance = name.instance;
+  destination.name.instance = spelledAsSaved(name).instance;
   destination.savedOptions = savedOptionsFor(destination.name).value_or(OptionList{});
   return destination;
 }
@@ -152,7 +154,8 @@ Result<Destination> findDefault(http_t* http) {
 }
 
 bool hasEntry(const std::vector<SavedEntry>& entries, const DestinationName& name) {
-  return std::ranges::find(entries, name, &SavedEntry::name) != entries.end();
+  return std::ranges::any_of(entries,
+                             [&](const SavedEntry& entry) { return isSame(entry.name, name); });
 }
 
 }  // namespace
@@ -194,7 +197,7 @@ Result<Done> removeInstance(const ServerOptions& server, const DestinationName& 
   const auto connection = ServerConnection::open(server);
   if (!connection) return connection.error();
   std::vector<SavedEntry> entries = readSavedEntries(userOptionsPath());
-  std::erase_if(entries, [&](const SavedEntry& entry) { return entry.name == name; });
+  std::erase_if(entries, [&](const SavedEntry& entry) { return isSame(entry.name, name); });
   if (const auto problem = writeSavedEntries(connection->get(), entries)) return *problem;
   if (!savedOptionsFor(name)) return Done{};
   return Error{

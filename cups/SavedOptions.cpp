@@ -2,6 +2,7 @@
 
 #include <cups/file.h>
 #include <pwd.h>
+#include <strings.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -71,6 +72,10 @@ bool canBeSaved(const std::pair<std::string, std::string>& option) {
 
 }  // namespace
 
+bool isSame(const DestinationName& one, const DestinationName& other) {
+  return strcasecmp(one.text().c_str(), other.text().c_str()) == 0;
+}
+
 std::vector<SavedEntry> readSavedEntries(const std::string& path) {
   const std::unique_ptr<cups_file_t, CloseFile> file(cupsFileOpen(path.c_str(), "r"));
   std::vector<SavedEntry> entries;
@@ -98,20 +103,28 @@ std::string userOptionsPath() {
 std::optional<OptionList> savedOptionsFor(const DestinationName& name) {
   std::optional<OptionList> options;
   for (const SavedEntry& entry : allEntries()) {
-    if (entry.name != name) continue;
+    if (!isSame(entry.name, name)) continue;
     if (!options) options.emplace();
     merge(entry.options, *options);
   }
   return options;
 }
 
+DestinationName spelledAsSaved(const DestinationName& name) {
+  for (const SavedEntry& entry : allEntries())
+    if (isSame(entry.name, name)) return entry.name;
+  return name;
+}
+
 std::vector<std::string> savedInstances(const std::string& printer) {
   std::vector<std::string> instances;
   for (const SavedEntry& entry : allEntries()) {
-    if (entry.name.printer != printer || !entry.name.instance) continue;
-    if (std::ranges::find(instances, *entry.name.instance) == instances.end()) {
-      instances.push_back(*entry.name.instance);
-    }
+    const std::optional<std::string>& instance = entry.name.instance;
+    if (!instance || !isSame(entry.name, {printer, instance})) continue;
+    const bool isKnown = std::ranges::any_of(instances, [&](const std::string& known) {
+      return strcasecmp(known.c_str(), instance->c_str()) == 0;
+    });
+    if (!isKnown) instances.push_back(*instance);
   }
   return instances;
 }
@@ -136,9 +149,10 @@ std::optional<Error> whyNotSaved(const DestinationName& name, const OptionList& 
 
 void replaceEntry(std::vector<SavedEntry>& entries, const DestinationName& name,
                   const OptionList& options) {
-  const auto isDefault = std::ranges::any_of(
-      entries, [&](const SavedEntry& entry) { return entry.name == name && entry.isDefault; });
-  std::erase_if(entries, [&](const SavedEntry& entry) { return entry.name == name; });
+  const auto isDefault = std::ranges::any_of(entries, [&](const SavedEntry& entry) {
+    return isSame(entry.name, name) && entry.isDefault;
+  });
+  std::erase_if(entries, [&](const SavedEntry& entry) { return isSame(entry.name, name); });
   entries.push_back({name, isDefault, options});
 }
 

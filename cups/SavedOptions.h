@@ -29,7 +29,14 @@ std::string userOptionsPath();
 // user's. Nothing when neither file knows the name.
 std::optional<OptionList> savedOptionsFor(const DestinationName& name);
 
-// The instances of a printer that either file knows.
+// Whether libcups takes the two names for one: capitals do not count, of two instances that differ
+// in them alone it makes one with the options of both.
+bool isSame(const DestinationName& one, const DestinationName& other);
+
+// The name as it is saved first, in whichever letters it was typed; as it stands when it is not.
+DestinationName spelledAsSaved(const DestinationName& name);
+
+// The instances of a printer that either file knows, each in the spelling of the first.
 std::vector<std::string> savedInstances(const std::string& printer);
 
 // Why the file cannot hold these options under this name; nothing when it can.

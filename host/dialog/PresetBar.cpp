@@ -25,6 +25,17 @@ bool isForbidden(QChar character) {
 
 }  // namespace
 
+namespace {
+
+// Presets are the printer's instances, and libcups makes one of two that differ in capitals alone.
+QString takenAs(const QStringList& taken, const QString& name) {
+  for (const QString& each : taken)
+    if (each.compare(name, Qt::CaseInsensitive) == 0) return each;
+  return name;
+}
+
+}  // namespace
+
 QString problemOfPresetName(const QString& name) {
   if (name.isEmpty()) return PresetNameDialog::tr("Type a name.");
   if (name.toUtf8().size() > kLongestName) return PresetNameDialog::tr("The name is too long.");
@@ -58,7 +69,7 @@ PresetNameDialog::PresetNameDialog(const QString& suggestion, QStringList taken,
   connect(mName, &QLineEdit::textChanged, this, &PresetNameDialog::check);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   connect(buttons, &QDialogButtonBox::accepted, this, [this] {
-    emit nameChosen(mName->text());
+    emit nameChosen(takenAs(mTaken, mName->text()));
     accept();
   });
   mName->selectAll();
@@ -68,8 +79,11 @@ PresetNameDialog::PresetNameDialog(const QString& suggestion, QStringList taken,
 void PresetNameDialog::check() {
   const QString name = mName->text();
   const QString problem = problemOfPresetName(name);
-  const bool isTaken = mTaken.contains(name);
-  mHint->setText(isTaken ? tr("Replaces the preset of this name.") : problem);
+  const QString taken = takenAs(mTaken, name);
+  QString replaced = problem;
+  if (mTaken.contains(taken)) replaced = tr("Replaces the preset of this name.");
+  if (taken != name) replaced = tr("Replaces the preset \"%1\": capitals do not count.").arg(taken);
+  mHint->setText(replaced);
   mSave->setEnabled(problem.isEmpty());
 }
 

@@ -629,6 +629,10 @@
         <source>Replaces the preset of this name.</source>
         <translation>Ersetzt die Vorgabe dieses Namens.</translation>
     </message>
+    <message>
+        <source>Replaces the preset &quot;%1&quot;: capitals do not count.</source>
+        <translation>Ersetzt die Vorgabe „%1“: Groß- und Kleinschreibung zählt nicht.</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrintDialog</name>

@@ -629,6 +629,10 @@
         <source>Replaces the preset of this name.</source>
         <translation>Sustituye el preajuste de este nombre.</translation>
     </message>
+    <message>
+        <source>Replaces the preset &quot;%1&quot;: capitals do not count.</source>
+        <translation>Sustituye el preajuste «%1»: no se distinguen mayúsculas de minúsculas.</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrintDialog</name>

@@ -629,6 +629,10 @@
         <source>Replaces the preset of this name.</source>
         <translation>Remplace le préréglage de ce nom.</translation>
     </message>
+    <message>
+        <source>Replaces the preset &quot;%1&quot;: capitals do not count.</source>
+        <translation>Remplace le préréglage « %1 » : les majuscules ne comptent pas.</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrintDialog</name>

@@ -629,6 +629,10 @@
         <source>Replaces the preset of this name.</source>
         <translation>Sostituisce la preimpostazione con questo nome.</translation>
     </message>
+    <message>
+        <source>Replaces the preset &quot;%1&quot;: capitals do not count.</source>
+        <translation>Sostituisce la preimpostazione «%1»: le maiuscole non contano.</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrintDialog</name>

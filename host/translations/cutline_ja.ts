@@ -629,6 +629,10 @@
         <source>Replaces the preset of this name.</source>
         <translation>同じ名前のプリセットを置き換えます。</translation>
     </message>
+    <message>
+        <source>Replaces the preset &quot;%1&quot;: capitals do not count.</source>
+        <translation>プリセット「%1」を置き換えます。大文字と小文字は区別されません。</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrintDialog</name>

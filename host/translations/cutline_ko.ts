@@ -629,6 +629,10 @@
         <source>Replaces the preset of this name.</source>
         <translation>이 이름의 사전 설정을 바꿉니다.</translation>
     </message>
+    <message>
+        <source>Replaces the preset &quot;%1&quot;: capitals do not count.</source>
+        <translation>사전 설정 “%1”을(를) 바꿉니다. 대소문자는 구별하지 않습니다.</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrintDialog</name>

@@ -629,6 +629,10 @@
         <source>Replaces the preset of this name.</source>
         <translation>Vervangt de voorinstelling met deze naam.</translation>
     </message>
+    <message>
+        <source>Replaces the preset &quot;%1&quot;: capitals do not count.</source>
+        <translation>Vervangt de voorinstelling ‘%1’: hoofdletters tellen niet.</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrintDialog</name>

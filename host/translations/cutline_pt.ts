@@ -629,6 +629,10 @@
         <source>Replaces the preset of this name.</source>
         <translation>Substitui a predefinição com este nome.</translation>
     </message>
+    <message>
+        <source>Replaces the preset &quot;%1&quot;: capitals do not count.</source>
+        <translation>Substitui a predefinição “%1”: maiúsculas não contam.</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrintDialog</name>

@@ -629,6 +629,10 @@
         <source>Replaces the preset of this name.</source>
         <translation>将替换同名预设。</translation>
     </message>
+    <message>
+        <source>Replaces the preset &quot;%1&quot;: capitals do not count.</source>
+        <translation>将替换预设“%1”：不区分大小写。</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrintDialog</name>

@@ -629,6 +629,10 @@
         <source>Replaces the preset of this name.</source>
         <translation>將取代同名的預設組合。</translation>
     </message>
+    <message>
+        <source>Replaces the preset &quot;%1&quot;: capitals do not count.</source>
+        <translation>將取代預設組合「%1」：不區分大小寫。</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrintDialog</name>

@@ -131,6 +131,27 @@ TEST_F(DestinationsTest, WhatOtherServersPrintersHaveSavedIsKept) {
                 "/half LxChainPrint=ON LxHalfCut=ON\n");
 }
 
+TEST_F(DestinationsTest, TheServersDefaultStaysTheDefaultWhenAPresetIsSaved) {
+  ASSERT_TRUE(saveDestinationOptions({}, {otherPrinter(), "half"}, kCut));
+  const auto list = listDestinations({});
+  ASSERT_TRUE(list) << list.error().message;
+  for (const Destination& destination : *list)
+    EXPECT_EQ(destination.isDefault, destination.name.text() == printer())
+        << destination.name.text();
+}
+
+TEST_F(DestinationsTest, PresetsThatDifferInCapitalsAloneAreOne) {
+  ASSERT_TRUE(saveDestinationOptions({}, {printer(), "Shelf"}, kCut));
+  ASSERT_TRUE(saveDestinationOptions({}, {printer(), "shelf"}, {{"LxMirror", "ON"}}));
+  EXPECT_EQ(savedText(), "Dest " + printer() + "/shelf LxMirror=ON\n");
+  const auto found = findDestination({}, DestinationName{printer(), "SHELF"});
+  ASSERT_TRUE(found) << found.error().message;
+  EXPECT_EQ(found->name.text(), printer() + "/shelf");
+  EXPECT_EQ(found->savedOptions, (OptionList{{"LxMirror", "ON"}}));
+  ASSERT_TRUE(removeInstance({}, {printer(), "sHELF"}));
+  EXPECT_EQ(savedText(), "");
+}
+
 TEST_F(DestinationsTest, SavingTheDefaultsOptionsLeavesItTheDefault) {
   writeSaved("Default " + otherPrinter() + " LxMirror=ON\n");
   ASSERT_TRUE(saveDestinationOptions({}, {otherPrinter(), std::nullopt}, kCut));

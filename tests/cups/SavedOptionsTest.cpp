@@ -54,6 +54,15 @@ TEST_F(SavedOptionsTest, TheUsersEntryStandsOverTheAdministrators) {
   EXPECT_EQ(savedInstances("tape"), (std::vector<std::string>{"site", "own"}));
 }
 
+TEST_F(SavedOptionsTest, CapitalsDoNotCountInNames) {
+  mRoot.write("lpoptions", "Dest tape/Shelf LxHalfCut=ON copies=2\n");
+  mHome.write(".cups/lpoptions", "Dest Tape/SHELF copies=5\n");
+  EXPECT_EQ(savedOptionsFor({"tape", "shelf"}), (OptionList{{"copies", "5"}, {"LxHalfCut", "ON"}}));
+  EXPECT_EQ(savedInstances("tape"), (std::vector<std::string>{"Shelf"}));
+  EXPECT_EQ(spelledAsSaved({"tape", "shelf"}).text(), "tape/Shelf");
+  EXPECT_EQ(spelledAsSaved({"tape", "new"}).text(), "tape/new");
+}
+
 TEST_F(SavedOptionsTest, TheUsersFileIsInTheHome) {
   EXPECT_EQ(userOptionsPath(), mHome.path() + "/.cups/lpoptions");
 }

@@ -140,6 +140,22 @@ TEST_F(PrinterSwitchTest, ASavedPresetIsAnInstanceWithEveryCutOption) {
   EXPECT_EQ(cutOptions, 9);
 }
 
+// Two instances that differ in capitals alone are one to libcups.
+TEST_F(PrinterSwitchTest, APresetOfTheSameLettersIsReplacedUnderItsOwnName) {
+  server().addInstance("tape", "Shelf", {{"LxHalfCut", "ON"}});
+  openQueue(samplePpd("tape-a"));
+  dialog().startWatching();
+  ASSERT_TRUE(waitUntil([this] { return presets()->count() == 2; }));
+  click(buttonWithText<QPushButton>("&Save..."));
+  auto* name = dialog().findChild<PresetNameDialog*>()->findChild<QLineEdit*>();
+  QTest::keyClicks(name, "shelf");
+  EXPECT_TRUE(shows(QStringLiteral("Replaces the preset \"Shelf\": capitals do not count.")));
+  QTest::keyClick(name, Qt::Key_Return);
+  const std::vector<DestinationName> saved{{"tape", "Shelf"}};
+  EXPECT_TRUE(waitUntil([&] { return server().savedInstances() == saved; }));
+  EXPECT_EQ(presets()->count(), 2);
+}
+
 TEST_F(PrinterSwitchTest, APresetThatCannotBeSavedIsNamed) {
   openQueue(samplePpd("tape-a"));
   server().refusePresets("lpoptions: no write permission");
