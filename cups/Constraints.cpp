@@ -82,8 +82,8 @@ void addOnce(std::vector<Conflict>& conflicts, const Term& one, const Term& othe
 
 }  // namespace
 
-// The records are read here: the library's own search reports every broken constraint of the PPD
-// for whichever option it is asked about.
+// Works around libcups 2.4.2: cupsGetConflicts reports every broken constraint of the PPD for
+// whichever option it is asked about, so the records are read here.
 std::vector<Conflict> brokenConstraints(ppd_file_s* ppd) {
   std::vector<Conflict> conflicts;
   for (Constraint& terms : constraintsOf(ppd)) {

@@ -62,8 +62,8 @@ Destination destinationOf(const cups_dest_t& dest) {
   return destination;
 }
 
-// libcups 2.4.2 lists no default at all once the user's file of options exists and names none; it
-// still finds the server's default when it is asked for that alone.
+// Works around libcups 2.4.2: cupsGetDests2 lists no default at all once the user's file of options
+// exists and names none; it still finds the server's default when it is asked for that alone.
 void markDefault(http_t* http, std::vector<Destination>& list) {
   cups_dest_t* dest = cupsGetNamedDest(http, nullptr, nullptr);
   if (!dest) return;
@@ -135,7 +135,7 @@ Result<Destination> findNamed(http_t* http, const DestinationName& name) {
   cups_dest_t* dest = cupsGetNamedDest(http, printer, nullptr);
   if (!dest) return unknownPrinter(http, name.printer);
   const DestinationArray owner(1, dest);
-  // libcups makes up an instance that nobody saved.
+  // Works around libcups 2.4.2: cupsGetNamedDest makes up an instance that nobody saved.
   if (name.instance && !savedOptionsFor(name)) return unknownInstance(name);
   Destination destination = destinationOf(*dest);
   if (!name.instance) return destination;

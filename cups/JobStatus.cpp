@@ -140,7 +140,8 @@ bool isPrinterStopped(http_t* http, const DestinationName& destination) {
   return state && ippGetInteger(state, 0) == IPP_PSTATE_STOPPED;
 }
 
-// The server itself gives a waiting job no reason when its printer is paused.
+// Works around the server of CUPS 2.4.2, which gives a waiting job no reason when its printer is
+// paused.
 void addPause(http_t* http, const DestinationName& destination, JobStatus& status) {
   const std::string reason = "printer-stopped";
   if (status.state != JobState::pending) return;

@@ -11,6 +11,7 @@
 #include <memory>
 #include <string_view>
 
+#include "base/FileDescriptor.h"
 #include "cups/Constraints.h"
 #include "cups/CupsOptions.h"
 #include "cups/CustomSize.h"
@@ -28,20 +29,6 @@ namespace {
 // The same choices as the page size's; marking it would take the page size's mark away.
 constexpr const char* kPageRegion = "PageRegion";
 
-class Descriptor {
- public:
-  explicit Descriptor(int fd) : mFd(fd) {}
-  ~Descriptor() {
-    if (mFd >= 0) close(mFd);
-  }
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  int get() const noexcept { return mFd; }
-
- private:
-  int mFd;
-};
-
 // From where the descriptor stands to the end. What is larger than any PPD is cut off.
 std::string contentsOf(int fd) {
   constexpr std::size_t kBlock = 65536;
@@ -55,17 +42,12 @@ std::string contentsOf(int fd) {
   return text;
 }
 
-// A new descriptor that reads these contents; -1 when there is no memory for it.
-int memoryFile(std::string_view contents) {
-  const int fd = memfd_create("ppd", MFD_CLOEXEC);
-  for (ssize_t count = 0; !contents.empty();
-       contents.remove_prefix(static_cast<std::size_t>(count))) {
-    count = write(fd, contents.data(), contents.size());
-    if (count <= 0) break;
-  }
-  if (contents.empty() && lseek(fd, 0, SEEK_SET) == 0) return fd;
-  if (fd >= 0) close(fd);
-  return -1;
+// A new descriptor that reads these contents; none when there is no memory for it.
+FileDescriptor memoryFile(std::string_view contents) {
+  FileDescriptor file(memfd_create("ppd", MFD_CLOEXEC));
+  const bool isWritten = file && writeAll(file.get(), contents.data(), contents.size());
+  if (isWritten && lseek(file.get(), 0, SEEK_SET) == 0) return file;
+  return FileDescriptor();
 }
 
 Error noMemoryFor(const Sentence& name) {
@@ -141,12 +123,12 @@ Error notFetched(http_t* http, const std::string& printer, http_status_t status)
 PpdFile::~PpdFile() { ppdClose(mPpd); }
 
 Result<std::shared_ptr<PpdFile>> PpdFile::read(int fd, const Sentence& name) {
-  const Descriptor source(fd);
+  const FileDescriptor source(fd);
   std::string contents = contentsOf(fd);
   const auto kept = keepTexts(contents, preferredLocalizations());
-  const int copy = memoryFile(contents);
-  if (copy < 0) return noMemoryFor(name);
-  ppd_file_t* ppd = ppdOpenFd(copy);  // closes it
+  FileDescriptor copy = memoryFile(contents);
+  if (!copy) return noMemoryFor(name);
+  ppd_file_t* ppd = ppdOpenFd(copy.release());  // closes it
   if (!ppd) return ppdProblem(name, contents);
   putTexts(*ppd, kept);
   return std::shared_ptr<PpdFile>(new PpdFile(ppd));
@@ -154,29 +136,29 @@ Result<std::shared_ptr<PpdFile>> PpdFile::read(int fd, const Sentence& name) {
 
 Result<std::shared_ptr<PpdFile>> PpdFile::open(const std::string& path) {
   const Sentence name(Phrase("cups", "the PPD \"%1\""), {path});
-  const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-  if (fd < 0) return unopened(name, std::string(std::strerror(errno)));
+  FileDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+  if (!file) return unopened(name, std::string(std::strerror(errno)));
   struct stat status {};
-  if (fstat(fd, &status) == 0 && !S_ISDIR(status.st_mode)) return read(fd, name);
-  close(fd);
+  if (fstat(file.get(), &status) == 0 && !S_ISDIR(status.st_mode))
+    return read(file.release(), name);
   return unopened(name, Phrase("cups", "it is a folder"));
 }
 
-// The PPD is asked from the server itself, into memory. libcups' own call would take a file of the
-// same name from the machine's server folder, whichever server is meant, and leave a file behind.
+// Works around libcups 2.4.2: cupsGetPPD3 takes a file of the same name from the machine's own
+// server folder, whichever server is meant, and leaves a file behind. So the PPD is asked from the
+// server itself, into memory.
 Result<std::shared_ptr<PpdFile>> PpdFile::fetch(const ServerOptions& server,
                                                 const std::string& printer) {
   const auto connection = ServerConnection::open(server);
   if (!connection) return connection.error();
-  const int fd = memfd_create("ppd", MFD_CLOEXEC);
+  FileDescriptor file(memfd_create("ppd", MFD_CLOEXEC));
   const Sentence name(Phrase("cups", "the PPD of \"%1\""), {printer});
-  if (fd < 0) return noMemoryFor(name);
+  if (!file) return noMemoryFor(name);
   const std::string resource = "/printers/" + printer + ".ppd";
-  const http_status_t status = cupsGetFd(connection->get(), resource.c_str(), fd);
-  if (status == HTTP_STATUS_OK && lseek(fd, 0, SEEK_SET) == 0) {
-    return read(fd, name);
+  const http_status_t status = cupsGetFd(connection->get(), resource.c_str(), file.get());
+  if (status == HTTP_STATUS_OK && lseek(file.get(), 0, SEEK_SET) == 0) {
+    return read(file.release(), name);
   }
-  close(fd);
   return notFetched(connection->get(), printer, status);
 }
 

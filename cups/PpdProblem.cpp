@@ -9,7 +9,8 @@ namespace cutline {
 
 namespace {
 
-// libcups refuses the whole PPD for a longer name, and its own message often points elsewhere.
+// Works around libcups 2.4.2: it refuses the whole PPD for a longer name, and the line that
+// ppdLastError tells is often another one, so the name is looked for here.
 constexpr std::size_t kLongestName = PPD_MAX_NAME - 1;
 
 struct LongName {

@@ -1,5 +1,6 @@
-// Walks over the records of an open PPD. They are walked directly: the library's own walk shares a
-// cursor with its searches and may never end.
+// Walks over the records of an open PPD. Works around libcups 2.4.2: ppdFirstOption and
+// ppdNextOption share a cursor with ppdFindOption, so that a walk with a search in it may never
+// end; the records are walked directly.
 #pragma once
 
 #include <cups/ppd.h>
@@ -25,8 +26,8 @@ bool isCustom(const ppd_size_t& size);
 // Null when no size is marked.
 const ppd_size_t* markedSize(const ppd_file_t* ppd);
 
-// A text for people, or the keyword where there is none. libcups cuts a text at its buffer's end,
-// be it in the middle of a character: such an end is left out.
+// A text for people, or the keyword where there is none. libcups 2.4.2 cuts a text at its buffer's
+// end, be it in the middle of a character: such an end is left out.
 std::string textOr(const char* text, const char* keyword);
 
 // Calls function(group) for each group and subgroup, installable options left out.

@@ -14,7 +14,8 @@ namespace cutline {
 
 namespace {
 
-// libcups drops `*de.Translation`, unless German is its language, and keeps `*de-Translation`.
+// libcups 2.4.2 drops `*de.Translation`, unless German is its language, and keeps
+// `*de-Translation`.
 constexpr char kSeparator = '.';
 constexpr char kKeptSeparator = '-';
 constexpr std::string_view kTranslation = "Translation";
@@ -45,7 +46,7 @@ void forEachLine(std::string_view contents, const Function& function) {
 }
 
 // "de" for `*de.Translation LxMirror/Spiegeln: ""`; empty for a line that is in no language. As to
-// libcups, names of two letters and those with a territory are languages.
+// libcups 2.4.2, names of two letters and those with a territory are languages.
 std::string_view languageOfLine(std::string_view line) {
   for (const std::size_t size : {2U, 5U}) {
     const bool names = line.starts_with('*') && line.size() > size + 1;

@@ -1,6 +1,6 @@
-// The texts of a PPD in the user's language. libcups keeps those of the process's locale only and
-// does not know LANGUAGE, so the lines of the chosen languages are renamed before it reads them,
-// and their texts put in place afterwards.
+// The texts of a PPD in the user's language. Works around libcups 2.4.2: ppdOpenFd keeps those of
+// the process's locale only and does not know LANGUAGE, so the lines of the chosen languages are
+// renamed before it reads them, and their texts put in place afterwards.
 #pragma once
 
 #include <string>

@@ -21,7 +21,7 @@ struct CloseFile {
   void operator()(cups_file_t* file) const noexcept { cupsFileClose(file); }
 };
 
-// libcups reads a line of the file into a buffer of this size.
+// libcups 2.4.2 reads a line of the file into a buffer of this size; what is longer is lost to it.
 constexpr std::size_t kLineSize = 8192;
 constexpr const char* kBlanks = " \t\f\v\r";
 
@@ -157,7 +157,8 @@ void replaceEntry(std::vector<SavedEntry>& entries, const DestinationName& name,
 }
 
 std::optional<Error> writeSavedEntries(http_t* http, std::vector<SavedEntry> entries) {
-  // The library refuses an empty list; an entry without options leaves no line.
+  // Works around libcups 2.4.2: cupsSetDests2 refuses an empty list, so that the last entry could
+  // not be removed. An entry without options leaves no line.
   if (entries.empty()) entries.push_back({{"none", std::nullopt}, false, {}});
   std::vector<CupsOptions> options;
   options.reserve(entries.size());

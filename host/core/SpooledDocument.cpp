@@ -8,7 +8,7 @@
 #include <cstring>
 #include <filesystem>
 
-#include "host/core/TrustedFile.h"
+#include "base/FileDescriptor.h"
 
 namespace cutline {
 
@@ -17,17 +17,6 @@ namespace {
 constexpr std::size_t kBlock = 65536;
 
 std::string systemReason() { return std::strerror(errno); }
-
-bool writeAll(int descriptor, const char* bytes, std::size_t count) {
-  while (count > 0) {
-    const ssize_t written = ::write(descriptor, bytes, count);
-    if (written < 0 && errno == EINTR) continue;
-    if (written < 0) return false;
-    bytes += written;
-    count -= static_cast<std::size_t>(written);
-  }
-  return true;
-}
 
 // The number of bytes copied.
 Result<std::size_t> copyAll(int from, int to, const std::string& path) {

@@ -40,10 +40,6 @@ Result<FileDescriptor> checked(FileDescriptor file, FileKind kind, const std::st
 
 }  // namespace
 
-FileDescriptor::~FileDescriptor() {
-  if (mDescriptor >= 0) ::close(mDescriptor);
-}
-
 Result<FileDescriptor> openTrusted(const std::string& path, FileKind kind) {
   return checked(FileDescriptor(::open(path.c_str(), openFlags(kind))), kind, path);
 }

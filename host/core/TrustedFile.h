@@ -2,31 +2,11 @@
 #pragma once
 
 #include <string>
-#include <utility>
 
+#include "base/FileDescriptor.h"
 #include "base/Result.h"
 
 namespace cutline {
-
-// An open descriptor, closed with its owner.
-class FileDescriptor {
- public:
-  explicit FileDescriptor(int descriptor) noexcept : mDescriptor(descriptor) {}
-  FileDescriptor(FileDescriptor&& other) noexcept
-      : mDescriptor(std::exchange(other.mDescriptor, -1)) {}
-  FileDescriptor& operator=(FileDescriptor&& other) noexcept {
-    std::swap(mDescriptor, other.mDescriptor);
-    return *this;
-  }
-  ~FileDescriptor();
-
-  int get() const noexcept { return mDescriptor; }
-  // Gives the descriptor away; it is not closed here any more.
-  int release() noexcept { return std::exchange(mDescriptor, -1); }
-
- private:
-  int mDescriptor;
-};
 
 enum class FileKind { directory, regular };
 
