@@ -5,8 +5,10 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <charconv>
 #include <utility>
+
+#include "base/FileDescriptor.h"
+#include "base/Numbers.h"
 
 namespace cutline::printer {
 namespace {
@@ -34,12 +36,11 @@ std::string escaped(std::string_view text) {
 std::string unescaped(std::string_view text) {
   std::string result;
   for (std::size_t at = 0; at < text.size(); ++at) {
-    unsigned code = 0;
-    const char* digits = text.data() + at + 1;
-    const bool coded = text[at] == '%' && at + 2 < text.size() &&
-                       std::from_chars(digits, digits + 2, code, 16).ptr == digits + 2;
-    result += coded ? static_cast<char>(code) : text[at];
-    at += coded ? 2 : 0;
+    const bool isCoded = text[at] == '%' && at + 2 < text.size();
+    const auto code =
+        isCoded ? numberIn<unsigned>(text.substr(at + 1, 2), 16) : std::optional<unsigned>();
+    result += code ? static_cast<char>(*code) : text[at];
+    at += code ? 2 : 0;
   }
   return result;
 }
@@ -52,16 +53,9 @@ std::string_view wordTaken(std::string_view& text) {
   return word;
 }
 
-std::optional<std::uint32_t> numberOf(std::string_view text) {
-  std::uint32_t number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
-  return number;
-}
-
 std::optional<std::pair<std::uint32_t, std::uint32_t>> pairOf(std::string_view text) {
-  const auto first = numberOf(wordTaken(text));
-  const auto second = numberOf(text);
+  const auto first = numberIn<std::uint32_t>(wordTaken(text));
+  const auto second = numberIn<std::uint32_t>(text);
   if (!first || !second) return std::nullopt;
   return std::pair(*first, *second);
 }
@@ -78,7 +72,7 @@ std::optional<Command> resolution(std::string_view text) {
 }
 
 std::optional<Command> feed(std::string_view text) {
-  const auto dots = numberOf(text);
+  const auto dots = numberIn<std::uint32_t>(text);
   if (!dots || *dots > kMaxSide) return std::nullopt;
   return Feed{*dots};
 }
@@ -125,15 +119,7 @@ bool CommandWriter::line(std::string_view text) {
 }
 
 bool CommandWriter::bytes(const void* data, std::size_t size) {
-  const auto* from = static_cast<const char*>(data);
-  while (size > 0) {
-    const ssize_t written = ::write(mDescriptor, from, size);
-    if (written < 0 && errno == EINTR) continue;
-    if (written <= 0) return false;
-    from += written;
-    size -= static_cast<std::size_t>(written);
-  }
-  return true;
+  return writeAll(mDescriptor, data, size);
 }
 
 bool CommandReader::begin() { return line() == kFirstLine; }

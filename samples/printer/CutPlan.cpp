@@ -1,10 +1,37 @@
 #include "samples/printer/CutPlan.h"
 
-#include <charconv>
+#include <cups/cups.h>
+#include <cups/ppd.h>
+
+#include <algorithm>
+#include <memory>
 #include <string_view>
+
+#include "base/CutFacts.h"
+#include "base/Numbers.h"
 
 namespace cutline::printer {
 namespace {
+
+using Ppd = std::unique_ptr<ppd_file_t, decltype(&ppdClose)>;
+
+void mark(ppd_file_t* ppd, const std::string& options) {
+  cups_option_t* list = nullptr;
+  const int count = cupsParseOptions(options.c_str(), 0, &list);
+  ppdMarkDefaults(ppd);
+  cupsMarkOptions(ppd, count, list);
+  cupsFreeOptions(count, list);
+}
+
+void addMarked(Choices& choices, const ppd_group_t& group) {
+  for (int at = 0; at < group.num_options; ++at) {
+    const ppd_option_t& option = group.options[at];
+    for (int place = 0; place < option.num_choices; ++place) {
+      const ppd_choice_t& choice = option.choices[place];
+      if (choice.marked) choices[option.keyword] = choice.choice;
+    }
+  }
+}
 
 std::string_view choiceOf(const Choices& choices, std::string_view keyword) {
   const auto found = choices.find(keyword);
@@ -16,28 +43,37 @@ bool isOn(const Choices& choices, std::string_view keyword) {
 }
 
 unsigned countOf(std::string_view text) {
-  unsigned count = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), count);
-  return error == std::errc() && count > 0 ? count : 1;
+  return std::max(1U, numberIn<unsigned>(text).value_or(1));
 }
 
-// Labels that are stuck on the tape at fixed places can't move closer together.
-bool isPreCut(std::string_view size) { return size.starts_with("DC") || size.starts_with("AV"); }
-
 }  // namespace
+
+std::optional<Choices> choicesOf(const std::string& ppdPath, const std::string& options) {
+  const Ppd ppd(ppdOpenFile(ppdPath.c_str()), &ppdClose);
+  if (!ppd) return std::nullopt;
+  mark(ppd.get(), options);
+  Choices choices;
+  for (int at = 0; at < ppd->num_groups; ++at) addMarked(choices, ppd->groups[at]);
+  const ppd_attr_t* family = ppdFindAttr(ppd.get(), kFamilyKey, nullptr);
+  if (family != nullptr && family->value != nullptr) choices[kFamilyKey] = family->value;
+  return choices;
+}
 
 CutPlan::CutPlan(const Choices& choices)
     : mLabelsPerStrip(countOf(choiceOf(choices, "LxCutLabel"))),
       mMirror(isOn(choices, "LxMirror")),
       mRemoveBlankSpace(isOn(choices, "LxRemoveBlkSpace") &&
-                        !isPreCut(choiceOf(choices, "PageSize"))),
+                        !keepsBlankSpace(choiceOf(choices, "PageSize"))),
       mRoll(choiceOf(choices, kFamilyKey) == kRollFamily) {
-  if (isOn(choices, "LxSpecialTape")) return;
-  mCutAtEnd = isOn(choices, "LxCutAtEnd");
-  mAutoCut = isOn(choices, "LxAutoTapeCut");
-  mHalfCut = isOn(choices, "LxHalfCut");
-  mChain = isOn(choices, "LxChainPrint");
-  mCutMarks = isOn(choices, "LxCutMark");
+  const bool isSpecialTape = isOn(choices, "LxSpecialTape");
+  const auto works = [&](std::string_view keyword) {
+    return isOn(choices, keyword) && !(isSpecialTape && underSpecialTape(keyword).withoutEffect);
+  };
+  mCutAtEnd = works("LxCutAtEnd");
+  mAutoCut = works("LxAutoTapeCut");
+  mHalfCut = works("LxHalfCut");
+  mChain = works("LxChainPrint");
+  mCutMarks = works("LxCutMark");
 }
 
 bool CutPlan::stripEndsAfter(unsigned number) const {

@@ -1,8 +1,9 @@
-// Where a job's tape is cut: the meaning of the cut options, in one place.
+// Where a job's tape is cut: the PPD choices that are in force, and what they mean to the knife.
 #pragma once
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 
 namespace cutline::printer {
@@ -54,5 +55,10 @@ class CutPlan {
 // The name under which the printer's family is told among the choices, and its value for rolls.
 inline constexpr const char* kFamilyKey = "LxTapeType";
 inline constexpr const char* kRollFamily = "WN";
+
+// The choices that are in force for a job: the defaults of the PPD in the file `ppdPath`, overlaid
+// with the job's `options` as the scheduler hands them to a filter ("NAME=VALUE NAME=VALUE ..."),
+// and the printer's family. None when the file is no PPD.
+std::optional<Choices> choicesOf(const std::string& ppdPath, const std::string& options);
 
 }  // namespace cutline::printer

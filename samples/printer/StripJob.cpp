@@ -8,7 +8,7 @@
 #include <sstream>
 #include <variant>
 
-#include "samples/printer/AtomicFile.h"
+#include "samples/printer/StripFolder.h"
 
 namespace cutline::printer {
 namespace {

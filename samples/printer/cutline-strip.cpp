@@ -10,12 +10,14 @@
 #include <string>
 #include <string_view>
 
+#include "base/FileDescriptor.h"
 #include "samples/printer/CommandStream.h"
-#include "samples/printer/DeviceUri.h"
+#include "samples/printer/StripFolder.h"
 #include "samples/printer/StripJob.h"
 
 namespace {
 
+using cutline::FileDescriptor;
 using namespace cutline::printer;
 
 // The places of a backend's arguments.
@@ -70,11 +72,10 @@ int print(int input, const DeviceUri& device, StripJob::Facts facts, const std::
 
 int printFrom(int count, char* arguments[], const DeviceUri& device, const char* uri) {
   const bool named = count > kFile;
-  const int input = named ? ::open(arguments[kFile], O_RDONLY | O_CLOEXEC) : STDIN_FILENO;
-  if (input < 0) return fail(std::string("The file cannot be read: ") + arguments[kFile]);
-  const int status = print(input, device, factsOf(count, arguments, uri), arguments[kJob]);
-  if (named) ::close(input);
-  return status;
+  const FileDescriptor file(named ? ::open(arguments[kFile], O_RDONLY | O_CLOEXEC) : -1);
+  if (named && !file) return fail(std::string("The file cannot be read: ") + arguments[kFile]);
+  const int input = named ? file.get() : STDIN_FILENO;
+  return print(input, device, factsOf(count, arguments, uri), arguments[kJob]);
 }
 
 }  // namespace

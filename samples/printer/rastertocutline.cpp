@@ -8,14 +8,15 @@
 #include <cstdlib>
 #include <string>
 
+#include "base/FileDescriptor.h"
 #include "samples/printer/CommandStream.h"
 #include "samples/printer/CutPlan.h"
-#include "samples/printer/JobChoices.h"
 #include "samples/printer/LabelJob.h"
 #include "samples/printer/RasterPages.h"
 
 namespace {
 
+using cutline::FileDescriptor;
 using namespace cutline::printer;
 
 // The places of a filter's arguments.
@@ -69,12 +70,11 @@ int main(int count, char* arguments[]) {
   const char* ppd = std::getenv("PPD");
   const auto choices = choicesOf(ppd == nullptr ? "" : ppd, arguments[kOptions]);
   if (!choices) return fail("The printer's PPD file cannot be read.");
-  const int input = count > kFile ? ::open(arguments[kFile], O_RDONLY | O_CLOEXEC) : STDIN_FILENO;
-  if (input < 0) return fail(std::string("The file cannot be read: ") + arguments[kFile]);
+  const bool named = count > kFile;
+  const FileDescriptor file(named ? ::open(arguments[kFile], O_RDONLY | O_CLOEXEC) : -1);
+  if (named && !file) return fail(std::string("The file cannot be read: ") + arguments[kFile]);
   CommandWriter writer(STDOUT_FILENO);
   if (!writeFacts(writer, *choices, count, arguments))
     return fail("The printer takes no more data.");
-  const int status = printFrom(input, *choices, writer);
-  if (input != STDIN_FILENO) ::close(input);
-  return status;
+  return printFrom(named ? file.get() : STDIN_FILENO, *choices, writer);
 }

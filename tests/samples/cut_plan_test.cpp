@@ -2,12 +2,15 @@
 
 #include <string>
 
+#include "base/CutFacts.h"
 #include "samples/printer/CutPlan.h"
+#include "tests/support/Command.h"
 
 namespace cutline::test {
 namespace {
 
 using printer::Choices;
+using printer::choicesOf;
 using printer::Cut;
 using printer::CutPlan;
 
@@ -78,6 +81,69 @@ TEST(CutPlan, KnowsARollByItsFamily) {
   EXPECT_TRUE(CutPlan(Choices{{"LxTapeType", "WN"}}).isRoll());
   EXPECT_FALSE(CutPlan(Choices{{"LxTapeType", "wn"}}).isRoll());
   EXPECT_FALSE(CutPlan(Choices()).isRoll());
+}
+
+const std::string kTapeA = source("samples/ppd/tape-a.ppd");
+
+TEST(JobChoices, AreTheDefaultsOfThePpd) {
+  const auto choices = choicesOf(kTapeA, "");
+  ASSERT_TRUE(choices);
+  EXPECT_EQ(choices->at("LxCutLabel"), "1");
+  EXPECT_EQ(choices->at("LxHalfCut"), "OFF");
+  EXPECT_EQ(choices->at("PageSize"), "W24H50");
+  EXPECT_FALSE(choices->contains("LxTapeType"));
+}
+
+TEST(JobChoices, AreOverlaidWithTheJobsOptions) {
+  const auto choices = choicesOf(kTapeA, "copies=2 LxHalfCut=ON LxCutLabel=7 PageSize=DC24H50");
+  ASSERT_TRUE(choices);
+  EXPECT_EQ(choices->at("LxHalfCut"), "ON");
+  EXPECT_EQ(choices->at("LxCutLabel"), "7");
+  EXPECT_EQ(choices->at("PageSize"), "DC24H50");
+}
+
+TEST(JobChoices, KeepTheDefaultOfAnUnknownChoice) {
+  const auto choices = choicesOf(kTapeA, "LxHalfCut=MAYBE");
+  ASSERT_TRUE(choices);
+  EXPECT_EQ(choices->at("LxHalfCut"), "OFF");
+}
+
+TEST(JobChoices, NameTheFamily) {
+  const auto choices = choicesOf(source("samples/ppd/roll.ppd"), "");
+  ASSERT_TRUE(choices);
+  EXPECT_EQ(choices->at("LxTapeType"), "WN");
+}
+
+TEST(JobChoices, LeaveOutOptionsThatHaveNone) {
+  const auto choices = choicesOf(source("tests/samples/ppd/odd-no-default.ppd"), "");
+  ASSERT_TRUE(choices);
+  EXPECT_FALSE(choices->contains("LxHalfCut"));
+}
+
+TEST(JobChoices, AreNoneWithoutAPpd) {
+  EXPECT_FALSE(choicesOf("", ""));
+  EXPECT_FALSE(choicesOf(source("samples/documents/labels.pdf"), ""));
+}
+
+// What the table says of special tape is what the printer does: an option without effect changes
+// nothing of the plan.
+TEST(CutPlan, SpecialTapeLeavesOutWhatTheTableSays) {
+  const auto planOf = [](Choices choices, const char* count) {
+    choices["LxSpecialTape"] = "ON";
+    choices["LxCutLabel"] = count;
+    const CutPlan plan(choices);
+    return cutsOf(plan, 5) + (plan.feedsOut() ? 'F' : '-') + (plan.printsCutMarks() ? 'C' : '-') +
+           (plan.mirrors() ? 'M' : '-') + (plan.removesBlankSpace() ? 'B' : '-');
+  };
+  for (const SpecialTapeFacts& facts : kUnderSpecialTape) {
+    const std::string keyword(facts.keyword);
+    if (keyword == "LxSpecialTape") continue;
+    const bool isCount = keyword == "LxCutLabel";
+    const std::string with =
+        isCount ? planOf({{"LxAutoTapeCut", "ON"}}, "2") : planOf({{keyword, "ON"}}, "1");
+    const std::string without = planOf({}, "1");
+    EXPECT_EQ(with == without, facts.withoutEffect) << keyword;
+  }
 }
 
 }  // namespace
