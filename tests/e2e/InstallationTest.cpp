@@ -115,7 +115,8 @@ TEST_F(Installation, PrintsOnItsOwnSampleServer) {
 
 TEST_F(Installation, LooksForLibrariesBesideItself) {
   EXPECT_EQ(runPath("bin/cutline"), "$ORIGIN/../lib/cutline");
-  for (const char* file : {"libcutline-host.so", "cutline-dialog.so", "cutline-document.so"})
+  for (const char* file :
+       {"libcutline-host.so", "cutline-dialog.so", "cutline-document.so", "cutline-pdf.so"})
     EXPECT_EQ(runPath(std::string("lib/cutline/") + file), "$ORIGIN") << file;
 }
 
