@@ -19,6 +19,14 @@ TEST_F(InitialisingAgain, ThePanelForgetsKeywordsNameAndPPD) {
   EXPECT_FALSE(panel->mMirror_Choices);
 }
 
+TEST_F(InitialisingAgain, ThePanelForgetsTheDeviceURI) {
+  makePanel(PpdText());
+  ASSERT_STRNE(panel->deviceURI, "");
+  callback->printer.uri.reset();
+  panel->initWithCallback(callback, bundle);
+  EXPECT_STREQ(panel->deviceURI, "");
+}
+
 TEST_F(InitialisingAgain, ThePanelForgetsItsFlagsAndSelections) {
   callback->printer.uri = "usb://x";
   makePanelWithView(PpdText(allNine()).attribute("LxAutoCutObjHidden", "False"));

@@ -1,5 +1,6 @@
 // The order in which the panel sets its boxes.
 #include <deque>
+#include <functional>
 
 #include "tests/bundle/PanelTest.h"
 #include "tests/bundle/ToldBox.h"
@@ -62,6 +63,38 @@ TEST_F(SettingOrder, TheSetUpTicksTheBoxesInTheCanonicalOrder) {
   EXPECT_EQ(settingsOf([&] { panel->initUI(); }),
             (Settings{"Every=1", "CutAtEnd=0", "Mirror=0", "AutoTapeCut=0", "HalfCut=0",
                       "ChainPrint=0", "SpecialTape=0", "RemoveBlkSpace=0", "CutMark=0"}));
+}
+
+// Tells when the panel asks for the page format, which its rules do.
+class FormatHost : public TestCallback {
+ public:
+  PMPageFormat pageFormat() noexcept override {
+    if (whenAsked) whenAsked();
+    return TestCallback::pageFormat();
+  }
+  std::function<void()> whenAsked;
+};
+
+class RefreshOrder : public PanelTest {
+ protected:
+  std::shared_ptr<FormatHost> host = std::make_shared<FormatHost>();
+};
+
+TEST_F(RefreshOrder, TheRulesRunBehindThePresetAndBeforeTheRedraw) {
+  callback = host;
+  showPanel(PpdText().onOff("LxHalfCut").onOff("LxChainPrint"));
+  ppdMarkOption(ppd.get(), "LxHalfCut", "ON");
+  panel->updateMarkedSelections(kItemHalfCut);
+  clearPreviewNeedsDisplay();
+  int runs = 0;
+  host->whenAsked = [&] {
+    ++runs;
+    EXPECT_EQ(panel->mOptionPopUpButton->selectedTag(), 6);
+    EXPECT_FALSE(previewNeedsDisplay());
+  };
+  panel->updateUIItem(kItemHalfCut);
+  EXPECT_EQ(runs, 1);
+  EXPECT_TRUE(previewNeedsDisplay());
 }
 
 }  // namespace
