@@ -12,11 +12,10 @@
 #include <string_view>
 
 #include "base/FileDescriptor.h"
-#include "cups/Constraints.h"
 #include "cups/CupsOptions.h"
 #include "cups/CustomSize.h"
 #include "cups/PpdChoice.h"
-#include "cups/PpdProblem.h"
+#include "cups/PpdProblems.h"
 #include "cups/PpdRecords.h"
 #include "cups/PpdTexts.h"
 #include "cups/ServerConnection.h"

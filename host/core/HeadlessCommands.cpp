@@ -6,6 +6,7 @@
 #include <iostream>
 #include <thread>
 
+#include "base/Lists.h"
 #include "cups/Destinations.h"
 #include "cups/PrintJob.h"
 #include "host/core/CutRules.h"
@@ -134,9 +135,9 @@ std::string familyOf(const PpdFile& ppd) {
 }
 
 std::string panelNames(const PrintModel& model) {
-  std::string names;
-  for (const PanelEntry& panel : model.panels()) names += (names.empty() ? "" : ", ") + panel.name;
-  return names.empty() ? "none" : names;
+  std::vector<std::string> names;
+  for (const PanelEntry& panel : model.panels()) names.push_back(panel.name);
+  return names.empty() ? "none" : listed(names);
 }
 
 void describe(const Result<PrinterChoice>& choice, Session& session, std::ostream& out) {
