@@ -35,6 +35,7 @@ class OptionPDE13_v400_ : public BasePDE13_v400_ {
   // dealloc, finalize
   ~OptionPDE13_v400_() override;
 
+
   // initWithCallback:andBundle:  Always the panel itself; when the root initialiser refused,
   // nothing of the panel is set up.
   OptionPDE13_v400_* initWithCallback(const std::shared_ptr<PDEPluginCallback13_v400_>& callback,
@@ -200,6 +201,10 @@ class OptionPDE13_v400_ : public BasePDE13_v400_ {
 
   // CUTOPTION_IBAction.cpp
   void warnOfAutoCutOnHSMedia() noexcept;
+
+  // layout.cpp
+  void dressPresets() noexcept;
+  PopUpItem dressedForRoll(PopUpItem item) noexcept;
 
   // cut_every_count.cpp
   void refreshCutEvery() noexcept;

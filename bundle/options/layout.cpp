@@ -8,6 +8,7 @@
 #include "bundle/options/option_model.h"
 #include "bundle/options/preset_tags.h"
 #include "bundle/preview/nil_controls.h"
+#include "platform/ports/Bundle.h"
 
 namespace cutline {
 namespace {
@@ -46,6 +47,18 @@ constexpr std::array<LayoutRow, kOptionCount> kLayout = {{
 constexpr PresetTags kNotOnRolls = {4};
 constexpr PresetTags kNotOnTapes = {1, 2, 3};
 constexpr PresetTags kNotBesideCutMark = {4, 5, 7, 9, 11};
+
+constexpr int kRollNoCutTag = 1;
+constexpr int kRollCutTag = 3;
+constexpr int kLastRollTag = 3;  // the entries with higher tags have a tape's picture
+constexpr int kAutoCutTag = 8;
+constexpr char kRollAutoCut[] = "RS_RollPreset_AHCMOnOffOffOff";
+constexpr char kOtherPreset[] = "RS_OtherPreset";
+
+bool turnsCuttingOn(const PresetRow& preset) noexcept {
+  const auto box = std::find(kPresetBoxes.begin(), kPresetBoxes.end(), OptionId::cutEvery);
+  return preset.boxes[static_cast<std::size_t>(box - kPresetBoxes.begin())] == BoxSetting::on;
+}
 
 void removePresets(PopUpButton* popUp, const PresetTags& tags) noexcept {
   if (!popUp) return;
@@ -135,12 +148,35 @@ void placePreview(OptionPDE13_v400_& panel) noexcept {
 
 }  // namespace
 
+// The entries' words and pictures are a tape's where the interface file cannot know better.
+void OptionPDE13_v400_::dressPresets() noexcept {
+  if (!mOptionPopUpButton) return;
+  mOptionPopUpButton->setPlaceholder(localizedString(kOtherPreset));
+  if (!isWNPrinter()) return;
+  const std::vector<PopUpItem> items = mOptionPopUpButton->items();
+  for (std::size_t i = 0; i < items.size(); ++i) {
+    if (items[i].tag > kLastRollTag) mOptionPopUpButton->setItem(i, dressedForRoll(items[i]));
+  }
+}
+
+// With a roll's picture; and with other words where a roll's own entry has these: choosing this one
+// leaves the cut at the end as it is.
+PopUpItem OptionPDE13_v400_::dressedForRoll(PopUpItem item) noexcept {
+  const PresetRow* preset = presetOfTag(item.tag);
+  if (!preset) return item;
+  const PresetRow* picture = presetOfTag(turnsCuttingOn(*preset) ? kRollCutTag : kRollNoCutTag);
+  item.imagePath = nsPDEBundle ? nsPDEBundle->pathForImageResource(picture->title) : std::nullopt;
+  if (item.tag == kAutoCutTag) item.accessibilityLabel = localizedString(kRollAutoCut);
+  return item;
+}
+
 void OptionPDE13_v400_::awakeFromNib() noexcept {
   const Size size = kPDEView ? kPDEView->frame().size : Size();
   hideAll(*this);
   trimPresets(*this);
   Stack stack{.y = size.height - kTopMargin};
   for (const LayoutRow& row : kLayout) stackRow(*this, rowOf(row.id), stack);
+  dressPresets();
   clearTitles(mOptionPopUpButton);
 
   const double height = std::max(kMinimumHeight, size.height - stack.removedHeight);

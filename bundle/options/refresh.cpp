@@ -61,7 +61,9 @@ void OptionPDE13_v400_::refreshCheckBox(const OptionRow& row) noexcept {
 
 void OptionPDE13_v400_::selectPresetOfBoxes() noexcept {
   const PresetRow* preset = presetOfTag(targetPopUpButtonTag());
-  if (preset && mOptionPopUpButton) mOptionPopUpButton->selectItemWithTag(preset->tag);
+  if (!preset || !mOptionPopUpButton) return;
+  // An entry that stayed selected would say what the boxes don't.
+  if (!mOptionPopUpButton->selectItemWithTag(preset->tag)) mOptionPopUpButton->deselect();
 }
 
 void OptionPDE13_v400_::setBoxesFromPopUp() noexcept {

@@ -203,5 +203,62 @@ TEST_F(Presets, TheUsersChoiceChangesBoxesOnly) {
   EXPECT_EQ(panel->mCutMark_Selection->ppdTitle(), "OFF") << "the selection stays";
 }
 
+class PresetWords : public PanelTest {
+ protected:
+  const PopUpItem& entry(int tag) {
+    mItems = panel->mOptionPopUpButton->items();
+    const auto found = std::find_if(mItems.begin(), mItems.end(),
+                                    [&](const PopUpItem& item) { return item.tag == tag; });
+    EXPECT_NE(found, mItems.end()) << tag;
+    return *found;
+  }
+  static PpdText roll() { return PpdText().attribute("LxTapeType", "WN"); }
+
+ private:
+  std::vector<PopUpItem> mItems;
+};
+
+TEST_F(PresetWords, OnARollEachEntryHasARollsPicture) {
+  makePanelWithView(PpdText(allNine()).attribute("LxTapeType", "WN"));
+  const std::set<int> cutting = {3, 8, 9, 10, 11};
+  const std::vector<PopUpItem> items = panel->mOptionPopUpButton->items();
+  for (const PopUpItem& item : items) {
+    if (item.tag < 4) continue;
+    EXPECT_EQ(item.imagePath, cutting.contains(item.tag) ? "/bundle/EveryEndMirrorOnOffOff.svg"
+                                                         : "/bundle/EveryEndMirrorOffOffOff.svg")
+        << item.tag;
+  }
+  EXPECT_GT(items.size(), 4U);
+}
+
+TEST_F(PresetWords, OnARollAutomaticCuttingIsNotSaidTwice) {
+  bundle->strings["RS_RollPreset_AHCMOnOffOffOff"] = "Automatic cut, end unchanged";
+  makePanelWithView(roll().cutLabel(1, 9, "1").onOff("LxCutAtEnd").onOff("LxAutoTapeCut"));
+  EXPECT_EQ(entry(8).accessibilityLabel, "Automatic cut, end unchanged");
+  EXPECT_EQ(entry(3).accessibilityLabel, "EveryEndMirrorOnOffOff") << "the interface file's";
+}
+
+TEST_F(PresetWords, OnATapeTheEntriesStayAsTheInterfaceFileHasThem) {
+  bundle->strings["RS_RollPreset_AHCMOnOffOffOff"] = "Automatic cut, end unchanged";
+  makePanelWithView(PpdText().onOff("LxAutoTapeCut").cutLabel(1, 9, "1"));
+  EXPECT_EQ(entry(8).accessibilityLabel, "AHCMOnOffOffOff");
+  EXPECT_EQ(entry(8).imagePath, std::nullopt);
+}
+
+// A roll whose automatic cutting has a box of its own and no number: the entry for it is gone with
+// the number, and the one that stayed selected would say that nothing is cut.
+TEST_F(PresetWords, ACombinationWithoutAnEntrySelectsNone) {
+  bundle->strings["RS_OtherPreset"] = "Other combination";
+  showPanel(roll().onOff("LxAutoTapeCut").attribute("LxAutoCutObjHidden", "False"));
+  EXPECT_EQ(panel->mOptionPopUpButton->selectedTag(), 1);
+  click(OptionId::autoCut);
+  EXPECT_EQ(panel->mOptionPopUpButton->selectedTag(), 0);
+  EXPECT_EQ(panel->mOptionPopUpButton->placeholder(), "Other combination");
+  panel->willShow();
+  EXPECT_EQ(box(OptionId::autoCut)->state(), CheckBox::kOn) << "no entry sets no box";
+  click(OptionId::autoCut);
+  EXPECT_EQ(panel->mOptionPopUpButton->selectedTag(), 1);
+}
+
 }  // namespace
 }  // namespace cutline::test

@@ -123,7 +123,7 @@ constexpr Control kControls[] = {
     {QAccessible::SpinBox, "Change the number of labels between cuts"},
     {QAccessible::StaticText, "label(s)"},
     {QAccessible::CheckBox, "Half cut between labels"},
-    {QAccessible::ComboBox, "Cutting preset: No cut marks"},
+    {QAccessible::ComboBox, "Cutting preset: No marks, no chain"},
     {QAccessible::Graphic, "Auto cut on, no half cut, not mirrored"},
     {QAccessible::Grouping, "Summary"},
     {QAccessible::Graphic, "Preview of the labels"},
