@@ -1,6 +1,7 @@
 // What "%@" prints besides text: an object that describes itself in a line.
 #pragma once
 
+#include <cstdio>
 #include <string>
 
 namespace cutline {
@@ -13,15 +14,16 @@ class Describable {
   virtual std::string description() const noexcept = 0;
 };
 
-// Lets an object that has a description() stand as an argument, such as a PDEChoice. Borrows it.
-template <typename Object>
-class Described final : public Describable {
- public:
-  explicit Described(Object& object) noexcept : mObject(object) {}
-  std::string description() const noexcept override { return mObject.description(); }
+// Class and address, as in "PDEFormatter 0x55d0c1a2b3c4".
+inline std::string nameOfObject(const char* className, const void* object) noexcept {
+  char address[2 + 2 * sizeof(void*) + 1];
+  std::snprintf(address, sizeof address, "%p", object);
+  return className + std::string(" ") + address;
+}
 
- private:
-  Object& mObject;
-};
+// The description of an object that has nothing else to say, as in "<PDEFormatter 0x55d0c1a2b3c4>".
+inline std::string describedAs(const char* className, const void* object) noexcept {
+  return "<" + nameOfObject(className, object) + ">";
+}
 
 }  // namespace cutline

@@ -2,9 +2,12 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstdarg>
 #include <span>
 #include <string>
+#include <vector>
 
+#include "bundle/diag/CArguments.h"
 #include "bundle/diag/SafeFormat.h"
 #include "bundle/diag/convertible_text.h"
 #include "bundle/diag/diagnostics.h"
@@ -24,6 +27,12 @@ bool isSilent(int level) noexcept { return level >= 1; }
 
 std::string message(const char* format, FormatArguments arguments) {
   return cutline::convertibleText(safeFormat(format, arguments));
+}
+
+// The arguments of a call that prints something.
+std::vector<cutline::FormatArgument> listOf(int level, const char* format, va_list list) {
+  if (isSilent(level) || !format) return {};
+  return cutline::argumentsOf(format, list);
 }
 
 std::span<const unsigned char> dumpedBytes(const void* bytes, int count) noexcept {
@@ -49,6 +58,8 @@ void printDump(const std::string& digits) {
 
 }  // namespace
 
+namespace cutline {
+
 void debugLog(int level, const char* format, FormatArguments arguments) noexcept {
   if (isSilent(level)) return;
   writeAll(STDERR_FILENO, "DEBUG: ");
@@ -63,6 +74,28 @@ void debugLogFd(int level, int descriptor, const char* format, FormatArguments a
     writeAll(descriptor, message(format, arguments));
     writeAll(descriptor, "\n");
   });
+}
+
+}  // namespace cutline
+
+void debugLog(int level, const char* format, ...) noexcept {
+  va_list list;
+  va_start(list, format);
+  quietly([&] {
+    cutline::debugLog(level, format,
+                      std::span<const cutline::FormatArgument>(listOf(level, format, list)));
+  });
+  va_end(list);
+}
+
+void debugLogFd(int level, int descriptor, const char* format, ...) noexcept {
+  va_list list;
+  va_start(list, format);
+  quietly([&] {
+    cutline::debugLogFd(level, descriptor, format,
+                        std::span<const cutline::FormatArgument>(listOf(level, format, list)));
+  });
+  va_end(list);
 }
 
 void memoryCheck(int level, const void* bytes, int count) noexcept {

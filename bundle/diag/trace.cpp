@@ -1,6 +1,9 @@
 // Traces of entry and exit.
+#include <cstdarg>
+#include <span>
 #include <string>
 
+#include "bundle/diag/CArguments.h"
 #include "bundle/diag/SafeFormat.h"
 #include "bundle/diag/diagnostics.h"
 #include "bundle/diag/quietly.h"
@@ -9,6 +12,7 @@
 namespace {
 
 using cutline::Describable;
+using cutline::FormatArgument;
 using cutline::FormatArguments;
 
 std::string traceFormat(const char* marker, const Describable* object, const char* format) {
@@ -21,16 +25,49 @@ void trace(const char* marker, const Describable* object, const char* format,
   cutline::quietly([&] { cutline::logMessage(traceFormat(marker, object, format), arguments); });
 }
 
+// The arguments are those of the whole format, with what the description asks for.
+void traceList(const char* marker, const void* object, const char* format, va_list list) noexcept {
+  cutline::quietly([&] {
+    const std::string whole = traceFormat(marker, static_cast<const Describable*>(object), format);
+    cutline::logMessage(whole, std::span<const FormatArgument>(cutline::argumentsOf(whole, list)));
+  });
+}
+
 }  // namespace
 
-void _PDEProlog(const Describable* object, const char* format, FormatArguments arguments) noexcept {
+namespace cutline {
+
+void PDEProlog(const Describable* object, const char* format, FormatArguments arguments) noexcept {
   trace("BEGIN", object, format, arguments);
 }
 
-void _PDEEpilog(const Describable* object, const char* format, FormatArguments arguments) noexcept {
+void PDEEpilog(const Describable* object, const char* format, FormatArguments arguments) noexcept {
   trace("END", object, format, arguments);
 }
 
-void _PDELog(const Describable* object, const char* format, FormatArguments arguments) noexcept {
+void PDELog(const Describable* object, const char* format, FormatArguments arguments) noexcept {
   trace("LOG", object, format, arguments);
+}
+
+}  // namespace cutline
+
+void _PDEProlog(const void* object, const char* format, ...) noexcept {
+  va_list list;
+  va_start(list, format);
+  traceList("BEGIN", object, format, list);
+  va_end(list);
+}
+
+void _PDEEpilog(const void* object, const char* format, ...) noexcept {
+  va_list list;
+  va_start(list, format);
+  traceList("END", object, format, list);
+  va_end(list);
+}
+
+void _PDELog(const void* object, const char* format, ...) noexcept {
+  va_list list;
+  va_start(list, format);
+  traceList("LOG", object, format, list);
+  va_end(list);
 }

@@ -35,6 +35,9 @@ class OptionPDE13_v400_ : public BasePDE13_v400_ {
   // dealloc, finalize
   ~OptionPDE13_v400_() override;
 
+  std::string description() const noexcept override {
+    return describedAs("OptionPDE13_v400_", this);
+  }
 
   // initWithCallback:andBundle:  Always the panel itself; when the root initialiser refused,
   // nothing of the panel is set up.

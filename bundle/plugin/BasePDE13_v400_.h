@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 
+#include "bundle/diag/Describable.h"
 #include "bundle/ppd/PDEChoice.h"
 #include "platform/ports/Geometry.h"
 #include "platform/ports/Interface.h"
@@ -20,11 +21,13 @@ namespace cutline {
 
 class Bundle;
 
-class BasePDE13_v400_ : public PrintDialogPanel, public InterfaceOwner {
+class BasePDE13_v400_ : public PrintDialogPanel, public InterfaceOwner, public Describable {
  public:
   BasePDE13_v400_() noexcept = default;
   // dealloc, finalize
   ~BasePDE13_v400_() override;
+
+  std::string description() const noexcept override { return describedAs("BasePDE13_v400_", this); }
 
   // The root class's initialiser: the object itself, or null when it refuses to be made.
   virtual BasePDE13_v400_* init() noexcept { return this; }

@@ -6,15 +6,20 @@
 #include <string>
 #include <vector>
 
+#include "bundle/diag/Describable.h"
 #include "platform/ports/PrintDialogPlugIn.h"
 
 namespace cutline {
 
-class LXKMWNOptions14PlugIn13_v400_ : public PrintDialogPlugIn {
+class LXKMWNOptions14PlugIn13_v400_ : public PrintDialogPlugIn, public Describable {
  public:
   LXKMWNOptions14PlugIn13_v400_() noexcept = default;
   // dealloc
   ~LXKMWNOptions14PlugIn13_v400_() override = default;
+
+  std::string description() const noexcept override {
+    return describedAs("LXKMWNOptions14PlugIn13_v400_", this);
+  }
 
   // Whether the platform is version 10.5 or later. Asked once in a process, then remembered.
   bool runningOnLeopardOrLater() noexcept;

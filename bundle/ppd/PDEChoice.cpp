@@ -25,12 +25,6 @@ TextEncoding userTitleEncoding() noexcept {
                                                           : TextEncoding::system;
 }
 
-std::string addressOf(const void* object) {
-  char text[2 + 2 * sizeof(void*) + 1];
-  std::snprintf(text, sizeof text, "%p", object);
-  return text;
-}
-
 }  // namespace
 
 std::unique_ptr<PDEChoice> PDEChoice::choiceWithChoice(ppd_choice_t* choice) noexcept {
@@ -46,12 +40,12 @@ PDEChoice* PDEChoice::initWithChoice(ppd_choice_t* choice) noexcept {
   return this;
 }
 
-const std::optional<std::string>& PDEChoice::userTitle() noexcept {
+const std::optional<std::string>& PDEChoice::userTitle() const noexcept {
   if (!mUserTitle && mChoice) mUserTitle = decodedText(mChoice->text, userTitleEncoding());
   return mUserTitle;
 }
 
-const std::optional<std::string>& PDEChoice::ppdTitle() noexcept {
+const std::optional<std::string>& PDEChoice::ppdTitle() const noexcept {
   if (!mPPDTitle && mChoice) mPPDTitle = decodedText(mChoice->choice, TextEncoding::ascii);
   return mPPDTitle;
 }
@@ -61,12 +55,12 @@ bool PDEChoice::isDefaultChoice() const noexcept {
   return std::strncmp(mChoice->choice, mChoice->option->defchoice, kComparedBytes) == 0;
 }
 
-std::string PDEChoice::description() noexcept {
+std::string PDEChoice::description() const noexcept {
   const ppd_option_t* option = mChoice ? mChoice->option : nullptr;
   const auto position = option ? mChoice - option->choices + 1 : 0;
   const int count = option ? option->num_choices : 0;
   const bool marked = mChoice && mChoice->marked;
-  return "<PDEChoice " + addressOf(this) + " userTitle:\"" + userTitle().value_or("(null)") +
+  return "<" + nameOfObject("PDEChoice", this) + " userTitle:\"" + userTitle().value_or("(null)") +
          "\" ppdTitle:\"" + ppdTitle().value_or("(null)") + "\" marked:" + (marked ? "YES" : "NO") +
          " choice:" + std::to_string(position) + " of " + std::to_string(count) + ">";
 }

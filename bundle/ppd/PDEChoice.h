@@ -8,9 +8,11 @@
 #include <string>
 #include <vector>
 
+#include "bundle/diag/Describable.h"
+
 namespace cutline {
 
-class PDEChoice {
+class PDEChoice final : public Describable {
  public:
   PDEChoice() noexcept = default;
   PDEChoice(const PDEChoice&) = delete;
@@ -23,20 +25,21 @@ class PDEChoice {
   PDEChoice* initWithChoice(ppd_choice_t* choice) noexcept;
 
   // The choice's text; nothing when it is no valid UTF-8, and then the next call tries again.
-  const std::optional<std::string>& userTitle() noexcept;
+  const std::optional<std::string>& userTitle() const noexcept;
   // The choice's keyword; nothing when it is not ASCII.
-  const std::optional<std::string>& ppdTitle() noexcept;
+  const std::optional<std::string>& ppdTitle() const noexcept;
   ppd_choice_t* choice() const noexcept { return mChoice; }
 
   // Whether the PPD names this choice as its option's default.
   bool isDefaultChoice() const noexcept;
 
   // One line for logs.
-  std::string description() noexcept;
+  std::string description() const noexcept override;
 
  private:
-  std::optional<std::string> mUserTitle;
-  std::optional<std::string> mPPDTitle;
+  // Made when they are first asked for.
+  mutable std::optional<std::string> mUserTitle;
+  mutable std::optional<std::string> mPPDTitle;
   ppd_choice_t* mChoice = nullptr;
 };
 

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+#include "bundle/diag/Describable.h"
 #include "bundle/preview/PictureWords.h"
 #include "bundle/preview/ShownOptions.h"
 #include "platform/ports/Drawing.h"
@@ -16,13 +17,17 @@ namespace cutline {
 class Bundle;
 class CheckBox;
 
-class OptionView13_v400_ : public CustomViewClient {
+class OptionView13_v400_ : public CustomViewClient, public Describable {
  public:
   OptionView13_v400_() noexcept = default;
   OptionView13_v400_(const OptionView13_v400_&) = delete;
   OptionView13_v400_& operator=(const OptionView13_v400_&) = delete;
   // dealloc
   ~OptionView13_v400_() override;
+
+  std::string description() const noexcept override {
+    return describedAs("OptionView13_v400_", this);
+  }
 
   // initWithFrame:withBundle:isWN:  The view itself; null, with nothing loaded, when the toolkit
   // makes no native view. A picture that the bundle lacks leaves its slot empty.

@@ -26,9 +26,11 @@ inline constexpr char kInvalidCharacterNotification[] = "InvalidCharacterNotific
 // A number is too large or too small.
 inline constexpr char kFormatErrorNotification[] = "FormatErrorNotification";
 
-class PDEFormatter final : public Formatter {
+class PDEFormatter final : public Formatter, public Describable {
  public:
   PDEFormatter() noexcept = default;
+
+  std::string description() const noexcept override { return describedAs("PDEFormatter", this); }
 
   // The initialisers are for a new object, and hand it back.
   PDEFormatter* init() noexcept;

@@ -1,6 +1,7 @@
 // A text field that tells observers of each change that the user makes to its text.
 #pragma once
 
+#include "bundle/diag/Describable.h"
 #include "platform/ports/TextField.h"
 
 namespace cutline {
@@ -11,10 +12,14 @@ class TextField;
 inline constexpr char kTextFieldResignFirstResponderNotification[] =
     "TextFieldResignFirstResponderNotification";
 
-class PDETextField13_v400_ final : public TextFieldClient {
+class PDETextField13_v400_ final : public TextFieldClient, public Describable {
  public:
   // The field is borrowed; it owns its client.
   explicit PDETextField13_v400_(TextField& field) noexcept : mField(field) {}
+
+  std::string description() const noexcept override {
+    return describedAs("PDETextField13_v400_", this);
+  }
 
   // sendFirstResponderNotification:  Posts when the flag is false. True says that the field still
   // has the keyboard, whatever the notification's name says, and posts nothing.

@@ -164,7 +164,7 @@ TEST(SafeFormat, AChoiceDescribesItself) {
   ppd_option_t* option = ppdFindOption(ppd.get(), "LxHalfCut");
   ASSERT_TRUE(option);
   const auto choice = PDEChoice::choiceWithChoice(&option->choices[1]);
-  EXPECT_EQ(safeFormat("%@", {Described(*choice)}), choice->description());
+  EXPECT_EQ(safeFormat("%@", {*choice}), choice->description());
 }
 
 // One of the characters.

@@ -1,4 +1,4 @@
-// Messages and hex dumps to streams, called in the staged module.
+// Messages and hex dumps to streams, with typed arguments.
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <signal.h>
@@ -13,24 +13,11 @@
 #include <string>
 #include <vector>
 
-#include "tests/bundle/DiagModule.h"
+#include "bundle/diag/diagnostics.h"
+#include "tests/bundle/DiagOutput.h"
 
 namespace cutline::test {
 namespace {
-
-// What is written to standard error meanwhile.
-std::string onStandardError(const std::function<void()>& function) {
-  testing::internal::CaptureStderr();
-  function();
-  return testing::internal::GetCapturedStderr();
-}
-
-// What is written to a pipe.
-std::string onPipe(const std::function<void(int descriptor)>& function) {
-  Channel channel = Channel::pipe();
-  function(channel.input());
-  return channel.all();
-}
 
 std::vector<unsigned char> bytesUpTo(int count) {
   std::vector<unsigned char> bytes(static_cast<std::size_t>(count));
@@ -42,10 +29,8 @@ constexpr char kSixteen[] = "000102030405060708090a0b0c0d0e0f";
 
 class Streams : public testing::Test {
  protected:
-  decltype(::debugLog)* debugLog = diagnostic<decltype(::debugLog)>("debugLog");
-  decltype(::debugLogFd)* debugLogFd = diagnostic<decltype(::debugLogFd)>("debugLogFd");
-  decltype(::memoryCheck)* memoryCheck = diagnostic<decltype(::memoryCheck)>("memoryCheck");
-  decltype(::memoryCheckFd)* memoryCheckFd = diagnostic<decltype(::memoryCheckFd)>("memoryCheckFd");
+  decltype(cutline::debugLog)* debugLog = cutline::debugLog;
+  decltype(cutline::debugLogFd)* debugLogFd = cutline::debugLogFd;
 };
 
 TEST_F(Streams, AMessageIsPrintedAtLevelsUpToZero) {

@@ -1,4 +1,4 @@
-// The traces of entry and exit, called in the staged module.
+// The traces of entry and exit, with typed arguments.
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -6,7 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "tests/bundle/DiagModule.h"
+#include "bundle/diag/diagnostics.h"
+#include "tests/bundle/DiagOutput.h"
 
 namespace cutline::test {
 namespace {
@@ -16,9 +17,9 @@ using Messages = std::vector<std::string>;
 class Traces : public testing::Test {
  protected:
   LoggingPlatform platform;
-  decltype(_PDEProlog)* prolog = diagnostic<decltype(_PDEProlog)>("_PDEProlog");
-  decltype(_PDEEpilog)* epilog = diagnostic<decltype(_PDEEpilog)>("_PDEEpilog");
-  decltype(_PDELog)* log = diagnostic<decltype(_PDELog)>("_PDELog");
+  decltype(PDEProlog)* prolog = PDEProlog;
+  decltype(PDEEpilog)* epilog = PDEEpilog;
+  decltype(PDELog)* log = PDELog;
 };
 
 TEST_F(Traces, WithoutAnObjectTheMessageFollowsTheMarker) {
