@@ -1,4 +1,7 @@
-// A text field that tells observers of each change that the user makes to its text.
+// A text field that tells observers of each change that the user makes to its text, for fields of
+// an interface file whose `class` it is. The panel's number field is not one: this class keeps
+// changes from the field's delegate, and the panel is the delegate that corrects what is typed
+// there. The tests in tests/textinput use it as a panel's file gives it, in a window.
 #pragma once
 
 #include "bundle/diag/Describable.h"
