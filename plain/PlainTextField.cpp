@@ -143,7 +143,12 @@ void PlainTextField::edit(TextRange madeAt, TextRange replaced,
   std::u16string after = before;
   after.replace(replaced.location, replaced.length, with);
   const TextRange selection{replaced.location + with.size(), 0};
-  if (after == before || !mayEdit(before, madeAt, after, selection) || exists.expired()) return;
+  if (after == before) {
+    // No change, but what was typed again is no longer selected: the next key goes behind it.
+    mSelection = selection;
+    return;
+  }
+  if (!mayEdit(before, madeAt, after, selection) || exists.expired()) return;
   // A text that was set meanwhile stands.
   if (utf16FromUtf8(stringValue()) != before) return;
   show(utf8FromUtf16(after), selection);

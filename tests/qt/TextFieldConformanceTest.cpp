@@ -122,6 +122,30 @@ TYPED_TEST(TextFieldConformance, EveryEditIsJudgedAtItsSelection) {
   EXPECT_EQ(this->field->stringValue(), "4");
 }
 
+TYPED_TEST(TextFieldConformance, TypingWhatIsSelectedIsNoChangeAndGoesOnBehindIt) {
+  this->field->setStringValue("15");
+  this->field->setFormatter(this->formatter);
+  this->user.arrive();
+  this->user.select({1, 1});
+  this->user.type("5");
+  EXPECT_EQ(this->user.selection(), (TextRange{2, 0}));
+  EXPECT_TRUE(this->events.empty());
+  this->user.select({0, 1});
+  this->user.type("16");
+  EXPECT_EQ(this->field->stringValue(), "165");
+  EXPECT_EQ(this->formatter->asked, (std::vector<AskedEdit>{{"15", {1, 0}, "165", {2, 0}}}));
+  EXPECT_EQ(this->events, (std::vector<std::string>{"165", "observer"}));
+}
+
+TYPED_TEST(TextFieldConformance, DeletingNothingIsNoEdit) {
+  this->field->setFormatter(this->formatter);
+  this->user.arrive();
+  this->user.deleteBackward();
+  this->user.deleteForward();
+  EXPECT_TRUE(this->formatter->asked.empty());
+  EXPECT_TRUE(this->events.empty());
+}
+
 TYPED_TEST(TextFieldConformance, RefusedEditLeavesTextAndSelectionAndIsNotReported) {
   this->field->setStringValue("123");
   this->field->setFormatter(this->formatter);
