@@ -10,15 +10,13 @@
 namespace cutline {
 namespace {
 
-constexpr char kPaperDidChange[] = "PMPrintDestinationPaperDidChangeNotification";
-
 // The options found before the media's name is looked at; the others follow.
 constexpr std::size_t kOptionsBeforeMediaRule = 4;
 
 }  // namespace
 
 OptionPDE13_v400_::~OptionPDE13_v400_() {
-  NotificationCenter::defaultCenter().removeObserver(this, kPaperDidChange, {});
+  NotificationCenter::defaultCenter().removeObserver(this, kPaperDidChangeNotification, {});
   detachControls();
 }
 
@@ -39,7 +37,7 @@ OptionPDE13_v400_* OptionPDE13_v400_::initWithCallback(
       [this](const Notification& notification) {
         checkChangeSettingWhenPageSizeChanged(notification);
       },
-      kPaperDidChange, {});
+      kPaperDidChangeNotification, {});
   return this;
 }
 

@@ -8,12 +8,11 @@
 #include "platform/ports/NotificationCenter.h"
 #include "platform/ports/Platform.h"
 #include "platform/ports/PopUpButton.h"
+#include "platform/ports/PrintDialogPanel.h"
 
 namespace cutline {
 
 namespace {
-
-constexpr char kPaperDidChange[] = "PMPrintDestinationPaperDidChangeNotification";
 
 NotificationCenter& notificationCenter() {
   NotificationCenter* own = currentPlatform().notificationCenter;
@@ -70,7 +69,7 @@ void OpenPrinter::run() {
 
 void OpenPrinter::runFromPaper() {
   mWanted.paperWasChosen();
-  notificationCenter().postNotificationName(kPaperDidChange, std::monostate{});
+  notificationCenter().postNotificationName(kPaperDidChangeNotification, std::monostate{});
   runFromMarks();
 }
 

@@ -38,6 +38,10 @@ class PDEPluginCallback13_v400_ {
   virtual void panelViewDidResize() noexcept = 0;
 };
 
+// Posted by the host, about no object, when the dialog's paper is another one.
+inline constexpr char kPaperDidChangeNotification[] =
+    "PMPrintDestinationPaperDidChangeNotification";
+
 using KeywordList = std::vector<std::string>;
 
 // The key of the list of titles in display order within a summary.
