@@ -31,6 +31,18 @@ double deviceScale(const QPainter& painter) {
 
 }  // namespace
 
+const std::vector<std::string>& pictureFileTypes() {
+  // Asked for once: the answer takes loading every plug-in of Qt's for pictures.
+  static const std::vector<std::string> types = [] {
+    std::vector<std::string> found = {"svg"};
+    for (const QByteArray& type : QImageReader::supportedImageFormats()) {
+      if (type != "svg") found.push_back(type.toStdString());
+    }
+    return found;
+  }();
+  return types;
+}
+
 QtPicture::QtPicture(std::string path) : mPath(std::move(path)) {}
 
 QtPicture::~QtPicture() = default;

@@ -16,6 +16,9 @@ class QSvgRenderer;
 
 namespace cutline {
 
+// The kinds of picture files that are read, by suffix; vector pictures first.
+const std::vector<std::string>& pictureFileTypes();
+
 // A picture file, read when it is first needed and drawn crisp at any device pixel ratio. Vector
 // pictures are rendered for the device, bitmaps are scaled.
 class QtPicture {

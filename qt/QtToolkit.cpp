@@ -78,6 +78,8 @@ std::shared_ptr<CustomView> QtToolkit::createCustomView(const Rect& frame,
   return std::make_shared<QtCustomView>(frame, client, mActions);
 }
 
+std::vector<std::string> QtToolkit::imageFileTypes() const noexcept { return pictureFileTypes(); }
+
 std::shared_ptr<Image> QtToolkit::imageWithContentsOfFile(const std::string& path) noexcept {
   if (!QtPicture::isPictureFile(path)) return nullptr;
   return std::make_shared<QtImage>(path);

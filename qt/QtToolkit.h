@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/ports/Toolkit.h"
 
@@ -27,6 +28,7 @@ class QtToolkit : public Toolkit {
   std::shared_ptr<PopUpButton> createPopUpButton(const Rect& frame) noexcept override;
   std::shared_ptr<CustomView> createCustomView(const Rect& frame,
                                                CustomViewClient* client) noexcept override;
+  std::vector<std::string> imageFileTypes() const noexcept override;
   std::shared_ptr<Image> imageWithContentsOfFile(const std::string& path) noexcept override;
   void runModal(const Alert& alert) noexcept override;
   void beep() noexcept override;

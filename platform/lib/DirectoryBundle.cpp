@@ -6,14 +6,24 @@
 #include "platform/lib/InterfaceLoader.h"
 #include "platform/lib/Languages.h"
 #include "platform/lib/ResourceFile.h"
+#include "platform/ports/Platform.h"
+#include "platform/ports/Toolkit.h"
 
 namespace cutline {
 namespace {
 
 constexpr char kDefaultTable[] = "Localizable";
 
-// What may be left out of a picture's name; a vector picture before its bitmap.
-constexpr const char* kImageExtensions[] = {"", ".svg", ".png"};
+std::vector<std::string> imageFileTypes() {
+  const Toolkit* toolkit = currentPlatform().toolkit;
+  return toolkit ? toolkit->imageFileTypes() : std::vector<std::string>();
+}
+
+std::optional<std::string> pathOfFile(const std::filesystem::path& path) {
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(path, error)) return std::nullopt;
+  return path.string();
+}
 
 std::optional<PropertyList> readPropertyList(const std::filesystem::path& path) {
   const auto bytes = readResource(path);
@@ -79,10 +89,9 @@ std::string DirectoryBundle::localizedStringForKey(
 std::optional<std::string> DirectoryBundle::pathForImageResource(
     const std::string& name) const noexcept {
   if (!isResourceName(name)) return std::nullopt;
-  for (const char* extension : kImageExtensions) {
-    const auto path = mResources / (name + extension);
-    std::error_code error;
-    if (std::filesystem::is_regular_file(path, error)) return path.string();
+  if (auto path = pathOfFile(mResources / name)) return path;
+  for (const std::string& type : imageFileTypes()) {
+    if (auto path = pathOfFile(mResources / (name + "." + type))) return path;
   }
   return std::nullopt;
 }

@@ -27,7 +27,8 @@ class Bundle : public std::enable_shared_from_this<Bundle> {
       const std::string& key, const std::optional<std::string>& value,
       const std::optional<std::string>& table) const noexcept = 0;
 
-  // pathForImageResource:  By name, without or with extension; nothing when there is none.
+  // pathForImageResource:  By name, with its extension or without that of any file type that the
+  // current toolkit reads, the toolkit's first one before the others; nothing when there is none.
   virtual std::optional<std::string> pathForImageResource(
       const std::string& name) const noexcept = 0;
 

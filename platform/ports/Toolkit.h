@@ -54,6 +54,9 @@ class Toolkit {
   virtual std::shared_ptr<CustomView> createCustomView(const Rect& frame,
                                                        CustomViewClient* client) noexcept = 0;
 
+  // imageFileTypes  The kinds of picture files that the toolkit reads, by their suffix in lower
+  // case and without a dot; vector pictures first.
+  virtual std::vector<std::string> imageFileTypes() const noexcept = 0;
   // initWithContentsOfFile:  Null when the file is missing or is no picture that the toolkit reads.
   virtual std::shared_ptr<Image> imageWithContentsOfFile(const std::string& path) noexcept = 0;
 

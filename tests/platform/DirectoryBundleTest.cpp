@@ -4,7 +4,9 @@
 #include <filesystem>
 #include <optional>
 
+#include "plain/PlainToolkit.h"
 #include "platform/lib/DirectoryBundle.h"
+#include "tests/platform/ToolkitScope.h"
 #include "tests/support/TemporaryBundle.h"
 
 namespace cutline {
@@ -21,6 +23,18 @@ class DirectoryBundleTest : public testing::Test {
   }
 
   test::TemporaryBundle bundle;
+};
+
+class BundlePictures : public DirectoryBundleTest {
+ protected:
+  // Reads pictures of two kinds that no other toolkit here reads.
+  class RareToolkit : public PlainToolkit {
+    std::vector<std::string> imageFileTypes() const noexcept override { return {"eps", "tiff"}; }
+  };
+  std::string file(const std::string& name) const { return (bundle.resources() / name).string(); }
+
+  PlainToolkit toolkit;
+  ToolkitScope scope{&toolkit};
 };
 
 TEST_F(DirectoryBundleTest, TellsPathIdentifierAndPrincipalClass) {
@@ -118,24 +132,43 @@ TEST_F(DirectoryBundleTest, ATablesNameCannotLeadOutOfItsFolder) {
   EXPECT_EQ(opened->localizedStringForKey("cut", kNone, "../en.lproj/Other"), "cut");
 }
 
-TEST_F(DirectoryBundleTest, FindsPicturesWithAndWithoutExtension) {
+TEST_F(BundlePictures, AreFoundWithAndWithoutExtension) {
   bundle.write("Resources/Tape.svg", "<svg/>");
   bundle.write("Resources/Roll.png", "png");
   const auto opened = bundle.open();
-  const auto svg = (bundle.resources() / "Tape.svg").string();
+  const auto svg = file("Tape.svg");
   EXPECT_EQ(opened->pathForImageResource("Tape"), svg);
   EXPECT_EQ(opened->pathForImageResource("Tape.svg"), svg);
-  EXPECT_EQ(opened->pathForImageResource("Roll"), (bundle.resources() / "Roll.png").string());
+  EXPECT_EQ(opened->pathForImageResource("Roll"), file("Roll.png"));
 }
 
-TEST_F(DirectoryBundleTest, AVectorPictureComesBeforeItsBitmap) {
+TEST_F(BundlePictures, AVectorPictureComesBeforeItsBitmap) {
   bundle.write("Resources/Tape.png", "png");
   bundle.write("Resources/Tape.svg", "<svg/>");
-  EXPECT_EQ(bundle.open()->pathForImageResource("Tape"),
-            (bundle.resources() / "Tape.svg").string());
+  EXPECT_EQ(bundle.open()->pathForImageResource("Tape"), file("Tape.svg"));
 }
 
-TEST_F(DirectoryBundleTest, ANameThatIsNoPictureFindsNothing) {
+TEST_F(BundlePictures, AreThoseThatTheToolkitReadsInItsOrder) {
+  for (const char* name : {"Tape.svg", "Tape.tiff", "Roll.eps", "Roll.tiff", "Mark.png"}) {
+    bundle.write(std::string("Resources/") + name, "picture");
+  }
+  RareToolkit rare;
+  const ToolkitScope rareScope(&rare);
+  const auto opened = bundle.open();
+  EXPECT_EQ(opened->pathForImageResource("Tape"), file("Tape.tiff"));
+  EXPECT_EQ(opened->pathForImageResource("Roll"), file("Roll.eps"));
+  EXPECT_FALSE(opened->pathForImageResource("Mark"));
+  EXPECT_EQ(opened->pathForImageResource("Mark.png"), file("Mark.png"));
+}
+
+TEST_F(BundlePictures, AreFoundByTheirWholeNameAloneWhereNoToolkitReadsAny) {
+  bundle.write("Resources/Tape.svg", "<svg/>");
+  const ToolkitScope none(nullptr);
+  EXPECT_FALSE(bundle.open()->pathForImageResource("Tape"));
+  EXPECT_EQ(bundle.open()->pathForImageResource("Tape.svg"), file("Tape.svg"));
+}
+
+TEST_F(BundlePictures, ANameThatIsNoPictureFindsNothing) {
   bundle.write("Resources/Tape.svg", "<svg/>");
   bundle.write("Resources/inner/Tape.svg", "<svg/>");
   bundle.write("secret.png", "png");

@@ -1,6 +1,9 @@
 // What a panel relies on, whichever toolkit shows it. TextFieldConformanceTest has the text fields.
 #include <gtest/gtest.h>
 
+#include <QImage>
+#include <QImageWriter>
+#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -244,6 +247,24 @@ TYPED_TEST(ToolkitConformance, PictureTellsItsSize) {
   EXPECT_EQ(image->size(), (Size{40, 20}));
   EXPECT_EQ(this->toolkit.imageWithContentsOfFile(files.add("b.svg", "words")), nullptr);
   EXPECT_EQ(this->toolkit.imageWithContentsOfFile("/nonexistent"), nullptr);
+}
+
+TYPED_TEST(ToolkitConformance, ReadsThePicturesThatItSaysItReadsAndNoOthers) {
+  const auto types = this->toolkit.imageFileTypes();
+  ASSERT_FALSE(types.empty());
+  EXPECT_EQ(types.front(), "svg");
+  EXPECT_EQ(std::ranges::count(types, "png"), 1);
+  PictureFiles files;
+  QImage picture(40, 20, QImage::Format_RGB32);
+  picture.fill(Qt::green);
+  for (const QByteArray& written : QImageWriter::supportedImageFormats()) {
+    const std::string type = written.toStdString();
+    const std::string path = files.add(QString::fromStdString("picture." + type), "");
+    ASSERT_TRUE(picture.save(QString::fromStdString(path), written.constData())) << type;
+    const auto image = this->toolkit.imageWithContentsOfFile(path);
+    const bool isOfItsTypes = std::ranges::find(types, type) != types.end();
+    EXPECT_EQ(image != nullptr, isOfItsTypes) << type;
+  }
 }
 
 }  // namespace
