@@ -5,6 +5,7 @@
 #include <string>
 
 #include "plain/PlainImage.h"
+#include "tests/support/Printers.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace cutline {

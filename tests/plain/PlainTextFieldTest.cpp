@@ -9,6 +9,7 @@
 #include "tests/plain/ActionLog.h"
 #include "tests/platform/RecordingClient.h"
 #include "tests/platform/RecordingFormatter.h"
+#include "tests/support/Printers.h"
 
 namespace cutline {
 namespace {

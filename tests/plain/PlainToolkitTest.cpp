@@ -7,6 +7,7 @@
 #include "plain/PlainStepper.h"
 #include "plain/PlainTextField.h"
 #include "plain/PlainToolkit.h"
+#include "tests/support/Printers.h"
 
 namespace cutline {
 namespace {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "plain/PlainView.h"
+#include "tests/support/Printers.h"
 
 namespace cutline {
 namespace {

@@ -3,6 +3,7 @@
 #include "plain/PlainImage.h"
 #include "plain/PlainView.h"
 #include "plain/RecordingDrawingContext.h"
+#include "tests/support/Printers.h"
 
 namespace cutline {
 namespace {

@@ -16,6 +16,7 @@
 #include "platform/ports/TextField.h"
 #include "tests/platform/RecordingOwner.h"
 #include "tests/platform/ToolkitScope.h"
+#include "tests/support/Printers.h"
 #include "tests/support/TemporaryBundle.h"
 
 namespace cutline {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/lib/InterfaceFile.h"
+#include "tests/support/Printers.h"
 
 namespace cutline {
 namespace {

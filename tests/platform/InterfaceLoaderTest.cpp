@@ -14,6 +14,7 @@
 #include "tests/platform/RecordingFormatter.h"
 #include "tests/platform/RecordingOwner.h"
 #include "tests/platform/ToolkitScope.h"
+#include "tests/support/Printers.h"
 #include "tests/support/TemporaryBundle.h"
 
 namespace cutline {

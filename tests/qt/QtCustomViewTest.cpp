@@ -5,6 +5,7 @@
 
 #include "platform/ports/Drawing.h"
 #include "tests/qt/QtPanelFixture.h"
+#include "tests/support/Printers.h"
 
 namespace cutline {
 namespace {

@@ -3,6 +3,7 @@
 #include "platform/ports/Drawing.h"
 #include "qt/QtPicture.h"
 #include "tests/qt/QtPanelFixture.h"
+#include "tests/support/Printers.h"
 
 namespace cutline {
 namespace {

@@ -10,6 +10,7 @@
 #include "platform/ports/TextField.h"
 #include "qt/QtToolkit.h"
 #include "tests/qt/QtPanelFixture.h"
+#include "tests/support/Printers.h"
 
 namespace cutline {
 namespace {

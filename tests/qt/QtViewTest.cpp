@@ -2,6 +2,7 @@
 
 #include "platform/ports/Controls.h"
 #include "tests/qt/QtPanelFixture.h"
+#include "tests/support/Printers.h"
 
 namespace cutline {
 namespace {

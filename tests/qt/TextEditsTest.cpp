@@ -4,6 +4,7 @@
 
 #include "qt/TextEdits.h"
 #include "tests/qt/PrintEditedText.h"
+#include "tests/support/Printers.h"
 
 namespace cutline {
 

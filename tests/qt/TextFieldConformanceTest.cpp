@@ -15,6 +15,7 @@
 #include "tests/qt/LineUser.h"
 #include "tests/qt/QtPanelFixture.h"
 #include "tests/qt/ToolkitConformance.h"
+#include "tests/support/Printers.h"
 
 namespace cutline {
 namespace {

@@ -13,6 +13,7 @@
 #include "platform/ports/TextField.h"
 #include "tests/qt/QtPanelFixture.h"
 #include "tests/qt/ToolkitConformance.h"
+#include "tests/support/Printers.h"
 
 namespace cutline {
 namespace {
