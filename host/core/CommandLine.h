@@ -7,7 +7,7 @@
 #include "base/Result.h"
 #include "cups/Destination.h"
 #include "cups/ServerOptions.h"
-#include "host/core/AskedSettings.h"
+#include "host/core/PrintValues.h"
 
 namespace cutline {
 

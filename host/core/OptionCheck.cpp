@@ -4,7 +4,6 @@
 #include "base/Lists.h"
 #include "host/core/OptionSpelling.h"
 #include "host/core/OptionTable.h"
-#include "host/core/PrintModel.h"
 
 namespace cutline {
 

@@ -1,4 +1,5 @@
-// The options of one PPD by keyword, with their choices.
+// The options of one PPD by keyword, with their choices, and the check of those that a person
+// typed.
 #pragma once
 
 #include <optional>
@@ -29,5 +30,10 @@ class OptionTable {
  private:
   std::vector<OptionGroup> mGroups;
 };
+
+// Checks options that a person typed against a PPD: an unknown option (neither the PPD's nor a
+// standard job attribute) and an unknown choice are errors; the choices, or names near the one
+// typed, are listed.
+Result<Done> checkOptions(const PpdFile& ppd, const OptionList& options);
 
 }  // namespace cutline

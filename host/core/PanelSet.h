@@ -9,7 +9,7 @@
 
 #include "host/core/PanelHost.h"
 #include "host/core/PanelSource.h"
-#include "host/core/PrintModel.h"
+#include "host/core/PrintValues.h"
 
 namespace cutline {
 

@@ -15,55 +15,14 @@
 #include <vector>
 
 #include "base/Result.h"
-#include "cups/Destination.h"
-#include "cups/PpdFile.h"
-#include "host/core/AskedSettings.h"
 #include "host/core/PanelSource.h"
+#include "host/core/PrintValues.h"
 #include "platform/ports/PrintDialogPanel.h"
 #include "platform/ports/Toolkit.h"
 
 namespace cutline {
 
 class OpenPrinter;
-
-// A printer as the model opens it. `destination.savedOptions` are those of the instance when the
-// name has one. Without a queue (a PPD file alone) the destination's name is empty.
-struct PrinterChoice {
-  Destination destination;
-  std::shared_ptr<PpdFile> ppd;
-};
-
-// A panel of a plug-in. The view is in no window: the dialog puts it into one, and takes it out
-// before the printer is switched or the model closes.
-struct PanelEntry {
-  std::string name;
-  std::shared_ptr<View> view;  // null when the panel could not load it
-  std::shared_ptr<PrintDialogPanel> panel;
-};
-
-// A PPD option that no panel takes care of, or some choice of which no control of a panel reaches.
-struct GeneratedOption {
-  PpdOption option;
-  std::string marked;  // the marked choice's keyword; empty when none is marked
-};
-struct GeneratedGroup {
-  std::string text;
-  std::vector<GeneratedOption> options;  // never empty
-};
-
-struct SummaryLine {
-  std::string title;
-  std::string value;
-};
-
-// One thing that a user would not expect of what is sent: a rule changes what was asked for, or
-// speaks against it, or nothing on the panel shows it.
-struct Deviation {
-  std::string keyword;
-  std::string asked;  // the choice that was asked for
-  std::string sent;   // the choice that will be sent; the same when nothing was changed
-  Sentence sentence;  // for people
-};
 
 enum class ModelChange {
   printer,  // everything is new: panels, papers, generated options
@@ -159,10 +118,5 @@ class PrintModel final : public ActionObserver {
   PrintModelListener* mListener = nullptr;
   std::unique_ptr<OpenPrinter> mPrinter;
 };
-
-// Checks options that a person typed against a PPD: an unknown option (neither the PPD's nor a
-// standard job attribute) and an unknown choice are errors; the choices, or names near the one
-// typed, are listed.
-Result<Done> checkOptions(const PpdFile& ppd, const OptionList& options);
 
 }  // namespace cutline

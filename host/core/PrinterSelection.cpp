@@ -1,6 +1,7 @@
 #include "host/core/PrinterSelection.h"
 
 #include "cups/Destinations.h"
+#include "host/core/OptionTable.h"
 
 namespace cutline {
 

@@ -3,7 +3,7 @@
 
 #include "base/Result.h"
 #include "host/core/CommandLine.h"
-#include "host/core/PrintModel.h"
+#include "host/core/PrintValues.h"
 
 namespace cutline {
 

@@ -7,7 +7,7 @@
 #include <map>
 #include <vector>
 
-#include "host/core/PrintModel.h"
+#include "host/core/PrintValues.h"
 
 class QFormLayout;
 

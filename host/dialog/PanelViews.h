@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <vector>
 
-#include "host/core/PrintModel.h"
+#include "host/core/PrintValues.h"
 
 class QGridLayout;
 class QLabel;

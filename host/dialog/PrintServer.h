@@ -10,7 +10,7 @@
 #include "cups/Destination.h"
 #include "cups/PrintJob.h"
 #include "cups/ServerOptions.h"
-#include "host/core/PrintModel.h"
+#include "host/core/PrintValues.h"
 #include "host/dialog/Background.h"
 
 namespace cutline {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "host/core/PrintModel.h"
+#include "host/core/OptionTable.h"
 #include "tests/support/TestPrinter.h"
 
 namespace cutline {
