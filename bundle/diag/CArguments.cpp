@@ -4,8 +4,7 @@
 #include <cstring>
 #include <span>
 
-#include "bundle/diag/ArgumentReader.h"
-#include "bundle/diag/Conversion.h"
+#include "bundle/format/Conversion.h"
 
 namespace cutline {
 namespace {

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "bundle/diag/FormatArguments.h"
+#include "bundle/format/FormatArguments.h"
 
 namespace cutline {
 

@@ -21,8 +21,8 @@
 #include <cups/ppd.h>
 
 #ifdef __cplusplus
-#include "bundle/diag/Describable.h"
-#include "bundle/diag/FormatArguments.h"
+#include "bundle/format/Describable.h"
+#include "bundle/format/FormatArguments.h"
 #include "platform/ports/Printing.h"
 #define CUTLINE_NOEXCEPT noexcept
 extern "C" {
@@ -49,7 +49,7 @@ CUTLINE_DIAGNOSTIC void _PDELog_ppd_option_t(ppd_file_t* ppd,
                                              const char* ppdOptionName) CUTLINE_NOEXCEPT;
 
 #ifdef __cplusplus
-/* Writes the settings as an XML property list to the file "/LxPDE_NAME.plist", as settings_file.h
+/* Writes the settings as an XML property list to the file "/LxPDE_NAME.plist", as settings_dump.h
  * says. Does nothing where an argument or the data is missing. */
 CUTLINE_DIAGNOSTIC void _PDELog_PMPrintSettings_WriteToFile(cutline::PMPrintSettings settings,
                                                             const char* name) noexcept;

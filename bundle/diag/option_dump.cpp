@@ -5,8 +5,7 @@
 #include <string>
 
 #include "bundle/diag/diagnostics.h"
-#include "bundle/diag/quietly.h"
-#include "bundle/diag/system_log.h"
+#include "bundle/diag/messages.h"
 #include "bundle/ppd/text_bytes.h"
 
 namespace {

@@ -5,29 +5,28 @@
 #include <cstdarg>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "base/FileDescriptor.h"
 #include "bundle/diag/CArguments.h"
-#include "bundle/diag/SafeFormat.h"
-#include "bundle/diag/convertible_text.h"
 #include "bundle/diag/diagnostics.h"
-#include "bundle/diag/quietly.h"
-#include "bundle/diag/write_all.h"
+#include "bundle/diag/messages.h"
+#include "bundle/format/SafeFormat.h"
 
 namespace {
 
 using cutline::FormatArguments;
 using cutline::quietly;
 using cutline::safeFormat;
-using cutline::writeAll;
 
 constexpr std::size_t kBytesPerLine = 16;
 
-bool isSilent(int level) noexcept { return level >= 1; }
-
-std::string message(const char* format, FormatArguments arguments) {
-  return cutline::convertibleText(safeFormat(format, arguments));
+void writeText(int descriptor, std::string_view text) noexcept {
+  cutline::writeAll(descriptor, text.data(), text.size());
 }
+
+bool isSilent(int level) noexcept { return level >= 1; }
 
 // The arguments of a call that prints something.
 std::vector<cutline::FormatArgument> listOf(int level, const char* format, va_list list) {
@@ -53,7 +52,7 @@ void dumpLines(std::span<const unsigned char> bytes, const Print& print) {
 }
 
 void printDump(const std::string& digits) {
-  writeAll(STDERR_FILENO, safeFormat("DEBUG:%s", {digits}));
+  writeText(STDERR_FILENO, safeFormat("DEBUG:%s", {digits}));
 }
 
 }  // namespace
@@ -62,17 +61,19 @@ namespace cutline {
 
 void debugLog(int level, const char* format, FormatArguments arguments) noexcept {
   if (isSilent(level)) return;
-  writeAll(STDERR_FILENO, "DEBUG: ");
+  writeText(STDERR_FILENO, "DEBUG: ");
   if (!format) return;
   // The line is printed as a NUL-terminated string.
-  quietly([&] { writeAll(STDERR_FILENO, message(format, arguments).c_str() + std::string("\n")); });
+  quietly([&] {
+    writeText(STDERR_FILENO, formattedMessage(format, arguments).c_str() + std::string("\n"));
+  });
 }
 
 void debugLogFd(int level, int descriptor, const char* format, FormatArguments arguments) noexcept {
   if (isSilent(level) || !format) return;
   quietly([&] {
-    writeAll(descriptor, message(format, arguments));
-    writeAll(descriptor, "\n");
+    writeText(descriptor, formattedMessage(format, arguments));
+    writeText(descriptor, "\n");
   });
 }
 
@@ -112,6 +113,6 @@ void memoryCheckFd(int level, int descriptor, const void* bytes, int count) noex
   if (isSilent(level)) return;
   quietly([&] {
     dumpLines(dumpedBytes(bytes, count),
-              [&](const std::string& digits) { writeAll(descriptor, digits + "\n"); });
+              [&](const std::string& digits) { writeText(descriptor, digits + "\n"); });
   });
 }

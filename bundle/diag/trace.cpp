@@ -4,10 +4,9 @@
 #include <string>
 
 #include "bundle/diag/CArguments.h"
-#include "bundle/diag/SafeFormat.h"
 #include "bundle/diag/diagnostics.h"
-#include "bundle/diag/quietly.h"
-#include "bundle/diag/system_log.h"
+#include "bundle/diag/messages.h"
+#include "bundle/format/SafeFormat.h"
 
 namespace {
 

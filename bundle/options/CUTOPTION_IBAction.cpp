@@ -1,9 +1,9 @@
 // What happens when the user touches a control or the dialog's paper changes.
 #include <algorithm>
 
+#include "bundle/controls/nil_controls.h"
 #include "bundle/options/OptionPDE13_v400_.h"
 #include "bundle/options/option_model.h"
-#include "bundle/preview/nil_controls.h"
 #include "platform/ports/Platform.h"
 #include "platform/ports/Toolkit.h"
 

@@ -2,10 +2,10 @@
 // from the PPD's own choice list.
 #include <algorithm>
 
+#include "bundle/controls/nil_controls.h"
 #include "bundle/options/OptionPDE13_v400_.h"
 #include "bundle/options/option_model.h"
 #include "bundle/ppd/text_bytes.h"
-#include "bundle/preview/nil_controls.h"
 
 namespace cutline {
 namespace {

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cstring>
 
+#include "bundle/controls/nil_controls.h"
 #include "bundle/options/OptionPDE13_v400_.h"
 #include "bundle/options/option_model.h"
 #include "bundle/ppd/PDEUtilsMethod13.h"
 #include "bundle/ppd/text_bytes.h"
-#include "bundle/preview/nil_controls.h"
 
 namespace cutline {
 namespace {

@@ -4,10 +4,10 @@
 #include <array>
 #include <cmath>
 
+#include "bundle/controls/nil_controls.h"
 #include "bundle/options/OptionPDE13_v400_.h"
 #include "bundle/options/option_model.h"
 #include "bundle/options/preset_tags.h"
-#include "bundle/preview/nil_controls.h"
 #include "platform/ports/Bundle.h"
 
 namespace cutline {

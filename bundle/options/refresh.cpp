@@ -1,10 +1,10 @@
 // Reads the marked choices into the selections, and sets the controls from the selections.
 #include <algorithm>
 
+#include "bundle/controls/nil_controls.h"
 #include "bundle/options/OptionPDE13_v400_.h"
 #include "bundle/options/option_model.h"
 #include "bundle/options/preset_tags.h"
-#include "bundle/preview/nil_controls.h"
 
 namespace cutline {
 

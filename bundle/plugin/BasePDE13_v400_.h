@@ -10,7 +10,7 @@
 #include <optional>
 #include <string>
 
-#include "bundle/diag/Describable.h"
+#include "bundle/format/Describable.h"
 #include "bundle/ppd/PDEChoice.h"
 #include "platform/ports/Geometry.h"
 #include "platform/ports/Interface.h"

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "bundle/diag/Describable.h"
+#include "bundle/format/Describable.h"
 #include "platform/ports/PrintDialogPlugIn.h"
 
 namespace cutline {

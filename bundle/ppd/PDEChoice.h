@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "bundle/diag/Describable.h"
+#include "bundle/format/Describable.h"
 
 namespace cutline {
 

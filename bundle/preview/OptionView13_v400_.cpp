@@ -1,6 +1,6 @@
 #include "bundle/preview/OptionView13_v400_.h"
 
-#include "bundle/preview/nil_controls.h"
+#include "bundle/controls/nil_controls.h"
 #include "platform/ports/Bundle.h"
 #include "platform/ports/Drawing.h"
 #include "platform/ports/Platform.h"

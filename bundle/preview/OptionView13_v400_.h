@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "bundle/diag/Describable.h"
+#include "bundle/format/Describable.h"
 #include "bundle/preview/PictureWords.h"
 #include "bundle/preview/ShownOptions.h"
 #include "platform/ports/Drawing.h"

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <utility>
 
-#include "bundle/diag/SafeFormat.h"
+#include "bundle/format/SafeFormat.h"
 #include "bundle/ppd/PDEUtilsMethod13.h"
 #include "bundle/ppd/text_bytes.h"
 #include "bundle/textinput/EditVetting.h"

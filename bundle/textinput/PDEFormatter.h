@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "bundle/diag/Describable.h"
+#include "bundle/format/Describable.h"
 #include "platform/ports/Formatter.h"
 #include "platform/ports/NotificationCenter.h"
 

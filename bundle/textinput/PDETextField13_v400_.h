@@ -4,7 +4,7 @@
 // there. The tests in tests/textinput use it as a panel's file gives it, in a window.
 #pragma once
 
-#include "bundle/diag/Describable.h"
+#include "bundle/format/Describable.h"
 #include "platform/ports/TextField.h"
 
 namespace cutline {

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "bundle/diag/Describable.h"
+#include "bundle/format/Describable.h"
 #include "plain/RecordingSystemLog.h"
 #include "tests/bundle/TestPlatform.h"
 

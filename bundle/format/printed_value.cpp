@@ -1,4 +1,4 @@
-#include "bundle/diag/printed_value.h"
+#include "bundle/format/printed_value.h"
 
 #include <algorithm>
 #include <array>

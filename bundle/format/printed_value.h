@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "bundle/diag/Conversion.h"
-#include "bundle/diag/FormatArgument.h"
+#include "bundle/format/Conversion.h"
+#include "bundle/format/FormatArguments.h"
 
 namespace cutline {
 

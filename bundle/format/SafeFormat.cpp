@@ -1,10 +1,9 @@
-#include "bundle/diag/SafeFormat.h"
+#include "bundle/format/SafeFormat.h"
 
 #include <algorithm>
 
-#include "bundle/diag/ArgumentReader.h"
-#include "bundle/diag/Conversion.h"
-#include "bundle/diag/printed_value.h"
+#include "bundle/format/Conversion.h"
+#include "bundle/format/printed_value.h"
 
 namespace cutline {
 namespace {

@@ -12,7 +12,7 @@
 #include <string_view>
 #include <vector>
 
-#include "bundle/diag/settings_file.h"
+#include "bundle/diag/settings_dump.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace cutline::test {

@@ -1,4 +1,4 @@
-// The file of the settings dump.
+// The file of the dump of the print settings.
 #pragma once
 
 #include <string_view>

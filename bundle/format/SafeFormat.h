@@ -14,7 +14,7 @@
 #include <string>
 #include <string_view>
 
-#include "bundle/diag/FormatArguments.h"
+#include "bundle/format/FormatArguments.h"
 
 namespace cutline {
 

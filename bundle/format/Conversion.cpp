@@ -1,4 +1,4 @@
-#include "bundle/diag/Conversion.h"
+#include "bundle/format/Conversion.h"
 
 #include <algorithm>
 #include <climits>

@@ -15,8 +15,8 @@
 #include <string_view>
 #include <vector>
 
-#include "bundle/diag/SafeFormat.h"
-#include "bundle/diag/printed_value.h"
+#include "bundle/format/SafeFormat.h"
+#include "bundle/format/printed_value.h"
 #include "bundle/ppd/PDEChoice.h"
 #include "tests/bundle/TestPlatform.h"
 #include "tests/support/PpdText.h"

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "bundle/diag/convertible_text.h"
+#include "bundle/diag/messages.h"
 
 namespace cutline::test {
 namespace {

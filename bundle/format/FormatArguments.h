@@ -1,18 +1,22 @@
-// One argument of a format: a value and its kind. A conversion reads the value only as what it is.
+// The arguments of a format: a typed list, so that a format can ask for anything without reaching
+// what isn't there.
 #pragma once
 
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
 
-#include "bundle/diag/Describable.h"
+#include "bundle/format/Describable.h"
 
 namespace cutline {
 
+// One argument of a format: a value and its kind. A conversion reads the value only as what it is.
 // Laid out as the C structure { int32_t kind; union { 64 bits or a pointer } value; size_t length;
 // }. Made from a value of one of the kinds; text and objects are borrowed.
 class FormatArgument {
@@ -91,5 +95,29 @@ class FormatArgument {
 
 static_assert(std::is_standard_layout_v<FormatArgument>);
 static_assert(std::is_trivially_copyable_v<FormatArgument>);
+
+// The arguments of a format, in order. Laid out as the C structure { const FormatArgument* items;
+// size_t count; }, and passed as it is.
+class FormatArguments {
+ public:
+  constexpr FormatArguments() noexcept = default;
+  // Borrows the list: written out in a call, as in {5, "text"}, it lives as long as the call.
+  constexpr FormatArguments(std::initializer_list<FormatArgument> list) noexcept
+      : FormatArguments(std::span(std::data(list), list.size())) {}
+  constexpr FormatArguments(std::span<const FormatArgument> list) noexcept
+      : mItems(list.data()), mCount(list.size()) {}
+
+  // Null behind the last.
+  constexpr const FormatArgument* at(std::size_t index) const noexcept {
+    return mItems && index < mCount ? mItems + index : nullptr;
+  }
+
+ private:
+  const FormatArgument* mItems = nullptr;
+  std::size_t mCount = 0;
+};
+
+static_assert(std::is_standard_layout_v<FormatArguments>);
+static_assert(std::is_trivially_copyable_v<FormatArguments>);
 
 }  // namespace cutline
