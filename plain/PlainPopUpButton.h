@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "plain/PlainControl.h"
+#include "plain/PlainControls.h"
 #include "platform/ports/PopUpButton.h"
 
 namespace cutline {

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "plain/PlainText.h"
+#include "plain/PlainControls.h"
 #include "platform/ports/Formatter.h"
 #include "platform/ports/TextField.h"
 

@@ -1,13 +1,10 @@
 #include "plain/PlainToolkit.h"
 
-#include "plain/PlainButton.h"
-#include "plain/PlainCheckBox.h"
-#include "plain/PlainCustomView.h"
+#include "plain/PlainControls.h"
 #include "plain/PlainImage.h"
-#include "plain/PlainLabel.h"
 #include "plain/PlainPopUpButton.h"
-#include "plain/PlainStepper.h"
 #include "plain/PlainTextField.h"
+#include "plain/PlainView.h"
 
 namespace cutline {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "plain/PlainControl.h"
+#include "plain/PlainControls.h"
 #include "platform/ports/Toolkit.h"
 
 namespace cutline {

@@ -1,15 +1,16 @@
-// A view in memory: frames, flags and the view tree, with no window behind them.
+// Views in memory, with no window behind them.
 #pragma once
 
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "platform/ports/Drawing.h"
 #include "platform/ports/View.h"
 
 namespace cutline {
 
-// Holds subviews that are plain views; others are left out.
+// Frames, flags and the view tree. Holds subviews that are plain views; others are left out.
 class PlainView : public virtual View {
  public:
   explicit PlainView(const Rect& frame) : mFrame(frame) {}
@@ -44,6 +45,25 @@ class PlainView : public virtual View {
   PlainView* mSuperview = nullptr;
   std::vector<std::shared_ptr<View>> mSubviews;
   std::string mAccessibilityLabel;
+};
+
+// Has its client draw when it is told to.
+class PlainCustomView final : public virtual CustomView, public PlainView {
+ public:
+  PlainCustomView(const Rect& frame, CustomViewClient* client);
+
+  void setClient(CustomViewClient* client) noexcept override { mClient = client; }
+  // The view class in memory has nothing of its own to draw.
+  void drawSuper(const Rect& dirty, DrawingContext& context) noexcept override;
+
+  // The label that was set, or else what the client says of its drawing.
+  std::string accessibilityLabel() const noexcept override;
+
+  // Has the client draw the whole view, unless the view is hidden.
+  void draw(DrawingContext& context) noexcept;
+
+ private:
+  CustomViewClient* mClient;
 };
 
 }  // namespace cutline

@@ -3,7 +3,7 @@
 #include <functional>
 
 #include "bundle/preview/OptionView13_v400_.h"
-#include "plain/PlainCustomView.h"
+#include "plain/PlainView.h"
 #include "plain/RecordingDrawingContext.h"
 #include "platform/ports/Controls.h"
 #include "tests/bundle/BoxStates.h"

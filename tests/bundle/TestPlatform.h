@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "plain/IcuTextEncodings.h"
-#include "plain/PlainCustomView.h"
 #include "plain/PlainImage.h"
 #include "plain/PlainToolkit.h"
+#include "plain/PlainView.h"
 #include "platform/lib/LocalNotificationCenter.h"
 #include "platform/ports/Platform.h"
 #include "platform/ports/System.h"

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "plain/PlainButton.h"
+#include "plain/PlainControls.h"
 
 namespace cutline::test {
 

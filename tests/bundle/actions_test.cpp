@@ -1,5 +1,5 @@
 // What the user does with the controls, and what a paper change does.
-#include "plain/PlainStepper.h"
+#include "plain/PlainControls.h"
 #include "tests/bundle/PanelTest.h"
 
 namespace cutline::test {

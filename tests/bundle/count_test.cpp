@@ -1,6 +1,6 @@
 // The number of labels between cuts, over lists of every shape: what is shown, what is marked and
 // what is sent agree after each step and each number typed.
-#include "plain/PlainStepper.h"
+#include "plain/PlainControls.h"
 #include "tests/bundle/PanelTest.h"
 
 namespace cutline::test {

@@ -4,7 +4,7 @@
 #include <map>
 
 #include "bundle/ppd/PDEUtilsMethod13.h"
-#include "plain/PlainStepper.h"
+#include "plain/PlainControls.h"
 #include "tests/bundle/PanelTest.h"
 
 namespace cutline::test {

@@ -1,5 +1,5 @@
 // A host may keep the view longer than the panel: none of its controls calls a panel that is gone.
-#include "plain/PlainStepper.h"
+#include "plain/PlainControls.h"
 #include "tests/bundle/PanelTest.h"
 
 namespace cutline::test {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "bundle/textinput/PDETextField13_v400_.h"
-#include "plain/PlainText.h"
+#include "plain/PlainControls.h"
 #include "platform/ports/TextField.h"
 #include "tests/bundle/TestPlatform.h"
 

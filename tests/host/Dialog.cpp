@@ -7,7 +7,7 @@
 
 #include "host/core/CutRules.h"
 #include "host/core/OptionTable.h"
-#include "plain/PlainCustomView.h"
+#include "plain/PlainView.h"
 #include "plain/RecordingDrawingContext.h"
 
 namespace cutline {

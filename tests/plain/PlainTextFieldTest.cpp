@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "plain/PlainLabel.h"
+#include "plain/PlainControls.h"
 #include "plain/PlainTextField.h"
 #include "plain/PlainToolkit.h"
 #include "tests/plain/ActionLog.h"

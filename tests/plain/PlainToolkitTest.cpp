@@ -1,12 +1,10 @@
 #include <gtest/gtest.h>
 
-#include "plain/PlainCheckBox.h"
-#include "plain/PlainCustomView.h"
-#include "plain/PlainLabel.h"
+#include "plain/PlainControls.h"
 #include "plain/PlainPopUpButton.h"
-#include "plain/PlainStepper.h"
 #include "plain/PlainTextField.h"
 #include "plain/PlainToolkit.h"
+#include "plain/PlainView.h"
 #include "tests/support/Printers.h"
 
 namespace cutline {
