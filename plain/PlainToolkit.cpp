@@ -1,5 +1,7 @@
 #include "plain/PlainToolkit.h"
 
+#include <array>
+
 #include "plain/PlainControls.h"
 #include "plain/PlainImage.h"
 #include "plain/PlainPopUpButton.h"
@@ -48,6 +50,11 @@ std::shared_ptr<PopUpButton> PlainToolkit::createPopUpButton(const Rect& frame) 
 std::shared_ptr<CustomView> PlainToolkit::createCustomView(const Rect& frame,
                                                            CustomViewClient* client) noexcept {
   return std::make_shared<PlainCustomView>(frame, client);
+}
+
+std::optional<std::string> PlainToolkit::imageFileType(std::size_t index) const noexcept {
+  constexpr std::array kTypes = {"svg", "png"};
+  return index < kTypes.size() ? std::optional<std::string>(kTypes[index]) : std::nullopt;
 }
 
 std::shared_ptr<Image> PlainToolkit::imageWithContentsOfFile(const std::string& path) noexcept {

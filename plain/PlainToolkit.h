@@ -26,7 +26,7 @@ class PlainToolkit : public Toolkit {
   std::shared_ptr<PopUpButton> createPopUpButton(const Rect& frame) noexcept override;
   std::shared_ptr<CustomView> createCustomView(const Rect& frame,
                                                CustomViewClient* client) noexcept override;
-  std::vector<std::string> imageFileTypes() const noexcept override { return {"svg", "png"}; }
+  std::optional<std::string> imageFileType(std::size_t index) const noexcept override;
   std::shared_ptr<Image> imageWithContentsOfFile(const std::string& path) noexcept override;
 
   // Keeps the alert and comes back at once.

@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <QSvgRenderer>
 #include <QXmlStreamReader>
+#include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "qt/QtText.h"
@@ -29,18 +31,30 @@ double deviceScale(const QPainter& painter) {
   return std::hypot(transform.m11(), transform.m12());
 }
 
-}  // namespace
+// What Qt reads without a plug-in.
+constexpr std::array<const char*, 2> kOwnTypes = {"svg", "png"};
 
-const std::vector<std::string>& pictureFileTypes() {
-  // Asked for once: the answer takes loading every plug-in of Qt's for pictures.
+// Asked for once and late: the answer takes loading every plug-in of Qt's for pictures, which costs
+// more than a millisecond of the time to the first picture.
+const std::vector<std::string>& pluggedInTypes() {
   static const std::vector<std::string> types = [] {
-    std::vector<std::string> found = {"svg"};
+    std::vector<std::string> found;
     for (const QByteArray& type : QImageReader::supportedImageFormats()) {
-      if (type != "svg") found.push_back(type.toStdString());
+      if (std::find(kOwnTypes.begin(), kOwnTypes.end(), type) == kOwnTypes.end())
+        found.push_back(type.toStdString());
     }
     return found;
   }();
   return types;
+}
+
+}  // namespace
+
+std::optional<std::string> pictureFileType(std::size_t index) {
+  if (index < kOwnTypes.size()) return kOwnTypes.at(index);
+  const std::vector<std::string>& others = pluggedInTypes();
+  const std::size_t place = index - kOwnTypes.size();
+  return place < others.size() ? std::optional(others[place]) : std::nullopt;
 }
 
 QtPicture::QtPicture(std::string path) : mPath(std::move(path)) {}

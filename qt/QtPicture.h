@@ -16,8 +16,9 @@ class QSvgRenderer;
 
 namespace cutline {
 
-// The kinds of picture files that are read, by suffix; vector pictures first.
-const std::vector<std::string>& pictureFileTypes();
+// The kinds of picture files that are read, by suffix; vector pictures first, and nothing behind
+// the last.
+std::optional<std::string> pictureFileType(std::size_t index);
 
 // A picture file, read when it is first needed and drawn crisp at any device pixel ratio. Vector
 // pictures are rendered for the device, bitmaps are scaled.

@@ -78,7 +78,9 @@ std::shared_ptr<CustomView> QtToolkit::createCustomView(const Rect& frame,
   return std::make_shared<QtCustomView>(frame, client, mActions);
 }
 
-std::vector<std::string> QtToolkit::imageFileTypes() const noexcept { return pictureFileTypes(); }
+std::optional<std::string> QtToolkit::imageFileType(std::size_t index) const noexcept {
+  return pictureFileType(index);
+}
 
 std::shared_ptr<Image> QtToolkit::imageWithContentsOfFile(const std::string& path) noexcept {
   if (!QtPicture::isPictureFile(path)) return nullptr;

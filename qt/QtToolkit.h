@@ -28,7 +28,7 @@ class QtToolkit : public Toolkit {
   std::shared_ptr<PopUpButton> createPopUpButton(const Rect& frame) noexcept override;
   std::shared_ptr<CustomView> createCustomView(const Rect& frame,
                                                CustomViewClient* client) noexcept override;
-  std::vector<std::string> imageFileTypes() const noexcept override;
+  std::optional<std::string> imageFileType(std::size_t index) const noexcept override;
   std::shared_ptr<Image> imageWithContentsOfFile(const std::string& path) noexcept override;
   void runModal(const Alert& alert) noexcept override;
   void beep() noexcept override;

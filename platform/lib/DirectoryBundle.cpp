@@ -14,9 +14,9 @@ namespace {
 
 constexpr char kDefaultTable[] = "Localizable";
 
-std::vector<std::string> imageFileTypes() {
+std::optional<std::string> imageFileType(std::size_t index) {
   const Toolkit* toolkit = currentPlatform().toolkit;
-  return toolkit ? toolkit->imageFileTypes() : std::vector<std::string>();
+  return toolkit ? toolkit->imageFileType(index) : std::nullopt;
 }
 
 std::optional<std::string> pathOfFile(const std::filesystem::path& path) {
@@ -90,8 +90,9 @@ std::optional<std::string> DirectoryBundle::pathForImageResource(
     const std::string& name) const noexcept {
   if (!isResourceName(name)) return std::nullopt;
   if (auto path = pathOfFile(mResources / name)) return path;
-  for (const std::string& type : imageFileTypes()) {
-    if (auto path = pathOfFile(mResources / (name + "." + type))) return path;
+  std::size_t index = 0;
+  while (const auto type = imageFileType(index++)) {
+    if (auto path = pathOfFile(mResources / (name + "." + *type))) return path;
   }
   return std::nullopt;
 }

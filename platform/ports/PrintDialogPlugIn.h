@@ -37,7 +37,7 @@ class PrintDialogPlugIn {
 
 // Changes whenever a header of platform/ports/ changes what a bundle was compiled against;
 // scripts/port-hash notices.
-inline constexpr std::uint32_t kPlugInAbiVersion = 4;
+inline constexpr std::uint32_t kPlugInAbiVersion = 5;
 
 // A bundle exports one C function `const PrincipalClassEntry*()` for each principal class, named
 // kPrincipalClassSymbolPrefix followed by the class's name. The host refuses another `abi`.

@@ -2,7 +2,9 @@
 // memory) and qt/ (Qt Widgets). All calls on the main thread.
 #pragma once
 
+#include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -55,8 +57,9 @@ class Toolkit {
                                                        CustomViewClient* client) noexcept = 0;
 
   // imageFileTypes  The kinds of picture files that the toolkit reads, by their suffix in lower
-  // case and without a dot; vector pictures first.
-  virtual std::vector<std::string> imageFileTypes() const noexcept = 0;
+  // case and without a dot; vector pictures first. Asked one by one, because a toolkit may have to
+  // load code to know its rare ones; nothing behind the last.
+  virtual std::optional<std::string> imageFileType(std::size_t index) const noexcept = 0;
   // initWithContentsOfFile:  Null when the file is missing or is no picture that the toolkit reads.
   virtual std::shared_ptr<Image> imageWithContentsOfFile(const std::string& path) noexcept = 0;
 

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <array>
 #include <filesystem>
 #include <optional>
 
@@ -29,7 +30,10 @@ class BundlePictures : public DirectoryBundleTest {
  protected:
   // Reads pictures of two kinds that no other toolkit here reads.
   class RareToolkit : public PlainToolkit {
-    std::vector<std::string> imageFileTypes() const noexcept override { return {"eps", "tiff"}; }
+    std::optional<std::string> imageFileType(std::size_t index) const noexcept override {
+      constexpr std::array kTypes = {"eps", "tiff"};
+      return index < kTypes.size() ? std::optional<std::string>(kTypes[index]) : std::nullopt;
+    }
   };
   std::string file(const std::string& name) const { return (bundle.resources() / name).string(); }
 

@@ -251,7 +251,8 @@ TYPED_TEST(ToolkitConformance, PictureTellsItsSize) {
 }
 
 TYPED_TEST(ToolkitConformance, ReadsThePicturesThatItSaysItReadsAndNoOthers) {
-  const auto types = this->toolkit.imageFileTypes();
+  std::vector<std::string> types;
+  while (const auto type = this->toolkit.imageFileType(types.size())) types.push_back(*type);
   ASSERT_FALSE(types.empty());
   EXPECT_EQ(types.front(), "svg");
   EXPECT_EQ(std::ranges::count(types, "png"), 1);
