@@ -75,6 +75,15 @@ TEST_F(PrintSession, TapeStateIsOneForDCAndAVSizesOfThePPD) {
   }
 }
 
+TEST_F(PrintSession, TheFirstAndTheLastSizeOfThePPDCountToo) {
+  ppd = PpdText().pageSizes({"DC24first", "W24", "AV24last"}).open();
+  for (const char* name : {"DC24first", "AV24last"}) {
+    paper.name = name;
+    EXPECT_EQ(query(), noErr);
+    EXPECT_EQ(info.tapeState, 1) << name;
+  }
+}
+
 TEST_F(PrintSession, WithoutAPPDTheTapeStateIsZero) {
   ppd.reset();
   paper.name = "DC24x100";

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "cups/Destination.h"
+#include "tests/support/DestinationPrinters.h"
 
 namespace cutline {
 namespace {
@@ -11,6 +12,11 @@ std::string stateText(PrinterState state, std::vector<std::string> reasons, bool
   destination.stateReasons = std::move(reasons);
   destination.acceptsJobs = accepts;
   return destination.stateText().english();
+}
+
+TEST(DestinationName, IsShownAsItIsWritten) {
+  EXPECT_EQ(testing::PrintToString(DestinationName{"tape", "half"}), "tape/half");
+  EXPECT_EQ(testing::PrintToString(Result<Done>(Error{Sentence("no paper")})), "no paper");
 }
 
 TEST(DestinationName, IsAPrinterOrAnInstanceOfIt) {

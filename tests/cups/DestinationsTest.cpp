@@ -4,6 +4,7 @@
 #include "cups/Destinations.h"
 #include "tests/cups/ServerTest.h"
 #include "tests/support/Command.h"
+#include "tests/support/DestinationPrinters.h"
 
 namespace cutline {
 namespace {
