@@ -9,15 +9,6 @@
 namespace cutline {
 namespace {
 
-struct Flag {
-  char letter;
-  bool Conversion::*field;  // null for one that is known and changes nothing
-};
-constexpr Flag kFlags[] = {
-    {'-', &Conversion::leftAligned}, {'+', &Conversion::signAlways}, {' ', &Conversion::signBlank},
-    {'#', &Conversion::alternative}, {'0', &Conversion::zeroPadded}, {'\'', nullptr},
-};
-
 template <typename Integer>
 constexpr int kBitsOf = static_cast<int>(sizeof(Integer)) * CHAR_BIT;
 
@@ -40,9 +31,11 @@ bool take(std::string_view& text, char character) noexcept {
 }
 
 bool takeFlag(std::string_view& text, Conversion& conversion) noexcept {
-  for (const Flag& flag : kFlags) {
+  constexpr char kGrouped = '\'';  // says nothing in the "C" locale
+  if (take(text, kGrouped)) return true;
+  for (const ConversionFlag& flag : kConversionFlags) {
     if (!take(text, flag.letter)) continue;
-    if (flag.field) conversion.*flag.field = true;
+    conversion.*flag.field = true;
     return true;
   }
   return false;

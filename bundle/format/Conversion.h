@@ -45,6 +45,17 @@ struct Conversion {
   std::string_view spelling;  // as it stands in the format
 };
 
+// The flags that change what is printed.
+struct ConversionFlag {
+  char letter;
+  bool Conversion::*field;
+};
+inline constexpr ConversionFlag kConversionFlags[] = {{'-', &Conversion::leftAligned},
+                                                      {'+', &Conversion::signAlways},
+                                                      {' ', &Conversion::signBlank},
+                                                      {'#', &Conversion::alternative},
+                                                      {'0', &Conversion::zeroPadded}};
+
 // Takes the conversion at the start of the format, which is a "%", off the format. The arguments
 // are asked for a width or precision of "*"; one that is no integer counts as not given.
 Conversion readConversion(std::string_view& format, ArgumentReader& arguments) noexcept;

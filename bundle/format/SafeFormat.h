@@ -1,5 +1,6 @@
 // Formats text by a format that may come from anywhere: nothing in it reads or writes memory that
-// its arguments don't name, and none of it reaches the C library.
+// its arguments don't name. Numbers are printed by the C library, by a format made anew of what the
+// conversion asks for and the library defines; in the "C" locale, whatever the process's is.
 //
 // Conversions are those of the C library, %d %i %u %x %X %o %c %s %f %F %e %E %g %G %p %%, with
 // flags, width, precision and length modifiers, and "%@" for the description of an object or for a

@@ -1,49 +1,30 @@
 #include "bundle/format/printed_value.h"
 
+#include <locale.h>
+
 #include <algorithm>
-#include <array>
 #include <charconv>
-#include <cmath>
 #include <cstdint>
-#include <limits>
+#include <cstdio>
 #include <string_view>
 
 namespace cutline {
 namespace {
 
 constexpr std::string_view kNoValue = "(null)";
+constexpr int kNoPrecision = -1;  // as the C library takes it for "*"
+constexpr int kBits = 64;         // of an argument
 
 // Whether the byte begins a character of UTF-8 text.
 bool beginsCharacter(char byte) noexcept {
   return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
 }
 
-std::string inUpperCase(std::string text) {
-  for (char& c : text) {
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-  }
-  return text;
-}
-
-// What fills the text up to the width.
-std::string fill(const Conversion& conversion, std::string_view text, char with) {
-  const auto characters = std::count_if(text.begin(), text.end(), beginsCharacter);
-  const auto width = std::min(conversion.width, kMostColumns);
-  return std::string(static_cast<std::size_t>(std::max<std::ptrdiff_t>(width - characters, 0)),
-                     with);
-}
-
 std::string padded(const Conversion& conversion, std::string text) {
-  const std::string blanks = fill(conversion, text, ' ');
+  const auto characters = std::count_if(text.begin(), text.end(), beginsCharacter);
+  const auto missing = std::min(conversion.width, kMostColumns) - characters;
+  const std::string blanks(static_cast<std::size_t>(std::max<std::ptrdiff_t>(missing, 0)), ' ');
   return conversion.leftAligned ? text + blanks : blanks + text;
-}
-
-// A number: zeros of the padding stand behind its sign or base.
-std::string paddedNumber(const Conversion& conversion, const std::string& prefix,
-                         const std::string& digits, bool mayHaveZeros) {
-  const bool zeros = mayHaveZeros && conversion.zeroPadded && !conversion.leftAligned;
-  if (!zeros) return padded(conversion, prefix + digits);
-  return prefix + fill(conversion, prefix + digits, '0') + digits;
 }
 
 // The first characters of the text, as many as the precision says.
@@ -56,64 +37,68 @@ std::string_view cut(const Conversion& conversion, std::string_view text) noexce
   return text;
 }
 
-std::string sign(const Conversion& conversion, bool negative) {
-  if (negative) return "-";
-  if (conversion.signAlways) return "+";
-  return conversion.signBlank ? " " : "";
-}
+// Numbers look the same whatever language the process speaks.
+class NeutralLocale {
+ public:
+  NeutralLocale() noexcept : mBefore(uselocale(neutral())) {}
+  ~NeutralLocale() { uselocale(mBefore); }
+  NeutralLocale(const NeutralLocale&) = delete;
+  NeutralLocale& operator=(const NeutralLocale&) = delete;
 
-std::string digitsOf(std::uint64_t value, int base, const Conversion& conversion) {
-  std::array<char, std::numeric_limits<std::uint64_t>::digits> buffer{};
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, base).ptr;
-  std::string digits(buffer.data(), end);
-  const int least = std::min(conversion.precision.value_or(1), kMostColumns);
-  if (value == 0) digits.clear();
-  if (digits.size() < static_cast<std::size_t>(least)) digits.insert(0, least - digits.size(), '0');
-  return digits;
-}
+ private:
+  // Made once, for as long as the process lives.
+  static locale_t neutral() noexcept {
+    static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
+    return locale;
+  }
+  locale_t mBefore;
+};
 
-// The value's lowest bits, as many as the conversion reads.
-std::uint64_t truncated(std::uint64_t value, int bits) noexcept {
-  return bits >= 64 ? value : value & ((std::uint64_t{1} << bits) - 1);
+// What the C library defines for a kind of number: elsewhere a flag may do anything.
+constexpr std::string_view kFlagsOfSigned = "-+ 0";
+constexpr std::string_view kFlagsOfDecimal = "-0";
+constexpr std::string_view kFlagsOfBits = "-#0";
+constexpr std::string_view kFlagsOfReal = "-+ #0";
+
+// The number as the C library prints it by the conversion's defined flags, its width and its
+// precision. `lengthAndType` are those of Number.
+template <typename Number>
+std::string printed(const Conversion& conversion, std::string_view definedFlags,
+                    std::string_view lengthAndType, Number value) {
+  std::string format = "%";
+  for (const ConversionFlag& flag : kConversionFlags) {
+    if (conversion.*flag.field && definedFlags.find(flag.letter) != definedFlags.npos)
+      format += flag.letter;
+  }
+  format.append("*.*").append(lengthAndType);
+  const NeutralLocale neutral;
+  const int width = std::min(conversion.width, kMostColumns);
+  const int precision = std::min(conversion.precision.value_or(kNoPrecision), kMostColumns);
+  const int size = std::snprintf(nullptr, 0, format.c_str(), width, precision, value);
+  std::string text(static_cast<std::size_t>(std::max(size, 0)), '\0');
+  // The place behind a string's last character is there for a NUL.
+  std::snprintf(text.data(), text.size() + 1, format.c_str(), width, precision, value);
+  return text;
 }
 
 // Each printer answers nothing when the argument is of another kind than its conversion's.
 
+// Of an integer, the lowest bits, as many as the conversion reads.
 std::optional<std::string> printSigned(const Conversion& conversion, const FormatArgument& from) {
   const auto integer = from.integer();
   if (!integer) return std::nullopt;
-  const std::uint64_t value = truncated(*integer, conversion.bits);
-  const bool negative = value >> (conversion.bits - 1) != 0;
-  const std::uint64_t magnitude = negative ? truncated(~value + 1, conversion.bits) : value;
-  return paddedNumber(conversion, sign(conversion, negative), digitsOf(magnitude, 10, conversion),
-                      !conversion.precision);
+  const int unread = kBits - conversion.bits;
+  const std::intmax_t value = static_cast<std::int64_t>(*integer << unread) >> unread;
+  return printed(conversion, kFlagsOfSigned, "jd", value);
 }
 
-std::optional<std::string> printDecimal(const Conversion& conversion, const FormatArgument& from) {
+std::optional<std::string> printUnsigned(const Conversion& conversion, const FormatArgument& from) {
   const auto integer = from.integer();
   if (!integer) return std::nullopt;
-  return paddedNumber(conversion, "",
-                      digitsOf(truncated(*integer, conversion.bits), 10, conversion),
-                      !conversion.precision);
-}
-
-std::optional<std::string> printOctal(const Conversion& conversion, const FormatArgument& from) {
-  const auto integer = from.integer();
-  if (!integer) return std::nullopt;
-  std::string digits = digitsOf(truncated(*integer, conversion.bits), 8, conversion);
-  if (conversion.alternative && !digits.starts_with('0')) digits.insert(0, 1, '0');
-  return paddedNumber(conversion, "", digits, !conversion.precision);
-}
-
-std::optional<std::string> printHexadecimal(const Conversion& conversion,
-                                            const FormatArgument& from) {
-  const auto integer = from.integer();
-  if (!integer) return std::nullopt;
-  const std::uint64_t value = truncated(*integer, conversion.bits);
-  const std::string text =
-      paddedNumber(conversion, conversion.alternative && value != 0 ? "0x" : "",
-                   digitsOf(value, 16, conversion), !conversion.precision);
-  return conversion.type == 'X' ? inUpperCase(text) : text;
+  const int unread = kBits - conversion.bits;
+  const std::uintmax_t value = (*integer << unread) >> unread;
+  const auto flags = conversion.type == 'u' ? kFlagsOfDecimal : kFlagsOfBits;
+  return printed(conversion, flags, std::string("j") + conversion.type, value);
 }
 
 // The character of a code point below 256; others have no place in a byte.
@@ -127,63 +112,36 @@ std::optional<std::string> printCharacter(const Conversion& conversion,
                              static_cast<char>(0x80U | (code & 0x3FU))});
 }
 
-std::string toChars(double value, std::chars_format format, int precision) {
-  constexpr int kMostBeforeThePoint = std::numeric_limits<double>::max_exponent10 + 1;
-  constexpr int kPointAndExponent = 8;
-  std::string text(static_cast<std::size_t>(kMostBeforeThePoint + kPointAndExponent + precision),
-                   '\0');
-  const auto end =
-      std::to_chars(text.data(), text.data() + text.size(), value, format, precision).ptr;
-  text.resize(static_cast<std::size_t>(end - text.data()));
-  return text;
-}
-
-// Gives digits without a point one, before their exponent.
-std::string withPoint(std::string digits) {
-  if (digits.find('.') != digits.npos) return digits;
-  return digits.insert(std::min(digits.find('e'), digits.size()), 1, '.');
-}
-
-// "%#g": the shorter of both notations with every digit that the precision asks for.
-std::string allDigits(double value, int precision) {
-  const int digits = std::max(precision, 1);
-  const std::string scientific = toChars(value, std::chars_format::scientific, digits - 1);
-  int exponent = 0;
-  const char* number = scientific.data() + scientific.find('e') + 1;
-  std::from_chars(number + (*number == '+'), scientific.data() + scientific.size(), exponent);
-  if (exponent < -4 || exponent >= digits) return scientific;
-  return toChars(value, std::chars_format::fixed, digits - 1 - exponent);
-}
-
-std::string digitsOf(double value, const Conversion& conversion) {
-  constexpr int kUsualPrecision = 6;
-  const int precision = std::min(conversion.precision.value_or(kUsualPrecision), kMostColumns);
-  const bool general = conversion.type == 'g' || conversion.type == 'G';
-  if (general && conversion.alternative) return withPoint(allDigits(value, precision));
-  if (general) return toChars(value, std::chars_format::general, precision);
-  const bool fixed = conversion.type == 'f' || conversion.type == 'F';
-  const auto format = fixed ? std::chars_format::fixed : std::chars_format::scientific;
-  const std::string digits = toChars(value, format, precision);
-  return conversion.alternative ? withPoint(digits) : digits;
+// The value with as many digits as a general conversion shows. The C library's "%#g" drops the
+// zeros of one that it rounds up to a power of ten; it does not of one that is a power of ten.
+double roundedForGeneral(const Conversion& conversion, double value) {
+  constexpr int kUsualDigits = 6;
+  Conversion scientific;
+  scientific.precision = std::max(conversion.precision.value_or(kUsualDigits), 1) - 1;
+  const std::string text = printed(scientific, "", "e", value);
+  std::from_chars(text.data(), text.data() + text.size(), value);
+  return value;
 }
 
 std::optional<std::string> printReal(const Conversion& conversion, const FormatArgument& from) {
   const auto real = from.real();
   if (!real) return std::nullopt;
-  const bool finite = std::isfinite(*real);
-  const double magnitude = std::fabs(*real);
-  const char* const name = std::isnan(*real) ? "nan" : "inf";
-  const std::string text = paddedNumber(conversion, sign(conversion, std::signbit(*real)),
-                                        finite ? digitsOf(magnitude, conversion) : name, finite);
-  const bool isUpper = conversion.type >= 'A' && conversion.type <= 'Z';
-  return isUpper ? inUpperCase(text) : text;
+  const bool general = conversion.type == 'g' || conversion.type == 'G';
+  const bool allZeros = general && conversion.alternative;
+  const double value = allZeros ? roundedForGeneral(conversion, *real) : *real;
+  return printed(conversion, kFlagsOfReal, std::string_view(&conversion.type, 1), value);
 }
 
+// In hexadecimal digits behind "0x", null too.
 std::optional<std::string> printPointer(const Conversion& conversion, const FormatArgument& from) {
   const auto address = from.address();
   if (!address) return std::nullopt;
-  const auto value = reinterpret_cast<std::uintptr_t>(*address);
-  return paddedNumber(conversion, "0x", digitsOf(value, 16, Conversion{}), true);
+  if (!*address) return padded(conversion, "0x0");
+  Conversion digits = conversion;
+  digits.alternative = true;
+  digits.precision.reset();
+  const auto value = static_cast<std::uintmax_t>(reinterpret_cast<std::uintptr_t>(*address));
+  return printed(digits, kFlagsOfBits, "jx", value);
 }
 
 std::optional<std::string> printText(const Conversion& conversion, const FormatArgument& from) {
@@ -207,8 +165,7 @@ struct PrinterOfTypes {
   Printer print;
 };
 constexpr PrinterOfTypes kPrinters[] = {
-    {"@", printDescription}, {"s", printText},      {"di", printSigned},
-    {"u", printDecimal},     {"o", printOctal},     {"xX", printHexadecimal},
+    {"@", printDescription}, {"s", printText},      {"di", printSigned}, {"uoxX", printUnsigned},
     {"c", printCharacter},   {"fFeEgG", printReal}, {"p", printPointer},
 };
 

@@ -1,4 +1,4 @@
-// The values of a format's conversions as text, as the C library prints them, in no locale.
+// The values of a format's conversions as text, as the C library prints them in the "C" locale.
 #pragma once
 
 #include <string>

@@ -1,12 +1,14 @@
 // The formatter: each conversion, what becomes of arguments that don't fit, and formats at random
 // against the C library and against nothing but memory errors.
 #include <gtest/gtest.h>
+#include <locale.h>
 
 #include <cfloat>
 #include <climits>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <limits>
 #include <optional>
 #include <random>
@@ -20,6 +22,7 @@
 #include "bundle/ppd/PDEChoice.h"
 #include "tests/bundle/TestPlatform.h"
 #include "tests/support/PpdText.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace cutline::test {
 namespace {
@@ -31,6 +34,14 @@ class Tape final : public Describable {
   std::string description() const noexcept override { return "<tape 24%n>"; }
 };
 const Tape kTape;
+const void* const kAddress = reinterpret_cast<const void*>(0xBEEF);
+
+template <typename Value>
+std::string byTheLibrary(const std::string& format, Value value) {
+  std::vector<char> text(1024);
+  std::snprintf(text.data(), text.size(), format.c_str(), value);
+  return text.data();
+}
 
 TEST(SafeFormat, PrintsEachConversion) {
   EXPECT_EQ(safeFormat("%@", {"text"}), "text");
@@ -68,6 +79,80 @@ TEST(SafeFormat, TheAlternativeGeneralFormKeepsItsDigits) {
 
 TEST(SafeFormat, WidthAndPrecisionCountCharacters) {
   EXPECT_EQ(safeFormat("[%3s|%.1s]", {"\xC3\xA9", "\xC3\xA9\xC3\xA8"}), "[  \xC3\xA9|\xC3\xA9]");
+  EXPECT_EQ(safeFormat("[%.2s|%-3.1@|%.0s]", {"a\xE2\x82\xAC"
+                                              "b",
+                                              "\xE2\x82\xAC"
+                                              "b",
+                                              "c"}),
+            "[a\xE2\x82\xAC|\xE2\x82\xAC  |]");
+  EXPECT_EQ(safeFormat("[%3c|%-3c]", {0xE9, 'x'}), "[  \xC3\xA9|x  ]");
+}
+
+TEST(SafeFormat, FlagsThatAConversionLacksChangeNothing) {
+  EXPECT_EQ(safeFormat("[%#d|%#i|%+u|% x|%+o|%#u]", {42, 42, 42, 42, 8, 42}),
+            "[42|42|42|2a|10|42]");
+  EXPECT_EQ(safeFormat("[%05s|%+#5s|%05c|%+p]", {"abc", "abc", 'x', kAddress}),
+            "[  abc|  abc|    x|0xbeef]");
+  EXPECT_EQ(safeFormat("[%05%|%-%]", {}), "[%|%]");
+}
+
+TEST(SafeFormat, WhatIsNoNumberIsNamed) {
+  EXPECT_EQ(safeFormat("[%f|%5.1f|%-5g|%+f|%F]", {NAN, NAN, NAN, INFINITY, -INFINITY}),
+            "[nan|  nan|nan  |+inf|-INF]");
+  EXPECT_EQ(safeFormat("[%06f|%06F|%#.3g|%.40e]", {INFINITY, NAN, INFINITY, -INFINITY}),
+            "[   inf|   NAN|inf|-inf]");
+}
+
+TEST(SafeFormat, PointersHaveAWidth) {
+  EXPECT_EQ(safeFormat("[%8p|%-8p|%.3p|%08p]", {kAddress, kAddress, kAddress, kAddress}),
+            "[  0xbeef|0xbeef  |0xbeef|0x00beef]");
+  EXPECT_EQ(safeFormat("[%5p|%-5p]", {nullptr, nullptr}), "[  0x0|0x0  ]");
+}
+
+TEST(SafeFormat, NumbersReachTheirBounds) {
+  EXPECT_EQ(safeFormat("%lld %lld %llu", {INT64_MIN, INT64_MAX, UINT64_MAX}),
+            "-9223372036854775808 9223372036854775807 18446744073709551615");
+  EXPECT_EQ(safeFormat("%llx %#llo", {UINT64_MAX, UINT64_MAX}),
+            "ffffffffffffffff 01777777777777777777777");
+  EXPECT_EQ(safeFormat("%d %u %hhd %hhu %hd", {INT32_MIN, UINT32_MAX, 128, 256, 32768}),
+            "-2147483648 4294967295 -128 0 -32768");
+}
+
+// The process writes numbers with a decimal comma, as most of Europe does.
+class DecimalComma {
+ public:
+  DecimalComma() {
+    const std::string source = mFolder.write(
+        "source",
+        "LC_NUMERIC\ndecimal_point \",\"\nthousands_sep \".\"\ngrouping 3;3\nEND LC_NUMERIC\n");
+    // It warns of all that the source leaves out.
+    const std::string command =
+        "localedef -c --no-archive -i " + source + " " + mFolder / "comma" + " >/dev/null 2>&1";
+    std::system(command.c_str());
+    setenv("LOCPATH", mFolder.path().c_str(), 1);
+    mLocale = newlocale(LC_NUMERIC_MASK, "comma", nullptr);
+    unsetenv("LOCPATH");
+    if (mLocale) mBefore = uselocale(mLocale);
+  }
+  ~DecimalComma() {
+    if (!mLocale) return;
+    uselocale(mBefore);
+    freelocale(mLocale);
+  }
+  DecimalComma(const DecimalComma&) = delete;
+  DecimalComma& operator=(const DecimalComma&) = delete;
+
+ private:
+  TemporaryFolder mFolder;
+  locale_t mLocale = nullptr;
+  locale_t mBefore = nullptr;
+};
+
+TEST(SafeFormat, NumbersAreTheSameInEveryLanguage) {
+  const DecimalComma comma;
+  ASSERT_EQ(byTheLibrary("%.2f", 2.5), "2,50");
+  EXPECT_EQ(safeFormat("%.2f %#g %'d", {2.5, 0.5, 1000000}), "2.50 0.500000 1000000");
+  EXPECT_EQ(byTheLibrary("%.2f", 2.5), "2,50");
 }
 
 TEST(SafeFormat, IntegersAreCutToTheirLength) {
@@ -183,13 +268,6 @@ std::string randomStart(std::mt19937& random, std::string_view flags) {
   if (numberUpTo(random, 1)) format += std::to_string(numberUpTo(random, 30));
   if (numberUpTo(random, 1)) format += "." + std::to_string(numberUpTo(random, 20));
   return format;
-}
-
-template <typename Value>
-std::string byTheLibrary(const std::string& format, Value value) {
-  std::vector<char> text(1024);
-  std::snprintf(text.data(), text.size(), format.c_str(), value);
-  return text.data();
 }
 
 TEST(SafeFormat, PrintsIntegersAsTheCLibraryDoes) {
