@@ -34,7 +34,9 @@ extern "C" {
 
 /* Traces to the system log: "BEGIN", "END" or "LOG", then "self(DESCRIPTION)" where there is an
  * object, then the message. The description becomes a part of the format: a "%" in it is read as a
- * conversion. A null format is the format "(null)". */
+ * conversion. The arguments are those that the format of the call names; the description's
+ * conversions use them up from the first, and a conversion that none is left for is "(null)". A
+ * null format is the format "(null)". */
 CUTLINE_DIAGNOSTIC void _PDEProlog(const void* object, const char* format, ...) CUTLINE_NOEXCEPT;
 CUTLINE_DIAGNOSTIC void _PDEEpilog(const void* object, const char* format, ...) CUTLINE_NOEXCEPT;
 CUTLINE_DIAGNOSTIC void _PDELog(const void* object, const char* format, ...) CUTLINE_NOEXCEPT;

@@ -24,11 +24,14 @@ void trace(const char* marker, const Describable* object, const char* format,
   cutline::quietly([&] { cutline::logMessage(traceFormat(marker, object, format), arguments); });
 }
 
-// The arguments are those of the whole format, with what the description asks for.
+// Only the caller's own format says what is on the list: what a description asks for besides may
+// not be there. So its conversions use up the caller's arguments, and those without one are
+// "(null)".
 void traceList(const char* marker, const void* object, const char* format, va_list list) noexcept {
   cutline::quietly([&] {
     const std::string whole = traceFormat(marker, static_cast<const Describable*>(object), format);
-    cutline::logMessage(whole, std::span<const FormatArgument>(cutline::argumentsOf(whole, list)));
+    const auto taken = cutline::argumentsOf(format ? format : "", list);
+    cutline::logMessage(whole, std::span<const FormatArgument>(taken));
   });
 }
 

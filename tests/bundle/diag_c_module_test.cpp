@@ -37,6 +37,15 @@ TEST_F(CCalls, AnObjectOfTheBundleIsNamed) {
   EXPECT_EQ(platform.messages(), Messages{"LOG self(<panel>) x=5"});
 }
 
+TEST_F(CCalls, ADescriptionReachesNoArgumentThatTheFormatDoesNotName) {
+  const TestObject number("<%d|%d>");
+  callTraceOf(&functions, static_cast<const Describable*>(&number));
+  const TestObject text("<%s|%s|%@|%n|%*.*f>");
+  callTraceOf(&functions, static_cast<const Describable*>(&text));
+  EXPECT_EQ(platform.messages(), (Messages{"LOG self(<5|(null)>) x=(null)",
+                                           "LOG self(<(null)|(null)|(null)||(null)>) x=(null)"}));
+}
+
 TEST_F(CCalls, EveryLengthIsTakenAsItIs) {
   callWithEveryLength(&functions);
   EXPECT_EQ(platform.messages(), (Messages{"LOG 1 1 -1 -2 -3 -4 5 -6", "LOG ff 10000000000 10 7",
