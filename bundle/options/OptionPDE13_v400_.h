@@ -208,6 +208,7 @@ class OptionPDE13_v400_ : public BasePDE13_v400_ {
   // layout.cpp
   void dressPresets() noexcept;
   PopUpItem dressedForRoll(PopUpItem item) noexcept;
+  PopUpItem dressedForTape(PopUpItem item) noexcept;
 
   // cut_every_count.cpp
   void refreshCutEvery() noexcept;

@@ -55,9 +55,19 @@ constexpr int kAutoCutTag = 8;
 constexpr char kRollAutoCut[] = "RS_RollPreset_AHCMOnOffOffOff";
 constexpr char kOtherPreset[] = "RS_OtherPreset";
 
+BoxSetting settingOf(const PresetRow& preset, OptionId option) noexcept {
+  const auto box = std::find(kPresetBoxes.begin(), kPresetBoxes.end(), option);
+  return preset.boxes[static_cast<std::size_t>(box - kPresetBoxes.begin())];
+}
+
 bool turnsCuttingOn(const PresetRow& preset) noexcept {
-  const auto box = std::find(kPresetBoxes.begin(), kPresetBoxes.end(), OptionId::cutEvery);
-  return preset.boxes[static_cast<std::size_t>(box - kPresetBoxes.begin())] == BoxSetting::on;
+  return settingOf(preset, OptionId::cutEvery) == BoxSetting::on;
+}
+
+// Whether the preset's picture is of a strip that is cut by hand along its marks.
+bool showsCuttingByHand(const PopUpItem& item) noexcept {
+  const PresetRow* preset = presetOfTag(item.tag);
+  return preset && settingOf(*preset, OptionId::cutMark) != BoxSetting::keep;
 }
 
 void removePresets(PopUpButton* popUp, const PresetTags& tags) noexcept {
@@ -152,18 +162,26 @@ void placePreview(OptionPDE13_v400_& panel) noexcept {
 void OptionPDE13_v400_::dressPresets() noexcept {
   if (!mOptionPopUpButton) return;
   mOptionPopUpButton->setPlaceholder(localizedString(kOtherPreset));
-  if (!isWNPrinter()) return;
   const std::vector<PopUpItem> items = mOptionPopUpButton->items();
   for (std::size_t i = 0; i < items.size(); ++i) {
-    if (items[i].tag > kLastRollTag) mOptionPopUpButton->setItem(i, dressedForRoll(items[i]));
+    mOptionPopUpButton->setItem(
+        i, isWNPrinter() ? dressedForRoll(items[i]) : dressedForTape(items[i]));
   }
+}
+
+// Choosing whether marks are printed leaves the cutter as it is: where there is one, the picture of
+// a strip that is cut by hand would deny it, and the entry's words stand alone.
+PopUpItem OptionPDE13_v400_::dressedForTape(PopUpItem item) noexcept {
+  const bool hasCutter = mAutoCut_Option || mHalfCut_Option || mCutEvery_Option || mCutEnd_Option;
+  if (hasCutter && showsCuttingByHand(item)) item.imagePath.reset();
+  return item;
 }
 
 // With a roll's picture; and with other words where a roll's own entry has these: choosing this one
 // leaves the cut at the end as it is.
 PopUpItem OptionPDE13_v400_::dressedForRoll(PopUpItem item) noexcept {
   const PresetRow* preset = presetOfTag(item.tag);
-  if (!preset) return item;
+  if (!preset || item.tag <= kLastRollTag) return item;
   const PresetRow* picture = presetOfTag(turnsCuttingOn(*preset) ? kRollCutTag : kRollNoCutTag);
   item.imagePath = nsPDEBundle ? nsPDEBundle->pathForImageResource(picture->title) : std::nullopt;
   if (item.tag == kAutoCutTag) item.accessibilityLabel = localizedString(kRollAutoCut);

@@ -81,10 +81,28 @@ TEST_F(InterfaceFile, EveryPresetHasItsPictureAndItsWords) {
   makeRealPanel(allNine());
   for (const PopUpItem& item : panel->mOptionPopUpButton->items()) {
     const std::string& title = presetTitles()[static_cast<std::size_t>(item.tag) - 1];
+    if (title.starts_with("CTMR")) continue;
     EXPECT_EQ(item.title, "");
     ASSERT_TRUE(item.imagePath) << title;
     EXPECT_TRUE(item.imagePath->ends_with("/" + title + ".svg")) << *item.imagePath;
     EXPECT_FALSE(item.accessibilityLabel.empty()) << title;
+  }
+}
+
+// They say whether marks are printed, and leave a cutter as it is.
+TEST_F(InterfaceFile, PresetsOfCutMarksShowCuttingByHandOnlyWithoutACutter) {
+  for (const bool hasCutter : {false, true}) {
+    PpdText ppd = PpdText().onOff("LxCutMark").onOff("LxChainPrint");
+    if (hasCutter) ppd.onOff("LxAutoTapeCut");
+    makeRealPanel(ppd);
+    int presets = 0;
+    for (const PopUpItem& item : panel->mOptionPopUpButton->items()) {
+      if (!presetTitles()[static_cast<std::size_t>(item.tag) - 1].starts_with("CTMR")) continue;
+      ++presets;
+      EXPECT_EQ(item.imagePath.has_value(), !hasCutter) << item.tag;
+      EXPECT_FALSE(item.accessibilityLabel.empty()) << item.tag;
+    }
+    EXPECT_GT(presets, 0);
   }
 }
 
