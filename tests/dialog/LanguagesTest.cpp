@@ -117,6 +117,15 @@ TEST_P(LanguagesTest, NoticesAreUsable) {
   expectUsable(dialog());
 }
 
+TEST_P(LanguagesTest, NoticesOfWhatIsSentAgainstARuleAreUsable) {
+  openQueue(samplePpd("tape-a"));
+  ASSERT_TRUE(model().setPaper("HS24H50"));
+  click(box("LxAutoTapeCut"));
+  QTest::qWait(20);
+  ASSERT_FALSE(dialog().findChild<NoticeView*>()->notices(NoticeTopic::deviations).isEmpty());
+  expectUsable(dialog());
+}
+
 TEST_P(LanguagesTest, TheButtonThatSortsConflictsOutIsUsable) {
   openQueue(samplePpd("tape-a"));
   click(box("LxHalfCut"));

@@ -1,14 +1,17 @@
 // A user's doings in the dialog reach the job, and what is shown follows.
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
+#include <algorithm>
 
 #include "host/dialog/DialogLanguage.h"
+#include "host/dialog/NoticeView.h"
 #include "tests/dialog/DialogTest.h"
 
 namespace cutline {
@@ -22,6 +25,22 @@ void chooseByText(QComboBox* combo, const QString& text) {
   combo->setFocus();
   const int step = index > combo->currentIndex() ? Qt::Key_Down : Qt::Key_Up;
   while (combo->currentIndex() != index) QTest::keyClick(combo, static_cast<Qt::Key>(step));
+}
+
+// One of the rows tells assistive technology the line as an alert.
+bool isSpokenAsAlert(const NoticeView& notices, const QString& line) {
+  const auto rows = notices.findChildren<QWidget*>();
+  return std::any_of(rows.begin(), rows.end(), [&](QWidget* row) {
+    const QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(row);
+    return spoken->role() == QAccessible::AlertMessage && spoken->text(QAccessible::Name) == line;
+  });
+}
+
+std::string valueIn(const OptionList& options, const std::string& keyword) {
+  for (const auto& [name, value] : options) {
+    if (name == keyword) return value;
+  }
+  return "(not sent)";
 }
 
 class SettingsTest : public DialogTest {};
@@ -132,6 +151,32 @@ TEST_F(SettingsTest, WhatARuleChangesIsNamedBesideThePanel) {
   for (const Deviation& deviation : model().deviations()) {
     EXPECT_TRUE(shows(translated(deviation.sentence))) << deviation.sentence.english();
   }
+}
+
+// Heat-shrink tube must not be cut automatically, but the user may insist.
+TEST_F(SettingsTest, WhatIsSentAgainstARuleIsNamedAndPrintedAllTheSame) {
+  openQueue(samplePpd("tape-a"));
+  ASSERT_TRUE(model().setPaper("HS24H50"));
+  const QString words = QStringLiteral("although the paper");
+  ASSERT_FALSE(shows(words));
+  click(box("LxAutoTapeCut"));
+  EXPECT_TRUE(shows(words));
+  const auto* notices = dialog().findChild<NoticeView*>();
+  const QStringList lines = notices->notices(NoticeTopic::deviations);
+  ASSERT_EQ(lines.filter(words).size(), 1);
+  EXPECT_TRUE(isSpokenAsAlert(*notices, lines.filter(words).front()));
+  click(buttonWithText<QPushButton>("Pr&int"));
+  ASSERT_TRUE(waitUntil([this] { return !server().submissions().empty(); }));
+  EXPECT_EQ(valueIn(server().submissions().front().options, "LxAutoTapeCut"), "ON");
+}
+
+TEST_F(SettingsTest, WhatDoesNothingIsNamedAsLongAsItDoesNothing) {
+  openQueue(samplePpd("tape-a"));
+  const QString words = QStringLiteral("nothing is cut while special tape is on");
+  click(box("LxSpecialTape"));
+  EXPECT_TRUE(shows(words));
+  click(box("LxCutAtEnd"));
+  EXPECT_FALSE(shows(words));
 }
 
 TEST_F(SettingsTest, ConflictsAreNamedAndSortedOutAtAClick) {
