@@ -1,11 +1,14 @@
 #include "tests/dialog/DialogTest.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
+#include <QMessageBox>
 #include <QStyle>
 #include <QStyleOptionButton>
 #include <QTest>
+#include <QTimer>
 #include <algorithm>
 
 #include "platform/lib/Languages.h"
@@ -109,6 +112,20 @@ void DialogTest::click(QWidget* widget) {
     place = box->style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, box).center();
   }
   QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, place);
+}
+
+void DialogTest::clickPastAlert(QWidget* widget) {
+  bool isClosed = false;
+  QTimer closer;
+  QObject::connect(&closer, &QTimer::timeout, [&] {
+    auto* const alert = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (alert == nullptr) return;
+    alert->buttons().front()->click();
+    isClosed = true;
+  });
+  closer.start(10);
+  click(widget);
+  EXPECT_TRUE(isClosed) << "no alert was shown";
 }
 
 void DialogTest::press(QWidget* widget, int key, Qt::KeyboardModifiers modifiers) {

@@ -70,6 +70,8 @@ class DialogTest : public testing::Test {
   // The panel's check box for a PPD option.
   QWidget* box(const std::string& keyword);
   void click(QWidget* widget);
+  // Clicks what asks the user to read an alert before it goes on, and closes the alert.
+  void clickPastAlert(QWidget* widget);
   void press(QWidget* widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
   // Every text that a shown label has.

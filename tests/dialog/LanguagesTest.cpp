@@ -120,7 +120,7 @@ TEST_P(LanguagesTest, NoticesAreUsable) {
 TEST_P(LanguagesTest, NoticesOfWhatIsSentAgainstARuleAreUsable) {
   openQueue(samplePpd("tape-a"));
   ASSERT_TRUE(model().setPaper("HS24H50"));
-  click(box("LxAutoTapeCut"));
+  clickPastAlert(box("LxAutoTapeCut"));
   QTest::qWait(20);
   ASSERT_FALSE(dialog().findChild<NoticeView*>()->notices(NoticeTopic::deviations).isEmpty());
   expectUsable(dialog());

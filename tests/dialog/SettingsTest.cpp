@@ -159,7 +159,7 @@ TEST_F(SettingsTest, WhatIsSentAgainstARuleIsNamedAndPrintedAllTheSame) {
   ASSERT_TRUE(model().setPaper("HS24H50"));
   const QString words = QStringLiteral("although the paper");
   ASSERT_FALSE(shows(words));
-  click(box("LxAutoTapeCut"));
+  clickPastAlert(box("LxAutoTapeCut"));
   EXPECT_TRUE(shows(words));
   const auto* notices = dialog().findChild<NoticeView*>();
   const QStringList lines = notices->notices(NoticeTopic::deviations);
