@@ -45,7 +45,8 @@ TEST_F(PanelByBus, SpecialTapeGreysWhatItRulesOutAndSaysWhatIsSent) {
   EXPECT_TRUE(box("Mirror printing").isUsable());
   EXPECT_EQ(picture(), "Special tape, not cut, not mirrored");
   const std::vector<std::string> heard = {
-      "Cut automatically: sent as \"Off\" because special tape is on."};
+      "Cut automatically: sent as \"Off\" because special tape is on.",
+      "Cut after the last label: sent as \"On\", but nothing is cut while special tape is on."};
   EXPECT_TRUE(waitUntil([&] { return alerts() == heard; }));
   EXPECT_TRUE(waitUntil([&] { return shown.sourcesWith(ATSPI_ROLE_ALERT) == heard; }))
       << "announced";

@@ -126,6 +126,9 @@ void DialogTest::clickPastAlert(QWidget* widget) {
   closer.start(10);
   click(widget);
   EXPECT_TRUE(isClosed) << "no alert was shown";
+  // A window system gives the keyboard back by itself; the offscreen one has to be asked.
+  mDialog->activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(mDialog.get()));
 }
 
 void DialogTest::press(QWidget* widget, int key, Qt::KeyboardModifiers modifiers) {

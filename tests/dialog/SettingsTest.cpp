@@ -160,7 +160,7 @@ TEST_F(SettingsTest, WhatIsSentAgainstARuleIsNamedAndPrintedAllTheSame) {
   const QString words = QStringLiteral("although the paper");
   ASSERT_FALSE(shows(words));
   clickPastAlert(box("LxAutoTapeCut"));
-  EXPECT_TRUE(shows(words));
+  ASSERT_TRUE(waitUntil([&] { return shows(words); }));
   const auto* notices = dialog().findChild<NoticeView*>();
   const QStringList lines = notices->notices(NoticeTopic::deviations);
   ASSERT_EQ(lines.filter(words).size(), 1);

@@ -1,6 +1,6 @@
-#include "tests/support/Printers.h"
-
 #include <gtest/gtest.h>
+
+#include "tests/support/Printers.h"
 
 namespace cutline {
 namespace {
