@@ -42,7 +42,7 @@ constexpr bool keepsBlankSpace(std::string_view size) noexcept {
   return size.starts_with("DC") || size.starts_with("AV");
 }
 
-// Media that would jam an automatic cutter.
+// Media that an automatic cutter must leave alone, such as heat-shrink tube.
 constexpr bool mustNotBeCutAutomatically(std::string_view size) noexcept {
   return size.starts_with("HS");
 }

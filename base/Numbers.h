@@ -22,4 +22,12 @@ std::optional<Number> numberIn(std::string_view text, int base = 10) {
   return number;
 }
 
+// The integer at the start of the text, after blanks and an optional sign; 0 when there is none;
+// clamped to 32 bits.
+int leadingInteger(std::string_view text) noexcept;
+
+// Takes the number at the start off the text, with "-" before a negative one, in every locale.
+// Nothing, and the text as it was, when there is none that a double holds.
+std::optional<double> takeNumber(std::string_view& text) noexcept;
+
 }  // namespace cutline

@@ -1,12 +1,13 @@
 #include "plain/PlainImage.h"
 
+#include <algorithm>
 #include <array>
-#include <charconv>
 #include <cstdint>
 #include <optional>
 #include <string_view>
 #include <utility>
 
+#include "base/Numbers.h"
 #include "platform/lib/ResourceFile.h"
 
 namespace cutline {
@@ -50,27 +51,21 @@ std::string_view attribute(std::string_view tag, std::string_view name) {
 }
 
 // Takes a number and the blanks or comma before it from the start of `text`.
-std::optional<double> takeNumber(std::string_view& text) {
-  const auto start = text.find_first_not_of(" ,\t\r\n");
-  if (start == text.npos) return std::nullopt;
-  text.remove_prefix(start);
-  double value = 0;
-  const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (result.ec != std::errc()) return std::nullopt;
-  text.remove_prefix(static_cast<std::size_t>(result.ptr - text.data()));
-  return value;
+std::optional<double> takeNext(std::string_view& text) {
+  text.remove_prefix(std::min(text.find_first_not_of(" ,\t\r\n"), text.size()));
+  return takeNumber(text);
 }
 
 // A length in user units, of which each is a point; nothing when it is given in another unit.
 std::optional<double> length(std::string_view text) {
-  const auto value = takeNumber(text);
+  const auto value = takeNext(text);
   return text.empty() || text == "px" || text == "pt" ? value : std::nullopt;
 }
 
 std::optional<Size> viewBoxSize(std::string_view viewBox) {
   std::array<double, 4> numbers{};
   for (double& number : numbers) {
-    const auto value = takeNumber(viewBox);
+    const auto value = takeNext(viewBox);
     if (!value) return std::nullopt;
     number = *value;
   }

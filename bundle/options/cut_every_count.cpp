@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "base/Numbers.h"
 #include "bundle/controls/nil_controls.h"
 #include "bundle/options/OptionPDE13_v400_.h"
 #include "bundle/options/option_model.h"
@@ -16,7 +17,7 @@ namespace {
 constexpr int kSmallestCount = 1;
 constexpr int kLargestCount = 99;
 
-int countOf(PDEChoice& choice) noexcept { return integerValue(choice.ppdTitle().value_or("")); }
+int countOf(PDEChoice& choice) noexcept { return leadingInteger(choice.ppdTitle().value_or("")); }
 
 struct CountRange {
   int smallest = kSmallestCount;
@@ -101,7 +102,7 @@ void OptionPDE13_v400_::showCount(std::int64_t position) noexcept {
   const auto count = decodedText(choice->choice()->choice, TextEncoding::utf8);
   if (!count) return;
   if (mCutEveryTxBx) mCutEveryTxBx->setStringValue(*count);
-  showInStepper(integerValue(*count), position);
+  showInStepper(leadingInteger(*count), position);
 }
 
 // The range holds what a number can be typed to, and a step for each choice to either side of the

@@ -1,9 +1,5 @@
 #include "bundle/ppd/text_bytes.h"
 
-#include <algorithm>
-#include <cstdint>
-#include <limits>
-
 #include "platform/ports/Platform.h"
 
 namespace cutline {
@@ -18,24 +14,6 @@ std::optional<std::string> encodedText(std::string_view text, TextEncoding encod
   const TextEncodings* encodings = currentPlatform().textEncodings;
   if (!encodings) return std::nullopt;
   return encodings->encode(text, encoding);
-}
-
-int integerValue(std::string_view text) noexcept {
-  const auto start = text.find_first_not_of(" \t\n\v\f\r");
-  if (start == std::string_view::npos) return 0;
-  text.remove_prefix(start);
-  const bool negative = text.front() == '-';
-  if (negative || text.front() == '+') text.remove_prefix(1);
-
-  constexpr std::int64_t kBeyond32Bits = std::int64_t{1} << 32;
-  std::int64_t value = 0;
-  for (const char c : text) {
-    if (c < '0' || c > '9') break;
-    value = std::min(value * 10 + (c - '0'), kBeyond32Bits);
-  }
-  using Limits = std::numeric_limits<int>;
-  return static_cast<int>(
-      std::clamp<std::int64_t>(negative ? -value : value, Limits::min(), Limits::max()));
 }
 
 }  // namespace cutline

@@ -1,4 +1,4 @@
-// Turns the byte strings of PPD records into text and text into numbers, as the panel reads them.
+// Between the byte strings of PPD records and text.
 #pragma once
 
 #include <optional>
@@ -15,9 +15,5 @@ std::optional<std::string> decodedText(const char* bytes, TextEncoding encoding)
 
 // The text's bytes in the encoding; nothing when it cannot be converted.
 std::optional<std::string> encodedText(std::string_view text, TextEncoding encoding) noexcept;
-
-// The leading integer of the text, after blanks and an optional sign; 0 when there is none; clamped
-// to 32 bits.
-int integerValue(std::string_view text) noexcept;
 
 }  // namespace cutline

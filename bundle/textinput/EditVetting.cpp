@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/Numbers.h"
 #include "base/Utf16.h"
 #include "bundle/ppd/PDEUtilsMethod13.h"
 #include "bundle/ppd/text_bytes.h"
@@ -72,7 +73,7 @@ bool EditVetting::isValueInLimits(const std::u16string& proposed) const noexcept
   const bool isComplete =
       mFormatter.maxLength() == 0 || std::cmp_equal(mLength, mFormatter.maxLength());
   if (!isComplete) return true;
-  const int value = integerValue(utf8FromUtf16(proposed));
+  const int value = leadingInteger(utf8FromUtf16(proposed));
   if (mFormatter.isValidityMaxValue() && mFormatter.maxValue() < value) return false;
   return !mFormatter.isValidityMinValue() || mFormatter.minValue() <= value;
 }

@@ -4,9 +4,9 @@
 #include <string_view>
 #include <utility>
 
+#include "base/Numbers.h"
 #include "bundle/format/SafeFormat.h"
 #include "bundle/ppd/PDEUtilsMethod13.h"
-#include "bundle/ppd/text_bytes.h"
 #include "bundle/textinput/EditVetting.h"
 #include "bundle/textinput/text_styles.h"
 #include "platform/lib/CalendarDate.h"
@@ -108,7 +108,7 @@ std::optional<std::string> PDEFormatter::stringForObjectValue(const std::string&
   if (!mFormatString) return std::nullopt;
   const bool takesObject = PDEUtilsMethod13::scanString(*mFormatString, kObjectFormat);
   if (cutline::textStyle(mTextStyle).isNumber && !takesObject) {
-    return safeFormat(*mFormatString, {integerValue(object)});
+    return safeFormat(*mFormatString, {leadingInteger(object)});
   }
   return safeFormat(*mFormatString, {object});
 }

@@ -1,12 +1,13 @@
 #include "platform/lib/InterfaceFile.h"
 
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <limits>
 #include <set>
 #include <string_view>
 #include <utility>
+
+#include "base/Numbers.h"
 
 namespace cutline {
 namespace {
@@ -61,9 +62,9 @@ class FrameReader {
 
   bool takeNumber(double* value) {
     skipBlanks();
-    const auto result = std::from_chars(mText.data(), mText.data() + mText.size(), *value);
-    if (result.ec != std::errc() || !(std::abs(*value) <= kFarthest)) return false;
-    mText.remove_prefix(static_cast<std::size_t>(result.ptr - mText.data()));
+    const auto number = cutline::takeNumber(mText);
+    if (!number || !(std::abs(*number) <= kFarthest)) return false;
+    *value = *number;
     return true;
   }
 

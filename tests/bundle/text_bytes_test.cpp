@@ -2,29 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <climits>
-
 #include "tests/bundle/TestPlatform.h"
 
 namespace cutline::test {
 namespace {
-
-TEST(TextBytes, ReadsTheLeadingInteger) {
-  const std::vector<std::pair<std::string, int>> expected = {{"12", 12},
-                                                             {" \t7 labels", 7},
-                                                             {"-3", -3},
-                                                             {"+4", 4},
-                                                             {"abc", 0},
-                                                             {"", 0},
-                                                             {"   ", 0},
-                                                             {"-", 0},
-                                                             {"1.9", 1},
-                                                             {"- 1", 0},
-                                                             {"007", 7},
-                                                             {"99999999999999999999", INT_MAX},
-                                                             {"-99999999999", INT_MIN}};
-  for (const auto& [text, value] : expected) EXPECT_EQ(integerValue(text), value) << text;
-}
 
 TEST(TextBytes, ConvertsWithThePlatformsEncodingsOnly) {
   TestPlatform platform;
