@@ -36,9 +36,10 @@ bool isUtf8(std::string_view bytes) noexcept {
 }
 
 std::string_view withoutCutCharacter(std::string_view bytes) noexcept {
-  std::size_t length = bytes.size();
+  // Signed: the macro counts back beyond the start and compares then.
+  auto length = static_cast<std::ptrdiff_t>(bytes.size());
   U8_TRUNCATE_IF_INCOMPLETE(bytes, 0, length);
-  return bytes.substr(0, length);
+  return bytes.substr(0, static_cast<std::size_t>(length));
 }
 
 }  // namespace cutline
