@@ -31,18 +31,16 @@ class NewFile {
     }
   }
   ~NewFile() {
-    if (mDescriptor < 0) return;
-    close(mDescriptor);
-    if (!mName.empty()) unlinkat(mDirectory, mName.c_str(), 0);
+    if (exists() && !mName.empty()) unlinkat(mDirectory, mName.c_str(), 0);
   }
   NewFile(const NewFile&) = delete;
   NewFile& operator=(const NewFile&) = delete;
 
-  bool exists() const noexcept { return mDescriptor >= 0; }
+  bool exists() const noexcept { return static_cast<bool>(mFile); }
   // The mode is set once more, as the process's mask may have taken from it.
   bool write(std::string_view contents) const noexcept {
-    return fchmod(mDescriptor, kMode) == 0 &&
-           writeAll(mDescriptor, contents.data(), contents.size()) && fsync(mDescriptor) == 0;
+    return fchmod(mFile.get(), kMode) == 0 &&
+           writeAll(mFile.get(), contents.data(), contents.size()) && fsync(mFile.get()) == 0;
   }
   bool rename(const std::string& name) noexcept {
     if (renameat(mDirectory, mName.c_str(), mDirectory, name.c_str()) != 0) return false;
@@ -56,12 +54,12 @@ class NewFile {
     if (getrandom(&number, sizeof number, 0) != sizeof number) return false;
     mName = safeFormat(".LxPDE_%016llx", {number});
     constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
-    mDescriptor = openat(mDirectory, mName.c_str(), kFlags, kMode);
-    return mDescriptor >= 0;
+    mFile = FileDescriptor(openat(mDirectory, mName.c_str(), kFlags, kMode));
+    return exists();
   }
 
   int mDirectory;
-  int mDescriptor = -1;
+  FileDescriptor mFile;
   std::string mName;
 };
 
