@@ -19,7 +19,6 @@ using test::TestPrinter;
 
 constexpr unsigned kActionsEach = 60;
 constexpr unsigned kQuickSeeds = 100;
-constexpr unsigned kLongSeeds = 2000;
 
 bool isLong() {
   const char* value = std::getenv("CUTLINE_LONG_TESTS");
@@ -31,6 +30,8 @@ bool isLong() {
 // common divisor with their number meets each of them once, the unlike ones early.
 constexpr unsigned kPrinters = 512U * 2 * 4 * 2;
 constexpr unsigned kStep = 2999;
+// The long form meets every printer.
+constexpr unsigned kLongSeeds = kPrinters;
 constexpr const char* kAutoCutHidden[] = {"", "True", "False", "Perhaps"};
 
 class User {
