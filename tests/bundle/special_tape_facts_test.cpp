@@ -47,7 +47,12 @@ TEST_P(SpecialTapeFactsOf, TheBoxGreyed) {
 }
 
 TEST_P(SpecialTapeFactsOf, ThePicture) {
-  if (GetParam().id == OptionId::specialTape) return;
+  // Its own box is what the picture follows.
+  if (GetParam().id == OptionId::specialTape) {
+    showPrinter(false);
+    EXPECT_EQ(!pictureFollowsBox(), facts().outOfPicture);
+    return;
+  }
   bool follows = false;
   bool followsUnderSpecialTape = false;
   for (const bool isRoll : {false, true}) {
