@@ -7,7 +7,7 @@
 #include "base/Numbers.h"
 #include "cups/CupsOptions.h"
 #include "host/core/OptionSpelling.h"
-#include "host/core/PageRanges.h"
+#include "composition/PageRanges.h"
 
 namespace cutline {
 

@@ -7,7 +7,7 @@
 
 #include "host/core/Installation.h"
 #include "host/core/Module.h"
-#include "host/core/PageRanges.h"
+#include "composition/PageRanges.h"
 #include "host/core/PdfInspection.h"
 
 namespace cutline {

@@ -9,7 +9,7 @@
 #include "host/core/JobOptions.h"
 #include "host/core/OpenPrinter.h"
 #include "host/core/OptionSpelling.h"
-#include "host/core/PageRanges.h"
+#include "composition/PageRanges.h"
 #include "platform/ports/Platform.h"
 
 namespace cutline {

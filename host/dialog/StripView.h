@@ -7,7 +7,7 @@
 #include <deque>
 #include <optional>
 
-#include "host/core/PageRanges.h"
+#include "composition/PageRanges.h"
 #include "host/dialog/DocumentPages.h"
 #include "host/dialog/StripLayout.h"
 

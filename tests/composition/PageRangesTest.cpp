@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "host/core/PageRanges.h"
+#include "composition/PageRanges.h"
 
 namespace cutline {
 namespace {

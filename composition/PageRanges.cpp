@@ -1,4 +1,4 @@
-#include "host/core/PageRanges.h"
+#include "composition/PageRanges.h"
 
 #include <algorithm>
 #include <cctype>
