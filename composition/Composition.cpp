@@ -109,13 +109,13 @@ std::optional<Form> parsed(std::string_view text, const std::array<Field<Form>, 
   return form;
 }
 
-void writeLabel(LineWriter& writer, const Label& label) {
+void writeLabel(LineWriter& writer, const LabelPage& label) {
   writer.numbers("label", {label.width, label.length, label.left, label.bottom, label.right,
                            label.top, static_cast<double>(label.upright),
                            static_cast<double>(label.landscape), label.isContinuous ? 1.0 : 0.0});
 }
 
-void readLabel(Label& label, Values& values) {
+void readLabel(LabelPage& label, Values& values) {
   for (double* measure :
        {&label.width, &label.length, &label.left, &label.bottom, &label.right, &label.top})
     *measure = values.number();

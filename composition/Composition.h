@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "base/Result.h"
-#include "composition/Label.h"
+#include "composition/LabelPage.h"
 #include "composition/Layout.h"
 #include "composition/PageRanges.h"
 
@@ -35,7 +35,7 @@ struct PageSelection {
 };
 
 struct CompositionRequest {
-  Label label;
+  LabelPage label;
   // The label is as long as its longest page needs, within these; `label.length` says nothing then.
   std::optional<LengthBounds> lengthBounds;
   LayoutSettings layout;
@@ -79,7 +79,7 @@ struct CompositionFailure {
 
 struct CompositionReport {
   std::optional<CompositionFailure> failure;  // nothing else counts then
-  Label label;                                // with its length, where the content chose it
+  LabelPage label;                            // with its length, where the content chose it
   int documentPages = 0;                      // of all documents, before any selection
   std::vector<ComposedPage> pages;            // of the PDF
 

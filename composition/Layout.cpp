@@ -29,26 +29,26 @@ Extent extentOf(const PageSize& page, int turn) {
   return isQuarter(turn) ? Extent{page.height, page.width} : Extent{page.width, page.height};
 }
 
-int automaticTurn(const PageSize& page, const Label& label) {
+int automaticTurn(const PageSize& page, const LabelPage& label) {
   const bool isSquareLabel = !label.isContinuous && isSquare(label.width, label.length);
   if (isSquareLabel || isSquare(page.width, page.height)) return label.upright;
   const bool isWideLabel = !label.isContinuous && label.width > label.length;
   return (page.width > page.height) == isWideLabel ? 0 : label.landscape;
 }
 
-double fitting(const Extent& extent, const Label& label) {
+double fitting(const Extent& extent, const LabelPage& label) {
   return std::min(label.printableWidth() / extent.across, label.printableLength() / extent.along);
 }
 
-double filling(const Extent& extent, const Label& label) {
+double filling(const Extent& extent, const LabelPage& label) {
   return std::max(label.printableWidth() / extent.across, label.printableLength() / extent.along);
 }
 
-bool fits(const Extent& extent, const Label& label) {
+bool fits(const Extent& extent, const LabelPage& label) {
   return extent.across <= label.width + kTolerance && extent.along <= label.length + kTolerance;
 }
 
-double scaleOf(const PageSize& page, const Extent& extent, const Label& label,
+double scaleOf(const PageSize& page, const Extent& extent, const LabelPage& label,
                const LayoutSettings& settings) {
   switch (settings.scaling) {
     case Scaling::actual:
@@ -137,14 +137,14 @@ Placement inverse(const Placement& at) {
           (at.b * at.e - at.a * at.f) / determinant};
 }
 
-bool isPrintable(const Area& ink, const Label& label) {
+bool isPrintable(const Area& ink, const LabelPage& label) {
   return ink.left >= label.left - kInkTolerance && ink.right <= label.right + kInkTolerance &&
          ink.bottom >= label.bottom - kInkTolerance && ink.top <= label.top + kInkTolerance;
 }
 
 }  // namespace
 
-int turnOf(const PageSize& page, const Label& label, Turn turn) {
+int turnOf(const PageSize& page, const LabelPage& label, Turn turn) {
   switch (turn) {
     case Turn::automatic:
       return automaticTurn(page, label);
@@ -160,7 +160,7 @@ int turnOf(const PageSize& page, const Label& label, Turn turn) {
   return 0;
 }
 
-Placement placed(const PageSize& page, const Label& label, const LayoutSettings& settings) {
+Placement placed(const PageSize& page, const LabelPage& label, const LayoutSettings& settings) {
   const int turn = turnOf(page, label, settings.turn);
   const Extent extent = extentOf(page, turn);
   const double scale = scaleOf(page, extent, label, settings);
@@ -173,10 +173,10 @@ Placement placed(const PageSize& page, const Label& label, const LayoutSettings&
   return turned(page, scale, turn, x, y);
 }
 
-double lengthFor(const PageSize& page, const Label& label, const LayoutSettings& settings,
+double lengthFor(const PageSize& page, const LabelPage& label, const LayoutSettings& settings,
                  const LengthBounds& bounds) {
   const Extent extent = extentOf(page, turnOf(page, label, settings.turn));
-  Label endless = label;
+  LabelPage endless = label;
   endless.length = endless.top = extent.along * label.width / extent.across + extent.along;
   endless.bottom = 0;
   LayoutSettings byWidth = settings;
@@ -187,7 +187,7 @@ double lengthFor(const PageSize& page, const Label& label, const LayoutSettings&
   return std::clamp(extent.along * scale + margins, bounds.shortest, bounds.longest);
 }
 
-std::optional<int> percentWithoutLoss(const PageSize& page, const Label& label,
+std::optional<int> percentWithoutLoss(const PageSize& page, const LabelPage& label,
                                       const LayoutSettings& settings, const Area& ink) {
   if (isPrintable(ink, label)) return std::nullopt;
   const Placement now = placed(page, label, settings);

@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "composition/Label.h"
+#include "composition/LabelPage.h"
 
 namespace cutline {
 
@@ -62,14 +62,14 @@ struct Placement {
   int turn = 0;      // clockwise degrees: 0, 90, 180 or 270
 };
 
-Placement placed(const PageSize& page, const Label& label, const LayoutSettings& settings);
+Placement placed(const PageSize& page, const LabelPage& label, const LayoutSettings& settings);
 
 // Clockwise degrees that a page is turned by on this label.
-int turnOf(const PageSize& page, const Label& label, Turn turn);
+int turnOf(const PageSize& page, const LabelPage& label, Turn turn);
 
 // The length that the label needs so that the page, laid out as the settings say, lies between its
 // margins; within the bounds.
-double lengthFor(const PageSize& page, const Label& label, const LayoutSettings& settings,
+double lengthFor(const PageSize& page, const LabelPage& label, const LayoutSettings& settings,
                  const LengthBounds& bounds);
 
 // A part of a label, in its coordinates; nothing in it when right <= left or top <= bottom.
@@ -81,7 +81,7 @@ struct Area {
 // The largest whole percentage of the page's own size at which `ink`, the part of this label that
 // the page as placed now has something in, lies in the printable area; nothing when it does now, or
 // when no size helps.
-std::optional<int> percentWithoutLoss(const PageSize& page, const Label& label,
+std::optional<int> percentWithoutLoss(const PageSize& page, const LabelPage& label,
                                       const LayoutSettings& settings, const Area& ink);
 
 }  // namespace cutline

@@ -226,6 +226,14 @@ PaperSize PpdFile::markedPaper() const {
   return size ? paperOf(mPpd, *size) : PaperSize{};
 }
 
+std::optional<CustomSizes> PpdFile::customSizes() const {
+  if (mPpd->variable_sizes == 0) return std::nullopt;
+  const auto& margins = mPpd->custom_margins;
+  return CustomSizes{mPpd->custom_min[0], mPpd->custom_max[0], mPpd->custom_min[1],
+                     mPpd->custom_max[1], margins[0],          margins[1],
+                     margins[2],          margins[3]};
+}
+
 std::string PpdFile::attribute(const std::string& name) const {
   const ppd_attr_t* found = ppdFindAttr(mPpd, name.c_str(), nullptr);
   return found && found->value ? found->value : "";

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,13 @@ struct PaperSize {
   double width = 0;
   double length = 0;
   double left = 0, bottom = 0, right = 0, top = 0;  // the printable area's edges, from lower left
+};
+
+// The sizes that a PPD takes beside its named ones, in points.
+struct CustomSizes {
+  double leastWidth = 0, mostWidth = 0;
+  double leastLength = 0, mostLength = 0;
+  double left = 0, bottom = 0, right = 0, top = 0;  // margins
 };
 
 struct OptionChoice {
@@ -93,6 +101,8 @@ class PpdFile {
   // The size that is marked now; no name when none is. A custom size is named by its measures, as
   // markedOptions has it ("Custom.68x283.5").
   PaperSize markedPaper() const;
+  // Nothing where the PPD takes its named sizes only.
+  std::optional<CustomSizes> customSizes() const;
   // An attribute's value; empty when it is absent.
   std::string attribute(const std::string& name) const;
 

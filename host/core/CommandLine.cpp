@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "base/Numbers.h"
+#include "composition/PageRanges.h"
 #include "cups/CupsOptions.h"
 #include "host/core/OptionSpelling.h"
-#include "composition/PageRanges.h"
 
 namespace cutline {
 

@@ -5,9 +5,9 @@
 #include <istream>
 #include <string_view>
 
+#include "composition/PageRanges.h"
 #include "host/core/Installation.h"
 #include "host/core/Module.h"
-#include "composition/PageRanges.h"
 #include "host/core/PdfInspection.h"
 
 namespace cutline {

@@ -4,12 +4,13 @@
 
 #include "base/Lists.h"
 #include "base/Numbers.h"
+#include "composition/PageRanges.h"
+#include "cups/CustomSize.h"
 #include "host/core/ConflictResolution.h"
 #include "host/core/CutRules.h"
 #include "host/core/JobOptions.h"
 #include "host/core/OpenPrinter.h"
 #include "host/core/OptionSpelling.h"
-#include "composition/PageRanges.h"
 #include "platform/ports/Platform.h"
 
 namespace cutline {
@@ -92,11 +93,20 @@ const std::vector<PaperSize>& PrintModel::papers() const noexcept { return mPrin
 PaperSize PrintModel::currentPaper() const { return mPrinter->ppd().markedPaper(); }
 
 Result<Done> PrintModel::setPaper(const std::string& name) {
+  if (CustomSize::parse(name)) return setCustomPaper(name);
   const auto known = std::find_if(papers().begin(), papers().end(),
                                   [&](const PaperSize& paper) { return paper.name == name; });
   if (known == papers().end())
     return Error{Sentence(Phrase("host", "unknown paper \"%1\"; this printer has %2"),
                           {name, listOf(papers())})};
+  mPrinter->choosePaper(name);
+  tell(ModelChange::paper);
+  tell(ModelChange::options);
+  return Done{};
+}
+
+Result<Done> PrintModel::setCustomPaper(const std::string& name) {
+  if (Result<Done> known = mPrinter->ppd().checkChoice("PageSize", name); !known) return known;
   mPrinter->choosePaper(name);
   tell(ModelChange::paper);
   tell(ModelChange::options);
@@ -159,7 +169,15 @@ Result<Done> PrintModel::setPageRanges(const std::string& text) {
 
 std::vector<SummaryLine> PrintModel::summary() const { return mPrinter->panels().summary(); }
 
-std::vector<Deviation> PrintModel::deviations() const { return mPrinter->deviations(); }
+std::vector<Deviation> PrintModel::deviations() const {
+  std::vector<Deviation> deviations = mPrinter->deviations();
+  if (mAsked.isRaw()) return deviations;
+  for (const auto& [name, value] : mAsked.options)
+    if (isForeignLayoutOption(name))
+      deviations.push_back(
+          {name, value, "", {Phrase("host", "\"%1\" does not go with labels: left out"), {name}}});
+  return deviations;
+}
 
 std::vector<Sentence> PrintModel::conflicts() const { return conflictSentences(*mPrinter); }
 
@@ -173,6 +191,7 @@ Result<Done> PrintModel::resolveConflicts() {
 OptionList PrintModel::jobOptions() const {
   OptionList options = cutline::jobOptions(*mPrinter);
   options.emplace_back("copies", std::to_string(copies()));
+  if (!mAsked.isRaw()) return forLaidOutDocument(options);
   if (!pageRanges().empty()) options.emplace_back("page-ranges", pageRanges());
   return options;
 }
@@ -180,7 +199,8 @@ OptionList PrintModel::jobOptions() const {
 Result<OptionList> PrintModel::savePreset() {
   mPrinter->save();
   tell(ModelChange::options);
-  OptionList options = presetOptions(*mPrinter);
+  OptionList options = withoutLayout(presetOptions(*mPrinter));
+  for (const auto& option : layoutOptions(jobLayout())) options.push_back(option);
   options.emplace_back("copies", std::to_string(copies()));
   return options;
 }
@@ -189,8 +209,10 @@ Result<Done> PrintModel::applyPreset(const OptionList& options) {
   mAsked.options.clear();
   const OptionList spelled = spelledFor(*ppdFile(), options);
   if (const std::optional<int> copies = copiesOf(spelled)) mAsked.copies = copies;
+  mLayout.reset();
   mPrinter->restart(spelled);
   tell(ModelChange::job);
+  tell(ModelChange::composition);
   tell(ModelChange::paper);
   tell(ModelChange::options);
   return Done{};

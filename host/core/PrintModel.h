@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "base/Result.h"
+#include "host/core/JobLayout.h"
 #include "host/core/PanelSource.h"
 #include "host/core/PrintValues.h"
 #include "platform/ports/PrintDialogPanel.h"
@@ -25,11 +26,12 @@ namespace cutline {
 class OpenPrinter;
 
 enum class ModelChange {
-  printer,  // everything is new: panels, papers, generated options
-  options,  // marks, summary, deviations, conflicts, generated options' marks
-  paper,    // the current paper; `options` follows
-  job,      // copies or page ranges
-  layout,   // a panel's view has another size
+  printer,      // everything is new: panels, papers, generated options
+  options,      // marks, summary, deviations, conflicts, generated options' marks
+  paper,        // the current paper; `options` follows
+  job,          // copies or page ranges
+  composition,  // how documents are laid onto labels
+  layout,       // a panel's view has another size
 };
 
 class PrintModelListener {
@@ -80,6 +82,25 @@ class PrintModel final : public ActionObserver {
   // "2", "1-4,7", "5-"; blanks allowed; empty for all pages. An error says what is wrong.
   Result<Done> setPageRanges(const std::string& text);
 
+  // How documents are laid onto labels: as asked for or saved, until it is set.
+  JobLayout jobLayout() const;
+  void setJobLayout(const JobLayout& layout);
+  // The current paper as documents are laid onto it. Where the length follows the content it is of
+  // the tape's width, with the margins of sizes without a name.
+  LabelPage label() const;
+  // Between what lengths the present tape can be cut, in points; nothing where the PPD takes its
+  // named sizes only.
+  std::optional<LengthBounds> customLengths() const;
+  // Chooses a size of the present width and this length, in points. An error names the bounds.
+  Result<Done> setCustomLength(double length);
+  // The composer's answer where the length follows the content; the paper is of that length then.
+  void takeContentLength(double length);
+  // Which pages are printed, in which order. Ranges that were saved and are none pick all.
+  PageSelection pageSelection() const;
+  // What the composer is asked, but for the documents' names: every page of them, since the preview
+  // shows those that are not printed, too.
+  CompositionRequest compositionRequest() const;
+
   // The panels' summary lines, in display order.
   std::vector<SummaryLine> summary() const;
   // What a user must hear of before printing: changed by a rule, or sent against one, or unseen.
@@ -89,8 +110,10 @@ class PrintModel final : public ActionObserver {
   // Gives way in the other options until the conflicts are gone; an error when that is impossible.
   Result<Done> resolveConflicts();
 
-  // What is sent with the job: every cut option, paper, other options that differ from the PPD's
-  // default or were asked for, copies, page ranges.
+  // What is sent with the composed document: every cut option, paper, other options that differ
+  // from the PPD's default or were asked for, copies, and what keeps the print system from laying
+  // it out again. Where raw was asked for, the document goes as it is, with all options that it
+  // had.
   OptionList jobOptions() const;
 
   // Saves the panels' values and answers what to store as an instance of this destination: what is
@@ -112,10 +135,12 @@ class PrintModel final : public ActionObserver {
 
  private:
   void tell(ModelChange what);
+  Result<Done> setCustomPaper(const std::string& name);
 
   PanelSource& mPanelSource;
   AskedSettings mAsked;
   PrintModelListener* mListener = nullptr;
+  std::optional<JobLayout> mLayout;  // as set
   std::unique_ptr<OpenPrinter> mPrinter;
 };
 

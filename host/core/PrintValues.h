@@ -22,6 +22,9 @@ struct AskedSettings {
   OptionList options;                     // -o; PPD options and others; laid over the saved options
   std::optional<int> copies;              // 1 or more; the saved ones, or 1, when absent
   std::optional<std::string> pageRanges;  // "1-4,7", as in IPP; the saved ones, or all, when absent
+
+  // The document goes to the printer as it is, without being laid out or looked at.
+  bool isRaw() const;
 };
 
 // A printer as the model opens it. `destination.savedOptions` are those of the instance when the

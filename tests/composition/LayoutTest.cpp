@@ -8,14 +8,14 @@ namespace cutline {
 namespace {
 
 // 24 x 50 mm, with margins of 1 and 2 mm.
-constexpr Label kTape{68, 142, 3, 6, 65, 136, 90, 90};
-constexpr Label kRoll{176, 82, 3, 6, 173, 76, 0, 90};
-constexpr Label kCounterclockwise{68, 142, 3, 6, 65, 136, 270, 270};
-constexpr Label kSquare{68, 68, 3, 6, 65, 62, 90, 90};
+constexpr LabelPage kTape{68, 142, 3, 6, 65, 136, 90, 90};
+constexpr LabelPage kRoll{176, 82, 3, 6, 173, 76, 0, 90};
+constexpr LabelPage kCounterclockwise{68, 142, 3, 6, 65, 136, 270, 270};
+constexpr LabelPage kSquare{68, 68, 3, 6, 65, 62, 90, 90};
 
 struct TurnRow {
   PageSize page;
-  Label label;
+  LabelPage label;
   Turn turn;
   int expected;
 };
@@ -42,7 +42,7 @@ TEST(LayoutTest, APageIsTurnedWhereItLiesTheOtherWayThanThePaper) {
 }
 
 TEST(LayoutTest, TapeOfAnyLengthCountsAsLong) {
-  Label tape = kTape;
+  LabelPage tape = kTape;
   tape.isContinuous = true;
   tape.length = tape.top = 20;
   EXPECT_EQ(turnOf({142, 68}, tape, Turn::automatic), 90);

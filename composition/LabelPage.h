@@ -5,7 +5,7 @@ namespace cutline {
 
 // Points; the origin is the paper's lower left corner and y grows upwards, as in a PDF. The paper
 // is as its PPD has it: the width lies across the tape or roll, the length along it.
-struct Label {
+struct LabelPage {
   double width = 0;
   double length = 0;
   double left = 0, bottom = 0, right = 0, top = 0;  // the printable area's edges
@@ -20,7 +20,7 @@ struct Label {
 
   double printableWidth() const noexcept { return right - left; }
   double printableLength() const noexcept { return top - bottom; }
-  friend bool operator==(const Label&, const Label&) = default;
+  friend bool operator==(const LabelPage&, const LabelPage&) = default;
 };
 
 // Between what lengths the label may be cut where it is as long as its content, in points.
