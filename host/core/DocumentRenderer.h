@@ -2,22 +2,14 @@
 // (cutline-document.so, loaded on demand), used by the dialog's preview.
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "base/Result.h"
+#include "composition/PageDrawer.h"
 #include "platform/ports/Geometry.h"
 
 namespace cutline {
-
-// Rows from top to bottom, `width` pixels each, 0xAARRGGBB, colours premultiplied by alpha.
-struct PageImage {
-  int width = 0;
-  int height = 0;
-  std::vector<std::uint32_t> pixels;
-};
 
 // One open document. Calls may take long: never on the thread that draws. One call at a time.
 class Document {

@@ -1,0 +1,26 @@
+// PostScript is a program: an interpreter makes a PDF of it, in a confined process of its own.
+#pragma once
+
+#include <optional>
+
+#include "base/FileDescriptor.h"
+#include "composition/Composition.h"
+
+namespace cutline {
+
+struct PostScriptProblem {
+  DocumentProblem problem = DocumentProblem::broken;
+  std::string detail;
+};
+
+struct PostScriptResult {
+  FileDescriptor pdf;  // a nameless file, where there is no problem
+  std::optional<PostScriptProblem> problem;
+};
+
+// `document` is an open file, read from its beginning. Only the first `most` pages, or all for 0.
+// The interpreter keeps its own files below the directory for temporary files, and may write
+// nowhere else.
+PostScriptResult pdfOfPostScript(int document, int most);
+
+}  // namespace cutline

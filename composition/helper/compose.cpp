@@ -1,0 +1,106 @@
+// Lays documents onto label pages, confined: the request comes on standard input, the report goes
+// to standard output. Descriptor 3 is the PDF to write, 4, 5, ... are the documents. Started by
+// compose().
+#include <malloc.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <new>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "base/FileDescriptor.h"
+#include "composition/Composition.h"
+#include "composition/helper/Confinement.h"
+#include "composition/helper/PostScript.h"
+#include "composition/helper/TypesetterModule.h"
+#include "composition/reader/ComposeDocuments.h"
+#include "composition/reader/DocumentKind.h"
+
+namespace {
+
+using namespace cutline;
+
+constexpr int kOutput = STDERR_FILENO + 1;
+constexpr int kFirstDocument = kOutput + 1;
+// For what the readers open themselves: fonts and their settings.
+constexpr unsigned kOwnFiles = 64;
+// The processor's time is less than what the client waits.
+constexpr ProcessLimits kLimits = {
+    .memory = 512U << 20U, .fileSize = 512U << 20U, .cpuSeconds = 45, .wallSeconds = 65};
+
+std::optional<std::string> readAll(int descriptor) {
+  std::string text;
+  std::array<char, 4096> block;
+  for (;;) {
+    const ssize_t count = ::read(descriptor, block.data(), block.size());
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) return std::nullopt;
+    if (count == 0) return text;
+    text.append(block.data(), static_cast<std::size_t>(count));
+  }
+}
+
+DocumentKind kindOf(int document) {
+  std::string start(kDocumentStart, '\0');
+  const ssize_t count = ::pread(document, start.data(), start.size(), 0);
+  start.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
+  return documentKind(start);
+}
+
+CompositionReport failed(DocumentProblem problem, int document, std::string detail = {}) {
+  CompositionReport report;
+  report.failure = CompositionFailure{problem, document, std::move(detail)};
+  return report;
+}
+
+// Nobody else chooses among the pages, so that the first of them are enough.
+int mostPages(const PageSelection& pages) {
+  const bool isFromTheBeginning =
+      pages.ranges.text().empty() && pages.set == PageSet::all && !pages.isReversed;
+  return isFromTheBeginning ? pages.most : 0;
+}
+
+bool needsTypesetter(DocumentKind kind) {
+  return kind == DocumentKind::text || kind == DocumentKind::svg;
+}
+
+CompositionReport composed(const CompositionRequest& request) {
+  std::vector<int> documents;
+  std::vector<FileDescriptor> made;
+  Typesetter* typesetter = nullptr;
+  for (int at = 0; at < static_cast<int>(request.names.size()); ++at) {
+    documents.push_back(kFirstDocument + at);
+    const DocumentKind kind = kindOf(documents.back());
+    if (!typesetter && needsTypesetter(kind)) typesetter = loadedTypesetter();
+    if (kind != DocumentKind::postScript) continue;
+    PostScriptResult result = pdfOfPostScript(documents.back(), mostPages(request.pages));
+    if (result.problem) return failed(result.problem->problem, at, result.problem->detail);
+    documents.back() = result.pdf.get();
+    made.push_back(std::move(result.pdf));
+  }
+  ProcessLimits limits = kLimits;
+  limits.files = static_cast<unsigned>(kFirstDocument + documents.size() + made.size()) + kOwnFiles;
+  if (!confine(limits)) return failed(DocumentProblem::broken, 0, "it cannot be confined");
+  return composeDocuments(request, documents, kOutput, typesetter);
+}
+
+}  // namespace
+
+int main() {
+  ::mallopt(M_ARENA_MAX, 1);
+  const std::optional<std::string> text = readAll(STDIN_FILENO);
+  const auto request = text ? CompositionRequest::parse(*text) : std::nullopt;
+  if (!request) return EXIT_FAILURE;
+  CompositionReport report;
+  try {
+    report = composed(*request);
+  } catch (const std::bad_alloc&) {
+    report = failed(DocumentProblem::tooLarge, -1);
+  }
+  const std::string answer = report.asText();
+  // Without unloading what read the documents: they are not trusted to leave it in order.
+  ::_exit(writeAll(STDOUT_FILENO, answer.data(), answer.size()) ? EXIT_SUCCESS : EXIT_FAILURE);
+}

@@ -1,0 +1,13 @@
+// The processes that a test left running.
+#pragma once
+
+#include <sys/types.h>
+
+#include <vector>
+
+namespace cutline::test {
+
+// Of this process; also those that ended and were not waited for.
+std::vector<pid_t> childrenOfThisProcess();
+
+}  // namespace cutline::test
