@@ -1,0 +1,140 @@
+#include "composition/reader/ComposeDocuments.h"
+
+#include <algorithm>
+#include <cmath>
+#include <exception>
+#include <new>
+#include <qpdf/QPDFExc.hh>
+#include <stdexcept>
+
+#include "composition/reader/LabelWriter.h"
+#include "composition/reader/OpenedDocument.h"
+#include "composition/reader/PageChoice.h"
+#include "composition/reader/Refusal.h"
+
+namespace cutline {
+namespace {
+
+// A page that becomes a label.
+struct Page {
+  OpenedDocument* document;
+  int documentIndex;
+  int number;  // within its document
+  PageSize size;
+};
+
+bool isLabel(const LabelPage& label) {
+  return std::isfinite(label.width) && std::isfinite(label.length) && label.width > 0 &&
+         label.length > 0 && label.printableWidth() > 0 && label.printableLength() > 0;
+}
+
+bool needsPassword(const QPDFExc& problem) {
+  // An encryption that is unknown here needs another key than the empty password, too.
+  return problem.getErrorCode() == qpdf_e_password || problem.getErrorCode() == qpdf_e_unsupported;
+}
+
+// What the exception that is being handled means for a document.
+Refusal refusal() {
+  try {
+    throw;
+  } catch (const Refusal& known) {
+    return known;
+  } catch (const QPDFExc& problem) {
+    return {needsPassword(problem) ? DocumentProblem::locked : DocumentProblem::damaged,
+            problem.getMessageDetail()};
+  } catch (const std::bad_alloc&) {
+    return {DocumentProblem::tooLarge, {}};
+  } catch (const std::length_error&) {
+    return {DocumentProblem::tooLarge, {}};
+  } catch (const std::exception& problem) {
+    return {DocumentProblem::damaged, problem.what()};
+  }
+}
+
+class Composition {
+ public:
+  Composition(const CompositionRequest& request, Typesetter* typesetter)
+      : mRequest(request), mTypesetter(typesetter) {
+    mReport.label = request.label;
+  }
+
+  CompositionReport compose(const std::vector<int>& documents, int output) noexcept {
+    try {
+      if (!isLabel(mRequest.label)) throw Refusal{DocumentProblem::broken, "label"};
+      openAll(documents);
+      choosePages();
+      chooseLength();
+      writeLabels(output);
+    } catch (...) {
+      const Refusal why = refusal();
+      mReport.failure = {why.problem, mCurrent, why.detail};
+    }
+    return std::move(mReport);
+  }
+
+ private:
+  void openAll(const std::vector<int>& documents) {
+    for (const int descriptor : documents) {
+      mCurrent = static_cast<int>(mDocuments.size());
+      mDocuments.push_back(openDocument(descriptor, mRequest, mTypesetter));
+      mReport.documentPages += mDocuments.back().source->pageCount();
+    }
+  }
+
+  void choosePages() {
+    int document = 0;
+    std::vector<Page> all;
+    for (OpenedDocument& opened : mDocuments) {
+      for (int page = 0; page < opened.source->pageCount(); ++page)
+        all.push_back({&opened, document, page, {}});
+      ++document;
+    }
+    mCurrent = 0;
+    for (const int page : chosenPages(mRequest.pages, mReport.documentPages))
+      mPages.push_back(all.at(static_cast<std::size_t>(page)));
+    for (Page& page : mPages) {
+      mCurrent = page.documentIndex;
+      page.size = page.document->source->pageSize(page.number);
+    }
+  }
+
+  // The margins stay as they are.
+  void chooseLength() {
+    if (!mRequest.lengthBounds) return;
+    double length = 0;
+    for (const Page& page : mPages)
+      length = std::max(length, lengthFor(page.size, mRequest.label, page.document->layout,
+                                          *mRequest.lengthBounds));
+    LabelPage& label = mReport.label;
+    label.top = length - (label.length - label.top);
+    label.length = length;
+  }
+
+  void writeLabels(int output) {
+    LabelWriter labels(mReport.label, mRequest.isMirrored);
+    for (const Page& page : mPages) {
+      mCurrent = page.documentIndex;
+      const Placement placement = placed(page.size, mReport.label, page.document->layout);
+      labels.addPage(page.document->source->draw(page.number, labels), placement);
+      mReport.pages.push_back({page.size, placement.scale, placement.turn});
+    }
+    labels.write(output);
+  }
+
+  const CompositionRequest& mRequest;
+  Typesetter* mTypesetter;
+  std::vector<OpenedDocument> mDocuments;
+  std::vector<Page> mPages;
+  int mCurrent = 0;  // the document that is being read
+  CompositionReport mReport;
+};
+
+}  // namespace
+
+CompositionReport composeDocuments(const CompositionRequest& request,
+                                   const std::vector<int>& documents, int output,
+                                   Typesetter* typesetter) {
+  return Composition(request, typesetter).compose(documents, output);
+}
+
+}  // namespace cutline

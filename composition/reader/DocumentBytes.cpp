@@ -1,0 +1,46 @@
+#include "composition/reader/DocumentBytes.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+
+#include "composition/reader/Refusal.h"
+
+namespace cutline {
+namespace {
+
+constexpr std::size_t kMostBytes = std::size_t{128} * 1024 * 1024;
+constexpr std::size_t kStep = 65536;
+
+// How many bytes were read from there; 0 at the end.
+std::size_t readSome(int descriptor, char* to, std::size_t size, std::size_t from) {
+  ssize_t got = 0;
+  do {
+    got = ::pread(descriptor, to, size, static_cast<off_t>(from));
+  } while (got < 0 && errno == EINTR);
+  if (got < 0) throw Refusal{DocumentProblem::broken, std::strerror(errno)};
+  return static_cast<std::size_t>(got);
+}
+
+}  // namespace
+
+std::string startOf(int descriptor, std::size_t most) {
+  std::string bytes;
+  std::size_t got = 0;
+  do {
+    const std::size_t size = bytes.size();
+    bytes.resize(std::min(size + kStep, most));
+    got = readSome(descriptor, bytes.data() + size, bytes.size() - size, size);
+    bytes.resize(size + got);
+  } while (got > 0 && bytes.size() < most);
+  return bytes;
+}
+
+std::string contentsOf(int descriptor) {
+  std::string bytes = startOf(descriptor, kMostBytes + 1);
+  if (bytes.size() > kMostBytes) throw Refusal{DocumentProblem::tooLarge, {}};
+  return bytes;
+}
+
+}  // namespace cutline

@@ -1,0 +1,24 @@
+// A JPEG as a page. Its bytes go into the PDF as they are.
+#pragma once
+
+#include <string>
+
+#include "composition/reader/Picture.h"
+
+namespace cutline {
+
+class JpegSource : public DocumentSource {
+ public:
+  // From an open file, which stays the caller's.
+  explicit JpegSource(int descriptor);
+
+  int pageCount() override { return 1; }
+  PageSize pageSize(int) override { return picturePage(mFacts); }
+  DrawnPage draw(int page, LabelWriter& labels) override;
+
+ private:
+  std::string mBytes;
+  PictureFacts mFacts;
+};
+
+}  // namespace cutline

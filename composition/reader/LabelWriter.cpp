@@ -1,0 +1,85 @@
+#include "composition/reader/LabelWriter.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+#include <qpdf/QPDFPageDocumentHelper.hh>
+#include <qpdf/QPDFWriter.hh>
+
+#include "composition/reader/PdfNumbers.h"
+#include "composition/reader/Refusal.h"
+
+namespace cutline {
+namespace {
+
+constexpr char kVersion[] = "1.7";
+
+struct CloseFile {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using File = std::unique_ptr<std::FILE, CloseFile>;
+
+[[noreturn]] void failWriting() { throw Refusal{DocumentProblem::broken, std::strerror(errno)}; }
+
+File fileOn(int descriptor) {
+  const int own = ::dup(descriptor);
+  if (own < 0) failWriting();
+  File file(::fdopen(own, "wb"));
+  if (file) return file;
+  ::close(own);
+  failWriting();
+}
+
+}  // namespace
+
+LabelWriter::LabelWriter(const LabelPage& label, bool isMirrored)
+    : mLabel(label), mIsMirrored(isMirrored) {
+  mPdf.setSuppressWarnings(true);
+  mPdf.emptyPDF();
+}
+
+void LabelWriter::addPage(const DrawnPage& drawn, const Placement& placement) {
+  std::string content;
+  // About the paper's vertical axis.
+  if (mIsMirrored) content = concatenation({-1, 0, 0, 1, mLabel.width, 0});
+  content +=
+      concatenation({placement.a, placement.b, placement.c, placement.d, placement.e, placement.f});
+  if (drawn.matrix != QPDFMatrix()) content += concatenation(drawn.matrix);
+  content += "/Page Do\n";
+
+  QPDFObjectHandle forms = QPDFObjectHandle::newDictionary();
+  forms.replaceKey("/Page", drawn.form);
+  QPDFObjectHandle resources = QPDFObjectHandle::newDictionary();
+  resources.replaceKey("/XObject", forms);
+  QPDFObjectHandle page = QPDFObjectHandle::newDictionary();
+  page.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
+  page.replaceKey("/MediaBox", pdfBox({0, 0, mLabel.width, mLabel.length}));
+  page.replaceKey("/Resources", resources);
+  page.replaceKey("/Contents", mPdf.newStream(content));
+  QPDFPageDocumentHelper(mPdf).addPage(mPdf.makeIndirectObject(page), /*first=*/false);
+}
+
+void LabelWriter::addLayer(const QPDFObjectHandle& layer, bool isHidden) {
+  QPDFObjectHandle root = mPdf.getRoot();
+  if (!root.hasKey("/OCProperties"))
+    root.replaceKey("/OCProperties", QPDFObjectHandle::parse("<</OCGs[]/D<</OFF[]>>>>"));
+  QPDFObjectHandle properties = root.getKey("/OCProperties");
+  properties.getKey("/OCGs").appendItem(layer);
+  if (isHidden) properties.getKey("/D").getKey("/OFF").appendItem(layer);
+}
+
+void LabelWriter::write(int output) {
+  const File file = fileOn(output);
+  QPDFWriter writer(mPdf);
+  writer.setOutputFile("labels", file.get(), /*close_file=*/false);
+  writer.setObjectStreamMode(qpdf_o_generate);
+  writer.setMinimumPDFVersion(kVersion);
+  writer.setDeterministicID(true);
+  writer.write();
+  if (std::fflush(file.get()) != 0) failWriting();
+}
+
+}  // namespace cutline

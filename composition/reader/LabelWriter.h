@@ -1,0 +1,30 @@
+// The PDF that goes to the printer: pages of exactly a label's size.
+#pragma once
+
+#include <qpdf/QPDF.hh>
+
+#include "composition/Layout.h"
+#include "composition/reader/DocumentSource.h"
+
+namespace cutline {
+
+class LabelWriter {
+ public:
+  LabelWriter(const LabelPage& label, bool isMirrored);
+
+  // The PDF that forms and pictures are made in.
+  QPDF& pdf() noexcept { return mPdf; }
+  // A label with the page drawn on it as placed.
+  void addPage(const DrawnPage& page, const Placement& placement);
+  // A layer that what was drawn belongs to; an object of this PDF.
+  void addLayer(const QPDFObjectHandle& layer, bool isHidden);
+  // To an open file, which stays the caller's. The same labels give the same bytes.
+  void write(int output);
+
+ private:
+  QPDF mPdf;
+  LabelPage mLabel;
+  bool mIsMirrored;
+};
+
+}  // namespace cutline

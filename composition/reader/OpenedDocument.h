@@ -1,0 +1,22 @@
+// A document, opened by what reads its kind.
+#pragma once
+
+#include <memory>
+
+#include "composition/Composition.h"
+#include "composition/reader/DocumentSource.h"
+#include "composition/typeset/Typesetter.h"
+
+namespace cutline {
+
+struct OpenedDocument {
+  std::unique_ptr<DocumentSource> source;
+  LayoutSettings layout;  // of its pages
+};
+
+// `descriptor` is an open file, which stays the caller's and open as long as the document;
+// `typesetter` is borrowed and may be null. Throws as DocumentSource does.
+OpenedDocument openDocument(int descriptor, const CompositionRequest& request,
+                            Typesetter* typesetter);
+
+}  // namespace cutline

@@ -1,0 +1,72 @@
+#include "composition/reader/PdfSource.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <qpdf/QPDFPageDocumentHelper.hh>
+#include <utility>
+
+#include "composition/reader/LabelWriter.h"
+#include "composition/reader/PdfContents.h"
+#include "composition/reader/PdfFrame.h"
+#include "composition/reader/PdfLayers.h"
+#include "composition/reader/PdfPageCount.h"
+#include "composition/reader/Refusal.h"
+
+namespace cutline {
+namespace {
+
+constexpr char kDescription[] = "document";
+
+std::FILE* fileOn(int descriptor) {
+  const int own = ::dup(descriptor);
+  std::FILE* file = own < 0 ? nullptr : ::fdopen(own, "rb");
+  if (file != nullptr) return file;
+  const Refusal refusal{DocumentProblem::broken, std::strerror(errno)};
+  if (own >= 0) ::close(own);
+  throw refusal;
+}
+
+}  // namespace
+
+PdfSource::PdfSource(int descriptor) {
+  mPdf.setSuppressWarnings(true);
+  mPdf.processFile(kDescription, fileOn(descriptor), /*close_file=*/true);
+  open();
+}
+
+PdfSource::PdfSource(TypesetPages pages) : mBytes(std::move(pages)) {
+  mPdf.setSuppressWarnings(true);
+  mPdf.processMemoryFile(kDescription, mBytes.pdf.data(), mBytes.pdf.size());
+  open();
+}
+
+void PdfSource::open() {
+  if (!mPdf.allowPrintLowRes() && !mPdf.allowPrintHighRes())
+    throw Refusal{DocumentProblem::unprintable, {}};
+  refuseTooManyPages(mPdf);
+  mPages = QPDFPageDocumentHelper(mPdf).getAllPages();
+  if (mPages.empty()) throw Refusal{DocumentProblem::empty, {}};
+}
+
+PageSize PdfSource::pageSize(int page) {
+  PageSize size = pdfFrame(pageAt(page)).size;
+  size.isStated = mBytes.isStated;
+  return size;
+}
+
+DrawnPage PdfSource::draw(int page, LabelWriter& labels) {
+  if (!mAnnotations) {
+    mAnnotations.emplace(mPdf);
+    copyLayers(mPdf, labels);
+  }
+  const PdfFrame frame = pdfFrame(pageAt(page));
+  QPDFObjectHandle& content = mContents[contentKey(pageAt(page), frame)];
+  if (!content.isInitialized()) content = contentForm(mPdf, pageAt(page), frame);
+  QPDFObjectHandle form = mAnnotations->above(content, pageAt(page), frame);
+  return {labels.pdf().copyForeignObject(form), frame.matrix};
+}
+
+}  // namespace cutline

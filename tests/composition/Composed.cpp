@@ -1,0 +1,100 @@
+#include "tests/composition/Composed.h"
+
+#include <poppler-document.h>
+#include <poppler-page-renderer.h>
+#include <poppler-page.h>
+
+#include <map>
+#include <stdexcept>
+
+#include "composition/reader/ComposeDocuments.h"
+#include "tests/composition/MemoryFile.h"
+
+namespace cutline::test {
+namespace {
+
+constexpr double kScale = 4;  // dots a point
+constexpr double kPointsPerInch = 72;
+
+}  // namespace
+
+CompositionRequest labelRequest() {
+  CompositionRequest request;
+  request.label = {100, 200, 10, 20, 90, 180, 0, 90};
+  return request;
+}
+
+struct Composed::Drawn {
+  std::unique_ptr<poppler::document> document;
+  std::map<int, poppler::image> pages;
+
+  const poppler::image& page(int number) {
+    auto& image = pages[number];
+    if (image.is_valid()) return image;
+    if (!document) throw std::runtime_error("nothing was composed");
+    const std::unique_ptr<poppler::page> page(document->create_page(number));
+    if (!page) throw std::runtime_error("no such page");
+    image = poppler::page_renderer().render_page(page.get(), kPointsPerInch * kScale,
+                                                 kPointsPerInch * kScale);
+    return image;
+  }
+};
+
+Composed::Composed(const std::vector<std::string>& documents, const CompositionRequest& request,
+                   Typesetter* typesetter)
+    : mDrawn(std::make_unique<Drawn>()) {
+  std::vector<MemoryFile> files;
+  std::vector<int> descriptors;
+  for (const std::string& document : documents)
+    descriptors.push_back(files.emplace_back(document).descriptor());
+  const MemoryFile output;
+  mReport = composeDocuments(request, descriptors, output.descriptor(), typesetter);
+  if (mReport.failure) return;
+  mPdf = output.bytes();
+  mDrawn->document.reset(
+      poppler::document::load_from_raw_data(mPdf.data(), static_cast<int>(mPdf.size())));
+}
+
+Composed::Composed(const std::string& document, const CompositionRequest& request,
+                   Typesetter* typesetter)
+    : Composed(std::vector<std::string>{document}, request, typesetter) {}
+
+Composed::~Composed() = default;
+
+std::optional<DocumentProblem> Composed::problem() const {
+  if (!mReport.failure) return std::nullopt;
+  return mReport.failure->problem;
+}
+
+int Composed::pages() const { return mDrawn->document ? mDrawn->document->pages() : 0; }
+
+unsigned Composed::colourAt(double x, double y, int page) {
+  const poppler::image& image = mDrawn->page(page);
+  const int across = static_cast<int>(x * kScale);
+  const int down = image.height() - 1 - static_cast<int>(y * kScale);
+  if (across < 0 || across >= image.width() || down < 0 || down >= image.height())
+    throw std::out_of_range("not on the label");
+  const auto* row =
+      reinterpret_cast<const unsigned*>(image.const_data() + down * image.bytes_per_row());
+  return row[across] & 0xffffff;
+}
+
+std::string Composed::blackQuarters(int page) {
+  const poppler::image& image = mDrawn->page(page);
+  const double width = image.width() / kScale;
+  const double height = image.height() / kScale;
+  std::string found;
+  for (const char quarter : {'a', 'b', 'c', 'd'}) {
+    const double left = quarter == 'b' || quarter == 'd' ? width / 2 : 0;
+    const double bottom = quarter >= 'c' ? height / 2 : 0;
+    bool isBlack = false;
+    for (double x = left + 1; x < left + width / 2; ++x) {
+      for (double y = bottom + 1; y < bottom + height / 2; ++y)
+        isBlack = isBlack || isBlackAt(x, y, page);
+    }
+    if (isBlack) found += quarter;
+  }
+  return found;
+}
+
+}  // namespace cutline::test

@@ -1,0 +1,50 @@
+// Documents composed, and what came out, drawn by a reader of PDFs.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "composition/Composition.h"
+#include "composition/typeset/Typesetter.h"
+
+namespace poppler {
+class document;
+}
+
+namespace cutline::test {
+
+// A label of 100 by 200 points, with margins of 10 and 20 points, read upright.
+CompositionRequest labelRequest();
+
+class Composed {
+ public:
+  explicit Composed(const std::vector<std::string>& documents,
+                    const CompositionRequest& request = labelRequest(),
+                    Typesetter* typesetter = nullptr);
+  explicit Composed(const std::string& document, const CompositionRequest& request = labelRequest(),
+                    Typesetter* typesetter = nullptr);
+  ~Composed();
+
+  const CompositionReport& report() const { return mReport; }
+  // What it failed for; nothing where it did not.
+  std::optional<DocumentProblem> problem() const;
+  const std::string& pdf() const { return mPdf; }
+
+  int pages() const;
+  // The colour at a place of a page, in points from the lower left, 0xRRGGBB.
+  unsigned colourAt(double x, double y, int page = 0);
+  bool isBlackAt(double x, double y, int page = 0) { return colourAt(x, y, page) < 0x303030; }
+  bool isWhiteAt(double x, double y, int page = 0) { return colourAt(x, y, page) > 0xf0f0f0; }
+  // "abcd", those of the letters in whose place something black is: the label's lower left, lower
+  // right, upper left, upper right quarters.
+  std::string blackQuarters(int page = 0);
+
+ private:
+  CompositionReport mReport;
+  std::string mPdf;
+  struct Drawn;
+  std::unique_ptr<Drawn> mDrawn;
+};
+
+}  // namespace cutline::test

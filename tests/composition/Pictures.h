@@ -1,0 +1,33 @@
+// Pictures made for a test.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace cutline::test {
+
+// Pixels, row by row from above, with 1 to 4 bytes each: grey, grey and opacity, colours, colours
+// and opacity.
+struct Pixels {
+  unsigned width = 0;
+  unsigned height = 0;
+  unsigned channels = 1;
+  std::vector<std::uint8_t> bytes;
+};
+
+// White, with a black square a quarter as wide as the picture in the upper left corner.
+Pixels markedPixels(unsigned width, unsigned height, unsigned channels = 3);
+
+struct Density {
+  double across = 0;  // dots an inch; 0 for none
+  double along = 0;
+};
+
+std::string pngOf(const Pixels& pixels, Density density = {}, bool isInterlaced = false);
+// With a block of Exif where it is not empty; three channels or one.
+std::string jpegOf(const Pixels& pixels, Density density = {}, const std::string& exif = {});
+std::string webpOf(const Pixels& pixels);
+
+}  // namespace cutline::test
