@@ -58,15 +58,21 @@ Sentence choiceNames(const ppd_option_t& option) {
   return {Phrase("cups", "its choices are %1"), {listed(names)}};
 }
 
+// PPDs round their points, so that 24 mm can be a little more than their 24 mm.
+bool isWithin(double measure, double least, double most) {
+  constexpr double kRounding = 0.1;
+  return measure >= least - kRounding && measure <= most + kRounding;
+}
+
 Result<Done> checkCustomSize(const ppd_file_t* ppd, const std::string& choice) {
   const auto size = CustomSize::parse(choice);
   if (!size) {
     return Error{Sentence(
         Phrase("cups", "\"%1\" is no paper size: write it as Custom.WIDTHxLENGTHmm"), {choice})};
   }
-  const bool fits = size->width >= ppd->custom_min[0] && size->width <= ppd->custom_max[0] &&
-                    size->length >= ppd->custom_min[1] && size->length <= ppd->custom_max[1];
-  if (fits) return Done{};
+  if (isWithin(size->width, ppd->custom_min[0], ppd->custom_max[0]) &&
+      isWithin(size->length, ppd->custom_min[1], ppd->custom_max[1]))
+    return Done{};
   return Error{Sentence(Phrase("cups", "the printer does not take paper of %1: it takes %2 to %3"),
                         {size->text(), CustomSize{ppd->custom_min[0], ppd->custom_min[1]}.text(),
                          CustomSize{ppd->custom_max[0], ppd->custom_max[1]}.text()})};

@@ -2,6 +2,7 @@
 
 #include <getopt.h>
 
+#include <algorithm>
 #include <vector>
 
 #include "base/Numbers.h"
@@ -17,6 +18,7 @@ namespace {
 enum LongOption {
   kPpd = 256,
   kPrint,
+  kDryRun,
   kWait,
   kSummary,
   kOptions,
@@ -33,6 +35,7 @@ enum LongOption {
 constexpr char kShortOptions[] = ":d:n:P:t:o:h:EU:";
 constexpr option kLongOptions[] = {{"ppd", required_argument, nullptr, kPpd},
                                    {"print", no_argument, nullptr, kPrint},
+                                   {"dry-run", required_argument, nullptr, kDryRun},
                                    {"wait", no_argument, nullptr, kWait},
                                    {"summary", no_argument, nullptr, kSummary},
                                    {"options", no_argument, nullptr, kOptions},
@@ -47,7 +50,7 @@ constexpr option kLongOptions[] = {{"ppd", required_argument, nullptr, kPpd},
                                    {nullptr, 0, nullptr, 0}};
 
 constexpr char kHelpText[] =
-    R"(Usage: cutline [OPTION]... [FILE]
+    R"(Usage: cutline [OPTION]... [FILE]...
 Print labels and tapes: shows a print dialog with the printer's cut options.
 
   -d PRINTER[/INSTANCE]  the printer, or a saved preset of it; your default printer when absent
@@ -61,6 +64,7 @@ Print labels and tapes: shows a print dialog with the printer's cut options.
 
   --ppd FILE             work on this PPD file instead of a printer; cannot print
   --print                print at once, without a window; FILE absent or - reads standard input
+  --dry-run PDF          write what would be sent into this file, show with which options, and end
   --wait                 with --print: end when the job has ended
   --summary              show the panel's summary and end
   --options              show what would be sent with the job and end
@@ -72,6 +76,12 @@ Print labels and tapes: shows a print dialog with the printer's cut options.
   --marks                print times of the start on standard output and end (for measuring)
   --help, --version      show this text, or the version, and end
 
+Documents are PDF, PostScript, PNG, JPEG, TIFF, WebP, SVG or UTF-8 text. How they are laid onto
+labels is said with -o:
+  print-scaling=auto|none|fit|fill, natural-scaling=PERCENT, orientation-requested=3|4|5|6,
+  position=center|top|bottom|left|right|top-left|..., label-length=content,
+  text-labels=paragraph|line, text-font=FAMILY, text-size=POINTS; raw sends a document as it is
+
 Exit status: 0 done, 1 error, 2 wrong usage, 3 cancelled. --print is done when the print
 server has taken the whole document; with --wait, when the job has ended and something came
 out: it is an error when the job was cancelled or given up, or ended without a page.
@@ -81,7 +91,7 @@ using Problem = std::optional<std::string>;
 
 Problem setCommand(CommandLine& line, Command command) {
   if (line.command != Command::dialog && line.command != command)
-    return "--print, --summary, --options, --snapshot and --list exclude each other";
+    return "--print, --dry-run, --summary, --options, --snapshot and --list exclude each other";
   line.command = command;
   return std::nullopt;
 }
@@ -131,6 +141,11 @@ Problem setDestination(CommandLine& line, const std::string& text) {
   return std::nullopt;
 }
 
+Problem setDryRun(CommandLine& line, const std::string& path) {
+  line.dryRunPath = path;
+  return setCommand(line, Command::dryRun);
+}
+
 Problem setSnapshot(CommandLine& line, const std::string& path) {
   line.snapshotPath = path;
   return setCommand(line, Command::snapshot);
@@ -169,6 +184,8 @@ Problem apply(CommandLine& line, int option, const std::string& text) {
       return store(line.ppdPath, text);
     case kPrint:
       return setCommand(line, Command::print);
+    case kDryRun:
+      return setDryRun(line, text);
     case kWait:
       return turnOn(line.waits);
     case kSummary:
@@ -194,6 +211,8 @@ Problem apply(CommandLine& line, int option, const std::string& text) {
 
 Problem checkTogether(const CommandLine& line) {
   if (line.waits && line.command != Command::print) return "--wait goes with --print only";
+  const bool isUnseen = line.command == Command::print || line.command == Command::options;
+  if (line.asked.isRaw() && !isUnseen) return "-o raw goes with --print only";
   if (!line.ppdPath) return std::nullopt;
   if (line.destination) return "--ppd and -d exclude each other";
   if (line.command == Command::list) return "--ppd and --list exclude each other";
@@ -202,10 +221,10 @@ Problem checkTogether(const CommandLine& line) {
   return std::nullopt;
 }
 
-Problem setFile(CommandLine& line, const std::vector<std::string>& words) {
-  if (words.size() > 1) return "one document at a time, not also \"" + words[1] + "\"";
-  if (!words.empty()) line.file = words.front();
-  return std::nullopt;
+Problem setFiles(CommandLine& line, const std::vector<std::string>& words) {
+  line.files = words;
+  if (std::count(words.begin(), words.end(), "-") <= 1) return std::nullopt;
+  return "standard input can be one document only";
 }
 
 // getopt could not read an option; a letter of its own is in optopt, a long one in the word.
@@ -237,7 +256,7 @@ Result<CommandLine> parseCommandLine(int argc, const char* const* argv) {
     if (Problem problem = apply(line, option, optarg != nullptr ? optarg : ""))
       return Error{*problem};
   }
-  if (Problem problem = setFile(line, {words + optind, words + argc})) return Error{*problem};
+  if (Problem problem = setFiles(line, {words + optind, words + argc})) return Error{*problem};
   if (Problem problem = checkTogether(line)) return Error{*problem};
   return line;
 }

@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "base/Result.h"
 #include "cups/Destination.h"
@@ -11,7 +12,7 @@
 
 namespace cutline {
 
-enum class Command { dialog, print, summary, options, snapshot, list, help, version };
+enum class Command { dialog, print, dryRun, summary, options, snapshot, list, help, version };
 
 // Exit statuses of the program.
 inline constexpr int kExitDone = 0;
@@ -25,10 +26,11 @@ struct CommandLine {
   std::optional<std::string> title;            // -t
   AskedSettings asked;                         // -o (media replaced by PageSize), -n, -P; checked
   ServerOptions server;                        // -h -E -U
-  std::optional<std::string> file;             // the document; nothing when none was named
+  std::vector<std::string> files;              // the documents in order; - is standard input
   std::optional<std::string> ppdPath;          // --ppd
   std::optional<std::string> pluginDirectory;  // --plugin-dir
   std::string snapshotPath;                    // --snapshot
+  std::string dryRunPath;                      // --dry-run
   int scale = 1;                               // --scale: pixels per point, 1 or 2
   bool dark = false;                           // --dark
   bool waits = false;                          // --wait: until the job has ended

@@ -14,6 +14,8 @@ std::string Installation::modulePath(const std::string& fileName) const {
   return mPrefix + "/lib/cutline/" + fileName;
 }
 
+std::string Installation::helperDirectory() const { return mPrefix + "/lib/cutline"; }
+
 std::string Installation::plugInDirectory() const { return mPrefix + "/lib/cutline/plugins"; }
 
 std::string Installation::sampleDirectory() const { return mPrefix + "/share/cutline/samples"; }

@@ -14,6 +14,7 @@ class Installation {
 
   std::string prefix() const { return mPrefix; }
   std::string modulePath(const std::string& fileName) const;  // PREFIX/lib/cutline/FILENAME
+  std::string helperDirectory() const;                        // PREFIX/lib/cutline
   std::string plugInDirectory() const;                        // PREFIX/lib/cutline/plugins
   std::string sampleDirectory() const;                        // PREFIX/share/cutline/samples
   std::string translationDirectory() const;                   // PREFIX/share/cutline/translations

@@ -2,6 +2,7 @@
 #include <numeric>
 
 #include "base/Lists.h"
+#include "host/core/JobLayout.h"
 #include "host/core/OptionSpelling.h"
 #include "host/core/OptionTable.h"
 
@@ -64,6 +65,7 @@ Result<Done> checkOption(const PpdFile& ppd, const OptionTable& table, const std
                          const std::string& value) {
   if (name == "media") return checkMedia(ppd, value);
   if (ppd.hasOption(name)) return ppd.checkChoice(name, value);
+  if (isLayoutOption(name)) return checkLayoutOption(name, value);
   const auto attributes = jobAttributes();
   if (std::ranges::find(attributes, name) != attributes.end()) return Done{};
   return unknownOption(table, name);

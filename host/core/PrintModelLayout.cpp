@@ -10,7 +10,9 @@
 namespace cutline {
 namespace {
 
-constexpr double kSameLength = 0.01;  // points
+// Points.
+constexpr double kSameLength = 0.01;
+constexpr double kSameWidth = 0.1;
 
 // On a tape a reader holds the paper's length upright; where the driver counts its quarters the
 // other way, so does the label.
@@ -60,7 +62,8 @@ LabelPage PrintModel::label() const {
 std::optional<LengthBounds> PrintModel::customLengths() const {
   const std::optional<CustomSizes> custom = ppdFile()->customSizes();
   const double width = currentPaper().width;
-  if (!custom || width < custom->leastWidth || width > custom->mostWidth) return std::nullopt;
+  if (!custom || width < custom->leastWidth - kSameWidth || width > custom->mostWidth + kSameWidth)
+    return std::nullopt;
   return LengthBounds{custom->leastLength, custom->mostLength};
 }
 

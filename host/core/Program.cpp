@@ -3,6 +3,7 @@
 #include <sys/auxv.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <iostream>
 
@@ -42,17 +43,22 @@ bool needsWindow(Command command) {
   return command == Command::dialog || command == Command::snapshot;
 }
 
-bool isStandardInput(const CommandLine& line) {
-  return line.file ? *line.file == "-" : line.command == Command::print;
+// The place of standard input among the documents; commands that print read it where none is named.
+std::string* standardInput(CommandLine& line) {
+  const bool prints = line.command == Command::print || line.command == Command::dryRun;
+  if (line.files.empty() && prints) line.files = {"-"};
+  const auto found = std::find(line.files.begin(), line.files.end(), "-");
+  return found != line.files.end() ? &*found : nullptr;
 }
 
 // Keeps standard input for as long as the answer lives; null when no document is read from there.
 Result<std::shared_ptr<SpooledDocument>> spool(CommandLine& line) {
-  if (!isStandardInput(line)) return std::shared_ptr<SpooledDocument>();
+  std::string* const place = standardInput(line);
+  if (place == nullptr) return std::shared_ptr<SpooledDocument>();
   Result<std::shared_ptr<SpooledDocument>> document = SpooledDocument::read(STDIN_FILENO);
   if (!document) return document;
-  line.file = (*document)->path();
-  if (!line.title) line.title = "(stdin)";
+  if (!line.title && place == line.files.data()) line.title = "(stdin)";
+  *place = (*document)->path();
   return document;
 }
 

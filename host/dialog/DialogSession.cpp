@@ -24,10 +24,12 @@ namespace cutline {
 
 namespace {
 
-std::optional<Error> problemOfDocument(const std::optional<std::string>& path) {
+std::optional<Error> problemOfDocuments(const std::vector<std::string>& paths) {
   std::error_code problem;
-  if (!path || std::filesystem::is_regular_file(*path, problem)) return std::nullopt;
-  return Error{Sentence(Phrase("host", "%1: there is no such document"), {*path})};
+  for (const std::string& path : paths)
+    if (!std::filesystem::is_regular_file(path, problem))
+      return Error{Sentence(Phrase("host", "%1: there is no such document"), {path})};
+  return std::nullopt;
 }
 
 bool namesPrinter(const CommandLine& line) { return line.ppdPath || line.destination; }
@@ -35,7 +37,7 @@ bool namesPrinter(const CommandLine& line) { return line.ppdPath || line.destina
 }  // namespace
 
 Result<PrinterChoice> findFirstPrinter(const CommandLine& line) {
-  if (const std::optional<Error> problem = problemOfDocument(line.file)) return *problem;
+  if (const std::optional<Error> problem = problemOfDocuments(line.files)) return *problem;
   Result<PrinterChoice> choice = selectPrinter(line);
   if (choice || namesPrinter(line)) return choice;
   const Result<std::vector<Destination>> all = listDestinations(line.server);
@@ -61,7 +63,8 @@ constexpr int kScreenMargin = 40;
 
 std::string titleOf(const CommandLine& line) {
   if (line.title) return *line.title;
-  return line.file ? std::filesystem::path(*line.file).filename().string() : std::string();
+  return line.files.empty() ? std::string()
+                            : std::filesystem::path(line.files.front()).filename().string();
 }
 
 // Without the module documents print all the same, only unseen.
@@ -93,8 +96,8 @@ DialogSession::DialogSession(const DialogRequest& request, FirstPrinter printer)
 }
 
 PrintSource DialogSession::source() const {
-  if (!mLine.file) return {};
-  return {*mLine.file, titleOf(mLine), openerOf(mInstallation, *mLine.file)};
+  if (mLine.files.empty()) return {};
+  return {mLine.files.front(), titleOf(mLine), openerOf(mInstallation, mLine.files.front())};
 }
 
 int DialogSession::run() {

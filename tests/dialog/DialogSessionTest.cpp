@@ -24,7 +24,7 @@ class DialogSessionTest : public testing::Test {
       : mPlugIns({CUTLINE_BUILD_DIR "/lib/cutline/plugins"}), mInstallation(CUTLINE_BUILD_DIR) {
     mLine.command = Command::dialog;
     mLine.ppdPath = samplePpd("tape-a");
-    mLine.file = CUTLINE_SOURCE_DIR "/samples/documents/labels.pdf";
+    mLine.files = {CUTLINE_SOURCE_DIR "/samples/documents/labels.pdf"};
   }
 
   int run(const FirstPrinter& printer) {
@@ -99,7 +99,7 @@ TEST_F(DialogSessionTest, ASnapshotThatCannotBeWrittenIsAnError) {
 }
 
 TEST_F(DialogSessionTest, AMissingDocumentIsAnErrorBeforeAnythingIsShown) {
-  mLine.file = "/nowhere/labels.pdf";
+  mLine.files = {"/nowhere/labels.pdf"};
   EXPECT_EQ(run(), kExitError);
   EXPECT_EQ(mErrors, "cutline: /nowhere/labels.pdf: there is no such document\n");
 }
@@ -116,7 +116,7 @@ TEST_F(DialogSessionTest, ClosingTheDialogCancels) {
 }
 
 TEST_F(DialogSessionTest, ADialogWithoutADocumentSaysSo) {
-  mLine.file.reset();
+  mLine.files.clear();
   closeWhen([] { return shows("PPD file, no printer"); });
   EXPECT_EQ(run(), kExitCancelled);
 }

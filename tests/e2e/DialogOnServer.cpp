@@ -40,7 +40,7 @@ PrinterChoice opened(const CommandLine& line) {
 }
 
 PrintSource sourceOf(const CommandLine& line) {
-  const std::string path = line.file.value();
+  const std::string path = line.files.front();
   const auto opener = [path]() -> Result<std::shared_ptr<Document>> {
     const Result<DocumentRenderer*> renderer = loadDocumentRenderer(Installation(built("")));
     if (!renderer) return renderer.error();
@@ -124,7 +124,7 @@ void choose(QComboBox* list, const QString& data) {
 CommandLine dialogOn(const std::string& printer) {
   CommandLine line;
   line.destination = DestinationName::parse(printer);
-  line.file = labels();
+  line.files = {labels()};
   return line;
 }
 

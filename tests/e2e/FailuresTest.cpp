@@ -32,7 +32,7 @@ class QueueState {
 
 CommandLine documentOn(const std::string& printer, const std::string& path) {
   CommandLine line = dialogOn(printer);
-  line.file = path;
+  line.files = {path};
   return line;
 }
 
@@ -199,16 +199,16 @@ TEST_F(Failures, AServerThatEndsWhileTheDialogIsOpenIsNamed) {
 TEST_F(Failures, ADocumentThatVanishesBeforePrintIsNamed) {
   const TemporaryFolder folder;
   CommandLine line = dialogOn("tape24");
-  line.file = folder.path() + "/gone.pdf";
-  std::filesystem::copy_file(labels(), *line.file);
+  line.files = {folder.path() + "/gone.pdf"};
+  std::filesystem::copy_file(labels(), line.files.front());
   DialogOnServer dialog(line);
   ASSERT_TRUE(dialog.willShow(QStringLiteral("Label 1 of 12")));
-  std::filesystem::remove(*line.file);
+  std::filesystem::remove(line.files.front());
   dialog.press("Pr&int");
   EXPECT_TRUE(dialog.willShow(QStringLiteral("Cannot read the document")));
   expectUsable(dialog);
   EXPECT_TRUE(nothingNew());
-  std::filesystem::copy_file(labels(), *line.file);
+  std::filesystem::copy_file(labels(), line.files.front());
   dialog.print();
   EXPECT_EQ(newJob().number("labels"), kLabels);
 }
@@ -237,7 +237,7 @@ class HalfwayServer : public ServerInBetween {
 TEST_F(Failures, CancellingWhileTheDocumentIsSentLeavesNoJob) {
   const TemporaryFolder folder;
   CommandLine line = dialogOn("tape24");
-  line.file = folder.write("long.txt", std::string(4U << 20U, 'x'));
+  line.files = {folder.write("long.txt", std::string(4U << 20U, 'x'))};
   DialogOnServer dialog(line, std::make_shared<HalfwayServer>());
   dialog.press("Pr&int");
   ASSERT_TRUE(dialog.willShow(QStringLiteral("Sending to tape24")));

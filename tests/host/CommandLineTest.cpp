@@ -18,7 +18,7 @@ TEST(CommandLineTest, NothingAsksForTheDialog) {
   const auto line = parse({});
   ASSERT_TRUE(line);
   EXPECT_EQ(line->command, Command::dialog);
-  EXPECT_FALSE(line->file);
+  EXPECT_TRUE(line->files.empty());
   EXPECT_FALSE(line->destination);
   EXPECT_FALSE(line->asked.copies);
 }
@@ -35,13 +35,13 @@ TEST(CommandLineTest, ReadsWhatLpReads) {
   EXPECT_EQ(line->server.server, "server:8631");
   EXPECT_TRUE(line->server.encrypt);
   EXPECT_EQ(line->server.user, "ann");
-  EXPECT_EQ(line->file, "labels.pdf");
+  EXPECT_EQ(line->files, std::vector<std::string>{"labels.pdf"});
 }
 
 TEST(CommandLineTest, OptionsMayStandAfterTheFileAndBeGivenAgain) {
   const auto line = parse({"labels.pdf", "-o", "LxHalfCut=ON", "-o", "LxHalfCut=OFF"});
   ASSERT_TRUE(line);
-  EXPECT_EQ(line->file, "labels.pdf");
+  EXPECT_EQ(line->files, std::vector<std::string>{"labels.pdf"});
   EXPECT_EQ(line->asked.options.back(), (std::pair<std::string, std::string>("LxHalfCut", "OFF")));
 }
 
@@ -105,7 +105,10 @@ TEST(CommandLineTest, WrongUsageIsNamed) {
                                                        {"-o", ""},
                                                        {"-d", ""},
                                                        {"--scale", "3"},
-                                                       {"a", "b"},
+                                                       {"-", "a", "-"},
+                                                       {"-o", "raw", "a"},
+                                                       {"--dry-run"},
+                                                       {"--dry-run", "a.pdf", "--print", "f"},
                                                        {"--print", "--summary"},
                                                        {"--wait"},
                                                        {"--wait", "--options"},
@@ -124,13 +127,29 @@ TEST(CommandLineTest, WrongUsageIsNamed) {
   EXPECT_NE(parse({"--foo"}).error().message.find("--foo"), std::string::npos);
 }
 
-TEST(CommandLineTest, AMinusStandsForStandardInput) { EXPECT_EQ(parse({"-"})->file, "-"); }
+TEST(CommandLineTest, SeveralDocumentsAreTakenInOrder) {
+  const auto line = parse({"--print", "a.pdf", "-", "b.png"});
+  ASSERT_TRUE(line) << line.error().message;
+  EXPECT_EQ(line->files, (std::vector<std::string>{"a.pdf", "-", "b.png"}));
+}
+
+TEST(CommandLineTest, ADryRunNamesItsFile) {
+  const auto line = parse({"--dry-run", "out.pdf", "a.pdf", "--ppd", "tape.ppd"});
+  ASSERT_TRUE(line) << line.error().message;
+  EXPECT_EQ(line->command, Command::dryRun);
+  EXPECT_EQ(line->dryRunPath, "out.pdf");
+  EXPECT_TRUE(parse({"--print", "-o", "raw", "a"}));
+}
+
+TEST(CommandLineTest, AMinusStandsForStandardInput) {
+  EXPECT_EQ(parse({"-"})->files, std::vector<std::string>{"-"});
+}
 
 TEST(CommandLineTest, TheHelpNamesEveryOption) {
   for (const char* option :
-       {"-d",      "-n",     "-P",      "-t",           "-o",        "-h",        "-E",
-        "-U",      "--ppd",  "--print", "--wait",       "--summary", "--options", "--snapshot",
-        "--scale", "--dark", "--list",  "--plugin-dir", "--help",    "--version"})
+       {"-d",         "-n",      "-P",      "-t",     "-o",           "-h",        "-E",
+        "-U",         "--ppd",   "--print", "--wait", "--dry-run",    "--summary", "--options",
+        "--snapshot", "--scale", "--dark",  "--list", "--plugin-dir", "--help",    "--version"})
     EXPECT_NE(helpText().find(option), std::string::npos) << option;
 }
 

@@ -271,7 +271,9 @@ TEST_F(PrintModelTest, CopiesAndPagesAreCheckedAndSent) {
   EXPECT_TRUE(model->setPageRanges("1 - 4"));
   EXPECT_FALSE(model->setPageRanges("4-1"));
   EXPECT_EQ(valueOf(model->jobOptions(), "copies"), "9999");
-  EXPECT_EQ(valueOf(model->jobOptions(), "page-ranges"), "1-4");
+  // The document that is sent has the chosen pages only.
+  EXPECT_EQ(valueOf(model->jobOptions(), "page-ranges"), "absent");
+  EXPECT_EQ(model->pageSelection().ranges.text(), "1-4");
 }
 
 // As libcups reads options: the printer gets its own spelling, and each option once.
@@ -316,9 +318,54 @@ TEST_F(PrintModelTest, SavedCopiesAndPagesStandWhereNoneWereAskedFor) {
 
 TEST_F(PrintModelTest, OptionsBesideThePpdAreSentAsTheyWereGiven) {
   const auto model =
-      open({{{"job-priority", "70"}}, {}, {}}, {{"job-priority", "30"}, {"fit-to-page", "true"}});
+      open({{{"job-priority", "70"}}, {}, {}}, {{"job-priority", "30"}, {"job-billing", "shop"}});
   EXPECT_EQ(valueOf(model->jobOptions(), "job-priority"), "70");
-  EXPECT_EQ(valueOf(model->jobOptions(), "fit-to-page"), "true");
+  EXPECT_EQ(valueOf(model->jobOptions(), "job-billing"), "shop");
+}
+
+TEST_F(PrintModelTest, WhatLaysDocumentsOutIsReadAndNotSent) {
+  const OptionList saved = {{"print-scaling", "fill"}, {"position", "top"}, {"mirror", "true"}};
+  const auto model = open({{{"natural-scaling", "50"}}, {}, {}}, saved);
+  EXPECT_EQ(model->jobLayout().placing.scaling, Scaling::percent);
+  EXPECT_EQ(model->jobLayout().placing.position, Position::top);
+  EXPECT_TRUE(model->compositionRequest().isMirrored);
+  EXPECT_EQ(valueOf(model->jobOptions(), "print-scaling"), "none");
+  EXPECT_EQ(valueOf(model->jobOptions(), "mirror"), "false");
+  EXPECT_EQ(valueOf(model->jobOptions(), "position"), "absent");
+  EXPECT_EQ(valueOf(model->jobOptions(), "natural-scaling"), "absent");
+}
+
+TEST_F(PrintModelTest, APresetRemembersHowDocumentsAreLaidOut) {
+  const auto model = open();
+  JobLayout layout = model->jobLayout();
+  layout.placing = {Scaling::percent, 92, Turn::reversePortrait, Position::bottomLeft};
+  layout.text.unit = TextUnit::line;
+  model->setJobLayout(layout);
+  const Result<OptionList> preset = model->savePreset();
+  ASSERT_TRUE(preset);
+  EXPECT_EQ(valueOf(*preset, "natural-scaling"), "92");
+  EXPECT_EQ(valueOf(*preset, "number-up"), "absent");
+  const auto other = open();
+  EXPECT_NE(other->jobLayout(), layout);
+  ASSERT_TRUE(other->applyPreset(*preset));
+  EXPECT_EQ(other->jobLayout(), layout);
+  ASSERT_TRUE(other->applyPreset({}));
+  EXPECT_EQ(other->jobLayout(), JobLayout());
+}
+
+TEST_F(PrintModelTest, ARawDocumentGoesWithEveryOptionThatItHad) {
+  const auto model = open({{{"raw", "true"}, {"print-scaling", "fit"}}, {}, "1-2"});
+  EXPECT_EQ(valueOf(model->jobOptions(), "raw"), "true");
+  EXPECT_EQ(valueOf(model->jobOptions(), "print-scaling"), "fit");
+  EXPECT_EQ(valueOf(model->jobOptions(), "page-ranges"), "1-2");
+  EXPECT_EQ(valueOf(open({}, {{"raw", "true"}})->jobOptions(), "raw"), "absent");
+}
+
+TEST_F(PrintModelTest, NamesWhatDoesNotGoWithLabels) {
+  const auto asked = open({{{"number-up", "4"}}, {}, {}})->deviations();
+  ASSERT_EQ(asked.size(), 1U);
+  EXPECT_NE(asked[0].sentence.english().find("number-up"), std::string::npos);
+  EXPECT_TRUE(open({}, {{"number-up", "4"}})->deviations().empty());
 }
 
 TEST_F(PrintModelTest, EveryCutOptionIsSentAlsoAtItsDefault) {

@@ -23,6 +23,8 @@ class PrintedJob {
   int number(const std::string& name) const;
   // How many labels of the stored picture have something printed on them.
   int printedLabels() const;
+  // The picture's file.
+  const std::string& picturePath() const noexcept { return mPicturePath; }
   // The first label's place in the picture, in dots.
   printer::Place firstLabel() const;
 

@@ -1,0 +1,34 @@
+#include "host/core/HeadlessSession.h"
+
+#include <ostream>
+
+#include "host/core/PrinterSelection.h"
+
+namespace cutline {
+
+HeadlessSession::HeadlessSession(const CommandLine& line, PluginLoader& plugIns,
+                                 std::ostream& notes)
+    : mLine(line),
+      mPlugIns(plugIns),
+      mNotes(notes),
+      mPlatform(mToolkit),
+      mModel(plugIns, line.asked) {}
+
+void HeadlessSession::open(const PrinterChoice& choice) {
+  mModel.openPrinter(choice);
+  for (const std::string& problem : mPlugIns.takeProblems()) note(problem);
+}
+
+Result<Done> HeadlessSession::openSelected() {
+  const Result<PrinterChoice> choice = selectPrinter(mLine);
+  if (!choice) return choice.error();
+  open(*choice);
+  for (const Deviation& deviation : mModel.deviations()) note(deviation.sentence.english());
+  for (const Sentence& conflict : mModel.conflicts()) note(conflict.english());
+  return Done{};
+}
+
+// At once, because it may be all that is heard for a while.
+void HeadlessSession::note(const std::string& text) { mNotes << "cutline: " << text << std::endl; }
+
+}  // namespace cutline

@@ -1,0 +1,42 @@
+// A print model on controls that nobody sees, for the commands without a window.
+#pragma once
+
+#include <iosfwd>
+#include <string>
+
+#include "host/core/CommandLine.h"
+#include "host/core/HostPlatform.h"
+#include "host/core/PluginLoader.h"
+#include "host/core/PrintModel.h"
+#include "plain/PlainToolkit.h"
+
+namespace cutline {
+
+// Where a command writes what was asked of it, and what there is to remark.
+struct Streams {
+  std::ostream& out;
+  std::ostream& notes;
+};
+
+class HeadlessSession {
+ public:
+  // All are borrowed and outlive the session.
+  HeadlessSession(const CommandLine& line, PluginLoader& plugIns, std::ostream& notes);
+
+  PrintModel& model() { return mModel; }
+
+  void open(const PrinterChoice& choice);
+  // Opens the printer of the command line, and tells what will be otherwise than asked.
+  Result<Done> openSelected();
+  void note(const std::string& text);
+
+ private:
+  const CommandLine& mLine;
+  PluginLoader& mPlugIns;
+  std::ostream& mNotes;
+  PlainToolkit mToolkit;
+  HostPlatform mPlatform;
+  PrintModel mModel;
+};
+
+}  // namespace cutline
