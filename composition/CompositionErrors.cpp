@@ -18,7 +18,7 @@ constexpr std::array kProblemTexts = std::to_array<ProblemText>({
     {DocumentProblem::unknownKind,
      Phrase("composition",
             "it is not of a kind that can be read: PDF, PostScript, PNG, JPEG, TIFF, WebP, SVG or "
-            "text; \"-o raw\" sends it to the printer as it is")},
+            "text (UTF-8); \"-o raw\" sends it to the printer as it is")},
     {DocumentProblem::damaged,
      Phrase("composition", "it is damaged; open it elsewhere and save it again")},
     {DocumentProblem::locked,
@@ -50,6 +50,7 @@ constexpr std::array kDetailedTexts = std::to_array<ProblemText>({
      Phrase("composition", "it has %1 pages, which is too many; print it in smaller parts")},
     {DocumentProblem::pageMissing,
      Phrase("composition", "there are pages chosen that it does not have; it has %1")},
+    {DocumentProblem::tooLarge, Phrase("composition", "it is too large: %1")},
     {DocumentProblem::missingModule,
      Phrase("composition", "what reads documents of its kind is not installed: %1")},
     {DocumentProblem::broken, Phrase("composition", "its reader failed: %1")},

@@ -1,0 +1,238 @@
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <thread>
+
+#include "composition/Composer.h"
+#include "composition/PageDrawer.h"
+#include "tests/composition/Children.h"
+#include "tests/composition/Composed.h"
+#include "tests/composition/DrawnPdf.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace cutline {
+namespace {
+
+using namespace std::chrono_literals;
+using std::chrono::steady_clock;
+using test::childrenOfThisProcess;
+using test::drawnPdf;
+using test::labelRequest;
+
+constexpr char kHelpers[] = CUTLINE_BUILD_DIR "/lib/cutline";
+constexpr std::uint32_t kBlack = 0xff000000;
+
+// A program that ends as documents may make a reader end.
+std::string endingWith(const std::string& what) { return "#!/bin/sh\n" + what + "\n"; }
+
+class Composer : public testing::Test {
+ protected:
+  void SetUp() override { ::setenv("TMPDIR", mTemporary.path().c_str(), 1); }
+  void TearDown() override {
+    ::unsetenv("TMPDIR");
+    EXPECT_TRUE(childrenOfThisProcess().empty());
+    EXPECT_TRUE(mTemporary.isEmpty());
+  }
+
+  std::string pdf(const std::string& name = "labels.pdf") const {
+    return mFolder.write(name, drawnPdf({{80, 160, "0 0 40 80 re f"}, {80, 160, ""}}));
+  }
+  // A folder with a program in the composer's place.
+  std::string helpersWith(const std::string& script) const {
+    const std::string path = mFolder.write(std::string("helpers/") + kComposerName, script);
+    ::chmod(path.c_str(), 0755);
+    return mFolder / "helpers";
+  }
+  static std::string errorOf(const Result<ComposedDocument>& composed) {
+    return composed ? "" : composed.error().message;
+  }
+  static std::string refusal(const std::string& path, const std::string& reason) {
+    return "cannot read the document \"" + path + "\": " + reason;
+  }
+  std::string errorWith(const std::string& script, std::chrono::milliseconds patience = 60s) const {
+    return errorOf(compose(helpersWith(script), {pdf()}, labelRequest(), {}, patience));
+  }
+
+  // A program that takes for ever, and starts another one, whose number it writes down.
+  std::string endless() const {
+    return endingWith("sleep 60 & echo $! >" + mFolder / "number" + "; wait");
+  }
+  // Whether what it started goes, too, within a second.
+  bool hasEnded() const {
+    const int process = std::atoi(test::contentsOf(mFolder / "number").c_str());
+    for (int turn = 0; turn < 100 && process > 0; ++turn) {
+      if (::kill(process, 0) != 0) return true;
+      std::this_thread::sleep_for(10ms);
+    }
+    return false;
+  }
+
+  test::TemporaryFolder mFolder;
+  test::TemporaryFolder mTemporary;
+};
+
+TEST_F(Composer, ComposesAPdfThatCanBeDrawn) {
+  const Result<ComposedDocument> composed = compose(kHelpers, {pdf()}, labelRequest());
+  ASSERT_TRUE(composed) << errorOf(composed);
+  EXPECT_EQ(composed->report.documentPages, 2);
+  ASSERT_EQ(composed->report.pages.size(), 2U);
+  EXPECT_EQ(composed->report.pages[0].scale, 1);
+  EXPECT_TRUE(test::contentsOf(composed->file->path()).starts_with("%PDF-"));
+  const auto drawer = PageDrawer::open(kHelpers, composed->file);
+  ASSERT_TRUE(drawer) << drawer.error().message;
+  const Result<PageImage> image = (*drawer)->draw(0, 1);
+  ASSERT_TRUE(image) << image.error().message;
+  EXPECT_EQ(image->width, 100);
+  EXPECT_EQ(image->height, 200);
+  EXPECT_EQ(image->pixels[150 * 100 + 30], kBlack);
+}
+
+TEST_F(Composer, TheFileGoesWithTheLastWhoHoldsIt) {
+  std::string path;
+  {
+    const Result<ComposedDocument> composed = compose(kHelpers, {pdf()}, labelRequest());
+    ASSERT_TRUE(composed) << errorOf(composed);
+    const ComposedDocument other = *composed;
+    path = other.file->path();
+    EXPECT_EQ(std::filesystem::status(path).permissions(),
+              std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+  }
+  EXPECT_FALSE(std::filesystem::exists(path));
+}
+
+TEST_F(Composer, ComposesEveryKind) {
+  const std::string picture = CUTLINE_SOURCE_DIR "/samples/documents/label.png";
+  const std::string text = mFolder.write("labels.txt", "Shelf 12\n\nShelf 13\n");
+  const std::string drawing = mFolder.write(
+      "drawing.svg", "<svg xmlns='http://www.w3.org/2000/svg' width='20' height='20'/>");
+  const std::string program = mFolder.write("page.ps",
+                                            "%!PS\n<</PageSize [80 160]>> setpagedevice\n"
+                                            "0 0 40 80 rectfill showpage\n");
+  const Result<ComposedDocument> composed =
+      compose(kHelpers, {pdf(), picture, text, drawing, program}, labelRequest());
+  ASSERT_TRUE(composed) << errorOf(composed);
+  EXPECT_EQ(composed->report.documentPages, 2 + 1 + 2 + 1 + 1);
+}
+
+TEST_F(Composer, TakesAnyName) {
+  for (const char* name : {"two\nlines.pdf", "\"quoted\" 'too'.pdf", "back\\slash\\n.pdf",
+                           " blank .pdf", "-o.pdf", "%1.pdf", "\xff\xfe.pdf"}) {
+    const Result<ComposedDocument> composed = compose(kHelpers, {pdf(name)}, labelRequest());
+    EXPECT_TRUE(composed) << name << errorOf(composed);
+  }
+}
+
+TEST_F(Composer, RefusesWhatIsNoFile) {
+  const auto errorAt = [](const std::string& path) {
+    return errorOf(compose(kHelpers, {path}, labelRequest()));
+  };
+  const std::string missing = mFolder / "missing.pdf";
+  EXPECT_EQ(errorAt(missing), refusal(missing, "No such file or directory"));
+  EXPECT_EQ(errorAt(mFolder.path()), refusal(mFolder.path(), "it is a folder"));
+  const std::string empty = mFolder.write("empty.pdf", "");
+  EXPECT_EQ(errorAt(empty), refusal(empty, "it is empty"));
+  const std::string pipe = mFolder / "pipe";
+  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+  EXPECT_EQ(errorAt(pipe), refusal(pipe, "it is not a file"));
+  EXPECT_EQ(errorOf(compose(kHelpers, {}, labelRequest())), "there is no document");
+}
+
+TEST_F(Composer, NamesTheDocumentThatCannotBeRead) {
+  const std::string damaged = mFolder.write("damaged.pdf", "%PDF-1.7\nnothing of it\n");
+  EXPECT_EQ(errorOf(compose(kHelpers, {pdf(), damaged}, labelRequest())),
+            refusal(damaged, "it is damaged; open it elsewhere and save it again"));
+  const std::string unknown = mFolder.write("unknown", std::string("\0\1\2", 3));
+  EXPECT_EQ(errorOf(compose(kHelpers, {unknown, pdf()}, labelRequest())),
+            refusal(unknown,
+                    "it is not of a kind that can be read: PDF, PostScript, PNG, JPEG, TIFF, "
+                    "WebP, SVG or text (UTF-8); \"-o raw\" sends it to the printer as it is"));
+}
+
+TEST_F(Composer, SaysThatItsProgramIsMissing) {
+  EXPECT_EQ(errorOf(compose("/nonexistent", {pdf()}, labelRequest())),
+            "cannot start the program \"/nonexistent/cutline-compose\": No such file or directory");
+}
+
+struct End {
+  const char* script;
+  const char* reason;
+};
+
+TEST_F(Composer, SaysWhyItsProgramEnded) {
+  const std::string path = pdf();
+  const std::string tooLarge =
+      "it needs more memory than a document may take; save it with smaller pictures, or in parts";
+  const std::string tooSlow =
+      "it takes too long to read; save it as a PDF elsewhere, or print it in parts";
+  EXPECT_EQ(errorWith(endingWith("kill -KILL $$")), refusal(path, tooLarge));
+  EXPECT_EQ(errorWith(endingWith("kill -XFSZ $$")), refusal(path, tooLarge));
+  EXPECT_EQ(errorWith(endingWith("kill -XCPU $$")), refusal(path, tooSlow));
+  for (const char* end : {"kill -SEGV $$", "exit 1", "exit 0", "echo nonsense"})
+    EXPECT_EQ(errorWith(endingWith(end)), refusal(path, "its reader failed")) << end;
+}
+
+TEST_F(Composer, NamesEveryDocumentWhereItIsNotKnownWhichOneItWas) {
+  EXPECT_EQ(errorOf(compose(helpersWith(endingWith("exit 1")), {pdf("a.pdf"), pdf("b.pdf")},
+                            labelRequest())),
+            "cannot read one of the documents \"" + mFolder / "a.pdf" + "\", \"" +
+                mFolder / "b.pdf" + "\": its reader failed");
+}
+
+TEST_F(Composer, GivesUpAfterAWhile) {
+  const auto start = steady_clock::now();
+  EXPECT_EQ(errorWith(endless(), 300ms),
+            refusal(mFolder / "labels.pdf",
+                    "it takes too long to read; save it as a PDF elsewhere, or print it in parts"));
+  EXPECT_LT(steady_clock::now() - start, 5s);
+  EXPECT_TRUE(hasEnded());
+}
+
+TEST_F(Composer, StopsWhenAsked) {
+  std::stop_source source;
+  const auto start = steady_clock::now();
+  std::thread stopper([&] {
+    std::this_thread::sleep_for(100ms);
+    source.request_stop();
+  });
+  const Result<ComposedDocument> composed =
+      compose(helpersWith(endless()), {pdf()}, labelRequest(), source.get_token());
+  stopper.join();
+  EXPECT_FALSE(composed);
+  EXPECT_LT(steady_clock::now() - start, 5s);
+  EXPECT_TRUE(hasEnded());
+}
+
+TEST_F(Composer, StopsAtOnceWhenItWasAskedBefore) {
+  std::stop_source source;
+  source.request_stop();
+  EXPECT_FALSE(compose(helpersWith(endless()), {pdf()}, labelRequest(), source.get_token()));
+}
+
+TEST_F(Composer, PassesNothingButTheDocuments) {
+  const std::string list = mFolder / "list";
+  helpersWith("");
+  EXPECT_NE(errorWith(endingWith("ls /proc/$$/fd | grep -x '[0-9]' >" + list)), "");
+  // The shell's own begin at 10.
+  EXPECT_EQ(test::contentsOf(list), "0\n1\n2\n3\n4\n");
+}
+
+// A page that unpacks to far more than it was.
+TEST_F(Composer, RefusesADocumentThatTakesAllMemory) {
+  const std::string path =
+      mFolder.write("bomb.svg",
+                    "<svg xmlns='http://www.w3.org/2000/svg' width='9000' height='9000'><filter "
+                    "id='f'><feGaussianBlur stdDeviation='9'/><feGaussianBlur stdDeviation='8'/>"
+                    "</filter><rect width='9000' height='9000' filter='url(#f)'/></svg>");
+  const auto start = steady_clock::now();
+  const std::string error = errorOf(compose(kHelpers, {path}, labelRequest()));
+  EXPECT_TRUE(error.starts_with(refusal(path, "it "))) << error;
+  EXPECT_LT(steady_clock::now() - start, 20s);
+}
+
+}  // namespace
+}  // namespace cutline
