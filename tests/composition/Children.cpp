@@ -17,4 +17,13 @@ std::vector<pid_t> childrenOfThisProcess() {
   return children;
 }
 
+// An orphan that ended is there until the system's first process looks for it.
+bool isRunning(pid_t process) {
+  std::ifstream file("/proc/" + std::to_string(process) + "/stat");
+  std::string facts;
+  std::getline(file, facts);
+  const std::size_t name = facts.rfind(')');
+  return name != std::string::npos && facts.substr(name + 2, 1) != "Z";
+}
+
 }  // namespace cutline::test

@@ -10,4 +10,7 @@ namespace cutline::test {
 // Of this process; also those that ended and were not waited for.
 std::vector<pid_t> childrenOfThisProcess();
 
+// Whether there is such a process, and it has not ended.
+bool isRunning(pid_t process);
+
 }  // namespace cutline::test

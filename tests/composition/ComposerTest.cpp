@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <thread>
@@ -66,7 +65,7 @@ class Composer : public testing::Test {
   bool hasEnded() const {
     const int process = std::atoi(test::contentsOf(mFolder / "number").c_str());
     for (int turn = 0; turn < 100 && process > 0; ++turn) {
-      if (::kill(process, 0) != 0) return true;
+      if (!test::isRunning(process)) return true;
       std::this_thread::sleep_for(10ms);
     }
     return false;
