@@ -76,6 +76,7 @@ Result<int> submitJob(const ServerOptions& server, const PrintRequest& request,
                       const SpoolProgress& progress) {
   auto document = DocumentFile::open(request.path);
   if (!document) return document.error();
+  if (!request.documentName.empty()) document->name = request.documentName;
   if (progress && !progress(0, document->size)) return givenUp();
   auto connection = ServerConnection::open(server);
   if (!connection) return connection.error();

@@ -17,7 +17,8 @@ struct PrintRequest {
   DestinationName destination;
   std::string path;  // the document; "-" is no file: callers spool standard input first
   std::string title;
-  OptionList options;  // sent as they are
+  OptionList options;             // sent as they are
+  std::string documentName = {};  // what the server calls the document; the file's name when empty
 };
 
 // Called while the document is sent, with the bytes sent so far and the document's size; answering

@@ -21,8 +21,8 @@ namespace {
 constexpr std::chrono::milliseconds kBetweenQuestions{250};
 constexpr double kWhole = 100;
 
-std::string titleOf(const CommandLine& line) {
-  return line.title.value_or(std::filesystem::path(line.files.front()).filename().string());
+std::string nameOf(const CommandLine& line) {
+  return std::filesystem::path(line.files.front()).filename().string();
 }
 
 // What can be said without a printer is said before one is asked.
@@ -80,8 +80,9 @@ Result<Done> send(const CommandLine& line, const std::string& path, HeadlessSess
   const Result<OptionList> options = session.model().prepareToPrint();
   if (!options) return options.error();
   const DestinationName name = session.model().destination().name;
-  const Result<int> job = submitJob(line.server, {name, path, titleOf(line), *options},
-                                    [](std::uint64_t, std::uint64_t) { return true; });
+  const Result<int> job = submitJob(
+      line.server, {name, path, line.title.value_or(nameOf(line)), *options, nameOf(line)},
+      [](std::uint64_t, std::uint64_t) { return true; });
   if (!job) return job.error();
   streams.out << "request id is " << jobName(name, *job) << " (" << line.files.size() << " file(s))"
               << std::endl;

@@ -1,5 +1,6 @@
 #include "tests/support/PrivateServer.h"
 
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -43,6 +44,12 @@ bool PrivateServer::hasPrinted(int jobId) const {
 
 std::string PrivateServer::printedFile(int jobId, const std::string& ending) const {
   return mFolder / "printed/job-" + std::to_string(jobId) + ending;
+}
+
+std::string PrivateServer::sentDocument(int jobId) const {
+  std::array<char, 32> name{};
+  std::snprintf(name.data(), name.size(), "spool/d%05d-001", jobId);
+  return mFolder / name.data();
 }
 
 // The list is stored last, so where it is the picture is too.

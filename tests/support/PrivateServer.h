@@ -33,6 +33,8 @@ class PrivateServer {
   bool hasPrinted(int jobId) const;
   // What it stored, as a picture (".png") or as a list of facts (".txt").
   std::string printedFile(int jobId, const std::string& ending) const;
+  // The document as it was sent, while its job has not ended.
+  std::string sentDocument(int jobId) const;
   // The jobs whose picture and list it has stored.
   std::set<int> printedJobs() const;
 
