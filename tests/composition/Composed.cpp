@@ -79,22 +79,32 @@ unsigned Composed::colourAt(double x, double y, int page) {
   return row[across] & 0xffffff;
 }
 
-std::string Composed::blackQuarters(int page) {
+testing::AssertionResult Composed::isMarkedAt(const Area& mark, int page, double near) {
+  const double middle = (mark.bottom + mark.top) / 2;
+  const double centre = (mark.left + mark.right) / 2;
+  const struct {
+    double x, y;
+    bool isBlack;
+  } places[] = {
+      {mark.left + near, mark.bottom + near, true},
+      {mark.right - near, mark.bottom + near, true},
+      {mark.left + near, mark.top - near, true},
+      {mark.right - near, mark.top - near, true},
+      {mark.left - near, middle, false},
+      {mark.right + near, middle, false},
+      {centre, mark.bottom - near, false},
+      {centre, mark.top + near, false},
+  };
   const poppler::image& image = mDrawn->page(page);
-  const double width = image.width() / kScale;
-  const double height = image.height() / kScale;
-  std::string found;
-  for (const char quarter : {'a', 'b', 'c', 'd'}) {
-    const double left = quarter == 'b' || quarter == 'd' ? width / 2 : 0;
-    const double bottom = quarter >= 'c' ? height / 2 : 0;
-    bool isBlack = false;
-    for (double x = left + 1; x < left + width / 2; ++x) {
-      for (double y = bottom + 1; y < bottom + height / 2; ++y)
-        isBlack = isBlack || isBlackAt(x, y, page);
-    }
-    if (isBlack) found += quarter;
+  for (const auto& place : places) {
+    const bool isOnLabel = place.x > 0 && place.y > 0 && place.x * kScale < image.width() &&
+                           place.y * kScale < image.height();
+    if (!isOnLabel) continue;
+    if (place.isBlack ? !isBlackAt(place.x, place.y, page) : !isWhiteAt(place.x, place.y, page))
+      return testing::AssertionFailure() << "not " << (place.isBlack ? "black" : "white") << " at "
+                                         << place.x << ", " << place.y;
   }
-  return found;
+  return testing::AssertionSuccess();
 }
 
 }  // namespace cutline::test

@@ -1,6 +1,8 @@
 // Documents composed, and what came out, drawn by a reader of PDFs.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <memory>
 #include <string>
 #include <vector>
@@ -36,9 +38,12 @@ class Composed {
   unsigned colourAt(double x, double y, int page = 0);
   bool isBlackAt(double x, double y, int page = 0) { return colourAt(x, y, page) < 0x303030; }
   bool isWhiteAt(double x, double y, int page = 0) { return colourAt(x, y, page) > 0xf0f0f0; }
-  // "abcd", those of the letters in whose place something black is: the label's lower left, lower
-  // right, upper left, upper right quarters.
-  std::string blackQuarters(int page = 0);
+  // Whether this rectangle is black, and white around it, seen so near to its edges, in points.
+  testing::AssertionResult isMarkedAt(const Area& mark, int page = 0, double near = 0.5);
+  // The same of a mark in a picture, whose edges the reader of PDFs draws on the next dot but one.
+  testing::AssertionResult isPictureMarkedAt(const Area& mark, int page = 0) {
+    return isMarkedAt(mark, page, 1);
+  }
 
  private:
   CompositionReport mReport;

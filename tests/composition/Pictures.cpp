@@ -4,11 +4,14 @@
 // The library's header needs the one above.
 #include <jpeglib.h>
 #include <png.h>
+#include <tiffio.h>
+#include <unistd.h>
 #include <webp/encode.h>
 
 #include <cmath>
 #include <cstdlib>
-#include <stdexcept>
+
+#include "tests/composition/MemoryFile.h"
 
 namespace cutline::test {
 namespace {
@@ -28,7 +31,7 @@ Pixels markedPixels(unsigned width, unsigned height, unsigned channels) {
   Pixels pixels{width, height, channels, {}};
   pixels.bytes.assign(std::size_t{width} * height * channels, 255);
   const bool hasOpacity = channels % 2 == 0;
-  for (unsigned y = 0; y < width / 4; ++y) {
+  for (unsigned y = 0; y < width / 8; ++y) {
     for (unsigned x = 0; x < width / 4; ++x) {
       for (unsigned channel = 0; channel < channels - (hasOpacity ? 1 : 0); ++channel)
         pixels.bytes[(std::size_t{y} * width + x) * channels + channel] = 0;
@@ -107,6 +110,106 @@ std::string webpOf(const Pixels& pixels) {
   const std::string file(reinterpret_cast<char*>(bytes), size);
   WebPFree(bytes);
   return file;
+}
+
+namespace {
+
+void writeRows(TIFF* file, const Pixels& pixels, bool isBlackAndWhite) {
+  for (unsigned y = 0; y < pixels.height; ++y) {
+    const std::uint8_t* from =
+        pixels.bytes.data() + std::size_t{y} * pixels.width * pixels.channels;
+    std::vector<std::uint8_t> row(from, from + std::size_t{pixels.width} * pixels.channels);
+    if (isBlackAndWhite) {
+      row.assign((pixels.width + 7) / 8, 0);
+      for (unsigned x = 0; x < pixels.width; ++x)
+        row[x / 8] |= static_cast<std::uint8_t>(from[x] == 0 ? 0x80 >> x % 8 : 0);
+    }
+    TIFFWriteScanline(file, row.data(), y);
+  }
+}
+
+void writePage(TIFF* file, const Pixels& pixels, const TiffForm& form) {
+  TIFFSetField(file, TIFFTAG_IMAGEWIDTH, pixels.width);
+  TIFFSetField(file, TIFFTAG_IMAGELENGTH, pixels.height);
+  TIFFSetField(file, TIFFTAG_SAMPLESPERPIXEL, pixels.channels);
+  TIFFSetField(file, TIFFTAG_BITSPERSAMPLE, form.isBlackAndWhite ? 1 : 8);
+  TIFFSetField(file, TIFFTAG_PHOTOMETRIC,
+               form.isBlackAndWhite  ? PHOTOMETRIC_MINISWHITE
+               : pixels.channels < 3 ? PHOTOMETRIC_MINISBLACK
+                                     : PHOTOMETRIC_RGB);
+  TIFFSetField(file, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG);
+  TIFFSetField(file, TIFFTAG_COMPRESSION, form.compression);
+  TIFFSetField(file, TIFFTAG_ORIENTATION, form.orientation);
+  TIFFSetField(file, TIFFTAG_ROWSPERSTRIP, 16);
+  if (pixels.channels % 2 == 0) {
+    const std::uint16_t opacity = EXTRASAMPLE_UNASSALPHA;
+    TIFFSetField(file, TIFFTAG_EXTRASAMPLES, 1, &opacity);
+  }
+  if (form.density.across > 0) {
+    TIFFSetField(file, TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH);
+    TIFFSetField(file, TIFFTAG_XRESOLUTION, form.density.across);
+    TIFFSetField(file, TIFFTAG_YRESOLUTION, form.density.along);
+  }
+  writeRows(file, pixels, form.isBlackAndWhite);
+  TIFFWriteDirectory(file);
+}
+
+// Numbers in the order of bytes that the block has.
+class ExifWriter {
+ public:
+  explicit ExifWriter(bool isBigEndian) : mIsBigEndian(isBigEndian) {
+    mBytes = isBigEndian ? "MM" : "II";
+    number(42, 2);
+    number(8, 4);
+  }
+
+  void number(unsigned value, unsigned size) {
+    for (unsigned byte = 0; byte < size; ++byte) {
+      const unsigned shift = 8 * (mIsBigEndian ? size - 1 - byte : byte);
+      mBytes += static_cast<char>(value >> shift & 0xff);
+    }
+  }
+
+  // A short number stands in the first two of four bytes.
+  void entry(unsigned tag, unsigned form, unsigned value) {
+    number(tag, 2);
+    number(form, 2);
+    number(1, 4);
+    number(value, form == 3 ? 2 : 4);
+    if (form == 3) number(0, 2);
+  }
+
+  std::string bytes() const { return mBytes; }
+
+ private:
+  std::string mBytes;
+  bool mIsBigEndian;
+};
+
+}  // namespace
+
+std::string tiffOf(const std::vector<Pixels>& pages, const TiffForm& form) {
+  const MemoryFile memory;
+  TIFF* file = TIFFFdOpen(::dup(memory.descriptor()), "picture", "w");
+  for (const Pixels& page : pages) writePage(file, page, form);
+  TIFFClose(file);
+  return memory.bytes();
+}
+
+std::string exifOf(unsigned orientation, Density density, bool isBigEndian) {
+  constexpr unsigned kRationals = 8 + 2 + 4 * 12 + 4;
+  ExifWriter writer(isBigEndian);
+  writer.number(4, 2);
+  writer.entry(0x112, 3, orientation);
+  writer.entry(0x11a, 5, kRationals);
+  writer.entry(0x11b, 5, kRationals + 8);
+  writer.entry(0x128, 3, 2);
+  writer.number(0, 4);
+  for (const double dots : {density.across, density.along}) {
+    writer.number(static_cast<unsigned>(dots * 10), 4);
+    writer.number(dots > 0 ? 10 : 0, 4);
+  }
+  return writer.bytes();
 }
 
 }  // namespace cutline::test

@@ -17,7 +17,8 @@ struct Pixels {
   std::vector<std::uint8_t> bytes;
 };
 
-// White, with a black square a quarter as wide as the picture in the upper left corner.
+// White, with a black mark in the upper left corner: a quarter as wide as the picture, and an
+// eighth as high.
 Pixels markedPixels(unsigned width, unsigned height, unsigned channels = 3);
 
 struct Density {
@@ -29,5 +30,18 @@ std::string pngOf(const Pixels& pixels, Density density = {}, bool isInterlaced 
 // With a block of Exif where it is not empty; three channels or one.
 std::string jpegOf(const Pixels& pixels, Density density = {}, const std::string& exif = {});
 std::string webpOf(const Pixels& pixels);
+
+// What a TIFF's picture is stored as.
+struct TiffForm {
+  unsigned compression = 1;  // none
+  unsigned orientation = 1;
+  bool isBlackAndWhite = false;  // of one channel: a bit a pixel
+  Density density;
+};
+// A picture a page, all of the same form.
+std::string tiffOf(const std::vector<Pixels>& pages, const TiffForm& form = {});
+
+// A block of Exif that says how a picture is turned, and its density.
+std::string exifOf(unsigned orientation, Density density = {}, bool isBigEndian = false);
 
 }  // namespace cutline::test
