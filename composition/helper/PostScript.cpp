@@ -14,7 +14,6 @@
 #include <vector>
 
 #include "composition/CompositionErrors.h"
-#include "composition/helper/Confinement.h"
 
 namespace cutline {
 namespace {
@@ -23,8 +22,6 @@ constexpr char kInterpreter[] = "gs";
 constexpr int kMade = STDERR_FILENO + 1;
 constexpr int kNotFound = 127;
 constexpr int kNotConfined = 126;
-constexpr ProcessLimits kLimits = {
-    .memory = 512U << 20U, .fileSize = 128U << 20U, .cpuSeconds = 30, .files = 64};
 // What the interpreter says when its memory does not suffice.
 constexpr std::string_view kNoMemory = "VMerror";
 
@@ -57,14 +54,15 @@ Command commandFor(int most) {
 }
 
 // In the child. Every descriptor but those four is closed when the interpreter starts.
-[[noreturn]] void become(Command& command, int document, int made, int log) {
+[[noreturn]] void become(Command& command, int document, int made, int log,
+                         const ProcessLimits& limits) {
   std::vector<char*> arguments = Command::pointers(command.arguments);
   std::vector<char*> environment = Command::pointers(command.environment);
   const char* folder = std::getenv("TMPDIR");
   const bool isSet = ::dup2(document, STDIN_FILENO) >= 0 && ::dup2(log, STDOUT_FILENO) >= 0 &&
                      ::dup2(log, STDERR_FILENO) >= 0 && ::dup2(made, kMade) >= 0 &&
                      ::close_range(kMade + 1, ~0U, 0) == 0;
-  if (!isSet || !confineInterpreter(kLimits, folder)) ::_exit(kNotConfined);
+  if (!isSet || !confineInterpreter(limits, folder)) ::_exit(kNotConfined);
   ::execvpe(kInterpreter, arguments.data(), environment.data());
   ::_exit(kNotFound);
 }
@@ -95,13 +93,13 @@ std::optional<PostScriptProblem> problemIn(int status, int log) {
 
 }  // namespace
 
-PostScriptResult pdfOfPostScript(int document, int most) {
+PostScriptResult pdfOfPostScript(int document, int most, const ProcessLimits& limits) {
   FileDescriptor made(::memfd_create("cutline-postscript", MFD_CLOEXEC));
   const FileDescriptor log(::memfd_create("cutline-log", MFD_CLOEXEC));
   Command command = commandFor(most);
   const pid_t process = made && log ? ::fork() : -1;
   if (process < 0) return {FileDescriptor(), PostScriptProblem{}};
-  if (process == 0) become(command, document, made.get(), log.get());
+  if (process == 0) become(command, document, made.get(), log.get(), limits);
   const int status = ended(process);
   return {std::move(made), problemIn(status, log.get())};
 }

@@ -5,6 +5,7 @@
 
 #include "base/FileDescriptor.h"
 #include "composition/Composition.h"
+#include "composition/helper/Confinement.h"
 
 namespace cutline {
 
@@ -18,9 +19,13 @@ struct PostScriptResult {
   std::optional<PostScriptProblem> problem;
 };
 
+inline constexpr ProcessLimits kInterpreterLimits = {
+    .memory = 512U << 20U, .fileSize = 128U << 20U, .cpuSeconds = 30, .files = 64};
+
 // `document` is an open file, read from its beginning. Only the first `most` pages, or all for 0.
 // The interpreter keeps its own files below the directory for temporary files, and may write
 // nowhere else.
-PostScriptResult pdfOfPostScript(int document, int most);
+PostScriptResult pdfOfPostScript(int document, int most,
+                                 const ProcessLimits& limits = kInterpreterLimits);
 
 }  // namespace cutline

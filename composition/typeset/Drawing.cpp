@@ -20,10 +20,17 @@ struct Released {
 };
 using Handle = std::unique_ptr<RsvgHandle, Released>;
 
-// The part of the drawing that is the page, in its pixels.
+enum class DrawnPart {
+  sized,   // it says how large it is
+  viewed,  // it says what part of it is seen, and so its proportions
+  inked,   // whatever it draws
+};
+
+// The page in the drawing's pixels.
 struct DrawingView {
-  RsvgRectangle area{0, 0, 0, 0};
-  bool isStated = true;
+  double width = 0;
+  double height = 0;
+  DrawnPart part = DrawnPart::sized;
 };
 
 // No file that it could refer to is near it: it gets no place of its own.
@@ -34,30 +41,31 @@ Handle readDrawing(std::string_view svg) {
   return drawing;
 }
 
-// What it says of itself, or its proportions, or as much as is drawn.
+// Nothing where it draws nothing and says nothing.
 std::optional<DrawingView> viewOf(RsvgHandle* drawing) {
   DrawingView view;
-  RsvgRectangle& area = view.area;
-  if (rsvg_handle_get_intrinsic_size_in_pixels(drawing, &area.width, &area.height)) return view;
-  view.isStated = false;
+  if (rsvg_handle_get_intrinsic_size_in_pixels(drawing, &view.width, &view.height)) return view;
   gboolean hasBox = FALSE;
   RsvgRectangle box{};
   rsvg_handle_get_intrinsic_dimensions(drawing, nullptr, nullptr, nullptr, nullptr, &hasBox, &box);
-  if (hasBox) {
-    area.width = box.width;
-    area.height = box.height;
-    return view;
-  }
-  if (!rsvg_handle_get_geometry_for_element(drawing, nullptr, &area, nullptr, nullptr))
+  if (hasBox) return DrawingView{box.width, box.height, DrawnPart::viewed};
+  if (!rsvg_handle_get_geometry_for_element(drawing, nullptr, &box, nullptr, nullptr))
     return std::nullopt;
-  return view;
+  return DrawingView{box.width, box.height, DrawnPart::inked};
 }
 
-bool isPaper(const RsvgRectangle& area) {
+bool draw(RsvgHandle* drawing, const DrawingView& view, cairo_t* canvas) {
+  const RsvgRectangle page{0, 0, view.width, view.height};
+  if (view.part != DrawnPart::inked)
+    return rsvg_handle_render_document(drawing, canvas, &page, nullptr) != FALSE;
+  return rsvg_handle_render_element(drawing, canvas, nullptr, &page, nullptr) != FALSE;
+}
+
+bool isPaper(const DrawingView& view) {
   const auto isLength = [](double pixels) {
     return pixels > 0 && pixels * kPointsPerPixel <= kMostPoints;
   };
-  return isLength(area.width) && isLength(area.height);
+  return isLength(view.width) && isLength(view.height);
 }
 
 bool failed(TypesetProblem& problem, DocumentProblem reason) {
@@ -72,18 +80,15 @@ bool drawingPage(std::string_view svg, TypesetPages& pages, TypesetProblem& prob
   if (!drawing) return failed(problem, DocumentProblem::damaged);
   const std::optional<DrawingView> view = viewOf(drawing.get());
   if (!view) return failed(problem, DocumentProblem::empty);
-  const RsvgRectangle& area = view->area;
-  if (!isPaper(area)) return failed(problem, DocumentProblem::badSize);
+  if (!isPaper(*view)) return failed(problem, DocumentProblem::badSize);
   PdfCanvas pdf;
-  cairo_t* canvas = pdf.startPage(area.width * kPointsPerPixel, area.height * kPointsPerPixel);
+  cairo_t* canvas = pdf.startPage(view->width * kPointsPerPixel, view->height * kPointsPerPixel);
   cairo_scale(canvas, kPointsPerPixel, kPointsPerPixel);
-  cairo_translate(canvas, -area.x, -area.y);
-  const RsvgRectangle whole{0, 0, area.width, area.height};
-  const bool isDrawn = rsvg_handle_render_document(drawing.get(), canvas, &whole, nullptr) != FALSE;
+  const bool isDrawn = draw(drawing.get(), *view, canvas);
   std::optional<std::string> file = pdf.finish();
   if (!isDrawn) return failed(problem, DocumentProblem::damaged);
   if (!file) return failed(problem, DocumentProblem::tooLarge);
-  pages = {std::move(*file), view->isStated};
+  pages = {std::move(*file), view->part == DrawnPart::sized};
   return true;
 }
 

@@ -10,8 +10,6 @@ namespace {
 constexpr double kLeastSize = 4;
 // Text of this size is read whole rather than broken and larger.
 constexpr double kReadableSize = 6;
-// For what rounding adds, so that nothing is cut off.
-constexpr double kSlack = 0.999;
 constexpr int kSearchSteps = 12;
 
 bool hasWidth(const TextRoom& room) { return !room.isEndless || room.width > 0; }
@@ -22,7 +20,7 @@ double widthOf(const TextRoom& room) {
 
 // The largest size of a text that is not broken.
 double wholeSize(const TextBlock& block, const TextRoom& room) {
-  return kSlack * std::min(widthOf(room) / block.width, room.height / block.height);
+  return std::min(widthOf(room) / block.width, room.height / block.height);
 }
 
 bool fits(const TextBlock& block, const TextRoom& room, double size) {
@@ -52,7 +50,7 @@ class WrappedFit {
  private:
   bool fitsAt(double size, std::string_view label, const TextBlock& whole) {
     if (fits(whole, mRoom, size)) return true;
-    return fits(mShaper.shape(label, mFit.wrapping, kSlack * mRoom.width / size), mRoom, size);
+    return fits(mShaper.shape(label, mFit.wrapping, mRoom.width / size), mRoom, size);
   }
 
   TextShaper& mShaper;
@@ -94,7 +92,7 @@ TextBlock shaped(TextShaper& shaper, std::string_view label, const TextFit& fit,
                  const TextRoom& room) {
   const TextBlock whole = shaper.shape(label);
   if (whole.width * fit.size <= widthOf(room) || fit.wrapping == Wrapping::none) return whole;
-  return shaper.shape(label, fit.wrapping, kSlack * room.width / fit.size);
+  return shaper.shape(label, fit.wrapping, room.width / fit.size);
 }
 
 }  // namespace cutline

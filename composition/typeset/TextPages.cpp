@@ -18,14 +18,23 @@ double leftOf(const TextBlock& block, double width, double room) {
   return block.isRightToLeft ? free : 0;
 }
 
+// The room without a margin that keeps what lies on its edge from being cut off by rounding.
+constexpr double kInset = 0.005;
+TextRoom inner(const TextRoom& room) {
+  const double both = 2 * kInset * room.height;
+  return {std::max(room.width - both, 0.0), room.height - both, room.isEndless};
+}
+
 void drawLabel(PdfCanvas& pdf, TextShaper& shaper, std::string_view label, const TextFit& fit,
                const TextRoom& room) {
-  const TextBlock block = shaped(shaper, label, fit, room);
+  const TextRoom within = inner(room);
+  const TextBlock block = shaped(shaper, label, fit, within);
   const double width = block.width * fit.size;
-  const double pageWidth = room.isEndless ? width : room.width;
+  const double margin = (room.height - within.height) / 2;
+  const double pageWidth = room.isEndless ? width + 2 * margin : room.width;
   cairo_t* canvas = pdf.startPage(pageWidth, room.height);
   // Of what is too large the beginning is seen.
-  const double left = std::max(leftOf(block, width, pageWidth), 0.0);
+  const double left = std::max(leftOf(block, width, pageWidth - 2 * margin), 0.0) + margin;
   const double top = std::max((room.height - block.height * fit.size) / 2, 0.0);
   cairo_translate(canvas, left - block.left * fit.size, top - block.top * fit.size);
   shaper.draw(canvas, fit.size);
@@ -49,8 +58,8 @@ bool textPages(std::string_view text, const TextRoom& room, const TextSettings& 
   if (auto reason = problemWith(labels)) return failed(problem, std::move(*reason));
 
   TextShaper shaper(settings.font);
-  const TextFit fit =
-      settings.size > 0 ? TextFit{settings.size, Wrapping::anywhere} : fitted(shaper, labels, room);
+  const TextFit fit = settings.size > 0 ? TextFit{settings.size, Wrapping::anywhere}
+                                        : fitted(shaper, labels, inner(room));
   const std::size_t count =
       most > 0 ? std::min(labels.size(), static_cast<std::size_t>(most)) : labels.size();
   PdfCanvas pdf;
