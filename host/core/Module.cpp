@@ -5,15 +5,12 @@
 #include <string_view>
 
 #include "host/core/BuildId.h"
-#include "host/core/DocumentRenderer.h"
-#include "host/core/Installation.h"
 
 namespace cutline {
 
 namespace {
 
 using BuildFunction = const char* (*)() noexcept;
-using RendererFunction = DocumentRenderer* (*)() noexcept;
 
 Error damaged(const std::string& path, const std::string& reason) {
   return Error{path + ": " + reason + "; install the program again"};
@@ -32,13 +29,6 @@ Result<void*> loadModule(const std::string& path, const char* buildSymbol, const
   void* address = dlsym(module, symbol);
   if (address == nullptr) return damaged(path, std::string("has no ") + symbol);
   return address;
-}
-
-Result<DocumentRenderer*> loadDocumentRenderer(const Installation& installation) {
-  const Result<void*> function = loadModule(installation.modulePath(kDocumentModuleName),
-                                            kDocumentBuildSymbol, kDocumentRendererSymbol);
-  if (!function) return function.error();
-  return reinterpret_cast<RendererFunction>(*function)();
 }
 
 }  // namespace cutline

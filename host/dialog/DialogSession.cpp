@@ -13,7 +13,6 @@
 #include "cups/Destinations.h"
 #include "host/core/CommandLine.h"
 #include "host/core/Installation.h"
-#include "host/core/Module.h"
 #include "host/core/PluginLoader.h"
 #include "host/core/PrinterSelection.h"
 #include "host/dialog/DialogLanguage.h"
@@ -61,19 +60,9 @@ constexpr int kPatienceMilliseconds = 300;
 constexpr QSize kPreferredSize{1120, 720};
 constexpr int kScreenMargin = 40;
 
-std::string titleOf(const CommandLine& line) {
+std::string jobTitle(const CommandLine& line) {
   if (line.title) return *line.title;
-  return line.files.empty() ? std::string()
-                            : std::filesystem::path(line.files.front()).filename().string();
-}
-
-// Without the module documents print all the same, only unseen.
-DocumentLoader::Opener openerOf(const Installation& installation, const std::string& path) {
-  return [installation, path]() -> Result<std::shared_ptr<Document>> {
-    const Result<DocumentRenderer*> renderer = loadDocumentRenderer(installation);
-    if (!renderer) return std::shared_ptr<Document>();
-    return (*renderer)->open(path);
-  };
+  return toUtf8(titleOf(line.files));
 }
 
 void tell(const std::string& message) { std::cerr << "cutline: " << message << std::endl; }
@@ -96,8 +85,12 @@ DialogSession::DialogSession(const DialogRequest& request, FirstPrinter printer)
 }
 
 PrintSource DialogSession::source() const {
-  if (mLine.files.empty()) return {};
-  return {mLine.files.front(), titleOf(mLine), openerOf(mInstallation, mLine.files.front())};
+  PrintSource source;
+  source.paths = mLine.files;
+  source.title = jobTitle(mLine);
+  source.tools = documentToolsIn(mInstallation.helperDirectory());
+  source.isRaw = mLine.asked.isRaw();
+  return source;
 }
 
 int DialogSession::run() {

@@ -2,100 +2,209 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <utility>
 
 #include "host/dialog/DialogLanguage.h"
-#include "qt/QtText.h"
 
 namespace cutline {
 
+struct DocumentLoader::Answer {
+  std::shared_ptr<Document> document;
+  CompositionReport report;
+  bool hasText = false;
+};
+
+struct DocumentLoader::Drawn {
+  QImage image;
+  std::optional<Ink> ink;
+};
+
 namespace {
 
-std::vector<Size> sizesOf(const Result<std::shared_ptr<Document>>& document) {
-  std::vector<Size> sizes;
-  if (!document || !*document) return sizes;
-  for (int page = 0; page < (*document)->pageCount(); ++page) {
-    sizes.push_back((*document)->pageSize(page));
+constexpr int kPatienceMilliseconds = 300;
+constexpr int kMostInks = 200;          // labels
+constexpr double kInkPixels = 250'000;  // of one label
+constexpr double kMostInkScale = 3;     // pixels a point
+
+// Whether both ask for the same: where the content chooses the length, the paper's says nothing.
+bool isSame(CompositionRequest one, CompositionRequest other) {
+  for (CompositionRequest* each : {&one, &other}) {
+    if (!each->lengthBounds) continue;
+    each->label.top -= each->label.length;
+    each->label.length = 0;
   }
-  return sizes;
+  return one.asText() == other.asText();
 }
 
-QImage imageFrom(const PageImage& page) {
-  QImage image(page.width, page.height, QImage::Format_ARGB32_Premultiplied);
-  const std::size_t width = page.width;
-  for (int row = 0; row < image.height(); ++row) {
-    std::memcpy(image.scanLine(row), page.pixels.data() + width * row,
-                width * sizeof(std::uint32_t));
-  }
-  return image;
-}
-
-Result<QImage> draw(Document& document, const PageRequest& request) {
-  const Result<PageImage> page = document.render(request.page, request.scale);
-  if (!page) return page.error();
-  return imageFrom(*page);
+double inkScale(const LabelPage& label) {
+  const double area = std::max(1.0, label.width * label.length);
+  return std::min(kMostInkScale, std::sqrt(kInkPixels / area));
 }
 
 }  // namespace
 
-DocumentLoader::DocumentLoader(QObject* parent) : QObject(parent) {}
+DocumentLoader::DocumentLoader(QObject* parent) : QObject(parent) {
+  mPatience.setSingleShot(true);
+  mPatience.setInterval(kPatienceMilliseconds);
+  connect(&mPatience, &QTimer::timeout, this, [this] { emit waiting(true); });
+}
 
-void DocumentLoader::open(Opener opener) {
-  mIsBusy = true;
-  mBackground.start([this, opener = std::move(opener)]() -> Background::Delivery {
-    const Result<std::shared_ptr<Document>> document = opener();
-    return [this, document, sizes = sizesOf(document)] { take(document, sizes); };
+DocumentLoader::~DocumentLoader() { mStop.request_stop(); }
+
+void DocumentLoader::setDocuments(std::vector<std::string> paths, DocumentTools tools) {
+  stop();
+  mPatience.stop();
+  mPaths = std::move(paths);
+  mTools = std::move(tools);
+  mWanted.reset();
+  mDocument.reset();
+  mReport = {};
+  mInks.clear();
+  ++mComposition;
+  mHasFailed = mIsComplete = false;
+  mIsInkTold = true;
+}
+
+void DocumentLoader::stop() {
+  mStop.request_stop();
+  ++mAsked;
+  mIsComposing = false;
+}
+
+void DocumentLoader::compose(CompositionRequest request) {
+  if (mPaths.empty()) return;
+  request.pages = {};
+  if (mWanted && isSame(*mWanted, request)) return;
+  mWanted = std::move(request);
+  stop();
+  if (!mPatience.isActive()) mPatience.start();
+  ask(true);
+}
+
+void DocumentLoader::ask(bool isFirst) {
+  mIsComposing = true;
+  mIsComplete = false;
+  mStop = std::stop_source();
+  CompositionRequest request = *mWanted;
+  request.pages.most = isFirst ? 1 : 0;
+  mBackground.start([this, isFirst, asked = ++mAsked, paths = mPaths, tools = mTools,
+                     request = std::move(request),
+                     stop = mStop.get_token()]() -> Background::Delivery {
+    const Result<ComposedDocument> composed = tools.compose(paths, request, stop);
+    if (!composed) {
+      return [this, asked, isFirst, error = composed.error()] { take(asked, isFirst, error); };
+    }
+    const Result<std::shared_ptr<Document>> document = tools.open(*composed);
+    if (!document) {
+      return [this, asked, isFirst, error = document.error()] { take(asked, isFirst, error); };
+    }
+    return [this, asked, isFirst, answer = Answer{*document, composed->report, haveText(paths)}] {
+      take(asked, isFirst, answer);
+    };
   });
 }
 
-void DocumentLoader::take(const Result<std::shared_ptr<Document>>& document,
-                          std::vector<Size> sizes) {
-  mIsBusy = false;
-  mHasFailed = !document;
-  if (!document) emit failed(asLine(document.error().sentence));
-  if (document && !*document) emit unavailable();
-  if (document && *document) {
-    mDocument = *document;
-    mPageSizes = std::move(sizes);
-    mIsPlaceholder = mDocument->isPlaceholder();
-    emit opened();
-  }
-  if (!mIsBusy) drawNext();
+void DocumentLoader::take(int asked, bool isFirst, const Result<Answer>& answer) {
+  if (asked != mAsked) return;
+  mIsComposing = false;
+  mPatience.stop();
+  emit waiting(false);
+  if (!answer) return fail(asLine(answer.error().sentence));
+  mHasFailed = false;
+  mDocument = answer->document;
+  mReport = answer->report;
+  mHasText = answer->hasText;
+  mInks.clear();
+  ++mComposition;
+  mIsComplete = !isFirst || mReport.documentPages <= 1;
+  mIsInkTold = !mIsComplete;
+  if (!mIsComplete) ask(false);
+  emit composed();
+  drawNext();
+}
+
+void DocumentLoader::fail(const QString& reason) {
+  mHasFailed = true;
+  mDocument.reset();
+  mReport = {};
+  mInks.clear();
+  ++mComposition;
+  mIsInkTold = true;
+  emit failed(reason);
+  drawNext();
+}
+
+void DocumentLoader::setLook(const PrinterLook& look) { mLook = look; }
+
+bool DocumentLoader::isIdle() const noexcept {
+  return !mIsComposing && !mIsDrawing && mIsInkTold && mRequests.empty();
 }
 
 void DocumentLoader::request(std::deque<PageRequest> requests) {
   mRequests = std::move(requests);
-  if (mDocument && !mIsBusy) drawNext();
+  if (mDocument) drawNext();
 }
 
+// What is seen first, then what is only looked at for its ink.
 void DocumentLoader::drawNext() {
-  if (mRequests.empty()) {
-    emit becameIdle();
-    return;
+  if (mIsDrawing) return;
+  const auto ready = std::ranges::find_if(mRequests, [this](const PageRequest& each) {
+    return mDocument && each.page < mDocument->pageCount();
+  });
+  if (ready != mRequests.end()) {
+    const PageRequest next = *ready;
+    mRequests.erase(ready);
+    return draw(next, false);
   }
-  const PageRequest next = mRequests.front();
-  mRequests.pop_front();
-  mIsBusy = true;
-  mBackground.start([this, next, document = mDocument]() -> Background::Delivery {
-    return [this, next, image = draw(*document, next)] { deliver(next, image); };
+  if (mIsComposing) return;
+  if (const std::optional<PageRequest> next = nextInkRequest()) return draw(*next, true);
+  if (!std::exchange(mIsInkTold, true)) emit inksKnown();
+  mRequests.clear();
+  if (isIdle()) emit becameIdle();
+}
+
+std::optional<PageRequest> DocumentLoader::nextInkRequest() const {
+  if (!mDocument || !mIsComplete) return std::nullopt;
+  const int next = static_cast<int>(mInks.size());
+  if (next >= std::min(mDocument->pageCount(), kMostInks)) return std::nullopt;
+  return PageRequest{next, inkScale(mReport.label)};
+}
+
+void DocumentLoader::draw(const PageRequest& request, bool isForInk) {
+  mIsDrawing = true;
+  mBackground.start([this, request, isForInk, document = mDocument, label = mReport.label,
+                     look = mLook, composition = mComposition]() -> Background::Delivery {
+    const Result<PageImage> page = document->render(request.page, request.scale);
+    if (!page) {
+      return [this, composition, request, isForInk, error = page.error()] {
+        deliver(composition, request, isForInk, error);
+      };
+    }
+    Drawn drawn;
+    if (isForInk) drawn.ink = inkOf(*page, request.scale, label);
+    if (!isForInk) drawn.image = pictureOf(*page, request.scale, label, look);
+    return [this, composition, request, isForInk, drawn] {
+      deliver(composition, request, isForInk, drawn);
+    };
   });
 }
 
-void DocumentLoader::deliver(const PageRequest& request, const Result<QImage>& image) {
-  mIsBusy = false;
-  if (image) {
-    emit pageDrawn(request.page, request.scale, *image);
-  } else {
-    emit pageFailed(request.page, asLine(image.error().sentence));
+void DocumentLoader::deliver(int composition, const PageRequest& request, bool isForInk,
+                             const Result<Drawn>& drawn) {
+  mIsDrawing = false;
+  if (composition == mComposition) {
+    if (isForInk) mInks[request.page] = drawn ? drawn->ink : std::nullopt;
+    if (!isForInk && drawn) emit pageDrawn(request.page, request.scale, drawn->image);
+    if (!drawn) emit pageFailed(request.page, asLine(drawn.error().sentence));
   }
-  if (!mIsBusy) drawNext();
+  drawNext();
 }
 
 namespace {
 
 constexpr std::size_t kMostPages = 40;
 constexpr double kSameScale = 1e-3;
+constexpr double kOldScale = 0;
 
 }  // namespace
 
@@ -114,6 +223,10 @@ bool PageCache::has(int page, double scale) const {
 void PageCache::insert(int page, double scale, QImage image) {
   mEntries[page] = {std::move(image), scale, ++mUses};
   if (mEntries.size() > kMostPages) forgetOldest();
+}
+
+void PageCache::setOld() {
+  for (auto& [page, entry] : mEntries) entry.scale = kOldScale;
 }
 
 void PageCache::clear() { mEntries.clear(); }

@@ -67,9 +67,12 @@ void JobForm::setPapers(const std::vector<PaperSize>& papers) {
   mPapers->clear();
   for (const PaperSize& paper : papers)
     mPapers->addItem(toQString(paper.text), toQString(paper.name));
+  mPaperCount = mPapers->count();
 }
 
-void JobForm::setCurrentPaper(const QString& name) {
+void JobForm::setCurrentPaper(const QString& name, const QString& text) {
+  while (mPapers->count() > mPaperCount) mPapers->removeItem(mPaperCount);
+  if (!name.isEmpty() && mPapers->findData(name) < 0) mPapers->addItem(text, name);
   mPapers->setCurrentIndex(mPapers->findData(name));
 }
 

@@ -26,7 +26,8 @@ class JobForm : public QWidget {
 
   // Setting reports nothing.
   void setPapers(const std::vector<PaperSize>& papers);
-  void setCurrentPaper(const QString& name);
+  // Another one than those, such as a paper of one's own length, is listed as long as it is chosen.
+  void setCurrentPaper(const QString& name, const QString& text);
   void setCopies(int copies);
   void setPages(const QString& ranges);
   // What is wrong with the pages as typed; empty when nothing is.
@@ -53,6 +54,7 @@ class JobForm : public QWidget {
   QLabel* mProblemText;
   QLabel* mPaperCaption;
   QComboBox* mPapers;
+  int mPaperCount = 0;  // without the current one, where that is another
 };
 
 }  // namespace cutline

@@ -27,19 +27,26 @@ JobRunner::JobRunner(std::shared_ptr<PrintServer> server, QObject* parent)
   connect(&mTimer, &QTimer::timeout, this, &JobRunner::poll);
 }
 
-void JobRunner::start(const PrintRequest& request) {
+// Asked to stop before its document is there, it ends without having sent anything.
+void JobRunner::start(const PrintRequest& request, Composing composing) {
   mIsRunning = true;
   mJobId = 0;
   mMissed = 0;
   mDestination = request.destination;
   mIsGivenUp = std::make_shared<std::atomic<bool>>(false);
-  mBackground.start([this, server = mServer, request, isGivenUp = mIsGivenUp,
-                     post = mBackground.poster()]() -> Background::Delivery {
+  mStop = std::stop_source();
+  mBackground.start([this, server = mServer, job = PrintRequest(request),
+                     composing = std::move(composing), stop = mStop.get_token(),
+                     isGivenUp = mIsGivenUp,
+                     post = mBackground.poster()]() mutable -> Background::Delivery {
+    const Result<ComposedDocument> composed = composing ? composing(stop) : ComposedDocument();
+    if (!composed) return [this, error = composed.error()] { takeJob(error); };
+    if (composed->file) job.path = composed->file->path();
     const auto progress = [this, &post, &isGivenUp](std::uint64_t sent, std::uint64_t total) {
       post([this, sent, total] { emit spooling(sent, total); });
       return !isGivenUp->load();
     };
-    return [this, jobId = server->submit(request, progress)] { takeJob(jobId); };
+    return [this, jobId = server->submit(job, progress)] { takeJob(jobId); };
   });
 }
 
@@ -57,6 +64,7 @@ void JobRunner::takeJob(const Result<int>& jobId) {
 
 void JobRunner::cancel() {
   if (!mIsRunning || mIsGivenUp->exchange(true)) return;
+  mStop.request_stop();
   if (isSubmitted()) askToCancel();
 }
 
@@ -144,6 +152,13 @@ void JobProgress::showText(const QString& text) {
   mText->setText(text);
   tellAccessibleName(*this, text);
   tellAccessibleDescription(*mBar, text);
+}
+
+void JobProgress::showComposing() {
+  showText(tr("Composing..."));
+  mBar->setRange(0, 0);
+  mCancel->setEnabled(true);
+  mLeave->hide();
 }
 
 void JobProgress::showSpooling(const QString& printer, quint64 sent, quint64 total) {

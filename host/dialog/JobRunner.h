@@ -6,8 +6,11 @@
 #include <QTimer>
 #include <QWidget>
 #include <atomic>
+#include <functional>
 #include <memory>
+#include <stop_token>
 
+#include "composition/Composer.h"
 #include "cups/PrintJob.h"
 #include "host/dialog/Background.h"
 #include "host/dialog/PrintServer.h"
@@ -18,15 +21,19 @@ class QPushButton;
 
 namespace cutline {
 
-// Sends one job and follows it until it is over, in the background.
+// Composes and sends one job and follows it until it is over, in the background.
 class JobRunner : public QObject {
   Q_OBJECT
 
  public:
   explicit JobRunner(std::shared_ptr<PrintServer> server, QObject* parent = nullptr);
 
-  // One job at a time; printed, cancelled or failed ends it.
-  void start(const PrintRequest& request);
+  // Makes what is sent; called on another thread, and may block.
+  using Composing = std::function<Result<ComposedDocument>(std::stop_token)>;
+
+  // One job at a time; printed, cancelled or failed ends it. What is composed is sent in the place
+  // of the request's path; without anything that composes, that is.
+  void start(const PrintRequest& request, Composing composing);
   // Gives the job up: nothing more of it is sent, or the server is asked to cancel it.
   void cancel();
 
@@ -54,6 +61,7 @@ class JobRunner : public QObject {
   std::shared_ptr<PrintServer> mServer;
   DestinationName mDestination;
   std::shared_ptr<std::atomic<bool>> mIsGivenUp;
+  std::stop_source mStop;
   bool mIsRunning = false;
   int mJobId = 0;
   int mMissed = 0;
@@ -68,6 +76,7 @@ class JobProgress : public QWidget {
  public:
   explicit JobProgress(QWidget* parent = nullptr);
 
+  void showComposing();
   void showSpooling(const QString& printer, quint64 sent, quint64 total);
   void showState(int jobId, const JobStatus& status);
   void showCancelling();

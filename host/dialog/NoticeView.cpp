@@ -8,8 +8,10 @@
 #include <QPainterPath>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <array>
 #include <memory>
+#include <utility>
 
 #include "qt/accessibility.h"
 
@@ -96,16 +98,24 @@ constexpr std::array kSeverities = std::to_array<Severity>({
     Severity::error,    // document
     Severity::warning,  // printer
     Severity::warning,  // conflicts
+    Severity::warning,  // edges
+    Severity::info,     // paper
     Severity::info,     // deviations
 });
 
 Severity severityOf(NoticeTopic topic) { return kSeverities[static_cast<std::size_t>(topic)]; }
+
+bool readTheSame(const Notice& one, const Notice& other) {
+  return one.line == other.line && one.action == other.action && one.hint == other.hint;
+}
 
 void emptyLayout(QLayout& layout) {
   while (QLayoutItem* item = layout.takeAt(0)) {
     const std::unique_ptr<QLayoutItem> owned(item);
     if (!item->widget()) continue;
     item->widget()->hide();
+    // Its letter is free for the next.
+    for (auto* button : item->widget()->findChildren<QPushButton*>()) button->setText({});
     item->widget()->deleteLater();
   }
 }
@@ -123,49 +133,71 @@ void NoticeView::setNotice(NoticeTopic topic, const QString& line) {
 }
 
 void NoticeView::setNotices(NoticeTopic topic, const QStringList& lines) {
-  if (mLines[topic] == lines) return;
-  mLines[topic] = lines;
-  rebuild();
+  std::vector<Notice> notices;
+  for (const QString& line : lines) notices.push_back({line});
+  setNotices(topic, std::move(notices));
+}
+
+// What reads the same stays, with what its button does now: nobody is told it twice.
+void NoticeView::setNotices(NoticeTopic topic, std::vector<Notice> notices) {
+  const bool isSame = std::ranges::equal(mNotices[topic], notices, readTheSame);
+  mNotices[topic] = std::move(notices);
+  if (!isSame) rebuild();
 }
 
 QStringList NoticeView::notices(NoticeTopic topic) const {
-  const auto found = mLines.find(topic);
-  return found == mLines.end() ? QStringList() : found->second;
+  QStringList lines;
+  const auto found = mNotices.find(topic);
+  if (found == mNotices.end()) return lines;
+  for (const Notice& notice : found->second) lines.append(notice.line);
+  return lines;
 }
 
 QString NoticeView::resolveTitle() { return tr("Chan&ge the others"); }
+QString NoticeView::resolveHint() {
+  return tr("Keep the latest choice and change those that exclude it");
+}
 
 void NoticeView::rebuild() {
   emptyLayout(*mRows);
-  for (const auto& [topic, lines] : mLines) {
-    for (const QString& line : lines) {
-      const bool isResolvable = topic == NoticeTopic::conflicts && line == lines.back();
-      mRows->addWidget(makeRow(severityOf(topic), line, isResolvable));
+  for (const auto& [topic, notices] : mNotices) {
+    for (std::size_t place = 0; place < notices.size(); ++place) {
+      mRows->addWidget(makeRow(topic, place));
     }
   }
   setVisible(mRows->count() > 0);
+  emit rebuilt();
   if (!isVisible()) return;
   QAccessibleEvent event(this, QAccessible::Alert);
   QAccessible::updateAccessibility(&event);
 }
 
-QWidget* NoticeView::makeRow(Severity severity, const QString& line, bool isResolvable) {
+QWidget* NoticeView::makeRow(NoticeTopic topic, std::size_t place) {
+  const Notice& notice = mNotices[topic][place];
   auto* row = new QWidget(this);
   setAccessibleRole(*row, QAccessible::AlertMessage);
-  row->setAccessibleName(line);
+  row->setAccessibleName(notice.line);
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(new StatusIcon(severity, row), 0, Qt::AlignTop);
-  auto* text = new QLabel(line, row);
+  layout->addWidget(new StatusIcon(severityOf(topic), row), 0, Qt::AlignTop);
+  auto* text = new QLabel(notice.line, row);
   text->setTextFormat(Qt::PlainText);
   text->setWordWrap(true);
   layout->addWidget(text, 1);
-  if (!isResolvable) return row;
-  auto* resolve = new QPushButton(resolveTitle(), row);
-  resolve->setToolTip(tr("Keep the latest choice and change those that exclude it"));
-  connect(resolve, &QPushButton::clicked, this, &NoticeView::resolveRequested);
-  layout->addWidget(resolve, 0, Qt::AlignTop);
+  if (notice.action.isEmpty()) return row;
+  auto* button = new QPushButton(notice.action, row);
+  button->setToolTip(notice.hint);
+  connect(button, &QPushButton::clicked, this, [this, topic, place] { act(topic, place); });
+  layout->addWidget(button, 0, Qt::AlignTop);
   return row;
+}
+
+// What it does may replace the notices, and with them itself.
+void NoticeView::act(NoticeTopic topic, std::size_t place) {
+  const std::vector<Notice>& notices = mNotices[topic];
+  if (place >= notices.size() || !notices[place].act) return;
+  const std::function<void()> action = notices[place].act;
+  action();
 }
 
 }  // namespace cutline

@@ -4,7 +4,9 @@
 #include <QString>
 #include <QStringList>
 #include <QWidget>
+#include <functional>
 #include <map>
+#include <vector>
 
 class QVBoxLayout;
 
@@ -33,35 +35,56 @@ class StatusIcon : public QWidget {
 };
 
 // Where notices come from, in the order in which they are shown. Each has its own lines.
-enum class NoticeTopic { failure, refusal, document, printer, conflicts, deviations };
+enum class NoticeTopic {
+  failure,
+  refusal,
+  document,
+  printer,
+  conflicts,
+  edges,  // what of the labels will be cut off
+  paper,  // how document and paper go together
+  deviations
+};
+
+// A line, and what a button beside it does about it.
+struct Notice {
+  QString line;
+  QString action = {};  // the button's title; empty for none
+  QString hint = {};    // what the button does, in a few words more
+  std::function<void()> act = {};
+};
 
 // What the user should know before printing, one line each with a sign: failures, what the printer
-// is short of, choices that exclude each other, choices that a rule changes.
+// is short of, choices that exclude each other, what would be cut off, choices that a rule changes.
 class NoticeView : public QWidget {
   Q_OBJECT
 
  public:
   explicit NoticeView(QWidget* parent = nullptr);
 
-  // Replaces the topic's lines; none removes them.
+  // Replaces the topic's notices; none removes them.
+  void setNotices(NoticeTopic topic, std::vector<Notice> notices);
   void setNotices(NoticeTopic topic, const QStringList& lines);
   void setNotice(NoticeTopic topic, const QString& line);
-  void clear(NoticeTopic topic) { setNotices(topic, {}); }
+  void clear(NoticeTopic topic) { setNotices(topic, std::vector<Notice>()); }
 
+  // What a button says and does that sorts conflicts out.
+  static QString resolveTitle();
+  static QString resolveHint();
+
+  // The topic's lines.
   QStringList notices(NoticeTopic topic) const;
 
-  // What the button says that may come with conflicts.
-  static QString resolveTitle();
-
  signals:
-  // The user wants the conflicting choices sorted out.
-  void resolveRequested();
+  // Rows, and with them buttons, are new.
+  void rebuilt();
 
  private:
   void rebuild();
-  QWidget* makeRow(Severity severity, const QString& line, bool isResolvable);
+  QWidget* makeRow(NoticeTopic topic, std::size_t place);
+  void act(NoticeTopic topic, std::size_t place);
 
-  std::map<NoticeTopic, QStringList> mLines;
+  std::map<NoticeTopic, std::vector<Notice>> mNotices;
   QVBoxLayout* mRows;
 };
 

@@ -2,6 +2,7 @@
 
 #include <QPushButton>
 #include <QStackedWidget>
+#include <algorithm>
 #include <utility>
 
 #include "host/core/CommandLine.h"
@@ -10,6 +11,7 @@
 #include "host/dialog/DialogLanguage.h"
 #include "host/dialog/JobForm.h"
 #include "host/dialog/JobRunner.h"
+#include "host/dialog/LayoutForm.h"
 #include "host/dialog/MoreOptionsPanel.h"
 #include "host/dialog/NoticeView.h"
 #include "host/dialog/PanelViews.h"
@@ -29,20 +31,22 @@ bool isMirrored(const PpdFile& ppd) {
   return OptionTable(ppd).position(keyword, ppd.markedChoice(keyword)) == 1;
 }
 
-StripDirection directionOf(const PpdFile& ppd) {
-  return hasCutOptions(ppd) && !isLabelRoll(ppd) ? StripDirection::across : StripDirection::down;
-}
-
 QStringList sentencesOf(const std::vector<Deviation>& deviations) {
   QStringList lines;
   for (const Deviation& deviation : deviations) lines.append(translated(deviation.sentence));
   return lines;
 }
 
-QStringList sentencesOf(const std::vector<Sentence>& sentences) {
-  QStringList lines;
-  for (const Sentence& each : sentences) lines.append(translated(each));
-  return lines;
+// The last of the conflicts has the button that sorts them all out.
+std::vector<Notice> conflictNotices(const std::vector<Sentence>& conflicts,
+                                    const std::function<void()>& resolve) {
+  std::vector<Notice> notices;
+  for (const Sentence& each : conflicts) notices.push_back({translated(each)});
+  if (notices.empty()) return notices;
+  notices.back().action = NoticeView::resolveTitle();
+  notices.back().hint = NoticeView::resolveHint();
+  notices.back().act = resolve;
+  return notices;
 }
 
 }  // namespace
@@ -58,21 +62,25 @@ PrintDialog::PrintDialog(PrintModel& model, std::shared_ptr<PrintServer> server,
       mPrinterBar(new PrinterBar(mSettings)),
       mPresetBar(new PresetBar(mSettings)),
       mJobForm(new JobForm(mSettings)),
+      mLayoutBar(new LayoutBar(mSettings)),
       mPanelFrame(new PanelFrame(mSettings)),
       mSummary(new SummaryView(mSettings)),
       mNotices(new NoticeView(mSettings)),
       mPresets(new PresetKeeper(model, *mServer, *mPresetBar, *mNotices, this)),
       mStripPane(new StripPane(this)),
+      mLayoutForm(new LayoutForm(this)),
       mMoreOptions(new MoreOptionsPanel(this)),
       mMoreButton(new QPushButton(tr("&More printer options"), this)),
+      mOpen(new QPushButton(tr("&Open..."), this)),
       mPrint(new QPushButton(tr("Pr&int"), this)),
       mCancel(new QPushButton(tr("Cancel"), this)),
       mBottom(new QStackedWidget(this)),
       mProgress(new JobProgress(this)) {
-  setWindowTitle(mSource.title.empty() ? tr("Print")
-                                       : tr("Print %1").arg(toQString(mSource.title)));
+  setAcceptDrops(true);
+  showTitle();
   makeLayout();
   connectSettings();
+  connectLayout();
   connectDocument();
   connectServer();
   connectJob();
@@ -94,11 +102,7 @@ void PrintDialog::connectSettings() {
   connect(mJobForm, &JobForm::pagesEdited, this, &PrintDialog::editPages);
   connect(mJobForm, &JobForm::pagesFinished, this, &PrintDialog::finishPages);
   connect(mJobForm, &JobForm::paperChosen, this, &PrintDialog::choosePaper);
-  connect(mNotices, &NoticeView::resolveRequested, this, [this] {
-    const Result<Done> resolved = mModel.resolveConflicts();
-    mNotices->setNotice(NoticeTopic::failure,
-                        resolved ? QString() : asLine(resolved.error().sentence));
-  });
+  connect(mNotices, &NoticeView::rebuilt, this, &PrintDialog::setMnemonics);
   connect(mMoreOptions, &MoreOptionsPanel::optionChosen, this, &PrintDialog::chooseOption);
   connect(mMoreButton, &QPushButton::toggled, this, &PrintDialog::showMoreOptions);
   connect(mPrint, &QPushButton::clicked, this, &PrintDialog::print);
@@ -114,10 +118,12 @@ void PrintDialog::modelDidChange(ModelChange what) {
                                   {ModelChange::options, &PrintDialog::showOptions},
                                   {ModelChange::paper, &PrintDialog::showPaper},
                                   {ModelChange::job, &PrintDialog::showJob},
+                                  {ModelChange::composition, &PrintDialog::showLayout},
                                   {ModelChange::layout, &PrintDialog::fitToPanels}};
   for (const Row& row : kRows) {
     if (row.change == what) (this->*row.show)();
   }
+  recompose();
 }
 
 void PrintDialog::showPrinter() {
@@ -133,6 +139,7 @@ void PrintDialog::showPrinter() {
   mJobForm->setPapers(mModel.papers());
   mMoreOptions->setGroups(mModel.generatedOptions());
   mMoreButton->setEnabled(!mModel.generatedOptions().empty());
+  mOpen->setEnabled(true);
   if (mModel.generatedOptions().empty()) mMoreButton->setChecked(false);
   mNotices->clear(NoticeTopic::failure);
   showPaper();
@@ -145,24 +152,26 @@ void PrintDialog::showPrinter() {
 void PrintDialog::showOptions() {
   mSummary->setLines(mModel.summary());
   mMoreOptions->setMarks(mModel.generatedOptions());
-  mNotices->setNotices(NoticeTopic::conflicts, sentencesOf(mModel.conflicts()));
+  mNotices->setNotices(NoticeTopic::conflicts,
+                       conflictNotices(mModel.conflicts(), [this] { resolveConflicts(); }));
   mNotices->setNotices(NoticeTopic::deviations, sentencesOf(mModel.deviations()));
   mStripPane->strip().setMirrored(isMirrored(*mModel.ppdFile()));
 }
 
 void PrintDialog::showPaper() {
   const PaperSize paper = mModel.currentPaper();
-  mJobForm->setCurrentPaper(toQString(paper.name));
+  const auto isIt = [&](const PaperSize& each) { return each.name == paper.name; };
+  if (std::ranges::any_of(mModel.papers(), isIt)) mNamedPaper = paper.name;
+  mJobForm->setCurrentPaper(toQString(paper.name), toQString(paper.text));
   mStripPane->setPaperText(toQString(paper.text));
-  mStripPane->strip().setPaper(paper, directionOf(*mModel.ppdFile()));
+  if (!mDocument->isOpen()) mStripPane->strip().setLabels(mModel.label(), 0);
+  showLayout();
 }
 
 void PrintDialog::showJob() {
   mJobForm->setCopies(mModel.copies());
   mJobForm->setPages(toQString(mModel.pageRanges()));
-  // Ranges that were saved may be none; they are named when the user prints.
-  const Result<PageRanges> ranges = PageRanges::parse(mModel.pageRanges());
-  mStripPane->strip().setSelection(ranges ? *ranges : PageRanges());
+  mStripPane->strip().setSelection(mModel.pageSelection());
 }
 
 void PrintDialog::fitToPanels() {
@@ -170,7 +179,18 @@ void PrintDialog::fitToPanels() {
   setMnemonics();
 }
 
-void PrintDialog::choosePaper(const QString& name) { mModel.setPaper(toUtf8(name)); }
+void PrintDialog::resolveConflicts() {
+  const Result<Done> resolved = mModel.resolveConflicts();
+  mNotices->setNotice(NoticeTopic::failure,
+                      resolved ? QString() : asLine(resolved.error().sentence));
+}
+
+// A paper's own length is meant with it.
+void PrintDialog::choosePaper(const QString& name) {
+  JobLayout layout = mModel.jobLayout();
+  if (std::exchange(layout.followsContent, false)) mModel.setJobLayout(layout);
+  mModel.setPaper(toUtf8(name));
+}
 
 void PrintDialog::chooseOption(const QString& keyword, const QString& choice) {
   const Result<Done> chosen = mModel.setOption(toUtf8(keyword), toUtf8(choice));
@@ -191,12 +211,12 @@ void PrintDialog::showPagesProblem(const Result<Done>& checked) {
   mJobForm->setPagesProblem(checked ? QString() : asLine(checked.error().sentence));
 }
 
-// Against a document whose pages can be counted here.
+// Against the documents, once they are composed.
 Result<Done> PrintDialog::checkPages() const {
   const Result<PageRanges> ranges = PageRanges::parse(mModel.pageRanges());
   if (!ranges) return ranges.error();
-  if (!mDocument->isOpen() || mDocument->isPlaceholder()) return Done{};
-  return ranges->checkWithin(static_cast<int>(mDocument->pageSizes().size()));
+  if (!mDocument->isOpen()) return Done{};
+  return ranges->checkWithin(mDocument->report().documentPages);
 }
 
 void PrintDialog::showMoreOptions(bool shown) {
@@ -207,7 +227,8 @@ void PrintDialog::showMoreOptions(bool shown) {
 // The panels first: their options are what the dialog is opened for.
 void PrintDialog::setMnemonics() {
   const QString reserved = mnemonicIn(NoticeView::resolveTitle());
-  for (QWidget* root : {static_cast<QWidget*>(mPanelFrame), static_cast<QWidget*>(mMoreOptions)}) {
+  for (QWidget* root : std::initializer_list<QWidget*>{mPanelFrame, mLayoutBar, mLayoutForm,
+                                                       mNotices, mMoreOptions}) {
     assignMnemonics(*this, *root, reserved);
   }
 }

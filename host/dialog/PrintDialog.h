@@ -1,6 +1,7 @@
 // The print dialog: the preview on the left, the printer, its settings and the panels on the right.
-// Shows the model and relays the user's choices to it; jobs and presets go through the print server
-// in the background.
+// Documents are composed onto labels as the settings say; what is shown of them is what a job
+// sends. Shows the model and relays the user's choices to it; jobs and presets go through the print
+// server in the background.
 #pragma once
 
 #include <QDialog>
@@ -22,6 +23,9 @@ namespace cutline {
 
 class JobForm;
 class JobProgress;
+class LayoutBar;
+class LayoutForm;
+enum class LengthRule;
 class MoreOptionsPanel;
 class NoticeView;
 class PanelFrame;
@@ -31,12 +35,16 @@ class PrinterBar;
 class StripPane;
 class SummaryView;
 
-// What the dialog prints. Without a path there is nothing to print.
+// What the dialog prints. Without a path there is nothing to print until somebody opens a document.
 struct PrintSource {
-  std::string path;
+  std::vector<std::string> paths;
   std::string title;
-  DocumentLoader::Opener opener;  // runs on another thread
+  DocumentTools tools;
+  bool isRaw = false;  // the first goes to the printer as it is, and is not shown
 };
+
+// "first.pdf", or "first.pdf and 2 more".
+QString titleOf(const std::vector<std::string>& paths);
 
 class PrintDialog : public QDialog, private PrintModelListener {
   Q_OBJECT
@@ -52,7 +60,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
   // The first printer could not be opened; closing the dialog is an error then.
   void showFailure(const QString& reason);
 
-  // Opens and draws the document; becomesSettled follows when nothing is left to draw.
+  // Composes and draws the documents; becameSettled follows when nothing is left to draw.
   void loadDocument();
   // Asks for the other printers, and from then on now and again for the printer's state.
   void startWatching();
@@ -66,12 +74,17 @@ class PrintDialog : public QDialog, private PrintModelListener {
  public slots:
   void reject() override;
 
+ protected:
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
  private:
   void modelDidChange(ModelChange what) override;
   void showPrinter();
   void showOptions();
   void showPaper();
   void showJob();
+  void showLayout();
   void fitToPanels();
 
   void makeLayout();
@@ -81,12 +94,16 @@ class PrintDialog : public QDialog, private PrintModelListener {
   void connectSettings();
   void connectDocument();
   void connectServer();
+  void connectLayout();
   void connectJob();
   void setTabOrders();
   void setMnemonics();
 
   void choosePrinter(const QString& name);
+  void resolveConflicts();
   void choosePaper(const QString& name);
+  std::string namedPaper() const;
+  void chooseLength(LengthRule rule, double points);
   void chooseOption(const QString& keyword, const QString& choice);
   void editPages(const QString& text);
   void finishPages(const QString& text);
@@ -98,15 +115,26 @@ class PrintDialog : public QDialog, private PrintModelListener {
   void takeState(const Destination& destination);
   void openingFailed(const QString& reason);
 
+  void askForDocuments();
+  void openDocuments(std::vector<std::string> paths);
+  void showTitle();
+  void recompose();
+  void takeComposition();
+  void failComposition(const QString& reason);
+  void showPaperNotices();
+  void showEdgeNotice();
+  void shrinkTo(int percent);
   QString refusal() const;
   void refreshPrintButton();
   void print();
+  JobRunner::Composing jobComposing() const;
   void showJobRunning(bool isRunning);
   void finish(int exitStatus);
 
   PrintModel& mModel;
   PrintSource mSource;
   int mExitStatus;
+  std::string mNamedPaper;  // the last one that the printer names
   QTimer mStateTimer;
 
   ServerClient* mServer;
@@ -117,13 +145,16 @@ class PrintDialog : public QDialog, private PrintModelListener {
   PrinterBar* mPrinterBar;
   PresetBar* mPresetBar;
   JobForm* mJobForm;
+  LayoutBar* mLayoutBar;
   PanelFrame* mPanelFrame;
   SummaryView* mSummary;
   NoticeView* mNotices;
   PresetKeeper* mPresets;
   StripPane* mStripPane;
+  LayoutForm* mLayoutForm;
   MoreOptionsPanel* mMoreOptions;
   QPushButton* mMoreButton;
+  QPushButton* mOpen;  // where the dialog was opened without a document
   QPushButton* mPrint;
   QPushButton* mCancel;
   QStackedWidget* mBottom;

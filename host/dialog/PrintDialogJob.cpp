@@ -1,12 +1,18 @@
 // The part of PrintDialog that has to do with the document: shows it, says whether it can be
 // printed, sends it.
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QMimeData>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTimer>
+#include <QUrl>
 
 #include "host/core/CommandLine.h"
 #include "host/dialog/DialogLanguage.h"
 #include "host/dialog/JobForm.h"
+#include "host/dialog/LayoutForm.h"
 #include "host/dialog/MoreOptionsPanel.h"
 #include "host/dialog/NoticeView.h"
 #include "host/dialog/PrintDialog.h"
@@ -21,25 +27,39 @@ QString fileNameOf(const std::string& path) {
   return toQString(path.substr(path.find_last_of('/') + 1));
 }
 
+std::vector<std::string> namesOf(const QStringList& files) {
+  std::vector<std::string> paths;
+  for (const QString& file : files) paths.push_back(toUtf8(file));
+  return paths;
+}
+
+std::vector<std::string> filesIn(const QMimeData& data) {
+  std::vector<std::string> paths;
+  for (const QUrl& url : data.urls()) {
+    if (!url.isLocalFile()) return {};
+    paths.push_back(toUtf8(url.toLocalFile()));
+  }
+  return paths;
+}
+
 }  // namespace
 
+QString titleOf(const std::vector<std::string>& paths) {
+  if (paths.empty()) return {};
+  const QString first = fileNameOf(paths.front());
+  if (paths.size() == 1) return first;
+  return PrintDialog::tr("%1 and %2 more").arg(first).arg(paths.size() - 1);
+}
+
 void PrintDialog::connectDocument() {
+  connect(mOpen, &QPushButton::clicked, this, &PrintDialog::askForDocuments);
   StripView& strip = mStripPane->strip();
   connect(&strip, &StripView::pagesWanted, mDocument, &DocumentLoader::request);
   connect(mDocument, &DocumentLoader::pageDrawn, &strip, &StripView::showPage);
-  connect(mDocument, &DocumentLoader::opened, this, [this, &strip] {
-    strip.setMessage({});
-    mStripPane->setPlaceholder(mDocument->isPlaceholder());
-    strip.setPages(mDocument->pageSizes());
-    showPagesProblem(checkPages());
-  });
-  connect(mDocument, &DocumentLoader::unavailable, &strip,
-          [&strip] { strip.setMessage(tr("No preview: its module is not installed")); });
-  connect(mDocument, &DocumentLoader::failed, this, [this, &strip](const QString& reason) {
-    strip.setMessage(tr("This document cannot be shown"));
-    mNotices->setNotice(NoticeTopic::document, reason);
-    refreshPrintButton();
-  });
+  connect(mDocument, &DocumentLoader::composed, this, &PrintDialog::takeComposition);
+  connect(mDocument, &DocumentLoader::waiting, &strip, &StripView::setDimmed);
+  connect(mDocument, &DocumentLoader::failed, this, &PrintDialog::failComposition);
+  connect(mDocument, &DocumentLoader::inksKnown, this, &PrintDialog::showEdgeNotice);
   connect(mDocument, &DocumentLoader::pageFailed, this, [this](int page, const QString& reason) {
     mNotices->setNotice(NoticeTopic::document, tr("Label %1: %2").arg(page + 1).arg(reason));
   });
@@ -48,13 +68,57 @@ void PrintDialog::connectDocument() {
 
 void PrintDialog::loadDocument() {
   StripView& strip = mStripPane->strip();
-  if (mSource.path.empty()) {
-    strip.setMessage(tr("No document"));
+  if (mSource.paths.empty()) {
+    strip.setMessage(tr("Open or drop a document"));
     QTimer::singleShot(0, this, &PrintDialog::becameSettled);
     return;
   }
-  strip.setMessage(tr("Opening %1...").arg(fileNameOf(mSource.path)));
-  mDocument->open(mSource.opener);
+  if (mSource.isRaw) {
+    strip.setMessage(tr("This document goes to the printer as it is, unseen"));
+    QTimer::singleShot(0, this, &PrintDialog::becameSettled);
+    return;
+  }
+  strip.setMessage(tr("Opening %1...").arg(titleOf(mSource.paths)));
+  mDocument->setDocuments(mSource.paths, mSource.tools);
+  recompose();
+}
+
+void PrintDialog::askForDocuments() {
+  auto* question = new QFileDialog(this, tr("Open"));
+  question->setAttribute(Qt::WA_DeleteOnClose);
+  question->setFileMode(QFileDialog::ExistingFiles);
+  connect(question, &QFileDialog::filesSelected, this,
+          [this](const QStringList& files) { openDocuments(namesOf(files)); });
+  question->open();
+}
+
+void PrintDialog::openDocuments(std::vector<std::string> paths) {
+  mSource.title = toUtf8(titleOf(paths));
+  mSource.paths = std::move(paths);
+  showTitle();
+  for (const NoticeTopic topic : {NoticeTopic::document, NoticeTopic::edges, NoticeTopic::paper}) {
+    mNotices->clear(topic);
+  }
+  mStripPane->strip().setLabels(mModel.label(), 0);
+  loadDocument();
+  refreshPrintButton();
+}
+
+void PrintDialog::showTitle() {
+  setWindowTitle(mSource.title.empty() ? tr("Print")
+                                       : tr("Print %1").arg(toQString(mSource.title)));
+}
+
+void PrintDialog::dragEnterEvent(QDragEnterEvent* event) {
+  const bool isFree = mModel.isOpen() && !mJob->isRunning();
+  if (isFree && !filesIn(*event->mimeData()).empty()) event->acceptProposedAction();
+}
+
+void PrintDialog::dropEvent(QDropEvent* event) {
+  std::vector<std::string> paths = filesIn(*event->mimeData());
+  if (paths.empty()) return;
+  event->acceptProposedAction();
+  openDocuments(std::move(paths));
 }
 
 void PrintDialog::connectJob() {
@@ -82,8 +146,7 @@ void PrintDialog::connectJob() {
 QString PrintDialog::refusal() const {
   if (!mModel.isOpen()) return tr("No printer is open.");
   if (!mModel.hasQueue()) return tr("This is a PPD file, no printer: printing is switched off.");
-  if (mSource.path.empty())
-    return tr("There is no document to print: start with \"cutline FILE\".");
+  if (mSource.paths.empty()) return tr("There is no document to print: open one, or drop it here.");
   if (mDocument->hasFailed()) return tr("This document cannot be printed.");
   return {};
 }
@@ -106,13 +169,24 @@ void PrintDialog::print() {
   mNotices->clear(NoticeTopic::refusal);
   showJobRunning(true);
   const DestinationName& name = mModel.destination().name;
-  mProgress->showSpooling(toQString(name.printer), 0, 0);
-  mJob->start({name, mSource.path, mSource.title, *options});
+  mProgress->showComposing();
+  mJob->start({name, mSource.paths.front(), mSource.title, *options}, jobComposing());
+}
+
+// Nothing for a document that is sent as it is.
+JobRunner::Composing PrintDialog::jobComposing() const {
+  if (mSource.isRaw) return {};
+  CompositionRequest request = mModel.compositionRequest();
+  request.pages = mModel.pageSelection();
+  return [request, compose = mSource.tools.compose, paths = mSource.paths](std::stop_token stop) {
+    return compose(paths, request, std::move(stop));
+  };
 }
 
 void PrintDialog::showJobRunning(bool isRunning) {
   mSettings->setEnabled(!isRunning);
   mMoreOptions->setEnabled(!isRunning);
+  mLayoutForm->setEnabled(!isRunning);
   mBottom->setCurrentIndex(isRunning ? 1 : 0);
   if (isRunning) {
     mStripPane->strip().setFocus();

@@ -8,6 +8,7 @@
 
 #include "host/dialog/JobForm.h"
 #include "host/dialog/JobRunner.h"
+#include "host/dialog/LayoutForm.h"
 #include "host/dialog/MoreOptionsPanel.h"
 #include "host/dialog/NoticeView.h"
 #include "host/dialog/PanelViews.h"
@@ -78,7 +79,9 @@ QWidget* PrintDialog::makeLeftSide() {
   auto* column = new QVBoxLayout(side);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(mStripPane, kPreviewShare);
+  column->addWidget(mLayoutForm);
   column->addWidget(mMoreOptions, kMoreOptionsShare);
+  mLayoutForm->hide();
   mMoreOptions->hide();
   return side;
 }
@@ -89,6 +92,7 @@ QWidget* PrintDialog::makeRightSide() {
   column->addWidget(mPrinterBar);
   column->addWidget(mPresetBar);
   column->addWidget(mJobForm);
+  column->addWidget(mLayoutBar);
   column->addSpacing(kGap / 2);
   column->addWidget(mPanelFrame);
   column->addWidget(mSummary);
@@ -97,7 +101,8 @@ QWidget* PrintDialog::makeRightSide() {
   column->addStretch(1);
   mSettings->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
   std::vector<QLabel*> captions = mJobForm->captions();
-  captions.insert(captions.end(), {mPrinterBar->caption(), mPresetBar->caption()});
+  captions.insert(captions.end(),
+                  {mPrinterBar->caption(), mPresetBar->caption(), mLayoutBar->caption()});
   alignCaptions(captions);
   return mSettings;
 }
@@ -107,6 +112,8 @@ QWidget* PrintDialog::makeButtons() {
   auto* row = new QHBoxLayout(buttons);
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(mMoreButton);
+  row->addWidget(mOpen);
+  mOpen->setVisible(mSource.paths.empty());
   row->addStretch(1);
   row->addWidget(mCancel);
   row->addWidget(mPrint);
@@ -118,8 +125,8 @@ QWidget* PrintDialog::makeButtons() {
 }
 
 void PrintDialog::setTabOrders() {
-  chainTabs({mPrinterBar, mPresetBar, mJobForm, mPanelFrame, mNotices, mStripPane, mMoreOptions,
-             mMoreButton, mCancel, mPrint, mProgress});
+  chainTabs({mPrinterBar, mPresetBar, mJobForm, mLayoutBar, mLayoutForm, mPanelFrame, mNotices,
+             mStripPane, mMoreOptions, mMoreButton, mOpen, mCancel, mPrint, mProgress});
 }
 
 }  // namespace cutline

@@ -35,6 +35,7 @@ void PrintDialog::connectServer() {
 void PrintDialog::showWaiting(const QString& text) {
   mSettings->setEnabled(false);
   mMoreButton->setEnabled(false);
+  mOpen->setEnabled(false);
   mPrint->setEnabled(false);
   mPrinterBar->setWaiting(text);
   mStripPane->strip().setMessage(text);

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "cups/Destinations.h"
-#include "host/core/DocumentCheck.h"
 #include "host/core/PrinterSelection.h"
 #include "host/dialog/DialogLanguage.h"
 #include "qt/QtText.h"
@@ -33,10 +32,6 @@ Result<Done> CupsPrintServer::removeInstance(const DestinationName& name) {
 }
 
 Result<int> CupsPrintServer::submit(const PrintRequest& request, const SpoolProgress& progress) {
-  const Result<DocumentFacts> document = checkDocument(request.path);
-  if (!document) return document.error();
-  if (const Result<Done> pages = checkPages(*document, request.options); !pages)
-    return pages.error();
   return submitJob(mOptions, request, progress);
 }
 

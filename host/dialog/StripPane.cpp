@@ -58,14 +58,8 @@ void StripPane::setPaperText(const QString& text) {
   refresh();
 }
 
-void StripPane::setPlaceholder(bool isPlaceholder) {
-  mIsPlaceholder = isPlaceholder;
-  refresh();
-}
-
 QString StripPane::pageText() const {
   if (mStrip->pageCount() == 0) return {};
-  if (mIsPlaceholder) return tr("No preview");
   return tr("Label %1 of %2").arg(mStrip->currentPage() + 1).arg(mStrip->pageCount());
 }
 

@@ -19,8 +19,6 @@ class StripPane : public QWidget {
   StripView& strip() const noexcept { return *mStrip; }
   // Said beside the label's number, such as the paper's name.
   void setPaperText(const QString& text);
-  // The document prints but has no pages to show.
-  void setPlaceholder(bool isPlaceholder);
 
  private:
   QToolButton* makeButton(const QString& text, const QString& name, void (StripPane::*step)());
@@ -40,7 +38,6 @@ class StripPane : public QWidget {
   QToolButton* mFit;
   QToolButton* mZoomIn;
   QString mPaperText;
-  bool mIsPlaceholder = false;
 };
 
 }  // namespace cutline

@@ -44,27 +44,35 @@ StripView::StripView(QWidget* parent) : QAbstractScrollArea(parent) {
 QSize StripView::sizeHint() const { return kPreferredSize; }
 QSize StripView::minimumSizeHint() const { return kLeastSize; }
 
-void StripView::setPaper(const PaperSize& paper, StripDirection direction) {
-  mPaper = paper;
-  mDirection = direction;
-  layOut();
-}
-
-void StripView::setPages(std::vector<Size> pages) {
-  mPages = std::move(pages);
-  mCache.clear();
-  mCurrentPage = 0;
+void StripView::setLabels(const LabelPage& label, int count) {
+  if (mLabel != label) mCache.clear();
+  mCache.setOld();
+  mLabel = label;
+  mPageCount = count;
+  mCurrentPage = std::clamp(mCurrentPage, 0, std::max(0, count - 1));
   layOut();
   emit currentPageChanged(mCurrentPage);
 }
 
-void StripView::setSelection(const PageRanges& selection) {
+void StripView::setSelection(const PageSelection& selection) {
   mSelection = selection;
   viewport()->update();
 }
 
+bool StripView::isPrinted(int page) const {
+  const bool isInSet =
+      mSelection.set == PageSet::all || (mSelection.set == PageSet::odd) == (page % 2 == 0);
+  return isInSet && mSelection.ranges.contains(page);
+}
+
 void StripView::setMirrored(bool mirrored) {
   mIsMirrored = mirrored;
+  viewport()->update();
+}
+
+void StripView::setDimmed(bool dimmed) {
+  if (mIsDimmed == dimmed) return;
+  mIsDimmed = dimmed;
   viewport()->update();
 }
 
@@ -89,10 +97,9 @@ void StripView::showPage(int page, double scale, const QImage& image) {
 }
 
 void StripView::layOut() {
-  if (!mPaper) return;
-  StripContent content{*mPaper, mDirection, mPages};
-  if (content.pages.empty()) content.pages.push_back({mPaper->width, mPaper->length});
-  mLayout.emplace(std::move(content), QSizeF(viewport()->size()), mZoom);
+  if (!mLabel) return;
+  mLayout.emplace(StripContent{*mLabel, std::max(1, mPageCount)}, QSizeF(viewport()->size()),
+                  mZoom);
   setBars();
   wantPages();
   viewport()->update();
@@ -114,19 +121,21 @@ QPointF StripView::offset() const {
           static_cast<double>(verticalScrollBar()->value())};
 }
 
+double StripView::drawnScale() const { return mLayout->scale() * devicePixelRatioF(); }
+
 void StripView::wantPages() {
-  if (!mLayout || mPages.empty()) return;
+  if (!mLayout || mPageCount == 0) return;
   const QRectF visible(offset(), QSizeF(viewport()->size()));
+  const double scale = drawnScale();
   std::deque<PageRequest> requests;
   for (const int page : mLayout->pagesIn(visible)) {
-    const double scale = mLayout->placedPage(page).pageScale * devicePixelRatioF();
     if (!mCache.has(page, scale)) requests.push_back({page, scale});
   }
   emit pagesWanted(requests);
 }
 
 void StripView::setCurrentPage(int page) {
-  if (!mLayout || mPages.empty()) return;
+  if (!mLayout || mPageCount == 0) return;
   mCurrentPage = std::clamp(page, 0, pageCount() - 1);
   const QRectF label = mLayout->label(mCurrentPage);
   const QPointF corner = label.center() - QPointF(viewport()->width(), viewport()->height()) / 2;
@@ -193,7 +202,7 @@ void StripView::keyPressEvent(QKeyEvent* event) {
 }
 
 void StripView::mousePressEvent(QMouseEvent* event) {
-  if (!mLayout || mPages.empty()) return;
+  if (!mLayout || mPageCount == 0) return;
   const int page = mLayout->pageAt(event->position() + offset());
   if (page >= 0) setCurrentPage(page);
 }

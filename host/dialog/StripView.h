@@ -1,4 +1,4 @@
-// The preview: the document's pages on the chosen tape or roll, at true proportions.
+// The preview: the labels as they will come out of the printer, at true proportions.
 #pragma once
 
 #include <QAbstractScrollArea>
@@ -7,7 +7,7 @@
 #include <deque>
 #include <optional>
 
-#include "composition/PageRanges.h"
+#include "composition/Composition.h"
 #include "host/dialog/DocumentPages.h"
 #include "host/dialog/StripLayout.h"
 
@@ -19,19 +19,22 @@ class StripView : public QAbstractScrollArea {
  public:
   explicit StripView(QWidget* parent = nullptr);
 
-  // The tape or roll; without it nothing is drawn.
-  void setPaper(const PaperSize& paper, StripDirection direction);
-  // The document's pages, in points; none yet shows one empty label.
-  void setPages(std::vector<Size> pages);
-  void setSelection(const PageRanges& selection);
+  // So many labels like this one; none shows an empty one. Pictures of equal labels stay until
+  // newer ones come.
+  void setLabels(const LabelPage& label, int count);
+  // The others are shown as not printed.
+  void setSelection(const PageSelection& selection);
   void setMirrored(bool mirrored);
+  // What is shown is no more what was asked for.
+  void setDimmed(bool dimmed);
   // Shown over the strip, for waiting and for failures; empty shows none.
   void setMessage(const QString& message);
   // What is shown, for those who cannot see it; a message goes before.
   void setWords(const QString& words);
+  // A label's picture as a reader holds it, at so many pixels a point.
   void showPage(int page, double scale, const QImage& image);
 
-  int pageCount() const noexcept { return static_cast<int>(mPages.size()); }
+  int pageCount() const noexcept { return mPageCount; }
   int currentPage() const noexcept { return mCurrentPage; }
   // Scrolls the page into view.
   void setCurrentPage(int page);
@@ -47,7 +50,7 @@ class StripView : public QAbstractScrollArea {
   QSize minimumSizeHint() const override;
 
  signals:
-  // Visible pages that are not drawn at the present scale.
+  // Visible labels that are not drawn at the present scale.
   void pagesWanted(const std::deque<PageRequest>& requests);
   void currentPageChanged(int page);
   void zoomChanged();
@@ -68,18 +71,21 @@ class StripView : public QAbstractScrollArea {
   void wantPages();
   QPointF offset() const;
   bool stepByKey(int key);
+  double drawnScale() const;
+  bool isPrinted(int page) const;
 
   void paintLane(QPainter& painter, const StripLayout::Lane& lane) const;
   void paintLabel(QPainter& painter, int page);
   void paintContent(QPainter& painter, int page);
+  QRectF pictureRect(const QImage& picture, int page) const;
   void paintNumber(QPainter& painter, int page) const;
   void paintMessage(QPainter& painter) const;
 
-  std::optional<PaperSize> mPaper;
-  StripDirection mDirection = StripDirection::across;
-  std::vector<Size> mPages;
-  PageRanges mSelection;
+  std::optional<LabelPage> mLabel;
+  int mPageCount = 0;
+  PageSelection mSelection;
   bool mIsMirrored = false;
+  bool mIsDimmed = false;
   QString mMessage;
   QString mWords;
   double mZoom = 1;

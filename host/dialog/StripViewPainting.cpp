@@ -14,7 +14,7 @@ namespace {
 constexpr double kTornDepth = 5;
 constexpr double kTornTail = 12;  // how far the tape goes on beyond its last label
 constexpr double kSkippedOpacity = 0.22;
-constexpr double kTurn = 90;
+constexpr double kDimmedOpacity = 0.45;
 constexpr double kNumberShare = 0.88;  // of the dialog's font
 
 struct Colours {
@@ -92,9 +92,8 @@ void StripView::paintEvent(QPaintEvent* event) {
 
 void StripView::paintLane(QPainter& painter, const StripLayout::Lane& lane) const {
   const Colours colours = coloursFor(palette());
-  const QPainterPath piece = mDirection == StripDirection::across
-                                 ? pieceAcross(lane.rect, lane.first > 0)
-                                 : pieceDown(lane.rect);
+  const QPainterPath piece =
+      mLayout->runsAcross() ? pieceAcross(lane.rect, lane.first > 0) : pieceDown(lane.rect);
   painter.setPen(QPen(colours.edge, 1));
   painter.setBrush(colours.tape);
   painter.drawPath(piece);
@@ -103,17 +102,18 @@ void StripView::paintLane(QPainter& painter, const StripLayout::Lane& lane) cons
 void StripView::paintLabel(QPainter& painter, int page) {
   const Colours colours = coloursFor(palette());
   const QRectF label = mLayout->label(page);
-  const bool isSkipped = !mPages.empty() && !mSelection.contains(page);
+  const bool isSkipped = mPageCount > 0 && !isPrinted(page);
   if (isSkipped) painter.fillRect(label.adjusted(1, 1, -1, -1), colours.skippedTape);
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(colours.printable, 1, Qt::DotLine));
   painter.drawRect(mLayout->printableArea(page));
   painter.save();
+  if (mIsDimmed) painter.setOpacity(kDimmedOpacity);
   if (isSkipped) painter.setOpacity(kSkippedOpacity);
   paintContent(painter, page);
   painter.restore();
   painter.setPen(QPen(colours.boundary, 1, Qt::DashLine));
-  if (mDirection == StripDirection::across) {
+  if (mLayout->runsAcross()) {
     painter.drawLine(label.topRight(), label.bottomRight());
   } else {
     painter.drawLine(label.bottomLeft(), label.bottomRight());
@@ -122,24 +122,27 @@ void StripView::paintLabel(QPainter& painter, int page) {
 }
 
 void StripView::paintContent(QPainter& painter, int page) {
-  const QImage image = mCache.image(page);
-  if (image.isNull()) return;
-  const PlacedPage placed = mLayout->placedPage(page);
-  const QRectF label = mLayout->label(page);
-  painter.setClipRect(label);
-  if (mIsMirrored) {
-    painter.translate(label.center().x() * 2, 0);
-    painter.scale(-1, 1);
-  }
-  painter.translate(placed.rect.center());
-  if (placed.isTurned) painter.rotate(kTurn);
-  const QSizeF size = placed.isTurned ? placed.rect.size().transposed() : placed.rect.size();
+  QImage picture = mCache.image(page);
+  if (picture.isNull()) return;
+  if (mIsMirrored) picture = picture.mirrored(true, false);
+  painter.setClipRect(mLayout->label(page));
   painter.setCompositionMode(QPainter::CompositionMode_Multiply);
-  painter.drawImage(QRectF({-size.width() / 2, -size.height() / 2}, size), image);
+  painter.drawImage(pictureRect(picture, page), picture);
+}
+
+// One that was drawn for this scale lies pixel upon pixel; another is stretched until that comes.
+QRectF StripView::pictureRect(const QImage& picture, int page) const {
+  const QRectF label = mLayout->label(page);
+  if (!mCache.has(page, drawnScale())) return label;
+  const double ratio = devicePixelRatioF();
+  const auto onPixel = [ratio](double at) { return std::round(at * ratio) / ratio; };
+  const QPointF corner = label.topLeft() - offset();
+  return {QPointF(onPixel(corner.x()), onPixel(corner.y())) + offset(),
+          QSizeF(picture.size()) / ratio};
 }
 
 void StripView::paintNumber(QPainter& painter, int page) const {
-  if (mPages.empty()) return;
+  if (mPageCount == 0) return;
   const Colours colours = coloursFor(palette());
   const QRectF label = mLayout->label(page);
   QFont numberFont = font();
@@ -148,9 +151,9 @@ void StripView::paintNumber(QPainter& painter, int page) const {
   painter.setFont(numberFont);
   painter.setPen(page == mCurrentPage ? palette().color(QPalette::Text) : colours.number);
   const QString number = QString::number(page + 1);
-  const QString caption = mSelection.contains(page) ? number : tr("%1 - not printed").arg(number);
+  const QString caption = isPrinted(page) ? number : tr("%1 - not printed").arg(number);
   const double height = painter.fontMetrics().height();
-  if (mDirection == StripDirection::across) {
+  if (mLayout->runsAcross()) {
     painter.drawText(QRectF(label.left(), label.bottom() + 3, label.width(), height),
                      Qt::AlignHCenter | Qt::AlignTop, caption);
   } else {

@@ -13,7 +13,6 @@
 
 #include "platform/lib/Languages.h"
 #include "platform/ports/Controls.h"
-#include "tests/dialog/FakeDocument.h"
 
 namespace cutline {
 
@@ -51,10 +50,7 @@ bool waitUntil(const std::function<bool()>& condition) {
   return QTest::qWaitFor(condition, kPatience);
 }
 
-DialogTest::DialogTest()
-    : mPlatform(mToolkit), mOpener([]() -> Result<std::shared_ptr<Document>> {
-        return std::shared_ptr<Document>(std::make_shared<FakeDocument>(3));
-      }) {}
+DialogTest::DialogTest() : mPlatform(mToolkit) {}
 
 DialogTest::~DialogTest() { closeDialog(); }
 
@@ -79,7 +75,7 @@ void DialogTest::openPpd(const std::string& ppdPath, const AskedSettings& asked)
 void DialogTest::makeDialog(const PrinterChoice& choice, const AskedSettings& asked) {
   mModel = std::make_unique<PrintModel>(plugIns(), asked);
   mDialog = std::make_unique<PrintDialog>(*mModel, mServer,
-                                          PrintSource{"/nowhere/labels.pdf", "labels", mOpener});
+                                          PrintSource{mPaths, "labels", mComposer->tools()});
   mDialog->openPrinter(choice);
   for (const std::string& problem : plugIns().takeProblems()) ADD_FAILURE() << problem;
   mDialog->resize(mDialog->sizeHint().expandedTo(QSize(1120, 720)));

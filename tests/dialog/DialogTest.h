@@ -19,6 +19,7 @@
 #include "host/dialog/PrintDialog.h"
 #include "platform/ports/View.h"
 #include "qt/QtToolkit.h"
+#include "tests/dialog/FakeComposer.h"
 #include "tests/dialog/FakePrintServer.h"
 
 namespace cutline {
@@ -39,11 +40,13 @@ class DialogTest : public testing::Test {
   void openQueue(const std::string& ppdPath, const AskedSettings& asked = {});
   // The same on the PPD alone.
   void openPpd(const std::string& ppdPath, const AskedSettings& asked = {});
-  void setOpener(DocumentLoader::Opener opener) { mOpener = std::move(opener); }
+  // The documents that the dialog is opened with; one that is nowhere unless they are set.
+  void setPaths(std::vector<std::string> paths) { mPaths = std::move(paths); }
 
   PrintDialog& dialog() { return *mDialog; }
   PrintModel& model() { return *mModel; }
   FakePrintServer& server() { return *mServer; }
+  FakeComposer& composer() { return *mComposer; }
   void closeDialog();
 
   // The shown control of this kind and accessible name; fails the test when there is none.
@@ -86,7 +89,8 @@ class DialogTest : public testing::Test {
   QtToolkit mToolkit;
   HostPlatform mPlatform;
   std::shared_ptr<FakePrintServer> mServer = std::make_shared<FakePrintServer>();
-  DocumentLoader::Opener mOpener;
+  std::shared_ptr<FakeComposer> mComposer = std::make_shared<FakeComposer>();
+  std::vector<std::string> mPaths = {"/nowhere/labels.pdf"};
   std::unique_ptr<PrintModel> mModel;
   std::unique_ptr<PrintDialog> mDialog;
 };

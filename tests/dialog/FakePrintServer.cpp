@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <chrono>
+#include <fstream>
+#include <iterator>
 #include <thread>
 
 namespace cutline {
@@ -78,6 +80,11 @@ std::vector<PrintRequest> FakePrintServer::submissions() {
   return mSubmissions;
 }
 
+std::vector<std::string> FakePrintServer::contents() {
+  const std::scoped_lock lock(mMutex);
+  return mContents;
+}
+
 std::vector<DestinationName> FakePrintServer::savedInstances() {
   const std::scoped_lock lock(mMutex);
   std::vector<DestinationName> names;
@@ -147,6 +154,8 @@ Result<int> FakePrintServer::submit(const PrintRequest& request, const SpoolProg
     return Error{"given up"};
   }
   mSubmissions.push_back(request);
+  std::ifstream file(request.path);
+  mContents.emplace_back(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
   lock.unlock();
   progress(100, 100);
   return kJobId;

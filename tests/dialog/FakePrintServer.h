@@ -39,6 +39,8 @@ class FakePrintServer final : public PrintServer {
 
   Destination destination(const std::string& name);
   std::vector<PrintRequest> submissions();
+  // What the files of the submissions held.
+  std::vector<std::string> contents();
   std::vector<DestinationName> savedInstances();
   std::vector<DestinationName> removedInstances();
   OptionList savedOptions(const DestinationName& name);
@@ -65,6 +67,7 @@ class FakePrintServer final : public PrintServer {
   bool mIsStalling = false;
   bool mIsCancelled = false;
   std::vector<PrintRequest> mSubmissions;
+  std::vector<std::string> mContents;
   std::vector<std::pair<DestinationName, OptionList>> mSaved;
   std::vector<DestinationName> mRemoved;
   int mCancellations = 0;

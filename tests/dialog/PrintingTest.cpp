@@ -1,6 +1,7 @@
 // From Print to the dialog's end.
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
@@ -15,6 +16,7 @@ namespace {
 class PrintingTest : public DialogTest {
  protected:
   QPushButton* printButton() { return buttonWithText<QPushButton>("Pr&int"); }
+  QString pathSent() { return QString::fromStdString(server().submissions().back().path); }
 };
 
 TEST_F(PrintingTest, WhatIsShownIsWhatIsSent) {
@@ -27,7 +29,6 @@ TEST_F(PrintingTest, WhatIsShownIsWhatIsSent) {
   const PrintRequest request = server().submissions().front();
   EXPECT_EQ(request.options, shown);
   EXPECT_EQ(request.destination.text(), "tape");
-  EXPECT_EQ(request.path, "/nowhere/labels.pdf");
   EXPECT_EQ(request.title, "labels");
 }
 
@@ -149,19 +150,49 @@ TEST_F(PrintingTest, APpdAlonePrintsNothingAndSaysWhy) {
 }
 
 TEST_F(PrintingTest, ADamagedDocumentIsNotPrinted) {
-  setOpener([]() -> Result<std::shared_ptr<Document>> {
-    return Error{"labels.pdf: the PDF is damaged"};
-  });
+  composer().fail("labels.pdf: the PDF is damaged");
   openQueue(samplePpd("tape-a"));
   EXPECT_TRUE(
       waitUntil([this] { return shows(QStringLiteral("labels.pdf: the PDF is damaged")); }));
   EXPECT_FALSE(printButton()->isEnabled());
 }
 
-TEST_F(PrintingTest, WithoutTheDocumentModuleTheJobIsPrintedUnseen) {
-  setOpener([]() -> Result<std::shared_ptr<Document>> { return std::shared_ptr<Document>(); });
+TEST_F(PrintingTest, WhatIsComposedForTheChosenPagesIsSent) {
   openQueue(samplePpd("tape-a"));
-  EXPECT_TRUE(printButton()->isEnabled());
+  ASSERT_TRUE(model().setPageRanges("2-3"));
+  click(printButton());
+  ASSERT_TRUE(waitForClose());
+  const CompositionRequest request = composer().requests().back();
+  EXPECT_EQ(request.pages.ranges.text(), "2-3");
+  EXPECT_EQ(request.label, model().label());
+  EXPECT_EQ(server().contents(), std::vector<std::string>{composedText(request)});
+}
+
+TEST_F(PrintingTest, TheComposedFileIsGoneOnceItIsSent) {
+  openQueue(samplePpd("tape-a"));
+  click(printButton());
+  ASSERT_TRUE(waitForClose());
+  EXPECT_TRUE(waitUntil([this] { return !QFile::exists(pathSent()); }));
+}
+
+TEST_F(PrintingTest, ComposingShowsAndCanBeGivenUp) {
+  openQueue(samplePpd("tape-a"));
+  composer().hold();
+  click(printButton());
+  EXPECT_TRUE(waitUntil([this] { return shows(QStringLiteral("Composing")); }));
+  click(buttonWithText<QPushButton>("Cancel &job"));
+  EXPECT_TRUE(waitUntil([this] { return printButton()->isVisible(); }));
+  EXPECT_EQ(composer().stopped(), 1);
+  EXPECT_TRUE(server().submissions().empty());
+}
+
+TEST_F(PrintingTest, WhatCannotBeComposedIsNotSent) {
+  openQueue(samplePpd("tape-a"));
+  composer().fail("labels.pdf: it has changed");
+  click(printButton());
+  EXPECT_TRUE(waitUntil([this] { return shows(QStringLiteral("labels.pdf: it has changed")); }));
+  EXPECT_TRUE(server().submissions().empty());
+  EXPECT_TRUE(printButton()->isVisible());
 }
 
 }  // namespace

@@ -23,11 +23,19 @@ class StripViewTest : public testing::Test {
   StripViewTest() {
     QObject::connect(&mStrip, &StripView::pagesWanted,
                      [this](const std::deque<PageRequest>& wanted) { mWanted = wanted; });
-    mStrip.setPaper({"W24", "24 mm", 70, 280, 2, 5, 68, 275}, StripDirection::across);
     mStrip.resize(500, 400);
     mStrip.show();
-    mStrip.setPages(std::vector<Size>(12, Size{280, 70}));
+    mStrip.setLabels(tape(), 12);
   }
+
+  static LabelPage tape() {
+    LabelPage label{70, 280, 2, 5, 68, 275};
+    label.upright = 90;
+    return label;
+  }
+  // The scale that pictures are wanted in.
+  double scale() const { return mWanted.front().scale; }
+  QImage grabbed() { return mStrip.viewport()->grab().toImage(); }
 
   // Draws the page as one half red, one half blue, from left to right.
   void drawHalves(int page) {
@@ -69,7 +77,7 @@ TEST_F(StripViewTest, WantsNoPageTwice) {
     image.fill(Qt::white);
     mStrip.showPage(request.page, request.scale, image);
   }
-  mStrip.setPaper({"W24", "24 mm", 70, 280, 2, 5, 68, 275}, StripDirection::across);
+  mStrip.zoomToFit();
   EXPECT_TRUE(mWanted.empty());
 }
 
@@ -114,12 +122,12 @@ TEST_F(StripViewTest, MirroringTurnsTheTextRound) {
 TEST_F(StripViewTest, SkippedPagesAreDimmed) {
   drawHalves(0);
   ASSERT_GE(leftmost(Qt::red), 0);
-  mStrip.setSelection(*PageRanges::parse("2-"));
+  mStrip.setSelection({*PageRanges::parse("2-")});
   EXPECT_EQ(leftmost(Qt::red), -1);
 }
 
 TEST_F(StripViewTest, WithoutADocumentAnEmptyLabelIsShown) {
-  mStrip.setPages({});
+  mStrip.setLabels(tape(), 0);
   EXPECT_EQ(mStrip.pageCount(), 0);
   const QImage picture = mStrip.viewport()->grab().toImage();
   EXPECT_NE(picture.pixel(250, 60), picture.pixel(250, 390));

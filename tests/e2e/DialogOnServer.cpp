@@ -40,13 +40,9 @@ PrinterChoice opened(const CommandLine& line) {
 }
 
 PrintSource sourceOf(const CommandLine& line) {
-  const std::string path = line.files.front();
-  const auto opener = [path]() -> Result<std::shared_ptr<Document>> {
-    const Result<DocumentRenderer*> renderer = loadDocumentRenderer(Installation(built("")));
-    if (!renderer) return renderer.error();
-    return (*renderer)->open(path);
-  };
-  return {path, line.title.value_or("labels.pdf"), opener};
+  return {line.files,
+          line.title.value_or("labels.pdf"),
+          documentToolsIn(Installation(built("")).helperDirectory())};
 }
 
 template <class Kind>

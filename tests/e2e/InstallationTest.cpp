@@ -78,7 +78,7 @@ TEST_F(Installation, DrawsItsDialog) {
               "LD_DEBUG=files");
   EXPECT_EQ(result.status, 0) << result.errors;
   EXPECT_EQ(result.errors.find(CUTLINE_BUILD_DIR), std::string::npos);
-  EXPECT_NE(result.errors.find("cutline-document.so"), std::string::npos);
+  EXPECT_NE(result.errors.find("cutline-dialog.so"), std::string::npos);
   const QImage shown(QString::fromStdString(picture));
   EXPECT_GE(shown.width(), 1000);
   EXPECT_GE(shown.height(), 600);
@@ -116,7 +116,7 @@ TEST_F(Installation, PrintsOnItsOwnSampleServer) {
 TEST_F(Installation, LooksForLibrariesBesideItself) {
   EXPECT_EQ(runPath("bin/cutline"), "$ORIGIN/../lib/cutline");
   for (const char* file :
-       {"libcutline-host.so", "cutline-dialog.so", "cutline-document.so", "cutline-pdf.so"})
+       {"libcutline-host.so", "cutline-dialog.so", "cutline-compose", "cutline-draw"})
     EXPECT_EQ(runPath(std::string("lib/cutline/") + file), "$ORIGIN") << file;
 }
 

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "host/core/DocumentRenderer.h"
 #include "host/core/Installation.h"
 #include "host/core/Module.h"
 
@@ -29,10 +28,9 @@ TEST(Module, RefusesAMissingSymbol) {
 }
 
 TEST(Module, AMissingModuleIsNamed) {
-  const Installation empty("/nonexistent");
-  const auto renderer = loadDocumentRenderer(empty);
-  ASSERT_FALSE(renderer);
-  EXPECT_NE(renderer.error().message.find(kDocumentModuleName), std::string::npos);
+  const Result<void*> module = loadModule("/nonexistent/some.so", "Build", "Answer");
+  ASSERT_FALSE(module);
+  EXPECT_NE(module.error().message.find("some.so"), std::string::npos);
 }
 
 TEST(Installation, IsFoundFromTheProgramsOwnPlace) {

@@ -1,0 +1,96 @@
+#include "tests/dialog/FakeComposer.h"
+
+#include <algorithm>
+
+#include "tests/dialog/FakeDocument.h"
+
+namespace cutline {
+
+std::string composedText(const CompositionRequest& request) { return "%PDF\n" + request.asText(); }
+
+DocumentTools FakeComposer::tools() {
+  return {
+      [self = shared_from_this()](const std::vector<std::string>&,
+                                  const CompositionRequest& request, const std::stop_token& stop) {
+        return self->compose(request, stop);
+      },
+      [self = shared_from_this()](const ComposedDocument& composed) {
+        const std::scoped_lock lock(self->mMutex);
+        return Result<std::shared_ptr<Document>>(std::make_shared<FakeDocument>(
+            static_cast<int>(composed.report.pages.size()), composed.report.label, self->mBleed));
+      }};
+}
+
+void FakeComposer::setPages(int pages, const PageSize& size, double scale) {
+  const std::scoped_lock lock(mMutex);
+  mPages = pages;
+  mPage = {size, scale, 0};
+}
+
+void FakeComposer::setBleed(double points) {
+  const std::scoped_lock lock(mMutex);
+  mBleed = points;
+}
+
+void FakeComposer::setContentLength(double points) {
+  const std::scoped_lock lock(mMutex);
+  mContentLength = points;
+}
+
+void FakeComposer::fail(const std::string& reason) {
+  const std::scoped_lock lock(mMutex);
+  mFailure = reason;
+}
+
+void FakeComposer::hold() {
+  const std::scoped_lock lock(mMutex);
+  mIsHeld = true;
+}
+
+void FakeComposer::letGo() {
+  const std::scoped_lock lock(mMutex);
+  mIsHeld = false;
+  mLetGo.notify_all();
+}
+
+std::vector<CompositionRequest> FakeComposer::requests() {
+  const std::scoped_lock lock(mMutex);
+  return mRequests;
+}
+
+int FakeComposer::stopped() {
+  const std::scoped_lock lock(mMutex);
+  return mStopped;
+}
+
+CompositionReport FakeComposer::reportFor(const CompositionRequest& request) const {
+  CompositionReport report;
+  report.label = request.label;
+  if (request.lengthBounds) {
+    report.label.top += mContentLength - report.label.length;
+    report.label.length = mContentLength;
+  }
+  report.documentPages = mPages;
+  const int most = request.pages.most;
+  report.pages.assign(static_cast<std::size_t>(most > 0 ? std::min(most, mPages) : mPages), mPage);
+  return report;
+}
+
+Result<ComposedDocument> FakeComposer::compose(const CompositionRequest& request,
+                                               const std::stop_token& stop) {
+  std::unique_lock lock(mMutex);
+  mRequests.push_back(request);
+  if (!mLetGo.wait(lock, stop, [this] { return !mIsHeld; })) {
+    ++mStopped;
+    return Error{"stopped"};
+  }
+  if (mFailure) return Error{*mFailure};
+  Result<TemporaryFile> file = TemporaryFile::make();
+  if (!file) return file.error();
+  const std::string text = composedText(request);
+  if (!writeAll(file->descriptor(), text.data(), text.size())) return Error{"cannot write"};
+  return ComposedDocument{std::make_shared<const TemporaryFile>(std::move(*file)),
+                          reportFor(request)};
+}
+
+}  // namespace cutline
