@@ -175,7 +175,10 @@ using Report = CompositionReport;
 constexpr std::array kReportFields = std::to_array<Field<Report>>({
     {"label", [](Report& report, Values& values) { readLabel(report.label, values); }},
     {"documentpages",
-     [](Report& report, Values& values) { report.documentPages = values.whole(); }},
+     [](Report& report, Values& values) {
+       report.documentPages = values.whole();
+       report.isPartial = values.flag();
+     }},
     {"page",
      [](Report& report, Values& values) {
        ComposedPage page;
@@ -233,7 +236,7 @@ std::string CompositionReport::asText() const {
     return writer.take();
   }
   writeLabel(writer, label);
-  writer.numbers("documentpages", {numberOf(documentPages)});
+  writer.numbers("documentpages", {numberOf(documentPages), numberOf(isPartial)});
   for (const ComposedPage& page : pages)
     writer.numbers("page", {page.size.width, page.size.height, numberOf(page.size.isStated),
                             page.scale, numberOf(page.turn)});

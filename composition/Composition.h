@@ -81,6 +81,7 @@ struct CompositionReport {
   std::optional<CompositionFailure> failure;  // nothing else counts then
   LabelPage label;                            // with its length, where the content chose it
   int documentPages = 0;                      // of all documents, before any selection
+  bool isPartial = false;                     // only their beginnings were read: there may be more
   std::vector<ComposedPage> pages;            // of the PDF
 
   std::string asText() const;

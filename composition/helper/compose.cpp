@@ -84,7 +84,9 @@ CompositionReport composed(const CompositionRequest& request) {
   ProcessLimits limits = kLimits;
   limits.files = static_cast<unsigned>(kFirstDocument + documents.size() + made.size()) + kOwnFiles;
   if (!confine(limits)) return failed(DocumentProblem::broken, 0, "it cannot be confined");
-  return composeDocuments(request, documents, kOutput, typesetter);
+  CompositionReport report = composeDocuments(request, documents, kOutput, typesetter);
+  report.isPartial |= !made.empty() && mostPages(request.pages) > 0;
+  return report;
 }
 
 }  // namespace

@@ -78,6 +78,7 @@ class Composition {
       mCurrent = static_cast<int>(mDocuments.size());
       mDocuments.push_back(openDocument(descriptor, mRequest, mTypesetter));
       mReport.documentPages += mDocuments.back().source->pageCount();
+      mReport.isPartial |= mDocuments.back().isPartial;
     }
   }
 

@@ -45,7 +45,7 @@ OpenedDocument openText(const Opening& opening) {
                                         textRoom(request.label, layout.turn), request.text,
                                         neededLabels(request.pages), pages, problem))
     throw Refusal{problem.problem, problem.detail};
-  return {std::make_unique<PdfSource>(std::move(pages)), layout};
+  return {std::make_unique<PdfSource>(std::move(pages)), layout, neededLabels(request.pages) > 0};
 }
 
 OpenedDocument openDrawing(const Opening& opening) {

@@ -11,7 +11,8 @@ namespace cutline {
 
 struct OpenedDocument {
   std::unique_ptr<DocumentSource> source;
-  LayoutSettings layout;  // of its pages
+  LayoutSettings layout;   // of its pages
+  bool isPartial = false;  // only as much was read as was asked for
 };
 
 // `descriptor` is an open file, which stays the caller's and open as long as the document;

@@ -120,6 +120,27 @@ TEST_F(Composer, ComposesEveryKind) {
   EXPECT_EQ(composed->report.documentPages, 2 + 1 + 2 + 1 + 1);
 }
 
+// The first label is asked for before the rest: the answer must not look like all there is.
+TEST_F(Composer, SaysThatOnlyABeginningWasRead) {
+  const std::string text = mFolder.write("labels.txt", "Shelf 12\n\nShelf 13\n");
+  const std::string program = mFolder.write("pages.ps", "%!PS\nshowpage showpage\n");
+  CompositionRequest first = labelRequest();
+  first.pages.most = 1;
+  for (const std::string& path : {text, program}) {
+    const Result<ComposedDocument> composed = compose(kHelpers, {path}, first);
+    ASSERT_TRUE(composed) << errorOf(composed);
+    EXPECT_TRUE(composed->report.isPartial) << path;
+    const Result<ComposedDocument> whole = compose(kHelpers, {path}, labelRequest());
+    ASSERT_TRUE(whole) << errorOf(whole);
+    EXPECT_FALSE(whole->report.isPartial) << path;
+    EXPECT_EQ(whole->report.documentPages, 2) << path;
+  }
+  const Result<ComposedDocument> counted = compose(kHelpers, {pdf()}, first);
+  ASSERT_TRUE(counted) << errorOf(counted);
+  EXPECT_FALSE(counted->report.isPartial);
+  EXPECT_EQ(counted->report.documentPages, 2);
+}
+
 TEST_F(Composer, TakesAnyName) {
   for (const char* name : {"two\nlines.pdf", "\"quoted\" 'too'.pdf", "back\\slash\\n.pdf",
                            " blank .pdf", "-o.pdf", "%1.pdf", "\xff\xfe.pdf"}) {

@@ -37,12 +37,14 @@ TEST(CompositionFormTest, AReportComesBackAsItWas) {
   CompositionReport report;
   report.label = {68.03, 141.73, 2.83, 5.67, 65.2, 136.06, 90, 90};
   report.documentPages = 12;
+  report.isPartial = true;
   report.pages = {{{100, 50, false}, 0.75, 90}, {{10.25, 20}, 1, 0}};
   const auto back = CompositionReport::parse(report.asText());
   ASSERT_TRUE(back);
   EXPECT_FALSE(back->failure);
   EXPECT_EQ(back->label, report.label);
   EXPECT_EQ(back->documentPages, 12);
+  EXPECT_TRUE(back->isPartial);
   ASSERT_EQ(back->pages.size(), 2U);
   EXPECT_EQ(back->pages[0].size, report.pages[0].size);
   EXPECT_EQ(back->pages[0].scale, 0.75);
