@@ -8,6 +8,7 @@
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <utility>
 
+#include "composition/reader/DocumentBytes.h"
 #include "composition/reader/LabelWriter.h"
 #include "composition/reader/PdfContents.h"
 #include "composition/reader/PdfFrame.h"
@@ -19,6 +20,8 @@ namespace cutline {
 namespace {
 
 constexpr char kDescription[] = "document";
+// A file of up to so many bytes is read at once: looking into it here and there takes longer.
+constexpr std::size_t kInMemory = std::size_t{16} * 1024 * 1024;
 
 std::FILE* fileOn(int descriptor) {
   const int own = ::dup(descriptor);
@@ -33,7 +36,13 @@ std::FILE* fileOn(int descriptor) {
 
 PdfSource::PdfSource(int descriptor) {
   mPdf.setSuppressWarnings(true);
-  mPdf.processFile(kDescription, fileOn(descriptor), /*close_file=*/true);
+  mBytes.pdf = startOf(descriptor, kInMemory + 1);
+  if (mBytes.pdf.size() <= kInMemory) {
+    mPdf.processMemoryFile(kDescription, mBytes.pdf.data(), mBytes.pdf.size());
+  } else {
+    mBytes.pdf = {};
+    mPdf.processFile(kDescription, fileOn(descriptor), /*close_file=*/true);
+  }
   open();
 }
 

@@ -11,6 +11,7 @@
 #include "composition/reader/Exif.h"
 #include "composition/reader/LabelWriter.h"
 #include "composition/reader/PixelImage.h"
+#include "composition/reader/PngStream.h"
 #include "composition/reader/Refusal.h"
 
 namespace cutline {
@@ -63,20 +64,28 @@ void need(bool success) {
   if (!success) throw Refusal{DocumentProblem::damaged, {}};
 }
 
+// What the library needs to read a PNG; null where there is no memory.
+struct PngStructs {
+  PngStructs()
+      : png(png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, onError, onWarning)),
+        info(png != nullptr ? png_create_info_struct(png) : nullptr) {}
+  ~PngStructs() { png_destroy_read_struct(&png, &info, nullptr); }
+  PngStructs(const PngStructs&) = delete;
+  PngStructs& operator=(const PngStructs&) = delete;
+
+  png_structp png;
+  png_infop info;
+};
+
 class PngReader {
  public:
   explicit PngReader(std::string_view bytes)
-      : mRest(bytes),
-        mPng(png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, onError, onWarning)),
-        mInfo(mPng != nullptr ? png_create_info_struct(mPng) : nullptr) {
+      : mBytes(bytes), mRest(bytes), mPng(mStructs.png), mInfo(mStructs.info) {
     if (mInfo == nullptr) throw Refusal{DocumentProblem::tooLarge, {}};
     png_set_read_fn(mPng, &mRest, takeBytes);
     png_set_user_limits(mPng, kWidest, kWidest);
     need(readInfo(mPng, mInfo));
   }
-  ~PngReader() { png_destroy_read_struct(&mPng, &mInfo, nullptr); }
-  PngReader(const PngReader&) = delete;
-  PngReader& operator=(const PngReader&) = delete;
 
   PictureFacts facts() const {
     PictureFacts facts;
@@ -93,21 +102,37 @@ class PngReader {
   }
 
   QPDFObjectHandle image(QPDF& pdf) {
+    return canGoAlong(mPng, mInfo) ? packed(pdf) : unpacked(pdf);
+  }
+
+ private:
+  // Unpacked all the same, to see that all of it is there: what is broken, every reader of the PDF
+  // would draw in its own way.
+  QPDFObjectHandle packed(QPDF& pdf) {
+    readRows([](const std::uint8_t*) {});
+    need(readEnd(mPng));
+    return packedImage(pdf, mBytes, mPng, mInfo);
+  }
+
+  QPDFObjectHandle unpacked(QPDF& pdf) {
     int passes = 1;
     need(startRows(mPng, mInfo, passes));
     PixelImage pixels(png_get_image_width(mPng, mInfo), png_get_image_height(mPng, mInfo),
                       png_get_channels(mPng, mInfo));
-    passes == 1 ? readDirectly(pixels) : readInterlaced(passes, pixels);
+    if (passes == 1)
+      readRows([&](const std::uint8_t* row) { pixels.addRow(row); });
+    else
+      readInterlaced(passes, pixels);
     need(readEnd(mPng));
     return pixels.image(pdf);
   }
 
- private:
-  void readDirectly(PixelImage& pixels) {
+  template <typename Take>
+  void readRows(Take take) {
     std::vector<std::uint8_t> row(png_get_rowbytes(mPng, mInfo));
     for (png_uint_32 y = png_get_image_height(mPng, mInfo); y > 0; --y) {
       need(readRow(mPng, row.data()));
-      pixels.addRow(row.data());
+      take(row.data());
     }
   }
 
@@ -122,7 +147,9 @@ class PngReader {
     for (std::size_t y = 0; y < height; ++y) pixels.addRow(rows.data() + y * rowSize);
   }
 
+  std::string_view mBytes;
   std::string_view mRest;
+  PngStructs mStructs;
   png_structp mPng;
   png_infop mInfo;
 };

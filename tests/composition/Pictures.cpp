@@ -40,26 +40,71 @@ Pixels markedPixels(unsigned width, unsigned height, unsigned channels) {
   return pixels;
 }
 
-std::string pngOf(const Pixels& pixels, Density density, bool isInterlaced) {
-  std::string file;
-  png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
-  png_infop info = png_create_info_struct(png);
-  png_set_write_fn(png, &file, appendBytes, nullptr);
-  png_set_IHDR(png, info, pixels.width, pixels.height, 8, kPngKinds[pixels.channels - 1],
-               isInterlaced ? PNG_INTERLACE_ADAM7 : PNG_INTERLACE_NONE,
-               PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
-  if (density.across > 0)
-    png_set_pHYs(png, info, static_cast<png_uint_32>(std::lround(density.across * kInchesPerMetre)),
+namespace {
+
+class PngWriter {
+ public:
+  PngWriter()
+      : mPng(png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr)),
+        mInfo(png_create_info_struct(mPng)) {
+    png_set_write_fn(mPng, &mFile, appendBytes, nullptr);
+  }
+  ~PngWriter() { png_destroy_write_struct(&mPng, &mInfo); }
+  PngWriter(const PngWriter&) = delete;
+  PngWriter& operator=(const PngWriter&) = delete;
+
+  void header(const Pixels& pixels, int bits, int kind, bool isInterlaced) {
+    png_set_IHDR(mPng, mInfo, pixels.width, pixels.height, bits, kind,
+                 isInterlaced ? PNG_INTERLACE_ADAM7 : PNG_INTERLACE_NONE,
+                 PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
+  }
+
+  void density(Density density) {
+    if (density.across <= 0) return;
+    png_set_pHYs(mPng, mInfo,
+                 static_cast<png_uint_32>(std::lround(density.across * kInchesPerMetre)),
                  static_cast<png_uint_32>(std::lround(density.along * kInchesPerMetre)),
                  PNG_RESOLUTION_METER);
-  std::vector<png_bytep> rows;
-  for (unsigned y = 0; y < pixels.height; ++y)
-    rows.push_back(const_cast<png_bytep>(pixels.bytes.data()) +
-                   std::size_t{y} * pixels.width * pixels.channels);
-  png_set_rows(png, info, rows.data());
-  png_write_png(png, info, PNG_TRANSFORM_IDENTITY, nullptr);
-  png_destroy_write_struct(&png, &info);
-  return file;
+  }
+
+  void blackAndWhite() {
+    const png_color colours[] = {{0, 0, 0}, {255, 255, 255}};
+    png_set_PLTE(mPng, mInfo, colours, 2);
+  }
+
+  // Each pixel's channel takes a byte here, whatever it takes in the file.
+  std::string write(Pixels pixels) {
+    std::vector<png_bytep> rows;
+    for (unsigned y = 0; y < pixels.height; ++y)
+      rows.push_back(pixels.bytes.data() + std::size_t{y} * pixels.width * pixels.channels);
+    png_set_rows(mPng, mInfo, rows.data());
+    png_write_png(mPng, mInfo, PNG_TRANSFORM_PACKING, nullptr);
+    return mFile;
+  }
+
+ private:
+  std::string mFile;
+  png_structp mPng;
+  png_infop mInfo;
+};
+
+}  // namespace
+
+std::string pngOf(const Pixels& pixels, Density density, bool isInterlaced) {
+  PngWriter writer;
+  writer.header(pixels, 8, kPngKinds[pixels.channels - 1], isInterlaced);
+  writer.density(density);
+  return writer.write(pixels);
+}
+
+std::string palettePngOf(const Pixels& pixels, int bits, Density density) {
+  PngWriter writer;
+  writer.header(pixels, bits, PNG_COLOR_TYPE_PALETTE, false);
+  writer.density(density);
+  writer.blackAndWhite();
+  Pixels numbers = pixels;
+  for (std::uint8_t& number : numbers.bytes) number = number == 0 ? 0 : 1;
+  return writer.write(std::move(numbers));
 }
 
 std::string jpegOf(const Pixels& pixels, Density density, const std::string& exif) {

@@ -27,6 +27,8 @@ struct Density {
 };
 
 std::string pngOf(const Pixels& pixels, Density density = {}, bool isInterlaced = false);
+// One channel's black pixels as the first of two colours, and all others as the second, white.
+std::string palettePngOf(const Pixels& pixels, int bits, Density density);
 // With a block of Exif where it is not empty; three channels or one.
 std::string jpegOf(const Pixels& pixels, Density density = {}, const std::string& exif = {});
 std::string webpOf(const Pixels& pixels);

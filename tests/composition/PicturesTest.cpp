@@ -152,6 +152,18 @@ TEST(PicturesTest, AJpegGoesAlongAsItIs) {
   EXPECT_NE(Composed(jpeg).pdf().find(jpeg), std::string::npos);
 }
 
+TEST(PicturesTest, APngGoesAlongPackedWhereAPdfCanHoldIt) {
+  const std::string png = pngOf(markedPixels(80, 160), kDensity);
+  const std::size_t pixels = png.find("IDAT") + 4;
+  const std::size_t end = png.find("IEND") - 8;
+  EXPECT_NE(Composed(png).pdf().find(png.substr(pixels, end - pixels)), std::string::npos);
+}
+
+TEST(PicturesTest, APngMayHaveFewColours) {
+  for (const int bits : {1, 2, 4, 8})
+    expectInMiddle(palettePngOf(markedPixels(80, 160, 1), bits, kDensity), "palette");
+}
+
 TEST(PicturesTest, InterlacedPicturesAreWhole) {
   expectInMiddle(pngOf(markedPixels(80, 160), kDensity, /*isInterlaced=*/true), "interlaced");
 }
