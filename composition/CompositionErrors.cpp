@@ -67,12 +67,13 @@ struct EndMeaning {
   int signal;
   DocumentProblem problem;
 };
-// Who has no memory left is killed by the system.
+// Who has no memory left is killed by the system, or by GLib, with a trap.
 constexpr std::array kEndMeanings = std::to_array<EndMeaning>({
     {SIGXCPU, DocumentProblem::tooSlow},
     {SIGALRM, DocumentProblem::tooSlow},
     {SIGXFSZ, DocumentProblem::tooLarge},
     {SIGKILL, DocumentProblem::tooLarge},
+    {SIGTRAP, DocumentProblem::tooLarge},
 });
 
 }  // namespace

@@ -32,7 +32,7 @@ bool limitUnlessNone(decltype(RLIMIT_CORE) resource, std::uint64_t most) {
   return most == 0 || limit(resource, most, most);
 }
 
-bool limitMemory([[maybe_unused]] std::uint64_t bytes) {
+bool limitOwnMemory([[maybe_unused]] std::uint64_t bytes) {
 #ifdef CUTLINE_SANITIZED
   // The sanitizer's shadow takes terabytes of address space.
   return true;
@@ -46,8 +46,7 @@ bool setLimits(const ProcessLimits& limits) {
   const bool isTimed =
       limits.cpuSeconds == 0 || limit(RLIMIT_CPU, limits.cpuSeconds, limits.cpuSeconds + 1U);
   if (limits.wallSeconds > 0) ::alarm(limits.wallSeconds);
-  return isTimed && limit(RLIMIT_CORE, 0, 0) && limitMemory(limits.memory) &&
-         limitUnlessNone(RLIMIT_FSIZE, limits.fileSize) &&
+  return isTimed && limit(RLIMIT_CORE, 0, 0) && limitUnlessNone(RLIMIT_FSIZE, limits.fileSize) &&
          limitUnlessNone(RLIMIT_NOFILE, limits.files);
 }
 
@@ -84,13 +83,16 @@ bool setView(std::uint64_t everywhere, const char* folder) {
 }  // namespace
 
 bool confine(const ProcessLimits& limits) noexcept {
-  return setProcess(limits) && setLimits(limits) && setView(kReading, nullptr) &&
-         allowReadingCalls();
+  return setProcess(limits) && setLimits(limits) && limitOwnMemory(limits.memory) &&
+         setView(kReading, nullptr) && allowReadingCalls();
 }
 
+// The memory comes last: it is the interpreter's, which no sanitizer watches, and hardly enough for
+// a program that one does.
 bool confineInterpreter(const ProcessLimits& limits, const char* folder) noexcept {
   return setProcess(limits) && setLimits(limits) &&
-         setView(kReading | LANDLOCK_ACCESS_FS_EXECUTE, folder) && refuseReachingOut();
+         setView(kReading | LANDLOCK_ACCESS_FS_EXECUTE, folder) && refuseReachingOut() &&
+         limitUnlessNone(RLIMIT_AS, limits.memory);
 }
 
 }  // namespace cutline

@@ -86,8 +86,8 @@ bool drawingPage(std::string_view svg, TypesetPages& pages, TypesetProblem& prob
   cairo_scale(canvas, kPointsPerPixel, kPointsPerPixel);
   const bool isDrawn = draw(drawing.get(), *view, canvas);
   std::optional<std::string> file = pdf.finish();
-  if (!isDrawn) return failed(problem, DocumentProblem::damaged);
-  if (!file) return failed(problem, DocumentProblem::tooLarge);
+  // What could be read and cannot be drawn takes too much: of memory, or of elements.
+  if (!isDrawn || !file) return failed(problem, DocumentProblem::tooLarge);
   pages = {std::move(*file), view->part == DrawnPart::sized};
   return true;
 }
