@@ -42,7 +42,7 @@ OpenedDocument openText(const Opening& opening) {
   TypesetPages pages;
   TypesetProblem problem;
   if (!opening.needTypesetter().setText(contentsOf(opening.descriptor),
-                                        textRoom(request.label, layout.turn), request.text,
+                                        textRoom(request, layout.turn), request.text,
                                         neededLabels(request.pages), pages, problem))
     throw Refusal{problem.problem, problem.detail};
   return {std::make_unique<PdfSource>(std::move(pages)), layout, neededLabels(request.pages) > 0};

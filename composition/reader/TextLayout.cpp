@@ -25,11 +25,15 @@ Turn textTurn(const LabelPage& label, Turn asked) {
   return row != kTurns.end() ? row->turn : Turn::portrait;
 }
 
-TextRoom textRoom(const LabelPage& label, Turn turn) {
+TextRoom textRoom(const CompositionRequest& request, Turn turn) {
+  const LabelPage& label = request.label;
   const bool isAlong = turn == Turn::landscape || turn == Turn::reverseLandscape;
   const double width = label.printableWidth();
   const double length = label.printableLength();
-  return {isAlong ? length : width, isAlong ? width : length, label.isContinuous};
+  if (!isAlong) return {width, length, false};
+  if (!request.lengthBounds) return {length, width, false};
+  const double margins = label.length - length;
+  return {request.lengthBounds->longest - margins, width, true};
 }
 
 }  // namespace cutline

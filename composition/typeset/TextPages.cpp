@@ -18,8 +18,8 @@ double leftOf(const TextBlock& block, double width, double room) {
   return block.isRightToLeft ? free : 0;
 }
 
-// The room without a margin that keeps what lies on its edge from being cut off by rounding.
-constexpr double kInset = 0.005;
+// The room without a margin, in its heights, that keeps what lies on its edge from being cut off by rounding.
+constexpr double kInset = 0.01;
 TextRoom inner(const TextRoom& room) {
   const double both = 2 * kInset * room.height;
   return {std::max(room.width - both, 0.0), room.height - both, room.isEndless};

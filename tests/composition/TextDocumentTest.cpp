@@ -59,6 +59,7 @@ TEST(TextDocumentTest, TextOnContinuousTapeIsAsLongAsItIs) {
   FakeTypesetter typesetter;
   Composed composed("one\n", request, &typesetter);
   EXPECT_TRUE(typesetter.mRoom.isEndless);
+  EXPECT_EQ(typesetter.mRoom.width, 960);
   EXPECT_EQ(typesetter.mRoom.height, 80);
   EXPECT_DOUBLE_EQ(composed.report().label.length, 190);
   EXPECT_TRUE(composed.isMarkedAt({10, 160, 20, 170}));
