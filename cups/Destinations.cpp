@@ -7,7 +7,9 @@
 #include <utility>
 
 #include "base/Lists.h"
+#include "base/Numbers.h"
 #include "cups/CupsOptions.h"
+#include "cups/IppMessage.h"
 #include "cups/SavedOptions.h"
 #include "cups/ServerConnection.h"
 
@@ -35,16 +37,16 @@ std::string valueOf(const cups_dest_t& dest, const char* name) {
   return value ? value : "";
 }
 
-PrinterState stateOf(const std::string& value) {
+PrinterState stateOf(int value) {
   constexpr std::array kStates{PrinterState::idle, PrinterState::processing, PrinterState::stopped};
-  const bool isKnown = value.size() == 1 && value[0] >= '3' && value[0] <= '5';
-  return isKnown ? kStates[value[0] - '3'] : PrinterState::unknown;
+  const bool isKnown = value >= IPP_PSTATE_IDLE && value <= IPP_PSTATE_STOPPED;
+  return isKnown ? kStates[static_cast<std::size_t>(value - IPP_PSTATE_IDLE)]
+                 : PrinterState::unknown;
 }
 
-std::vector<std::string> reasonsOf(const std::string& value) {
-  std::vector<std::string> reasons;
-  for (std::string& reason : partsBetweenCommas(value))
-    if (!reason.empty() && reason != "none") reasons.push_back(std::move(reason));
+std::vector<std::string> reasonsOf(std::vector<std::string> reasons) {
+  std::erase_if(reasons,
+                [](const std::string& reason) { return reason.empty() || reason == "none"; });
   return reasons;
 }
 
@@ -55,9 +57,9 @@ Destination destinationOf(const cups_dest_t& dest) {
   destination.isDefault = dest.is_default != 0;
   destination.info = valueOf(dest, "printer-info");
   destination.deviceURI = valueOf(dest, "device-uri");
-  destination.state = stateOf(valueOf(dest, "printer-state"));
+  destination.state = stateOf(numberIn<int>(valueOf(dest, "printer-state")).value_or(0));
   destination.acceptsJobs = valueOf(dest, "printer-is-accepting-jobs") != "false";
-  destination.stateReasons = reasonsOf(valueOf(dest, "printer-state-reasons"));
+  destination.stateReasons = reasonsOf(partsBetweenCommas(valueOf(dest, "printer-state-reasons")));
   destination.savedOptions = savedOptionsFor(destination.name).value_or(OptionList{});
   return destination;
 }
@@ -103,6 +105,11 @@ Error unknownPrinter(http_t* http, const std::string& printer) {
                   {serverText(), printer, knownPrinters(*list)});
 }
 
+// Without asking again a server that keeps silent, or does not tell.
+Error notFound(const std::string& printer) {
+  return serverError({Phrase("cups", "no printer \"%1\""), {printer}});
+}
+
 Error noDefault(http_t* http) {
   // libcups says so where an environment variable or a saved default names an unknown printer.
   const std::string reason =
@@ -130,22 +137,51 @@ Error unknownInstance(const DestinationName& name) {
                   {name.printer, *name.instance, saved});
 }
 
-Result<Destination> findNamed(http_t* http, const DestinationName& name) {
-  const char* printer = name.printer.c_str();
-  cups_dest_t* dest = cupsGetNamedDest(http, printer, nullptr);
-  if (!dest) return unknownPrinter(http, name.printer);
-  const DestinationArray owner(1, dest);
-  // Works around libcups 2.4.2: cupsGetNamedDest makes up an instance that nobody saved.
-  if (name.instance && !savedOptionsFor(name)) return unknownInstance(name);
-  Destination destination = destinationOf(*dest);
-  if (!name.instance) return destination;
-  destination.name.instance = spelledAsSaved(name).instance;
+IppMessage askedFor(http_t* http, const std::string& printer) {
+  constexpr std::array kWanted{"printer-name",  "printer-info",
+                               "device-uri",    "printer-is-accepting-jobs",
+                               "printer-state", "printer-state-reasons"};
+  IppMessage request = newPrinterRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, printer);
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+               cupsUser());
+  ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                kWanted.size(), nullptr, kWanted.data());
+  return answerTo(http, std::move(request));
+}
+
+// Works around libcups 2.4.2: where the server has no such printer cupsGetNamedDest looks for one
+// in the network, which has no PPD, over a connection that waits for minutes.
+std::optional<Destination> askForPrinter(http_t* http, const std::string& printer) {
+  const IppMessage answer = askedFor(http, printer);
+  if (!answer) return std::nullopt;
+  const std::string name = ippText(answer.get(), "printer-name", IPP_TAG_NAME);
+  ipp_attribute_t* accepts =
+      ippFindAttribute(answer.get(), "printer-is-accepting-jobs", IPP_TAG_BOOLEAN);
+  Destination destination;
+  destination.name.printer = name.empty() ? printer : name;
+  destination.info = ippText(answer.get(), "printer-info", IPP_TAG_TEXT);
+  destination.deviceURI = ippText(answer.get(), "device-uri", IPP_TAG_URI);
+  destination.state = stateOf(ippNumber(answer.get(), "printer-state", IPP_TAG_ENUM).value_or(0));
+  destination.acceptsJobs = !accepts || ippGetBoolean(accepts, 0);
+  destination.stateReasons = reasonsOf(ippKeywords(answer.get(), "printer-state-reasons"));
   destination.savedOptions = savedOptionsFor(destination.name).value_or(OptionList{});
   return destination;
 }
 
+Result<Destination> findNamed(http_t* http, const DestinationName& name) {
+  auto destination = askForPrinter(http, name.printer);
+  if (!destination && cupsLastError() != IPP_STATUS_ERROR_NOT_FOUND) return notFound(name.printer);
+  if (!destination) return unknownPrinter(http, name.printer);
+  if (!name.instance) return *destination;
+  if (!savedOptionsFor(name)) return unknownInstance(name);
+  destination->name.instance = spelledAsSaved(name).instance;
+  destination->savedOptions = savedOptionsFor(destination->name).value_or(OptionList{});
+  return *destination;
+}
+
 Result<Destination> findDefault(http_t* http) {
   cups_dest_t* dest = cupsGetNamedDest(http, nullptr, nullptr);
+  if (!dest && serverKeptSilent()) return serverError(Phrase("cups", "no default printer"));
   if (!dest) return noDefault(http);
   const DestinationArray owner(1, dest);
   Destination destination = destinationOf(*dest);

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <memory>
 #include <optional>
 #include <string_view>
 
+#include "cups/IppMessage.h"
 #include "cups/ServerConnection.h"
 
 namespace cutline {
@@ -62,33 +62,12 @@ const StateText& rowOf(JobState state) {
   return *std::ranges::find(kStateTexts, state, &StateText::state);
 }
 
-struct FreeIpp {
-  void operator()(ipp_t* ipp) const noexcept { ippDelete(ipp); }
-};
-using IppMessage = std::unique_ptr<ipp_t, FreeIpp>;
-
-std::string textOf(ipp_t* answer, const char* name, ipp_tag_t tag) {
-  ipp_attribute_t* attribute = ippFindAttribute(answer, name, tag);
-  const char* text = attribute ? ippGetString(attribute, 0, nullptr) : nullptr;
-  return text ? text : "";
-}
-
-std::vector<std::string> textsOf(ipp_t* answer, const char* name) {
-  ipp_attribute_t* attribute = ippFindAttribute(answer, name, IPP_TAG_KEYWORD);
-  std::vector<std::string> texts;
-  for (int i = 0; attribute && i < ippGetCount(attribute); ++i) {
-    texts.emplace_back(ippGetString(attribute, i, nullptr));
-  }
-  return texts;
-}
-
 // The larger of the server's two counts. They follow what the filters tell, which all that make
 // pages do.
 std::optional<int> pagesOf(ipp_t* answer) {
   std::optional<int> pages;
   for (const char* name : {"job-impressions-completed", "job-media-sheets-completed"}) {
-    ipp_attribute_t* count = ippFindAttribute(answer, name, IPP_TAG_INTEGER);
-    if (count) pages = std::max(pages.value_or(0), ippGetInteger(count, 0));
+    if (const auto count = ippNumber(answer, name)) pages = std::max(pages.value_or(0), *count);
   }
   return pages;
 }
@@ -99,23 +78,19 @@ std::optional<JobStatus> statusOf(ipp_t* answer) {
   const auto* row = std::ranges::find(
       kStateTexts, static_cast<ipp_jstate_t>(ippGetInteger(attribute, 0)), &StateText::ipp);
   if (row == kStateTexts.end()) return std::nullopt;
-  return JobStatus{row->state, textOf(answer, "job-printer-state-message", IPP_TAG_TEXT),
-                   textsOf(answer, "job-state-reasons"), pagesOf(answer)};
-}
-
-IppMessage newRequest(ipp_op_t operation, const DestinationName& destination) {
-  std::array<char, HTTP_MAX_URI> uri{};
-  httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), uri.size(), "ipp", nullptr, "localhost", 0,
-                   "/printers/%s", destination.printer.c_str());
-  IppMessage request(ippNewRequest(operation));
-  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.data());
-  return request;
+  return JobStatus{row->state, ippText(answer, "job-printer-state-message", IPP_TAG_TEXT),
+                   ippKeywords(answer, "job-state-reasons"), pagesOf(answer),
+                   ippNumber(answer, "job-k-octets")};
 }
 
 IppMessage jobRequest(const DestinationName& destination, int jobId) {
-  constexpr std::array kWanted{"job-state", "job-state-reasons", "job-printer-state-message",
-                               "job-impressions-completed", "job-media-sheets-completed"};
-  IppMessage request = newRequest(IPP_OP_GET_JOB_ATTRIBUTES, destination);
+  constexpr std::array kWanted{"job-state",
+                               "job-state-reasons",
+                               "job-printer-state-message",
+                               "job-impressions-completed",
+                               "job-media-sheets-completed",
+                               "job-k-octets"};
+  IppMessage request = newPrinterRequest(IPP_OP_GET_JOB_ATTRIBUTES, destination.printer);
   ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
   ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
                cupsUser());
@@ -124,15 +99,8 @@ IppMessage jobRequest(const DestinationName& destination, int jobId) {
   return request;
 }
 
-// Takes the request and gives the answer; null where the server refuses it.
-IppMessage answerTo(http_t* http, IppMessage request) {
-  IppMessage answer(cupsDoRequest(http, request.release(), "/"));
-  if (cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE) answer.reset();
-  return answer;
-}
-
 bool isPrinterStopped(http_t* http, const DestinationName& destination) {
-  IppMessage request = newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, destination);
+  IppMessage request = newPrinterRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, destination.printer);
   ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
                "printer-state");
   const IppMessage answer = answerTo(http, std::move(request));

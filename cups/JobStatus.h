@@ -20,6 +20,9 @@ struct JobStatus {
   // How many pages the server has counted; nothing where it counts none, as for what goes to the
   // printer as it is.
   std::optional<int> pages = std::nullopt;
+  // How much of its document the server has, in kilobytes, begun ones included; nothing where it
+  // does not tell.
+  std::optional<int> kilobytes = std::nullopt;
 
   bool isFinal() const noexcept;
   // Whether one of the reasons tells what the job waits for.

@@ -7,6 +7,7 @@
 
 #include "base/Lists.h"
 #include "cups/CustomSize.h"
+#include "cups/PpdLimits.h"
 #include "cups/PpdRecords.h"
 
 namespace cutline {
@@ -70,12 +71,18 @@ Result<Done> checkCustomSize(const ppd_file_t* ppd, const std::string& choice) {
     return Error{Sentence(
         Phrase("cups", "\"%1\" is no paper size: write it as Custom.WIDTHxLENGTHmm"), {choice})};
   }
-  if (isWithin(size->width, ppd->custom_min[0], ppd->custom_max[0]) &&
-      isWithin(size->length, ppd->custom_min[1], ppd->custom_max[1]))
+  const double mostWidth = std::min<double>(ppd->custom_max[0], kLongestPaper);
+  const double mostLength = std::min<double>(ppd->custom_max[1], kLongestPaper);
+  if (isWithin(size->width, ppd->custom_min[0], mostWidth) &&
+      isWithin(size->length, ppd->custom_min[1], mostLength))
     return Done{};
   return Error{Sentence(Phrase("cups", "the printer does not take paper of %1: it takes %2 to %3"),
                         {size->text(), CustomSize{ppd->custom_min[0], ppd->custom_min[1]}.text(),
                          CustomSize{ppd->custom_max[0], ppd->custom_max[1]}.text()})};
+}
+
+Error noPaper(const std::string& choice) {
+  return Sentence(Phrase("cups", "the paper \"%1\" has measures that no paper has"), {choice});
 }
 
 Result<Done> checkCustom(ppd_file_t* ppd, const ppd_option_t& option, const std::string& choice) {
@@ -128,6 +135,7 @@ Result<Done> checkChoiceOf(ppd_file_t* ppd, const ppd_option_t& option, const st
   if (isCustomValue(choice) && ppdFindCustomOption(ppd, option.keyword)) {
     return checkCustom(ppd, option, choice);
   }
+  if (isUnusableSize(ppd, option.keyword, choice)) return noPaper(choice);
   if (choiceNamed(option, choice)) return Done{};
   return Error{Sentence(Phrase("cups", "the option %1 has no choice \"%2\": %3"),
                         {std::string(option.keyword), choice, choiceNames(option)})};

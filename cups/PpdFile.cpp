@@ -1,10 +1,6 @@
 #include "cups/PpdFile.h"
 
 #include <cups/ppd.h>
-#include <fcntl.h>
-#include <sys/mman.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cstring>
@@ -15,10 +11,13 @@
 #include "cups/CupsOptions.h"
 #include "cups/CustomSize.h"
 #include "cups/PpdChoice.h"
+#include "cups/PpdContents.h"
+#include "cups/PpdLimits.h"
 #include "cups/PpdProblems.h"
 #include "cups/PpdRecords.h"
 #include "cups/PpdTexts.h"
 #include "cups/ServerConnection.h"
+#include "cups/ServerFile.h"
 #include "platform/lib/Languages.h"
 
 namespace cutline {
@@ -27,27 +26,6 @@ namespace {
 
 // The same choices as the page size's; marking it would take the page size's mark away.
 constexpr const char* kPageRegion = "PageRegion";
-
-// From where the descriptor stands to the end. What is larger than any PPD is cut off.
-std::string contentsOf(int fd) {
-  constexpr std::size_t kBlock = 65536;
-  constexpr std::size_t kLargest = 64U << 20U;
-  std::string text;
-  std::string block(kBlock, '\0');
-  for (ssize_t count = 0;
-       text.size() < kLargest && (count = read(fd, block.data(), block.size())) > 0;) {
-    text.append(block, 0, static_cast<std::size_t>(count));
-  }
-  return text;
-}
-
-// A new descriptor that reads these contents; none when there is no memory for it.
-FileDescriptor memoryFile(std::string_view contents) {
-  FileDescriptor file(memfd_create("ppd", MFD_CLOEXEC));
-  const bool isWritten = file && writeAll(file.get(), contents.data(), contents.size());
-  if (isWritten && lseek(file.get(), 0, SEEK_SET) == 0) return file;
-  return FileDescriptor();
-}
 
 Error noMemoryFor(const Sentence& name) {
   return Sentence(Phrase("cups", "no memory for %1"), {name});
@@ -90,11 +68,8 @@ PaperSize paperOf(ppd_file_t* ppd, const ppd_size_t& size) {
   return paper;
 }
 
-Error unopened(const Sentence& name, Sentence why) {
-  return Sentence(Phrase("cups", "cannot open %1: %2"), {name, std::move(why)});
-}
-
 Error notFetched(http_t* http, const std::string& printer, http_status_t status) {
+  if (serverKeptSilent()) return serverError({Phrase("cups", "no PPD of \"%1\""), {printer}});
   if (status == HTTP_STATUS_ERROR) {
     return Sentence(
         Phrase("cups", "the connection to the print server at \"%1\" was lost: try again"),
@@ -121,56 +96,55 @@ Error notFetched(http_t* http, const std::string& printer, http_status_t status)
 
 PpdFile::~PpdFile() { ppdClose(mPpd); }
 
-Result<std::shared_ptr<PpdFile>> PpdFile::read(int fd, const Sentence& name) {
-  const FileDescriptor source(fd);
-  std::string contents = contentsOf(fd);
+Result<std::shared_ptr<PpdFile>> PpdFile::read(std::string contents, const Sentence& name) {
+  if (const auto problem = tooMuchForLibcups(contents, name)) return *problem;
   const auto kept = keepTexts(contents, preferredLocalizations());
   FileDescriptor copy = memoryFile(contents);
   if (!copy) return noMemoryFor(name);
   ppd_file_t* ppd = ppdOpenFd(copy.release());  // closes it
   if (!ppd) return ppdProblem(name, contents);
+  std::shared_ptr<PpdFile> file(new PpdFile(ppd));
+  if (const auto problem = unusableSizes(ppd, name)) return *problem;
   putTexts(*ppd, kept);
-  return std::shared_ptr<PpdFile>(new PpdFile(ppd));
+  return file;
 }
 
 Result<std::shared_ptr<PpdFile>> PpdFile::open(const std::string& path) {
   const Sentence name(Phrase("cups", "the PPD \"%1\""), {path});
-  FileDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
-  if (!file) return unopened(name, std::string(std::strerror(errno)));
-  struct stat status {};
-  if (fstat(file.get(), &status) == 0 && !S_ISDIR(status.st_mode))
-    return read(file.release(), name);
-  return unopened(name, Phrase("cups", "it is a folder"));
+  Result<std::string> contents = ppdContents(path, name);
+  if (!contents) return contents.error();
+  return read(std::move(*contents), name);
 }
 
 // Works around libcups 2.4.2: cupsGetPPD3 takes a file of the same name from the machine's own
-// server folder, whichever server is meant, and leaves a file behind. So the PPD is asked from the
-// server itself, into memory.
+// server folder, whichever server is meant, and leaves a file behind; cupsGetFd takes what arrived
+// before the connection broke for the whole. So the PPD is asked from the server itself.
 Result<std::shared_ptr<PpdFile>> PpdFile::fetch(const ServerOptions& server,
                                                 const std::string& printer) {
   const auto connection = ServerConnection::open(server);
   if (!connection) return connection.error();
-  FileDescriptor file(memfd_create("ppd", MFD_CLOEXEC));
   const Sentence name(Phrase("cups", "the PPD of \"%1\""), {printer});
-  if (!file) return noMemoryFor(name);
-  const std::string resource = "/printers/" + printer + ".ppd";
-  const http_status_t status = cupsGetFd(connection->get(), resource.c_str(), file.get());
-  if (status == HTTP_STATUS_OK && lseek(file.get(), 0, SEEK_SET) == 0) {
-    return read(file.release(), name);
-  }
-  return notFetched(connection->get(), printer, status);
+  const auto file =
+      fetchServerFile(connection->get(), "/printers/" + printer + ".ppd", kLargestPpd, name);
+  if (!file) return file.error();
+  if (file->status != HTTP_STATUS_OK) return notFetched(connection->get(), printer, file->status);
+  FileDescriptor copy = memoryFile(file->contents);
+  if (!copy) return noMemoryFor(name);
+  Result<std::string> contents = ppdContents(std::move(copy), name);
+  if (!contents) return contents.error();
+  return read(std::move(*contents), name);
 }
 
 void PpdFile::mark(const std::vector<OptionList>& layers) const {
   ppdMarkDefaults(mPpd);
   for (const OptionList& layer : layers) {
-    const CupsOptions options(layer);
+    const CupsOptions options(withoutUnusableSizes(mPpd, layer));
     cupsMarkOptions(mPpd, options.size(), options.data());
   }
 }
 
 void PpdFile::markChoice(const std::string& keyword, const std::string& choice) const {
-  ppdMarkOption(mPpd, keyword.c_str(), choice.c_str());
+  if (!isUnusableSize(mPpd, keyword, choice)) ppdMarkOption(mPpd, keyword.c_str(), choice.c_str());
 }
 
 std::string PpdFile::markedChoice(const std::string& keyword) const {
@@ -216,7 +190,7 @@ std::vector<Conflict> PpdFile::conflicts() const { return brokenConstraints(mPpd
 std::vector<PaperSize> PpdFile::paperSizes() const {
   std::vector<PaperSize> papers;
   for (const ppd_size_t& size : sizesOf(mPpd)) {
-    if (!isCustom(size)) papers.push_back(paperOf(mPpd, size));
+    if (!isCustom(size) && isUsable(size)) papers.push_back(paperOf(mPpd, size));
   }
   return papers;
 }

@@ -70,8 +70,8 @@ class PpdFile {
 
   ppd_file_s* get() const noexcept { return mPpd; }
 
-  // Marks the PPD's defaults, then each list in order. Unknown names are left alone: callers check
-  // options that a user typed with checkOption first.
+  // Marks the PPD's defaults, then each list in order. Unknown names, and sizes with measures that
+  // no paper has, are left alone: callers check options that a user typed with checkChoice first.
   void mark(const std::vector<OptionList>& layers) const;
 
   // Marks one choice over what is marked; an unknown option or choice is left alone.
@@ -96,7 +96,7 @@ class PpdFile {
   // installable option is one of the two.
   std::vector<Conflict> conflicts() const;
 
-  // The named sizes, without custom ones.
+  // The named sizes, without custom ones and without measures that no paper has.
   std::vector<PaperSize> paperSizes() const;
   // The size that is marked now; no name when none is. A custom size is named by its measures, as
   // markedOptions has it ("Custom.68x283.5").
@@ -107,8 +107,8 @@ class PpdFile {
   std::string attribute(const std::string& name) const;
 
  private:
-  // Takes the descriptor over. `name` is what errors call the PPD.
-  static Result<std::shared_ptr<PpdFile>> read(int fd, const Sentence& name);
+  // `name` is what errors call the PPD.
+  static Result<std::shared_ptr<PpdFile>> read(std::string contents, const Sentence& name);
   explicit PpdFile(ppd_file_s* ppd) : mPpd(ppd) {}
   ppd_file_s* mPpd;
 };

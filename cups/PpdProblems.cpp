@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
 #include <sstream>
 #include <utility>
 
@@ -127,26 +128,35 @@ bool holds(ppd_file_t* ppd, Term& term) {
   return !isOff(term.choice);
 }
 
-void addOnce(std::vector<Conflict>& conflicts, const Term& one, const Term& other) {
-  const Conflict conflict{one.keyword, one.choice, other.keyword, other.choice};
-  const Conflict mirrored{other.keyword, other.choice, one.keyword, one.choice};
-  const bool isKnown = std::ranges::any_of(
-      conflicts, [&](const Conflict& c) { return c == conflict || c == mirrored; });
-  if (!isKnown) conflicts.push_back(conflict);
-}
+// The pairs that were found, each once, whichever of the two came first.
+class Conflicts {
+ public:
+  void add(const Term& one, const Term& other) {
+    Side first(one.keyword, one.choice), second(other.keyword, other.choice);
+    if (second < first) std::swap(first, second);
+    if (mKnown.emplace(std::move(first), std::move(second)).second)
+      mList.push_back({one.keyword, one.choice, other.keyword, other.choice});
+  }
+  std::vector<Conflict> take() { return std::move(mList); }
+
+ private:
+  using Side = std::pair<std::string, std::string>;
+  std::set<std::pair<Side, Side>> mKnown;
+  std::vector<Conflict> mList;
+};
 
 }  // namespace
 
 // Works around libcups 2.4.2: cupsGetConflicts reports every broken constraint of the PPD for
 // whichever option it is asked about, so the records are read here.
 std::vector<Conflict> brokenConstraints(ppd_file_s* ppd) {
-  std::vector<Conflict> conflicts;
+  Conflicts conflicts;
   for (Constraint& terms : constraintsOf(ppd)) {
     const auto holdsNow = [&](Term& term) { return holds(ppd, term); };
     if (terms.size() < 2 || !std::ranges::all_of(terms, holdsNow)) continue;
-    for (std::size_t i = 1; i < terms.size(); ++i) addOnce(conflicts, terms.front(), terms[i]);
+    for (std::size_t i = 1; i < terms.size(); ++i) conflicts.add(terms.front(), terms[i]);
   }
-  return conflicts;
+  return conflicts.take();
 }
 
 }  // namespace cutline

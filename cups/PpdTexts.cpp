@@ -8,6 +8,7 @@
 #include <string_view>
 #include <utility>
 
+#include "cups/PpdLines.h"
 #include "cups/PpdRecords.h"
 
 namespace cutline {
@@ -20,7 +21,6 @@ constexpr char kSeparator = '.';
 constexpr char kKeptSeparator = '-';
 constexpr std::string_view kTranslation = "Translation";
 constexpr std::string_view kLanguages = "*cupsLanguages:";
-constexpr std::string_view kLineEnds = "\r\n";
 constexpr std::string_view kNoValue = "\"\"";
 
 // Languages that PPDs name otherwise.
@@ -33,17 +33,6 @@ constexpr Alias kAliases[] = {
 };
 
 using Languages = std::vector<std::string>;
-
-// Calls function(line, end) for each line, with the character that ends it: nothing after the last.
-template <typename Function>
-void forEachLine(std::string_view contents, const Function& function) {
-  while (!contents.empty()) {
-    const auto size = std::min(contents.find_first_of(kLineEnds), contents.size());
-    const auto end = contents.substr(size, 1);
-    function(contents.substr(0, size), end);
-    contents.remove_prefix(size + end.size());
-  }
-}
 
 // "de" for `*de.Translation LxMirror/Spiegeln: ""`; empty for a line that is in no language. As to
 // libcups 2.4.2, names of two letters and those with a territory are languages.
@@ -63,7 +52,7 @@ struct Spoken {
 
 Spoken languagesOf(std::string_view contents) {
   Spoken spoken;
-  forEachLine(contents, [&](std::string_view line, std::string_view) {
+  forEachPpdLine(contents, [&](std::string_view line, std::string_view) {
     if (const auto language = languageOfLine(line); !language.empty()) {
       spoken.inLines.emplace(language);
     }
@@ -143,7 +132,7 @@ Languages keepTexts(std::string& contents, const Languages& languages) {
   const Languages kept = chosen(namesInPpds(languages), languagesOf(contents));
   std::string result;
   result.reserve(contents.size());
-  forEachLine(contents, [&](std::string_view line, std::string_view end) {
+  forEachPpdLine(contents, [&](std::string_view line, std::string_view end) {
     const std::string_view language = languageOfLine(line);
     const bool isKept = std::ranges::find(kept, language) != kept.end();
     if (language.empty() || isKept || !line.ends_with(kNoValue)) result += line;

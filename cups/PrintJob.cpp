@@ -4,6 +4,7 @@
 
 #include "cups/CupsOptions.h"
 #include "cups/DocumentFile.h"
+#include "cups/IppMessage.h"
 #include "cups/ServerConnection.h"
 
 namespace cutline {
@@ -13,7 +14,7 @@ namespace {
 constexpr std::size_t kBlockSize = 65536;
 
 // How the sending of a document ended.
-enum class Sending { done, givenUp, unreadable, refused };
+enum class Sending { done, givenUp, unreadable, refused, incomplete };
 
 // Sends the document's blocks; the library sends a request's body in chunks.
 Sending sendBlocks(http_t* http, DocumentFile& document, const SpoolProgress& progress) {
@@ -33,6 +34,14 @@ Sending sendBlocks(http_t* http, DocumentFile& document, const SpoolProgress& pr
   return sent < document.size ? Sending::unreadable : Sending::done;
 }
 
+// Works around libcups 2.4.2: cupsFinishDocument answers with the status of an earlier request
+// where the connection breaks, so the answer itself is looked at.
+bool isTaken(http_t* http, const std::string& printer) {
+  const IppMessage answer(cupsGetResponse(http, ("/printers/" + printer).c_str()));
+  return answer && httpGetStatus(http) == HTTP_STATUS_OK &&
+         ippGetStatusCode(answer.get()) <= IPP_STATUS_OK_EVENTS_COMPLETE;
+}
+
 Sending sendDocument(http_t* http, const char* printer, int jobId, DocumentFile& document,
                      const SpoolProgress& progress) {
   const http_status_t started =
@@ -41,8 +50,18 @@ Sending sendDocument(http_t* http, const char* printer, int jobId, DocumentFile&
   if (started != HTTP_STATUS_CONTINUE) return Sending::refused;
   const Sending sending = sendBlocks(http, document, progress);
   if (sending != Sending::done) return sending;
-  const bool isTaken = cupsFinishDocument(http, printer) <= IPP_STATUS_OK_EVENTS_COMPLETE;
-  return isTaken ? Sending::done : Sending::refused;
+  return isTaken(http, printer) ? Sending::done : Sending::refused;
+}
+
+// Asks the server what it has of the document. A server that does not tell, or has forgotten the
+// job already, is believed: it said that it has taken it.
+Sending arrived(const ServerOptions& server, const PrintRequest& request, int jobId,
+                std::uint64_t size) {
+  constexpr std::uint64_t kKilobyte = 1024;
+  const auto status = jobStatus(server, request.destination, jobId);
+  if (!status || !status->kilobytes) return Sending::done;
+  const bool isWhole = *status->kilobytes * kKilobyte >= size;
+  return isWhole ? Sending::done : Sending::incomplete;
 }
 
 Error givenUp() { return Sentence(Phrase("cups", "printing was cancelled, nothing was printed")); }
@@ -54,6 +73,10 @@ Error whyNotSent(Sending sending, const PrintRequest& request) {
     case Sending::unreadable:
       return unreadable(request.path,
                         Phrase("cups", "it changed while it was sent; nothing was printed"));
+    case Sending::incomplete:
+      return Sentence(
+          Phrase("cups", "the document \"%1\" did not reach \"%2\" whole: print it again"),
+          {request.path, request.destination.text()});
     default:
       return serverError({Phrase("cups", "the document \"%1\" could not be sent to \"%2\""),
                           {request.path, request.destination.text()}});
@@ -85,10 +108,12 @@ Result<int> submitJob(const ServerOptions& server, const PrintRequest& request,
   const CupsOptions options(request.options);
   const int jobId = cupsCreateJob(connection->get(), printer, request.title.c_str(), options.size(),
                                   options.data());
+  connection->takeTime();
   if (jobId == 0)
     return serverError({Phrase("cups", "\"%1\" takes no job"), {request.destination.text()}});
 
-  const Sending sending = sendDocument(connection->get(), printer, jobId, *document, progress);
+  Sending sending = sendDocument(connection->get(), printer, jobId, *document, progress);
+  if (sending == Sending::done) sending = arrived(server, request, jobId, document->size);
   if (sending == Sending::done) return jobId;
   const Error error = whyNotSent(sending, request);
   connection = Error{};  // hangs up in the middle of the request, so the server drops it

@@ -8,10 +8,29 @@ namespace cutline {
 
 namespace {
 
-constexpr int kConnectMilliseconds = 30000;
 constexpr int kUsualPort = 631;
 
+// libcups keeps its last error per thread, and this belongs to it.
+thread_local std::atomic<bool> tKeptSilent = false;
+
+// Works around libcups 2.4.2: it connects again and asks the same up to twenty times, and should
+// not be patient each time.
+int giveUp(http_t* http, void* /*nothing*/) {
+  constexpr double kNoTime = 0.01;
+  tKeptSilent = true;
+  httpSetTimeout(http, kNoTime, giveUp, nullptr);
+  return 0;
+}
+
+Sentence silence() {
+  return {Phrase("cups",
+                 "the print server at \"%1\" does not answer: try again later, start it anew or "
+                 "name another with -h"),
+          {serverText()}};
+}
+
 Error noServer() {
+  if (tKeptSilent) return silence();
   if (cupsEncryption() == HTTP_ENCRYPTION_REQUIRED) {
     return Sentence(
         Phrase("cups",
@@ -24,14 +43,44 @@ Error noServer() {
       {serverText()});
 }
 
+bool isInsistedOn(http_encryption_t encryption) {
+  return encryption == HTTP_ENCRYPTION_REQUIRED || encryption == HTTP_ENCRYPTION_ALWAYS;
+}
+
+// Works around libcups 2.4.2: where a printer cannot be found it asks on a connection of its own,
+// which waits for minutes. So a server that keeps silent is to be known before.
+bool answers(http_t* http) {
+  httpClearFields(http);
+  if (httpOptions(http, "*") != 0) return false;
+  http_status_t status = HTTP_STATUS_CONTINUE;
+  while (status == HTTP_STATUS_CONTINUE) status = httpUpdate(http);
+  httpFlush(http);
+  return status != HTTP_STATUS_ERROR;
+}
+
 }  // namespace
 
+ServerConnection::ServerConnection(http_t* http)
+    : mHttp(http),
+      mDeadline(
+          std::make_unique<ServerDeadline>(httpGetFd(http), 2 * kServerPatience, tKeptSilent)) {
+  httpSetTimeout(http, static_cast<double>(kServerPatience.count()), giveUp, nullptr);
+}
+
+// The encryption comes second: a server that keeps silent there is noticed only with a limit, which
+// a connection has once it is there.
 Result<ServerConnection> ServerConnection::open(const ServerOptions& server) {
+  constexpr int kMilliseconds = std::chrono::milliseconds(kServerPatience).count();
+  tKeptSilent = false;
   server.applyToThisThread();
-  http_t* http = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(),
-                              /*blocking=*/1, kConnectMilliseconds, nullptr);
+  http_t* http = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
+                              HTTP_ENCRYPTION_IF_REQUESTED, /*blocking=*/1, kMilliseconds, nullptr);
   if (!http) return noServer();
-  return ServerConnection(http);
+  ServerConnection connection(http);
+  if (isInsistedOn(cupsEncryption()) && httpEncryption(http, cupsEncryption()) != 0)
+    return noServer();
+  if (!answers(http)) return noServer();
+  return connection;
 }
 
 std::string serverText() {
@@ -41,7 +90,10 @@ std::string serverText() {
   return server + ':' + std::to_string(ippPort());
 }
 
+bool serverKeptSilent() noexcept { return tKeptSilent; }
+
 Error serverError(Sentence what) {
+  if (tKeptSilent) return Sentence(Phrase("cups", "%1: %2"), {std::move(what), silence()});
   const char* reason = cupsLastErrorString();
   const Sentence words = reason && *reason ? Sentence(reason) : Phrase("cups", "nothing");
   return Sentence(Phrase("cups", "%1: the print server at \"%2\" says: %3"),

@@ -3,33 +3,47 @@
 
 #include <cups/cups.h>
 
+#include <chrono>
 #include <memory>
 #include <string>
 
 #include "base/Result.h"
+#include "cups/ServerDeadline.h"
 #include "cups/ServerOptions.h"
 
 namespace cutline {
 
+// How long a print server may keep silent before a call gives it up. What is asked of it on one
+// connection may take twice as long altogether, so that a command that asks for its printer and for
+// the printer's PPD ends within half a minute, whatever the server does.
+inline constexpr std::chrono::seconds kServerPatience{7};
+
 class ServerConnection {
  public:
-  // Applies the options to this thread and connects. May block for half a minute.
+  // Applies the options to this thread and connects.
   static Result<ServerConnection> open(const ServerOptions& server);
 
   http_t* get() const noexcept { return mHttp.get(); }
+  // A document takes as long as its way is: from now on the server need only not keep silent.
+  void takeTime() noexcept { mDeadline->lift(); }
 
  private:
   struct Close {
     void operator()(http_t* http) const noexcept { httpClose(http); }
   };
-  explicit ServerConnection(http_t* http) : mHttp(http) {}
+  explicit ServerConnection(http_t* http);
   std::unique_ptr<http_t, Close> mHttp;
+  std::unique_ptr<ServerDeadline> mDeadline;
 };
 
 // HOST, HOST:PORT where the port is not the usual one, or the socket's path, as this thread has it.
 std::string serverText();
 
-// The error of a call that failed on this thread: what was tried, and the server's own words.
+// Whether the server of this thread's latest connection was given up because it kept silent.
+bool serverKeptSilent() noexcept;
+
+// The error of a call that failed on this thread: what was tried, and the server's own words, or
+// that it has none.
 Error serverError(Sentence what);
 
 }  // namespace cutline

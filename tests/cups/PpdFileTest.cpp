@@ -1,6 +1,5 @@
 #include <cups/ppd.h>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <stdexcept>
 
@@ -290,17 +289,6 @@ TEST_F(PpdFileTest, OtherCustomValuesAreSentWithTheirValues) {
 TEST_F(PpdFileTest, AnAttributeIsItsValueOrEmpty) {
   EXPECT_EQ(mTape->attribute("LxTapeType"), "TP");
   EXPECT_EQ(mTape->attribute("LxAutoCutObjHidden"), "");
-}
-
-TEST_F(PpdFileTest, APpdMayComeThroughAPipe) {
-  const std::string text = fixtureText("tape.ppd");
-  int ends[2];
-  ASSERT_EQ(pipe(ends), 0);
-  ASSERT_EQ(write(ends[1], text.data(), text.size()), static_cast<ssize_t>(text.size()));
-  close(ends[1]);
-  EXPECT_EQ(opened("/dev/fd/" + std::to_string(ends[0]))->markedPaper().name,
-            mTape->markedPaper().name);
-  close(ends[0]);
 }
 
 }  // namespace
