@@ -45,24 +45,18 @@ class PpdLimitsTest : public testing::Test {
   test::TemporaryFolder mFolder;
 };
 
-constexpr char kCustom[] =
-    "*VariablePaperSize: True\n*MaxMediaWidth: \"72\"\n*MaxMediaHeight: \"720\"\n"
-    "*HWMargins: 1 1 1 1\n*NonUIOrderDependency: 10 AnySetup *CustomPageSize True\n"
-    "*CustomPageSize True: \"pop pop pop pop pop\"\n"
-    "*ParamCustomPageSize Height: 2 points 36 720\n"
-    "*ParamCustomPageSize WidthOffset: 3 points 0 0\n"
-    "*ParamCustomPageSize HeightOffset: 4 points 0 0\n"
-    "*ParamCustomPageSize Orientation: 5 int 0 0\n";
-
 TEST_F(PpdLimitsTest, ACustomSizeWhoseMeasureIsATextIsRefused) {
+  const std::string width = "*ParamCustomPageSize Width: 1 points 10 72";
+  const std::string whole = with("");
+  const auto at = whole.find(width);
+  ASSERT_NE(at, std::string::npos);
   for (const char* type : {"string", "password", "passcode", "int"}) {
     SCOPED_TRACE(type);
-    const std::string lines = std::string("*DefaultPageSize: Custom.20x50mm\n") + kCustom +
-                              "*ParamCustomPageSize Width: 1 " + type + " 0 40\n";
-    expectRefused(with(lines), "the parameter Width of its custom page size is no measure");
+    std::string text = whole;
+    text.replace(at, width.size(), std::string("*ParamCustomPageSize Width: 1 ") + type + " 0 40");
+    expectRefused(text, "the parameter Width of its custom page size is no measure");
   }
-  const auto ppd =
-      opened(with(std::string(kCustom) + "*ParamCustomPageSize Width: 1 points 9 72\n"));
+  const auto ppd = opened(whole);
   ASSERT_TRUE(ppd) << ppd.error().message;
   (*ppd)->mark({{{"PageSize", "Custom.20x50mm"}}});
   EXPECT_EQ((*ppd)->markedChoice("PageSize"), "Custom");
