@@ -189,11 +189,6 @@ Result<Destination> findDefault(http_t* http) {
   return destination;
 }
 
-bool hasEntry(const std::vector<SavedEntry>& entries, const DestinationName& name) {
-  return std::ranges::any_of(entries,
-                             [&](const SavedEntry& entry) { return isSame(entry.name, name); });
-}
-
 }  // namespace
 
 Result<std::vector<Destination>> listDestinations(const ServerOptions& server) {
@@ -209,32 +204,17 @@ Result<Destination> findDestination(const ServerOptions& server,
   return name ? findNamed(connection->get(), *name) : findDefault(connection->get());
 }
 
-Result<Done> saveDestinationOptions(const ServerOptions& server, const DestinationName& name,
-                                    const OptionList& options) {
-  if (const auto why = whyNotSaved(name, options)) return *why;
-  const auto connection = ServerConnection::open(server);
-  if (!connection) return connection.error();
-  std::vector<SavedEntry> entries = readSavedEntries(userOptionsPath());
-  replaceEntry(entries, name, options);
-  if (const auto problem = writeSavedEntries(connection->get(), entries)) return *problem;
-  if (!name.instance || hasEntry(readSavedEntries(userOptionsPath()), name)) return Done{};
-  return Error{Sentence(Phrase("cups",
-                               "settings that are all the print server's own defaults cannot be "
-                               "saved as \"%1\": choose one that differs"),
-                        {name.text()})};
+Result<Done> saveDestinationOptions(const DestinationName& name, const OptionList& options) {
+  return saveEntry(name, options);
 }
 
-Result<Done> removeInstance(const ServerOptions& server, const DestinationName& name) {
+Result<Done> removeInstance(const DestinationName& name) {
   if (!name.instance) {
     return Error{
         Sentence(Phrase("cups", "\"%1\" is a printer, not saved settings"), {name.printer})};
   }
   if (!savedOptionsFor(name)) return unknownInstance(name);
-  const auto connection = ServerConnection::open(server);
-  if (!connection) return connection.error();
-  std::vector<SavedEntry> entries = readSavedEntries(userOptionsPath());
-  std::erase_if(entries, [&](const SavedEntry& entry) { return isSame(entry.name, name); });
-  if (const auto problem = writeSavedEntries(connection->get(), entries)) return *problem;
+  if (const auto removed = removeEntry(name); !removed) return removed;
   if (!savedOptionsFor(name)) return Done{};
   return Error{
       Sentence(Phrase("cups",

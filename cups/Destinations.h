@@ -1,5 +1,5 @@
-// The destinations of a print server and the options that the user saved for them. Every call may
-// block on the server: never on the thread that draws.
+// The destinations of a print server and the options that the user saved for them. Calls may
+// block on the server, and those that save on other programs: never on the thread that draws.
 #pragma once
 
 #include <optional>
@@ -19,13 +19,11 @@ Result<std::vector<Destination>> listDestinations(const ServerOptions& server);
 Result<Destination> findDestination(const ServerOptions& server,
                                     const std::optional<DestinationName>& name);
 
-// Saves the options as those of the destination or instance, as lpoptions does, and keeps every
-// other destination, instance and the default that the user's file holds, also those that this
-// server does not know.
-Result<Done> saveDestinationOptions(const ServerOptions& server, const DestinationName& name,
-                                    const OptionList& options);
+// Saves the options as those of the destination or instance, as lpoptions does, in the user's file.
+// No server is asked.
+Result<Done> saveDestinationOptions(const DestinationName& name, const OptionList& options);
 
-// Forgets a saved instance; the same care for everything else.
-Result<Done> removeInstance(const ServerOptions& server, const DestinationName& name);
+// Forgets a saved instance.
+Result<Done> removeInstance(const DestinationName& name);
 
 }  // namespace cutline

@@ -12,6 +12,8 @@
 #include <memory>
 
 #include "cups/CupsOptions.h"
+#include "cups/SavedLines.h"
+#include "cups/SharedFile.h"
 
 namespace cutline {
 
@@ -68,6 +70,17 @@ bool isPlainName(const std::string& text) {
 bool canBeSaved(const std::pair<std::string, std::string>& option) {
   const auto isSpecial = [](unsigned char c) { return c < ' ' || c == '#'; };
   return std::ranges::none_of(option.first + option.second, isSpecial);
+}
+
+// What is longer than libcups' line is lost to it.
+std::optional<Error> whyTooLong(const DestinationName& name, const OptionList& options) {
+  const std::size_t size = savedLine(name, /*isDefault=*/true, options).size();
+  if (size < kLineSize) return std::nullopt;
+  return Sentence(
+      Phrase("cups",
+             "the settings \"%1\" cannot be saved: they have %2 characters, and at most "
+             "%3 can be saved"),
+      {name.text(), std::to_string(size), std::to_string(kLineSize - 1)});
 }
 
 }  // namespace
@@ -141,38 +154,21 @@ std::optional<Error> whyNotSaved(const DestinationName& name, const OptionList& 
         {*name.instance});
   }
   const auto bad = std::ranges::find_if_not(options, canBeSaved);
-  if (bad == options.end()) return std::nullopt;
+  if (bad == options.end()) return whyTooLong(name, options);
   return Sentence(
       Phrase("cups", "the option %1 cannot be saved: its value has a \"#\" or a line end"),
       {bad->first});
 }
 
-void replaceEntry(std::vector<SavedEntry>& entries, const DestinationName& name,
-                  const OptionList& options) {
-  const auto isDefault = std::ranges::any_of(entries, [&](const SavedEntry& entry) {
-    return isSame(entry.name, name) && entry.isDefault;
-  });
-  std::erase_if(entries, [&](const SavedEntry& entry) { return isSame(entry.name, name); });
-  entries.push_back({name, isDefault, options});
+Result<Done> saveEntry(const DestinationName& name, const OptionList& options) {
+  if (auto why = whyNotSaved(name, options)) return *std::move(why);
+  return changeSharedFile(userOptionsPath(),
+                          [&](const std::string& text) { return withEntry(text, name, options); });
 }
 
-std::optional<Error> writeSavedEntries(http_t* http, std::vector<SavedEntry> entries) {
-  // Works around libcups 2.4.2: cupsSetDests2 refuses an empty list, so that the last entry could
-  // not be removed. An entry without options leaves no line.
-  if (entries.empty()) entries.push_back({{"none", std::nullopt}, false, {}});
-  std::vector<CupsOptions> options;
-  options.reserve(entries.size());
-  std::vector<cups_dest_t> dests;
-  dests.reserve(entries.size());
-  for (SavedEntry& entry : entries) {
-    const CupsOptions& own = options.emplace_back(entry.options);
-    auto& instance = entry.name.instance;
-    dests.push_back({entry.name.printer.data(), instance ? instance->data() : nullptr,
-                     entry.isDefault ? 1 : 0, own.size(), own.data()});
-  }
-  if (cupsSetDests2(http, static_cast<int>(dests.size()), dests.data()) == 0) return std::nullopt;
-  return Sentence(Phrase("cups", "the options cannot be saved in \"%1\": %2"),
-                  {userOptionsPath(), std::string(cupsLastErrorString())});
+Result<Done> removeEntry(const DestinationName& name) {
+  return changeSharedFile(userOptionsPath(),
+                          [&](const std::string& text) { return withoutEntry(text, name); });
 }
 
 }  // namespace cutline

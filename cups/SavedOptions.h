@@ -2,8 +2,6 @@
 // administrator's and the user's own.
 #pragma once
 
-#include <cups/http.h>
-
 #include <optional>
 #include <string>
 #include <vector>
@@ -42,12 +40,10 @@ std::vector<std::string> savedInstances(const std::string& printer);
 // Why the file cannot hold these options under this name; nothing when it can.
 std::optional<Error> whyNotSaved(const DestinationName& name, const OptionList& options);
 
-// Puts the options in place of those that the entries have under the name; a default stays it.
-void replaceEntry(std::vector<SavedEntry>& entries, const DestinationName& name,
-                  const OptionList& options);
-
-// Writes the user's file anew with these entries, which have to be everything that is to stay. An
-// option that the server itself has as the printer's default is left out, and an entry without any.
-std::optional<Error> writeSavedEntries(http_t* http, std::vector<SavedEntry> entries);
+// Puts the options in place of those that the user's file has under the name; a default stays it.
+// Every other byte of the file stays, and what other programs save at the same time.
+Result<Done> saveEntry(const DestinationName& name, const OptionList& options);
+// Takes the entry out of the user's file, with the same care.
+Result<Done> removeEntry(const DestinationName& name);
 
 }  // namespace cutline

@@ -4,13 +4,19 @@
 
 namespace cutline {
 
-OptionTable::OptionTable(const PpdFile& ppd) : mGroups(ppd.optionGroups()) {}
+bool OptionTable::Less::operator()(const std::string& one, const std::string& other) const {
+  return strcasecmp(one.c_str(), other.c_str()) < 0;
+}
+
+// The first of two options with the same keyword counts.
+OptionTable::OptionTable(const PpdFile& ppd) : mGroups(ppd.optionGroups()) {
+  for (const OptionGroup& group : mGroups)
+    for (const PpdOption& option : group.options) mByKeyword.emplace(option.keyword, &option);
+}
 
 const PpdOption* OptionTable::find(const std::string& keyword) const {
-  for (const OptionGroup& group : mGroups)
-    for (const PpdOption& option : group.options)
-      if (strcasecmp(option.keyword.c_str(), keyword.c_str()) == 0) return &option;
-  return nullptr;
+  const auto found = mByKeyword.find(keyword);
+  return found != mByKeyword.end() ? found->second : nullptr;
 }
 
 std::optional<int> OptionTable::position(const std::string& keyword,

@@ -2,6 +2,7 @@
 // typed.
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -13,6 +14,8 @@ namespace cutline {
 class OptionTable {
  public:
   explicit OptionTable(const PpdFile& ppd);
+  OptionTable(const OptionTable&) = delete;
+  OptionTable& operator=(const OptionTable&) = delete;
 
   const std::vector<OptionGroup>& groups() const noexcept { return mGroups; }
 
@@ -28,7 +31,12 @@ class OptionTable {
   std::string choiceText(const std::string& keyword, const std::string& choice) const;
 
  private:
+  struct Less {
+    bool operator()(const std::string& one, const std::string& other) const;
+  };
+
   std::vector<OptionGroup> mGroups;
+  std::map<std::string, const PpdOption*, Less> mByKeyword;  // of the groups
 };
 
 // Checks options that a person typed against a PPD: an unknown option (neither the PPD's nor a

@@ -24,11 +24,11 @@ Result<PrinterChoice> CupsPrintServer::open(const Destination& destination) {
 }
 
 Result<Done> CupsPrintServer::saveInstance(const DestinationName& name, const OptionList& options) {
-  return saveDestinationOptions(mOptions, name, options);
+  return saveDestinationOptions(name, options);
 }
 
 Result<Done> CupsPrintServer::removeInstance(const DestinationName& name) {
-  return cutline::removeInstance(mOptions, name);
+  return cutline::removeInstance(name);
 }
 
 Result<int> CupsPrintServer::submit(const PrintRequest& request, const SpoolProgress& progress) {

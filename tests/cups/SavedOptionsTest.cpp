@@ -1,6 +1,12 @@
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
+#include <csignal>
 #include <cstdlib>
+#include <filesystem>
 
 #include "cups/SavedOptions.h"
 #include "tests/support/TemporaryFolder.h"
@@ -18,6 +24,8 @@ class SavedOptionsTest : public testing::Test {
     mOldHome ? setenv("HOME", mOldHome->c_str(), 1) : unsetenv("HOME");
     unsetenv("CUPS_SERVERROOT");
   }
+
+  std::string saved() const { return test::contentsOf(mHome / ".cups/lpoptions"); }
 
   test::TemporaryFolder mHome, mRoot;
   std::optional<std::string> mOldHome =
@@ -65,6 +73,110 @@ TEST_F(SavedOptionsTest, CapitalsDoNotCountInNames) {
 
 TEST_F(SavedOptionsTest, TheUsersFileIsInTheHome) {
   EXPECT_EQ(userOptionsPath(), mHome.path() + "/.cups/lpoptions");
+}
+
+// The child saves its presets and ends without the parent's clean-up.
+pid_t savesInBackground(const std::string& prefix, int number) {
+  const pid_t child = fork();
+  if (child != 0) return child;
+  bool isSaved = true;
+  for (int i = 0; i < number; ++i)
+    isSaved &=
+        static_cast<bool>(saveEntry({"tape", prefix + std::to_string(i)}, {{"copies", "2"}}));
+  _exit(isSaved ? 0 : 1);
+}
+
+TEST_F(SavedOptionsTest, NothingIsLostWhenSeveralProgramsSaveAtTheSameTime) {
+  mHome.write(".cups/lpoptions", "Dest elsewhere LxMirror=ON\n");
+  std::vector<pid_t> children;
+  for (const char* prefix : {"a", "b", "c", "d"}) children.push_back(savesInBackground(prefix, 25));
+  for (const pid_t child : children) {
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+  }
+  EXPECT_EQ(savedInstances("tape").size(), 100U);
+  EXPECT_EQ(savedOptionsFor({"elsewhere", std::nullopt}), (OptionList{{"LxMirror", "ON"}}));
+  EXPECT_EQ(mHome.names(".cups"), (std::vector<std::string>{"lpoptions", "lpoptions.lock"}));
+}
+
+TEST_F(SavedOptionsTest, EveryOtherByteOfTheFileStays) {
+  const std::string before =
+      "# by hand\n\n  Nonsense x y=z\nDest far/away x=a\\#b y=2\nDest tape\n";
+  const std::string after = "Dest long x=" + std::string(20000, 'y') + "\r\ndest roll/q # end";
+  mHome.write(".cups/lpoptions", before + "default Tape/Shelf copies=9 # mine\n" + after);
+  chmod((mHome / ".cups/lpoptions").c_str(), 0640);
+  ASSERT_TRUE(saveEntry({"tape", "shelf"}, {{"title", "it's \"a\""}, {"copies", "2"}}));
+  const std::string entry = "Default tape/shelf copies=2 title=\"it's \\\"a\\\"\"\n";
+  EXPECT_EQ(saved(), before + entry + after);
+  struct stat status {};
+  ASSERT_EQ(stat((mHome / ".cups/lpoptions").c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777U, 0640U);
+  EXPECT_EQ(*savedOptionsFor({"tape", "shelf"}),
+            (OptionList{{"copies", "2"}, {"title", "it's \"a\""}}));
+  ASSERT_TRUE(saveEntry({"roll", "new"}, {}));
+  EXPECT_EQ(saved(), before + entry + after + "\nDest roll/new\n");
+  ASSERT_TRUE(removeEntry({"TAPE", "shelf"}));
+  EXPECT_EQ(saved(), before + after + "\nDest roll/new\n");
+}
+
+TEST_F(SavedOptionsTest, ALinkStaysALink) {
+  const std::string file = mRoot.write("mine", "# dots\n");
+  std::filesystem::create_directory(mHome / ".cups");
+  std::filesystem::create_symlink(file, mHome / ".cups/lpoptions");
+  ASSERT_TRUE(saveEntry({"tape", "x"}, {}));
+  EXPECT_TRUE(std::filesystem::is_symlink(mHome / ".cups/lpoptions"));
+  EXPECT_EQ(test::contentsOf(file), "# dots\nDest tape/x\n");
+}
+
+TEST_F(SavedOptionsTest, ADiskThatIsFullLeavesTheFileAsItWas) {
+  const std::string text = "# by hand\n" + std::string(3000, '\n');
+  mHome.write(".cups/lpoptions", text);
+  const pid_t child = fork();
+  if (child == 0) {
+    signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{2000, 2000};
+    setrlimit(RLIMIT_FSIZE, &limit);
+    const auto saved = saveEntry({"tape", "x"}, {});
+    const bool isTold = !saved && saved.error().message == "the options cannot be saved in \"" +
+                                                               mHome / ".cups/lpoptions" +
+                                                               "\": File too large";
+    _exit(isTold ? 0 : 1);
+  }
+  int status = 0;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_EQ(status, 0);
+  EXPECT_EQ(saved(), text);
+  EXPECT_EQ(mHome.names(".cups"), (std::vector<std::string>{"lpoptions", "lpoptions.lock"}));
+}
+
+TEST_F(SavedOptionsTest, AHomeThatCannotBeWrittenIsNamedWithItsReason) {
+  struct Row {
+    std::string home, reason;
+  };
+  mHome.write("file/x", "");
+  mHome.write("aFolder/.cups/lpoptions/x", "");
+  mHome.write("aFile/.cups", "");
+  std::filesystem::create_directory(mHome / "aLink");
+  std::filesystem::create_symlink("/nowhere/at/all", mHome / "aLink/.cups");
+  for (const Row& row :
+       {Row{"/nowhere", "No such file or directory"}, Row{mHome / "file/x", "Not a directory"},
+        Row{mHome / "aFolder", "it is not a file"}, Row{mHome / "aFile", "Not a directory"},
+        Row{mHome / "aLink", "No such file or directory"}}) {
+    setenv("HOME", row.home.c_str(), 1);
+    const auto saved = saveEntry({"tape", "x"}, {{"copies", "2"}});
+    ASSERT_FALSE(saved) << row.home;
+    EXPECT_NE(saved.error().message.find(row.home + "/.cups/lpoptions"), std::string::npos)
+        << saved.error().message;
+    EXPECT_TRUE(saved.error().message.ends_with(": " + row.reason)) << saved.error().message;
+  }
+}
+
+TEST_F(SavedOptionsTest, WhatIsLongerThanALineIsRefused) {
+  EXPECT_TRUE(saveEntry({"tape", "x"}, {{"title", std::string(8000, 'x')}}));
+  const auto saved = saveEntry({"tape", "x"}, {{"title", std::string(8200, 'x')}});
+  ASSERT_FALSE(saved);
+  EXPECT_NE(saved.error().message.find("at most 8191"), std::string::npos) << saved.error().message;
 }
 
 }  // namespace
