@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "composition/reader/Picture.h"
+#include "composition/reader/PictureFacts.h"
 
 namespace cutline {
 

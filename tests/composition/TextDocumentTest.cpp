@@ -84,6 +84,7 @@ TEST(TextDocumentTest, NoMoreIsSetThanIsNeeded) {
     const Composed composed("one\ntwo\nthree\nfour\n", request, &typesetter);
     EXPECT_EQ(typesetter.mMost, row.most);
     EXPECT_EQ(typesetter.mSettings, request.text);
+    EXPECT_EQ(composed.report().isPartial, row.most > 0);
     EXPECT_EQ(composed.problem(), std::nullopt);
   }
 }
