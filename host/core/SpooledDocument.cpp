@@ -4,9 +4,8 @@
 
 #include <array>
 #include <cerrno>
-#include <cstdlib>
 #include <cstring>
-#include <filesystem>
+#include <utility>
 
 #include "base/FileDescriptor.h"
 
@@ -36,17 +35,12 @@ Result<std::size_t> copyAll(int from, int to, const std::string& path) {
 }  // namespace
 
 Result<std::shared_ptr<SpooledDocument>> SpooledDocument::read(int descriptor) {
-  std::error_code ignored;
-  std::string path = (std::filesystem::temp_directory_path(ignored) / "cutline-XXXXXX").string();
-  const FileDescriptor file(::mkstemp(path.data()));
-  if (file.get() < 0) return Error{path + ": cannot keep the document: " + systemReason()};
-  const std::shared_ptr<SpooledDocument> document(new SpooledDocument(path));
-  const Result<std::size_t> size = copyAll(descriptor, file.get(), path);
+  Result<TemporaryFile> file = TemporaryFile::make();
+  if (!file) return file.error();
+  const Result<std::size_t> size = copyAll(descriptor, file->descriptor(), file->path());
   if (!size) return size.error();
   if (*size == 0) return Error{"standard input is empty; there is nothing to print"};
-  return document;
+  return std::shared_ptr<SpooledDocument>(new SpooledDocument(std::move(*file)));
 }
-
-SpooledDocument::~SpooledDocument() { ::unlink(mPath.c_str()); }
 
 }  // namespace cutline

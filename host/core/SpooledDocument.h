@@ -5,6 +5,7 @@
 #include <string>
 
 #include "base/Result.h"
+#include "base/TemporaryFile.h"
 
 namespace cutline {
 
@@ -12,15 +13,11 @@ class SpooledDocument {
  public:
   // Reads the descriptor to its end. An empty document is an error.
   static Result<std::shared_ptr<SpooledDocument>> read(int descriptor);
-  ~SpooledDocument();
-  SpooledDocument(const SpooledDocument&) = delete;
-  SpooledDocument& operator=(const SpooledDocument&) = delete;
-
-  const std::string& path() const noexcept { return mPath; }
+  const std::string& path() const noexcept { return mFile.path(); }
 
  private:
-  explicit SpooledDocument(std::string path) : mPath(std::move(path)) {}
-  std::string mPath;
+  explicit SpooledDocument(TemporaryFile file) : mFile(std::move(file)) {}
+  TemporaryFile mFile;
 };
 
 }  // namespace cutline
