@@ -103,6 +103,7 @@ int main() {
     report = failed(DocumentProblem::tooLarge, -1);
   }
   const std::string answer = report.asText();
-  // Without unloading what read the documents: they are not trusted to leave it in order.
+  // Without what a program does at its end: what read the documents may not be in order, and a
+  // sanitizer's search for leaks needs calls that are refused here.
   ::_exit(writeAll(STDOUT_FILENO, answer.data(), answer.size()) ? EXIT_SUCCESS : EXIT_FAILURE);
 }

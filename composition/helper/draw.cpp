@@ -104,12 +104,7 @@ bool drawOrSay(const poppler::document& document, const DrawRequest& request) {
   }
 }
 
-}  // namespace
-
-int main() {
-  // A thread's own arena would take more address space than a page does.
-  ::mallopt(M_ARENA_MAX, 1);
-  poppler::set_debug_error_function([](const std::string&, void*) {}, nullptr);
+int run() {
   if (!confine(kLimits)) return EXIT_FAILURE;
   const std::unique_ptr<poppler::document> document = openedDocument();
   const DrawerGreeting greeting{document && !document->is_locked() ? document->pages() : 0};
@@ -120,4 +115,15 @@ int main() {
     if (!drawOrSay(*document, request)) return EXIT_FAILURE;
   }
   return EXIT_SUCCESS;
+}
+
+}  // namespace
+
+int main() {
+  // A thread's own arena would take more address space than a page does.
+  ::mallopt(M_ARENA_MAX, 1);
+  poppler::set_debug_error_function([](const std::string&, void*) {}, nullptr);
+  // Without what a program does at its end: a sanitizer's search for leaks needs calls that are
+  // refused here.
+  ::_exit(run());
 }
