@@ -18,7 +18,7 @@ double leftOf(const TextBlock& block, double width, double room) {
   return block.isRightToLeft ? free : 0;
 }
 
-// The room without a margin, in its heights, that keeps what lies on its edge from being cut off by rounding.
+// The room without a margin, in its heights, that keeps what lies on its edge from being cut off.
 constexpr double kInset = 0.01;
 TextRoom inner(const TextRoom& room) {
   const double both = 2 * kInset * room.height;

@@ -14,8 +14,8 @@ namespace cutline {
 struct TextRoom {
   double width = 0;
   double height = 0;
-  // As wide as the longest line needs, up to the width where that is more than 0: the label's length
-  // follows the content.
+  // As wide as the longest line needs, and no wider than the width where that is more than 0: the
+  // label's length follows the content.
   bool isEndless = false;
 };
 
