@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "base/FileDescriptor.h"
+#include "base/Numbers.h"
 #include "composition/CompositionErrors.h"
 #include "composition/HelperProcess.h"
 
@@ -123,6 +124,13 @@ std::optional<CompositionFailure> failureIn(const HelperAnswer& asked,
   return report->failure;
 }
 
+// Pages that were asked for and that all documents together do not have.
+std::optional<Error> missingPages(const CompositionFailure& failure, const PageRanges& ranges) {
+  if (failure.problem != DocumentProblem::pageMissing) return std::nullopt;
+  const Result<Done> within = ranges.checkWithin(numberIn<int>(failure.detail).value_or(0));
+  return within ? std::nullopt : std::optional(within.error());
+}
+
 Error errorOf(const CompositionFailure& failure, const std::vector<std::string>& paths) {
   const bool isKnown =
       failure.document >= 0 && static_cast<std::size_t>(failure.document) < paths.size();
@@ -159,7 +167,10 @@ Result<ComposedDocument> compose(const std::string& helperDirectory,
   if (!asked) return asked.error();
   if (stop.stop_requested()) return Error{Phrase("composition", "it was stopped")};
   std::optional<CompositionReport> report = CompositionReport::parse(asked->answer.text);
-  if (const auto failure = failureIn(*asked, report)) return errorOf(*failure, paths);
+  if (const auto failure = failureIn(*asked, report)) {
+    if (const auto missing = missingPages(*failure, request.pages.ranges)) return *missing;
+    return errorOf(*failure, paths);
+  }
   return ComposedDocument{std::make_shared<const TemporaryFile>(std::move(*output)),
                           std::move(*report)};
 }

@@ -74,7 +74,7 @@ enum class DocumentProblem {
 struct CompositionFailure {
   DocumentProblem problem = DocumentProblem::broken;
   int document = 0;    // which of the names
-  std::string detail;  // a number of pages, or a reader's words; may be empty
+  std::string detail;  // how many pages there are, or a reader's words; may be empty
 };
 
 struct CompositionReport {

@@ -48,8 +48,6 @@ constexpr std::array kProblemTexts = std::to_array<ProblemText>({
 constexpr std::array kDetailedTexts = std::to_array<ProblemText>({
     {DocumentProblem::tooManyPages,
      Phrase("composition", "it has %1 pages, which is too many; print it in smaller parts")},
-    {DocumentProblem::pageMissing,
-     Phrase("composition", "there are pages chosen that it does not have; it has %1")},
     {DocumentProblem::tooLarge, Phrase("composition", "it is too large: %1")},
     {DocumentProblem::missingModule,
      Phrase("composition", "what reads documents of its kind is not installed: %1")},

@@ -13,14 +13,11 @@ bool isIn(PageSet set, int page) {
   return set == PageSet::all || isOdd == (set == PageSet::odd);
 }
 
-// The number is the second thing that the error speaks of, behind the ranges.
-std::string missingPage(const Error& error) { return error.sentence.arguments().at(1).verbatim(); }
-
 }  // namespace
 
 std::vector<int> chosenPages(const PageSelection& selection, int pageCount) {
-  const Result<Done> within = selection.ranges.checkWithin(pageCount);
-  if (!within) throw Refusal{DocumentProblem::pageMissing, missingPage(within.error())};
+  if (!selection.ranges.checkWithin(pageCount))
+    throw Refusal{DocumentProblem::pageMissing, std::to_string(pageCount)};
   std::vector<int> pages;
   for (int page = 0; page < pageCount; ++page) {
     if (selection.ranges.contains(page) && isIn(selection.set, page)) pages.push_back(page);

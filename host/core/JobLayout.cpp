@@ -141,8 +141,10 @@ constexpr std::array kSettled =
     std::to_array<std::string_view>({"document-format", "page-ranges", "raw"});
 
 // Whatever a queue or a user has as a default would act again.
-constexpr std::array<std::pair<const char*, const char*>, 9> kAsItIs = {
+constexpr std::array<std::pair<const char*, const char*>, 11> kAsItIs = {
     {{"print-scaling", "none"},
+     {"page-ranges", "1-99999"},
+     {"booklet", "false"},
      {"number-up", "1"},
      {"orientation-requested", "3"},
      {"page-set", "all"},

@@ -187,12 +187,12 @@ TEST_P(EachPrinter, PrintsTextAsItIsShown) {
 // Whatever is saved for the queue and the user acts on other documents, and would act on this one.
 TEST_P(EachPrinter, SavedDefaultsDoNotLayTheDocumentOutAgain) {
   const std::string printer = GetParam();
-  const std::string hostile[] = {"orientation-requested", "number-up", "page-border",
-                                 "print-scaling", "position"};
+  const std::string hostile[] = {"orientation-requested", "number-up",   "page-border",
+                                 "print-scaling",         "page-ranges", "booklet"};
   outputOf(
       "lpadmin -p " + printer +
       " -o orientation-requested-default=5 -o number-up-default=4 -o page-border-default=double"
-      " -o print-scaling-default=fill");
+      " -o print-scaling-default=fill -o page-ranges-default=2 -o booklet-default=true");
   outputOf("lpoptions -p " + printer +
            " -o number-up=2 -o page-border=single -o ppi=300 -o cpi=5 -o page-left=20");
   expectSame("pdf", "");

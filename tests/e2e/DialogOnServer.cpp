@@ -40,8 +40,7 @@ PrinterChoice opened(const CommandLine& line) {
 }
 
 PrintSource sourceOf(const CommandLine& line) {
-  return {line.files,
-          line.title.value_or("labels.pdf"),
+  return {line.files, line.title.value_or("labels.pdf"),
           documentToolsIn(Installation(built("")).helperDirectory())};
 }
 

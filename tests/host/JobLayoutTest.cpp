@@ -96,11 +96,19 @@ TEST(JobLayoutTest, NothingThatWasSavedLaysTheDocumentOutAgain) {
                             {"job-priority", "70"},  {"page-border", "double"},
                             {"ppi", "300"},          {"mirror", "true"},
                             {"text-labels", "line"}, {"document-format", "text/plain"}};
-  const OptionList expected = {
-      {"LxHalfCut", "ON"},       {"job-priority", "70"},         {"print-scaling", "none"},
-      {"number-up", "1"},        {"orientation-requested", "3"}, {"page-set", "all"},
-      {"outputorder", "normal"}, {"landscape", "false"},         {"mirror", "false"},
-      {"page-border", "none"},   {"fit-to-page", "false"}};
+  const OptionList expected = {{"LxHalfCut", "ON"},
+                               {"job-priority", "70"},
+                               {"print-scaling", "none"},
+                               {"page-ranges", "1-99999"},
+                               {"booklet", "false"},
+                               {"number-up", "1"},
+                               {"orientation-requested", "3"},
+                               {"page-set", "all"},
+                               {"outputorder", "normal"},
+                               {"landscape", "false"},
+                               {"mirror", "false"},
+                               {"page-border", "none"},
+                               {"fit-to-page", "false"}};
   EXPECT_EQ(forLaidOutDocument(saved), expected);
 }
 

