@@ -43,22 +43,23 @@ std::string flag(bool on) { return on ? "On" : "Off"; }
 
 }  // namespace
 
-Wishes::Wishes(const PpdFile& ppd, Choices wanted) : mOptions(ppd), mWanted(std::move(wanted)) {
+Wishes::Wishes(const PpdFile& ppd, Choices wanted)
+    : mOptions(std::make_shared<const OptionTable>(ppd)), mWanted(std::move(wanted)) {
   choosePaper(ppd.markedChoice("PageSize"));
 }
 
 std::string Wishes::first(const std::string& keyword) const {
-  return mOptions.choiceAt(keyword, 0).value_or("");
+  return mOptions->choiceAt(keyword, 0).value_or("");
 }
 
 void Wishes::want(const std::string& keyword, const std::string& choice) {
-  if (mOptions.find(keyword) == nullptr) return;
+  if (mOptions->find(keyword) == nullptr) return;
   mWanted[keyword] = choice;
   if (keyword == "LxAutoTapeCut") mAutoCutOffByPaper = false;
 }
 
 void Wishes::switchTo(const std::string& keyword, bool on) {
-  if (const auto choice = mOptions.choiceAt(keyword, on ? 1 : 0)) want(keyword, *choice);
+  if (const auto choice = mOptions->choiceAt(keyword, on ? 1 : 0)) want(keyword, *choice);
 }
 
 void Wishes::choosePreset(int tag, bool showsAutoCutBox) {
@@ -66,7 +67,7 @@ void Wishes::choosePreset(int tag, bool showsAutoCutBox) {
   const auto say = [&](const char* keyword, char setting) {
     if (setting != ' ') switchTo(keyword, setting == '1');
   };
-  const bool hasCutEveryBox = mOptions.find("LxCutLabel") != nullptr;
+  const bool hasCutEveryBox = mOptions->find("LxCutLabel") != nullptr;
   if (showsAutoCutBox) say("LxAutoTapeCut", preset.autoCutBox);
   if (hasCutEveryBox) say("LxAutoTapeCut", preset.cutEveryBox);
   say("LxHalfCut", preset.halfCut);
@@ -83,7 +84,7 @@ void Wishes::choosePaper(const std::string& paper) {
 }
 
 bool Wishes::isOn(const std::string& keyword, const std::string& choice) const {
-  return mOptions.position(keyword, choice).value_or(0) > 0;
+  return mOptions->position(keyword, choice).value_or(0) > 0;
 }
 
 bool Wishes::isSpecial() const { return isOn("LxSpecialTape", shown("LxSpecialTape")); }
@@ -108,7 +109,7 @@ std::set<std::string> Wishes::named(const std::set<std::string>& boxes) const {
     const bool isOn = this->isOn(keyword, sent);
     const bool jamsCutter = keyword == "LxAutoTapeCut" && isOn && begins(mPaper, "HS");
     const bool cutsNothing = keyword == "LxCutAtEnd" && isOn && isSpecial();
-    const bool isThird = keyword != "LxCutLabel" && mOptions.position(keyword, sent) > 1;
+    const bool isThird = keyword != "LxCutLabel" && mOptions->position(keyword, sent) > 1;
     const bool isUnseen = keyword == "LxAutoTapeCut" && isOn && !boxes.contains(keyword);
     if (sent != wanted || jamsCutter || cutsNothing || isThird || isUnseen) named.insert(keyword);
   }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
 
@@ -40,7 +41,7 @@ class Wishes {
   bool isSpecial() const;
   std::string first(const std::string& keyword) const;
 
-  OptionTable mOptions;
+  std::shared_ptr<const OptionTable> mOptions;  // the same for each copy
   Choices mWanted;
   std::string mPaper;
   bool mAutoCutOffByPaper = false;
