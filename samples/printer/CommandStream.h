@@ -17,7 +17,7 @@
 #include <variant>
 
 #include "samples/printer/Bitmap.h"
-#include "samples/printer/CutPlan.h"
+#include "strip/CutRules.h"
 
 namespace cutline::printer {
 

@@ -7,8 +7,6 @@ namespace cutline::printer {
 namespace {
 
 constexpr double kMillimetresPerInch = 25.4;
-constexpr double kLeader = 8;     // mm of tape between print head and knife
-constexpr double kTrailer = 4;    // mm that are fed behind the last label
 constexpr double kKeptBlank = 1;  // mm that stay around the print when blank space is removed
 constexpr double kMarkLength = 1.5;
 constexpr double kMarkWidth = 0.3;
@@ -46,31 +44,39 @@ void addCutMarks(Bitmap& label, const Resolution& dots) {
 
 }  // namespace
 
+bool LabelJob::feed(std::optional<double> millimetres) {
+  return mWriter.write(Feed{dotsOf(millimetres.value_or(0), mDots.along)});
+}
+
 bool LabelJob::begin(const Resolution& dots) {
   mDots = dots;
   if (!mWriter.write(dots)) return false;
-  return !mPlan.feedsOut() || mWriter.write(Feed{dotsOf(kLeader, dots.along)});
+  if (!mRules.hasLeader()) return true;
+  return feed(mRules.settings().leader) && mWriter.write(mRules.behindLeader());
 }
 
 Bitmap LabelJob::finished(const Bitmap& page) const {
+  const CutSettings& settings = mRules.settings();
   Bitmap label =
-      mPlan.removesBlankSpace() ? withoutBlankEnds(page, dotsOf(kKeptBlank, mDots.along)) : page;
+      settings.removesBlankSpace ? withoutBlankEnds(page, dotsOf(kKeptBlank, mDots.along)) : page;
   // Along a tape the text runs the way the tape does, on a roll across it.
-  if (mPlan.mirrors()) label = mPlan.isRoll() ? label.mirroredAcross() : label.mirroredAlong();
-  if (mPlan.printsCutMarks()) addCutMarks(label, mDots);
+  if (settings.mirrors) label = settings.isRoll ? label.mirroredAcross() : label.mirroredAlong();
+  if (settings.printsCutMarks) addCutMarks(label, mDots);
   return label;
 }
 
 bool LabelJob::add(const Bitmap& page, const Resolution& dots) {
-  const bool led = mLabels == 0 ? begin(dots) : mWriter.write(mPlan.afterLabel(mLabels));
+  const bool led = mLabels == 0 ? begin(dots) : mWriter.write(mRules.behindLabel(mLabels));
   if (!led) return false;
   ++mLabels;
   return mWriter.write(finished(page));
 }
 
 bool LabelJob::end() {
-  if (mPlan.feedsOut() && !mWriter.write(Feed{dotsOf(kTrailer, mDots.along)})) return false;
-  return mWriter.write(mPlan.atEnd()) && mWriter.write(End{});
+  const Cut last = mRules.atEnd();
+  if (last == Cut::Half && !mWriter.write(last)) return false;
+  if (mRules.feedsOut() && !feed(mRules.settings().feed)) return false;
+  return (last != Cut::Full || mWriter.write(last)) && mWriter.write(End{});
 }
 
 }  // namespace cutline::printer

@@ -2,15 +2,16 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "samples/printer/CommandStream.h"
-#include "samples/printer/CutPlan.h"
+#include "strip/CutRules.h"
 
 namespace cutline::printer {
 
 class LabelJob {
  public:
-  LabelJob(const CutPlan& plan, CommandWriter& writer) : mPlan(plan), mWriter(writer) {}
+  LabelJob(const CutSettings& asked, CommandWriter& writer) : mRules(asked), mWriter(writer) {}
 
   // One more label, as the page was laid out. No when the printer takes nothing more.
   bool add(const Bitmap& page, const Resolution& dots);
@@ -20,9 +21,10 @@ class LabelJob {
 
  private:
   bool begin(const Resolution& dots);
+  bool feed(std::optional<double> millimetres);
   Bitmap finished(const Bitmap& page) const;
 
-  const CutPlan& mPlan;
+  CutRules mRules;
   CommandWriter& mWriter;
   Resolution mDots;
   unsigned mLabels = 0;

@@ -8,6 +8,7 @@
 #include <sstream>
 #include <variant>
 
+#include "samples/printer/Choices.h"
 #include "samples/printer/StripFolder.h"
 
 namespace cutline::printer {
@@ -24,6 +25,11 @@ std::string oneLine(const std::string& value) {
     }
   }
   return line;
+}
+
+// The margins keep a document's ink out of a label's corners: what is there marks where to cut.
+bool isMarkedAt(const Bitmap& label, std::int64_t y) {
+  return label.inkAt(0, y) && label.inkAt(std::int64_t{label.width()} - 1, y);
 }
 
 // Ends early on a signal, as a job that is cancelled has to.
@@ -58,8 +64,27 @@ void StripJob::take(Setting setting) {
   mFacts.emplace_back(std::move(setting.name), std::move(setting.value));
 }
 
+void StripJob::take(const Feed& feed) {
+  mEndsInMark = false;
+  mStrip.addBlank(feed.dots);
+}
+
+void StripJob::take(Cut cut) {
+  if (cut == Cut::Full) mPieceHasLabel = false;
+  mStrip.addCut(cut);
+}
+
+// Where two labels meet, the end of one and the beginning of the next are one mark.
+void StripJob::countMarks(const Bitmap& label) {
+  const bool beginsInMark = isMarkedAt(label, 0) && !mEndsInMark;
+  mEndsInMark = isMarkedAt(label, std::int64_t{label.height()} - 1);
+  mCutMarks += (beginsInMark ? 1U : 0U) + (mEndsInMark ? 1U : 0U);
+}
+
 void StripJob::take(Bitmap label) {
   ++mLabels;
+  if (!std::exchange(mPieceHasLabel, true)) ++mPieces;
+  countMarks(label);
   mStrip.addLabel(std::move(label));
   if (mPace > 0) wait(mPace);
 }
@@ -72,7 +97,8 @@ std::string StripJob::text() const {
   // A strip that is longer than a picture can be is drawn up to there.
   out << "labels=" << mLabels << "\nlabels-drawn=" << places.size()
       << "\nfull-cuts=" << mStrip.cuts(Cut::Full) << "\nhalf-cuts=" << mStrip.cuts(Cut::Half)
-      << "\npicture=" << whole.width << ',' << whole.height << '\n';
+      << "\ncut-marks=" << mCutMarks << "\npieces=" << mPieces << "\npicture=" << whole.width << ','
+      << whole.height << '\n';
   for (std::size_t at = 0; at < places.size(); ++at) {
     const Place& place = places[at];
     out << "label." << at + 1 << '=' << place.x << ',' << place.y << ',' << place.width << ','

@@ -30,16 +30,21 @@ class StripJob {
   bool refuse(std::string problem);
   void take(Setting setting);
   void take(const Resolution& dots) { mStrip.setResolution(dots); }
-  void take(const Feed& feed) { mStrip.addBlank(feed.dots); }
+  void take(const Feed& feed);
   void take(Bitmap label);
-  void take(Cut cut) { mStrip.addCut(cut); }
+  void take(Cut cut);
   void take(End) { mEnded = true; }
+  void countMarks(const Bitmap& label);
   std::string text() const;
 
   Facts mFacts;
   unsigned mPace;
   Strip mStrip;
   unsigned mLabels = 0;
+  unsigned mPieces = 0;  // with labels on them
+  unsigned mCutMarks = 0;
+  bool mPieceHasLabel = false;
+  bool mEndsInMark = false;  // what came last
   bool mEnded = false;
   bool mBrokeOff = false;
   std::string mProblem;

@@ -9,8 +9,8 @@
 #include <string>
 
 #include "base/FileDescriptor.h"
+#include "samples/printer/Choices.h"
 #include "samples/printer/CommandStream.h"
-#include "samples/printer/CutPlan.h"
 #include "samples/printer/LabelJob.h"
 #include "samples/printer/RasterPages.h"
 
@@ -54,8 +54,7 @@ int printFrom(int input, const Choices& choices, CommandWriter& writer) {
   const auto halftone = choices.find("Halftone");
   const bool dots = halftone != choices.end() && halftone->second == "Dots";
   RasterPages pages(input, dots ? Halftone::Dots : Halftone::Sharp);
-  const CutPlan plan(choices);
-  LabelJob job(plan, writer);
+  LabelJob job(cutSettingsOf(choices), writer);
   return print(pages, job);
 }
 

@@ -137,7 +137,7 @@ TEST_P(CutEvery, ATypedNumberIsPrinted) {
   dialog.print();
   const PrintedJob job = newJob();
   EXPECT_EQ(job.options().at("LxCutLabel"), "5");
-  EXPECT_EQ(job.number("full-cuts"), 3);  // after 5, 10 and 12 labels
+  EXPECT_EQ(job.number("pieces"), 3);  // after 5, 10 and 12 labels
 }
 
 TEST_P(CutEvery, ASteppedNumberIsPrinted) {
@@ -149,7 +149,7 @@ TEST_P(CutEvery, ASteppedNumberIsPrinted) {
   dialog.print();
   const PrintedJob job = newJob();
   EXPECT_EQ(job.options().at("LxCutLabel"), "6");
-  EXPECT_EQ(job.number("full-cuts"), 2);
+  EXPECT_EQ(job.number("pieces"), 2);
 }
 
 }  // namespace

@@ -82,12 +82,12 @@ TEST_P(Printing, SummaryAndPictureShowWhatIsSent) {
   EXPECT_EQ(shown, pictureFor(newJob().options(), isRoll));
 }
 
-TEST_F(EndToEndTest, AHalfCutStandsBetweenTheLabels) {
+TEST_F(EndToEndTest, AHalfCutStandsBeforeEachLabel) {
   DialogOnServer dialog("tape24");
   click(dialog.box("LxHalfCut"));
   dialog.print();
   const PrintedJob job = newJob();
-  EXPECT_EQ(job.number("half-cuts"), kLabels - 1);
+  EXPECT_EQ(job.number("half-cuts"), kLabels);
   EXPECT_EQ(job.number("full-cuts"), 1);
 }
 

@@ -1,5 +1,7 @@
 // A picture shows what its name says: how many pieces there are, what holds them together, and
 // which way the text runs.
+#include "tests/pictures/Meaning.h"
+
 #include <gtest/gtest.h>
 
 #include <QColor>
@@ -28,24 +30,6 @@ constexpr int kPrinterColumn = 206;  // the printer's slot begins behind it
 constexpr int kVisibleGap = 3;     // in points: what still shows in a list, half as large
 constexpr double kBearings = 1.5;  // letters don't fill their space evenly on both sides
 
-struct Row {
-  const char* stem;  // the name without the mirror flag
-  int fullCuts;      // gaps that part the whole tape
-  int halfCuts;      // gaps in the face only
-  int scissors;      // where one cuts by hand
-};
-
-constexpr Row kTapeRows[] = {
-    {"AHCMOffOffOff", 0, 0, 0}, {"AHCMOffOffOn", 0, 0, 0}, {"AHCMOffOnOff", 0, 4, 0},
-    {"AHCMOffOnOn", 0, 3, 0},   {"AHCMOnOffOff", 4, 0, 0}, {"AHCMOnOffOn", 3, 0, 0},
-    {"AHCMOnOnOff", 1, 3, 0},   {"AHCMOnOnOn", 1, 2, 0},   {"SPMROn", 0, 0, 1},
-};
-constexpr Row kMarkedRows[] = {
-    {"CTMROnOff", 0, 0, 4}, {"CTMROffOff", 0, 0, 1}, {"CTMROnOn", 0, 0, 3}, {"CTMROffOn", 0, 0, 1}};
-constexpr Row kRollRows[] = {{"EveryEndMirrorOffOff", 0, 0, 0},
-                             {"EveryEndMirrorOffOn", 1, 0, 0},
-                             {"EveryEndMirrorOnOff", 3, 0, 0}};
-
 // How many runs of at least `length` pixels that `matches` holds for lie in a row, between the
 // start of the tape and the printer.
 template <typename Matches>
@@ -71,7 +55,7 @@ int runsIn(const QImage& image, int row, int length, Colour colour) {
   return runsIn(image, row, length, [&](const QColor& c) { return c == wanted; });
 }
 
-void expectCuts(const std::string& name, int row, const Row& expected) {
+void expectCuts(const std::string& name, int row, const Meaning& expected) {
   const QImage image = imageOf(name, 1);
   ASSERT_FALSE(image.isNull()) << name;
   EXPECT_EQ(gapsIn(image, row), expected.fullCuts) << name;
@@ -99,14 +83,15 @@ QImage textOf(const QSvgRenderer& renderer, const QString& id) {
 }
 
 TEST(PictureMeaning, ATapeIsPartedWhereItsNameSaysAndNowhereElse) {
-  for (const Row& row : kTapeRows) {
+  for (const Meaning& row : kTapeRows) {
     expectCuts(std::string(row.stem) + "Off", kBackingRow, row);
     expectCuts(std::string(row.stem) + "On", kBackingRow, row);
   }
 }
 
 TEST(PictureMeaning, ATapeForCuttingByHandIsWholeAndShowsWhereToCut) {
-  for (const Row& row : kMarkedRows) expectCuts(std::string(row.stem) + "Off", kBackingRow, row);
+  for (const Meaning& row : kMarkedRows)
+    expectCuts(std::string(row.stem) + "Off", kBackingRow, row);
 }
 
 TEST(PictureMeaning, CutMarksArePrintedAtTheEndsOfLabelsWhenAskedFor) {
@@ -118,7 +103,7 @@ TEST(PictureMeaning, CutMarksArePrintedAtTheEndsOfLabelsWhenAskedFor) {
 }
 
 TEST(PictureMeaning, ARollIsPartedAfterEachLabelOrOnceOrNever) {
-  for (const Row& row : kRollRows) {
+  for (const Meaning& row : kRollRows) {
     expectCuts(std::string(row.stem) + "Off", kPaperRow, row);
     expectCuts(std::string(row.stem) + "On", kPaperRow, row);
   }

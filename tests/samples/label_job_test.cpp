@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include "samples/printer/Choices.h"
 #include "samples/printer/LabelJob.h"
 #include "tests/samples/Dots.h"
 #include "tests/support/TemporaryFolder.h"
@@ -43,8 +44,7 @@ class LabelJobTest : public ::testing::Test {
   void print(const Choices& choices, int pages) {
     const int out = ::open((mFolder / "job").c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
     CommandWriter writer(out);
-    const CutPlan plan(choices);
-    LabelJob job(plan, writer);
+    LabelJob job(cutSettingsOf(choices), writer);
     for (int at = 0; at < pages; ++at) EXPECT_TRUE(job.add(page(), kMillimetres));
     EXPECT_TRUE(job.end());
     EXPECT_EQ(job.labels(), static_cast<unsigned>(pages));
@@ -76,8 +76,14 @@ TEST_F(LabelJobTest, LeavesTheLastLabelOfAChainInThePrinter) {
   EXPECT_EQ(outlineOf(commandsOf({{"LxChainPrint", "ON"}, {"LxAutoTapeCut", "ON"}}, 2)), "rL|Le");
 }
 
-TEST_F(LabelJobTest, CutsBetweenLabels) {
-  EXPECT_EQ(outlineOf(commandsOf({{"LxHalfCut", "ON"}}, 3)), "rfL:L:Lfe");
+// The leader and the tape that follows are parted from the labels as these are from each other.
+TEST_F(LabelJobTest, CutsBetweenLabelsAndBesideThem) {
+  EXPECT_EQ(outlineOf(commandsOf({{"LxHalfCut", "ON"}}, 3)), "rf:L:L:L:fe");
+  EXPECT_EQ(outlineOf(commandsOf({{"LxAutoTapeCut", "ON"}}, 2)), "rf|L|Lf|e");
+}
+
+TEST_F(LabelJobTest, FeedsNoLeaderFromARoll) {
+  EXPECT_EQ(outlineOf(commandsOf({{"LxAutoTapeCut", "ON"}, {"LxTapeType", "WN"}}, 2)), "rL|Lf|e");
 }
 
 TEST_F(LabelJobTest, PrintsThePageAsItIs) { EXPECT_EQ(labelOf({}), rowsOf(page())); }
@@ -102,8 +108,7 @@ TEST_F(LabelJobTest, MarksTheCorners) {
 TEST(LabelJobWithoutPrinter, SaysThatNothingIsTaken) {
   const int full = ::open("/dev/full", O_WRONLY);
   CommandWriter writer(full);
-  const CutPlan plan(Choices{});
-  LabelJob job(plan, writer);
+  LabelJob job({}, writer);
   EXPECT_FALSE(job.add(page(), kMillimetres));
   EXPECT_FALSE(job.end());
   ::close(full);
@@ -113,8 +118,7 @@ TEST_F(LabelJobTest, KeepsABlankLabelWhole) {
   TemporaryFolder folder;
   const int out = ::open((folder / "job").c_str(), O_WRONLY | O_CREAT, 0600);
   CommandWriter writer(out);
-  const CutPlan plan(Choices{{"LxRemoveBlkSpace", "ON"}});
-  LabelJob job(plan, writer);
+  LabelJob job(cutSettingsOf({{"LxRemoveBlkSpace", "ON"}}), writer);
   EXPECT_TRUE(job.add(Bitmap(8, 5), kMillimetres));
   ::close(out);
   EXPECT_NE(contentsOf(folder / "job").find("label 8 5\n"), std::string::npos);

@@ -3,6 +3,7 @@
 
 #include <memory>
 
+#include "samples/printer/Choices.h"
 #include "tests/support/Command.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -71,6 +72,16 @@ TEST(SamplePpds, NameTheirFamilyAndTheirPanel) {
   EXPECT_EQ(valueOf(sample("roll").get(), "LxTapeType"), "WN");
   EXPECT_EQ(valueOf(sample("tape-a").get(), "LxTapeType"), "none");
   EXPECT_TRUE(valueOf(sample("tape-a").get(), "APDialogExtension").ends_with("CutOptions.plugin"));
+}
+
+TEST(SamplePpds, SayWhatThePrinterFeeds) {
+  for (const char* name : {"tape-a", "tape-b", "roll"}) {
+    const Ppd ppd = sample(name);
+    const CutSettings fed =
+        printer::cutSettingsOf({{printer::kFamilyKey, valueOf(ppd.get(), printer::kFamilyKey)}});
+    EXPECT_EQ(std::stod(valueOf(ppd.get(), "LxLeaderLength")), fed.leader) << name;
+    EXPECT_EQ(std::stod(valueOf(ppd.get(), "LxFeedLength")), fed.feed) << name;
+  }
 }
 
 // A check box's state is the position of the choice.

@@ -73,7 +73,7 @@ TEST(PrivateServer, PrintsTheLabelsWithTheirOptions) {
   EXPECT_NE(facts["options"].find("LxHalfCut=ON"), std::string::npos) << facts["options"];
   EXPECT_EQ(facts["LxMirror"], "OFF");
   EXPECT_EQ(facts["labels"], "12");
-  EXPECT_EQ(facts["half-cuts"], "11");
+  EXPECT_EQ(facts["half-cuts"], "12");
   EXPECT_EQ(facts["full-cuts"], "1");
   const PngPicture strip = server.picture(1);
   for (int label = 1; label <= 12; ++label) {

@@ -38,6 +38,19 @@ TEST_F(StripJobTest, ListsWhatItWasGivenAndTold) {
   EXPECT_GT(PngPicture(mFolder / "job.png").width(), 0U);
 }
 
+// A leader that is cut off is no piece of the job's, and two marks that meet are one.
+TEST_F(StripJobTest, CountsPiecesWithLabelsAndCutMarks) {
+  const std::string marked = "label 8 1\n\x81";
+  StripJob job({}, 0);
+  ASSERT_TRUE(read(job, "cutline-printer 1\nfeed 9\ncut full\n" + marked + "cut half\n" + marked +
+                            "cut full\nlabel 8 1\nxfeed 4\ncut full\nend\n"));
+  ASSERT_TRUE(job.store(mFolder / "job", mCancelled));
+  Facts facts = factsOf(mFolder / "job.txt");
+  EXPECT_EQ(facts["full-cuts"], "3");
+  EXPECT_EQ(facts["pieces"], "2");
+  EXPECT_EQ(facts["cut-marks"], "3");
+}
+
 TEST_F(StripJobTest, RefusesAJobWithoutLabels) {
   StripJob job({}, 0);
   EXPECT_FALSE(read(job, "cutline-printer 1\nfeed 9\nend\n"));

@@ -10,7 +10,6 @@ namespace cutline::test {
 namespace {
 
 using printer::Bitmap;
-using printer::Cut;
 using printer::Place;
 using printer::Strip;
 

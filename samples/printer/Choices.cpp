@@ -1,4 +1,4 @@
-#include "samples/printer/CutPlan.h"
+#include "samples/printer/Choices.h"
 
 #include <cups/cups.h>
 #include <cups/ppd.h>
@@ -38,10 +38,6 @@ std::string_view choiceOf(const Choices& choices, std::string_view keyword) {
   return found == choices.end() ? std::string_view() : std::string_view(found->second);
 }
 
-bool isOn(const Choices& choices, std::string_view keyword) {
-  return choiceOf(choices, keyword) == "ON";
-}
-
 unsigned countOf(std::string_view text) {
   return std::max(1U, numberIn<unsigned>(text).value_or(1));
 }
@@ -59,39 +55,22 @@ std::optional<Choices> choicesOf(const std::string& ppdPath, const std::string& 
   return choices;
 }
 
-CutPlan::CutPlan(const Choices& choices)
-    : mLabelsPerStrip(countOf(choiceOf(choices, "LxCutLabel"))),
-      mMirror(isOn(choices, "LxMirror")),
-      mRemoveBlankSpace(isOn(choices, "LxRemoveBlkSpace") &&
-                        !keepsBlankSpace(choiceOf(choices, "PageSize"))),
-      mRoll(choiceOf(choices, kFamilyKey) == kRollFamily) {
-  const bool isSpecialTape = isOn(choices, "LxSpecialTape");
-  const auto works = [&](std::string_view keyword) {
-    return isOn(choices, keyword) && !(isSpecialTape && underSpecialTape(keyword).withoutEffect);
-  };
-  mCutAtEnd = works("LxCutAtEnd");
-  mAutoCut = works("LxAutoTapeCut");
-  mHalfCut = works("LxHalfCut");
-  mChain = works("LxChainPrint");
-  mCutMarks = works("LxCutMark");
-}
-
-bool CutPlan::stripEndsAfter(unsigned number) const {
-  if (!mAutoCut) return false;
-  // Half cuts make a strip of labels. With one label to a strip they would be for nothing, so the
-  // job becomes one strip.
-  if (mHalfCut && mLabelsPerStrip == 1) return false;
-  return number % mLabelsPerStrip == 0;
-}
-
-Cut CutPlan::afterLabel(unsigned number) const {
-  if (stripEndsAfter(number)) return Cut::Full;
-  return mHalfCut ? Cut::Half : Cut::None;
-}
-
-Cut CutPlan::atEnd() const {
-  if (mChain) return Cut::None;
-  return mAutoCut || mCutAtEnd ? Cut::Full : Cut::None;
+CutSettings cutSettingsOf(const Choices& choices) {
+  const auto on = [&](std::string_view keyword) { return choiceOf(choices, keyword) == "ON"; };
+  const bool isRoll = choiceOf(choices, kFamilyKey) == kRollFamily;
+  return {.cutsAutomatically = on("LxAutoTapeCut"),
+          .labelsPerCut = countOf(choiceOf(choices, "LxCutLabel")),
+          .cutsAtEnd = on("LxCutAtEnd"),
+          .halfCuts = on("LxHalfCut"),
+          .chains = on("LxChainPrint"),
+          .isSpecialTape = on("LxSpecialTape"),
+          .printsCutMarks = on("LxCutMark"),
+          .removesBlankSpace =
+              on("LxRemoveBlkSpace") && !keepsBlankSpace(choiceOf(choices, "PageSize")),
+          .mirrors = on("LxMirror"),
+          .isRoll = isRoll,
+          .leader = isRoll ? kRollLeader : kTapeLeader,
+          .feed = kFeed};
 }
 
 }  // namespace cutline::printer

@@ -1,0 +1,37 @@
+#include "strip/CutRules.h"
+
+namespace cutline {
+
+bool CutRules::hasLeader() const {
+  if (mSettings.chains) return false;
+  return mSettings.leader ? *mSettings.leader > 0 : !mSettings.isRoll;
+}
+
+bool CutRules::feedsOut() const { return !mSettings.chains && mSettings.feed != 0.0; }
+
+Cut CutRules::behindLeader() const {
+  if (!hasLeader()) return Cut::None;
+  if (mSettings.halfCuts) return Cut::Half;
+  return mSettings.cutsAutomatically ? Cut::Full : Cut::None;
+}
+
+// Half cuts make a strip of labels. With one label to a strip they would be for nothing, so the job
+// becomes one strip.
+unsigned CutRules::labelsPerPiece() const {
+  if (!mSettings.cutsAutomatically) return 0;
+  return mSettings.halfCuts && mSettings.labelsPerCut == 1 ? 0 : mSettings.labelsPerCut;
+}
+
+Cut CutRules::behindLabel(std::uint64_t number) const {
+  const unsigned perPiece = labelsPerPiece();
+  if (perPiece > 0 && number % perPiece == 0) return Cut::Full;
+  return mSettings.halfCuts ? Cut::Half : Cut::None;
+}
+
+Cut CutRules::atEnd() const {
+  if (mSettings.chains) return Cut::None;
+  if (mSettings.cutsAutomatically || mSettings.cutsAtEnd) return Cut::Full;
+  return mSettings.halfCuts ? Cut::Half : Cut::None;
+}
+
+}  // namespace cutline

@@ -1,0 +1,17 @@
+#include "strip/CutSettings.h"
+
+#include <algorithm>
+
+namespace cutline {
+
+CutSettings inForce(CutSettings asked) {
+  asked.labelsPerCut = std::max(1U, asked.labelsPerCut);
+  if (!asked.isSpecialTape) return asked;
+  for (bool CutSettings::*of :
+       {&CutSettings::cutsAutomatically, &CutSettings::cutsAtEnd, &CutSettings::halfCuts,
+        &CutSettings::chains, &CutSettings::printsCutMarks})
+    asked.*of = false;
+  return asked;
+}
+
+}  // namespace cutline

@@ -1,0 +1,26 @@
+// The labels of a job in the order in which they are printed.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace cutline {
+
+struct LabelRun {
+  // The document's pages that are printed, counted from 1, in their order.
+  std::vector<unsigned> pages = {};
+  unsigned copies = 1;
+  // The whole document once a copy, or else each page as often as there are copies.
+  bool isCollated = false;
+  // Of each label along the tape, in millimetres; nothing: not known.
+  std::optional<double> labelLength = std::nullopt;
+
+  std::uint64_t labels() const { return std::uint64_t{copies} * pages.size(); }
+  // The page of the label `number`, which counts from 1 to labels().
+  unsigned pageOf(std::uint64_t number) const {
+    return pages[isCollated ? (number - 1) % pages.size() : (number - 1) / copies];
+  }
+};
+
+}  // namespace cutline
