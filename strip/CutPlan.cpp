@@ -43,7 +43,7 @@ std::optional<double> sumOf(bool hasFirst, std::optional<double> first, bool has
   return (hasFirst ? *first : 0) + (hasSecond ? *second : 0);
 }
 
-PieceRun::End endOf(const CutRules& rules) {
+PieceRun::End endOf(const KnifeRules& rules) {
   if (rules.settings().chains) return PieceRun::End::StaysInPrinter;
   return rules.atEnd() == Cut::Full ? PieceRun::End::Cut : PieceRun::End::HangsOut;
 }

@@ -7,7 +7,7 @@
 #include <optional>
 #include <vector>
 
-#include "strip/CutRules.h"
+#include "strip/KnifeRules.h"
 #include "strip/LabelRun.h"
 
 namespace cutline {
@@ -39,7 +39,7 @@ class CutPlan {
  public:
   CutPlan(const CutSettings& asked, LabelRun run);
 
-  const CutRules& rules() const { return mRules; }
+  const KnifeRules& rules() const { return mRules; }
   const LabelRun& run() const { return mRun; }
 
   std::uint64_t labels() const { return mRun.labels(); }
@@ -70,7 +70,7 @@ class CutPlan {
   double labelLength() const { return mRun.labelLength.value_or(0); }
   bool labelsAreExact() const;
 
-  CutRules mRules;
+  KnifeRules mRules;
   LabelRun mRun;
 };
 

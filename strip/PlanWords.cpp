@@ -123,7 +123,7 @@ Sentence planSentence(const CutPlan& plan) {
 std::vector<Sentence> planLines(const CutPlan& plan) {
   std::vector<Sentence> lines;
   if (plan.labels() == 0) return lines;
-  const CutRules& rules = plan.rules();
+  const KnifeRules& rules = plan.rules();
   if (rules.hasLeader()) lines.push_back(leaderLine(plan));
   for (const PieceRun& run : plan.pieceRuns()) lines.push_back(runLine(run, plan));
   if (rules.feedsOut())

@@ -22,6 +22,9 @@ enum LongOption {
   kWait,
   kSummary,
   kOptions,
+  kPlan,
+  kJson,
+  kChoices,
   kSnapshot,
   kScale,
   kDark,
@@ -39,6 +42,9 @@ constexpr option kLongOptions[] = {{"ppd", required_argument, nullptr, kPpd},
                                    {"wait", no_argument, nullptr, kWait},
                                    {"summary", no_argument, nullptr, kSummary},
                                    {"options", no_argument, nullptr, kOptions},
+                                   {"plan", no_argument, nullptr, kPlan},
+                                   {"json", no_argument, nullptr, kJson},
+                                   {"choices", no_argument, nullptr, kChoices},
                                    {"snapshot", required_argument, nullptr, kSnapshot},
                                    {"scale", required_argument, nullptr, kScale},
                                    {"dark", no_argument, nullptr, kDark},
@@ -68,6 +74,9 @@ Print labels and tapes: shows a print dialog with the printer's cut options.
   --wait                 with --print: end when the job has ended
   --summary              show the panel's summary and end
   --options              show what would be sent with the job and end
+  --plan                 show where the tape would be cut and end
+  --json                 with --plan: for other programs
+  --choices              show the printer's options with their choices and end
   --snapshot PNG         save a picture of the dialog as it opens and end
   --scale 1|2            pixels per point of the dialog (with --snapshot)
   --dark                 light text on dark ground
@@ -91,7 +100,9 @@ using Problem = std::optional<std::string>;
 
 Problem setCommand(CommandLine& line, Command command) {
   if (line.command != Command::dialog && line.command != command)
-    return "--print, --dry-run, --summary, --options, --snapshot and --list exclude each other";
+    return "--print, --dry-run, --summary, --options, --plan, --choices, --snapshot and --list "
+           "exclude "
+           "each other";
   line.command = command;
   return std::nullopt;
 }
@@ -192,6 +203,12 @@ Problem apply(CommandLine& line, int option, const std::string& text) {
       return setCommand(line, Command::summary);
     case kOptions:
       return setCommand(line, Command::options);
+    case kPlan:
+      return setCommand(line, Command::plan);
+    case kJson:
+      return turnOn(line.asJson);
+    case kChoices:
+      return setCommand(line, Command::choices);
     case kSnapshot:
       return setSnapshot(line, text);
     case kScale:
@@ -211,6 +228,7 @@ Problem apply(CommandLine& line, int option, const std::string& text) {
 
 Problem checkTogether(const CommandLine& line) {
   if (line.waits && line.command != Command::print) return "--wait goes with --print only";
+  if (line.asJson && line.command != Command::plan) return "--json goes with --plan only";
   const bool isUnseen = line.command == Command::print || line.command == Command::options;
   if (line.asked.isRaw() && !isUnseen) return "-o raw goes with --print only";
   if (!line.ppdPath) return std::nullopt;

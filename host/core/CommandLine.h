@@ -12,7 +12,19 @@
 
 namespace cutline {
 
-enum class Command { dialog, print, dryRun, summary, options, snapshot, list, help, version };
+enum class Command {
+  dialog,
+  print,
+  dryRun,
+  summary,
+  options,
+  plan,
+  choices,
+  snapshot,
+  list,
+  help,
+  version
+};
 
 // Exit statuses of the program.
 inline constexpr int kExitDone = 0;
@@ -33,6 +45,7 @@ struct CommandLine {
   std::string dryRunPath;                      // --dry-run
   int scale = 1;                               // --scale: pixels per point, 1 or 2
   bool dark = false;                           // --dark
+  bool asJson = false;                         // --json: the plan for other programs
   bool waits = false;                          // --wait: until the job has ended
   bool marks = false;                          // --marks: times on standard output, then end
 };

@@ -4,9 +4,11 @@
 
 #include "base/Lists.h"
 #include "cups/Destinations.h"
+#include "host/core/ChoicesCommand.h"
 #include "host/core/CutRules.h"
 #include "host/core/HeadlessPrinting.h"
 #include "host/core/HeadlessSession.h"
+#include "host/core/PlanCommand.h"
 #include "host/core/PrinterSelection.h"
 
 namespace cutline {
@@ -67,10 +69,9 @@ struct Row {
   Command command;
   Result<Done> (*run)(const CommandLine&, PluginLoader&, const Streams&);
 };
-constexpr Row kCommands[] = {{Command::print, printDocuments},
-                             {Command::dryRun, keepDocument},
-                             {Command::summary, showSummary},
-                             {Command::options, showOptions},
+constexpr Row kCommands[] = {{Command::print, printDocuments}, {Command::dryRun, keepDocument},
+                             {Command::summary, showSummary},  {Command::options, showOptions},
+                             {Command::plan, showPlan},        {Command::choices, showChoices},
                              {Command::list, listPrinters}};
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The commands that need no window: --print, --summary, --options and --list.
+// The commands that need no window: --print, --plan, --options and their like.
 #pragma once
 
 #include <iosfwd>

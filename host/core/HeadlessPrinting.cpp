@@ -7,7 +7,6 @@
 #include <iostream>
 #include <thread>
 
-#include "composition/Composer.h"
 #include "cups/DocumentFile.h"
 #include "cups/PrintJob.h"
 #include "host/core/Installation.h"
@@ -25,14 +24,6 @@ std::string nameOf(const CommandLine& line) {
   return std::filesystem::path(line.files.front()).filename().string();
 }
 
-// What can be said without a printer is said before one is asked.
-Result<Done> checkFiles(const CommandLine& line) {
-  for (const std::string& path : line.files)
-    if (const Result<DocumentFile> file = DocumentFile::open(path); !file) return file.error();
-  if (!line.asked.isRaw() || line.files.size() == 1) return Done{};
-  return Error{"-o raw sends one document at a time"};
-}
-
 void noteShrunkPages(const CompositionReport& report, HeadlessSession& session) {
   const auto& pages = report.pages;
   const auto isShrunk = [](const ComposedPage& page) {
@@ -46,20 +37,6 @@ void noteShrunkPages(const CompositionReport& report, HeadlessSession& session) 
                           : std::to_string(count) +
                                 " pages are larger than their labels: the first is shrunk to " +
                                 percent + " %");
-}
-
-// The documents on labels. Where the length follows them, the model has it afterwards.
-Result<ComposedDocument> composeFor(HeadlessSession& session, const CommandLine& line) {
-  PrintModel& model = session.model();
-  CompositionRequest request = model.compositionRequest();
-  request.pages = model.pageSelection();
-  const std::string helpers = Installation::ofThisProgram().helperDirectory();
-  Result<ComposedDocument> composed = compose(helpers, line.files, request);
-  if (!composed) return composed;
-  if (request.lengthBounds) model.takeContentLength(composed->report.label.length);
-  if (model.jobLayout().placing.scaling == Scaling::automatic)
-    noteShrunkPages(composed->report, session);
-  return composed;
 }
 
 // What goes to the printer as it is has no pages that the server could count.
@@ -98,6 +75,26 @@ Result<Done> keepAs(const std::string& path, const ComposedDocument& composed) {
 }
 
 }  // namespace
+
+Result<Done> checkFiles(const CommandLine& line) {
+  for (const std::string& path : line.files)
+    if (const Result<DocumentFile> file = DocumentFile::open(path); !file) return file.error();
+  if (!line.asked.isRaw() || line.files.size() == 1) return Done{};
+  return Error{"-o raw sends one document at a time"};
+}
+
+Result<ComposedDocument> composeFor(HeadlessSession& session, const CommandLine& line) {
+  PrintModel& model = session.model();
+  CompositionRequest request = model.compositionRequest();
+  request.pages = model.pageSelection();
+  const std::string helpers = Installation::ofThisProgram().helperDirectory();
+  Result<ComposedDocument> composed = compose(helpers, line.files, request);
+  if (!composed) return composed;
+  if (request.lengthBounds) model.takeContentLength(composed->report.label.length);
+  if (model.jobLayout().placing.scaling == Scaling::automatic)
+    noteShrunkPages(composed->report, session);
+  return composed;
+}
 
 Result<Done> printDocuments(const CommandLine& line, PluginLoader& plugIns,
                             const Streams& streams) {

@@ -17,7 +17,7 @@
 #include <variant>
 
 #include "samples/printer/Bitmap.h"
-#include "strip/CutRules.h"
+#include "strip/KnifeRules.h"
 
 namespace cutline::printer {
 

@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "samples/printer/CommandStream.h"
-#include "strip/CutRules.h"
+#include "strip/KnifeRules.h"
 
 namespace cutline::printer {
 
@@ -24,7 +24,7 @@ class LabelJob {
   bool feed(std::optional<double> millimetres);
   Bitmap finished(const Bitmap& page) const;
 
-  CutRules mRules;
+  KnifeRules mRules;
   CommandWriter& mWriter;
   Resolution mDots;
   unsigned mLabels = 0;

@@ -112,6 +112,9 @@ TEST(CommandLineTest, WrongUsageIsNamed) {
                                                        {"--print", "--summary"},
                                                        {"--wait"},
                                                        {"--wait", "--options"},
+                                                       {"--json"},
+                                                       {"--json", "--options"},
+                                                       {"--plan", "--choices"},
                                                        {"--ppd"},
                                                        {"--ppd", "a.ppd", "--print"},
                                                        {"-o", "copies=x"},
@@ -147,9 +150,10 @@ TEST(CommandLineTest, AMinusStandsForStandardInput) {
 
 TEST(CommandLineTest, TheHelpNamesEveryOption) {
   for (const char* option :
-       {"-d",         "-n",      "-P",      "-t",     "-o",           "-h",        "-E",
-        "-U",         "--ppd",   "--print", "--wait", "--dry-run",    "--summary", "--options",
-        "--snapshot", "--scale", "--dark",  "--list", "--plugin-dir", "--help",    "--version"})
+       {"-d",        "-n",        "-P",     "-t",           "-o",        "-h",
+        "-E",        "-U",        "--ppd",  "--print",      "--wait",    "--dry-run",
+        "--summary", "--options", "--plan", "--json",       "--choices", "--snapshot",
+        "--scale",   "--dark",    "--list", "--plugin-dir", "--help",    "--version"})
     EXPECT_NE(helpText().find(option), std::string::npos) << option;
 }
 

@@ -187,5 +187,34 @@ TEST_F(Program, APrinterWithoutCutOptionsHasNoPanelAndNoCutOptions) {
   EXPECT_EQ(run("--ppd plain.ppd --summary").out, "");
 }
 
+TEST_F(Program, ShowsThePlanOfADocument) {
+  const Outcome outcome = run("--plan --ppd tape.ppd -o LxHalfCut=ON -n 2 labels.txt");
+  EXPECT_EQ(outcome.status, 0) << outcome.err;
+  EXPECT_EQ(outcome.out.substr(0, outcome.out.find('\n')),
+            "2 labels, tape not cut, half cut between: 1 piece, length not known");
+  EXPECT_EQ(outcome.err, "");
+}
+
+TEST_F(Program, ShowsThePlanOfOneLabelWithoutADocumentAndSaysSo) {
+  const Outcome outcome = run("--plan --ppd tape.ppd");
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_TRUE(outcome.out.starts_with("1 label, tape not cut: 1 piece, length not known\n"));
+  EXPECT_EQ(outcome.err, "cutline: no document is named: this is the plan of one label\n");
+  EXPECT_NE(run("--plan --json --ppd tape.ppd").out.find("\"document\": false"), std::string::npos);
+}
+
+TEST_F(Program, APlanOfADocumentThatIsNotThereIsAnError) {
+  const Outcome outcome = run("--plan --ppd tape.ppd missing.pdf");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.out, "");
+}
+
+TEST_F(Program, ListsChoicesWithTheMarkedOne) {
+  const Outcome outcome = run("--choices --ppd tape.ppd -o LxHalfCut=ON -o LxCutLabel=2");
+  EXPECT_EQ(outcome.status, 0) << outcome.err;
+  EXPECT_NE(outcome.out.find("LxHalfCut/HalfCut: OFF/Off, *ON/On\n"), std::string::npos) << outcome.out;
+  EXPECT_NE(outcome.out.find("LxCutLabel: 1, *2, 3, 4, 5, 6, 7, 8, 9\n"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace cutline

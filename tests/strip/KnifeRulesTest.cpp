@@ -62,7 +62,7 @@ const Row kTapeRows[] = {
     {"no feed", {.cutsAutomatically = true, .feed = 0.0}, "~|L|", "~|L|L|L|"},
 };
 
-TEST(CutRules, OnATape) {
+TEST(KnifeRules, OnATape) {
   for (const Row& row : kTapeRows) {
     EXPECT_EQ(outlineOf({row.settings, runOf(1)}), row.one) << row.name;
     EXPECT_EQ(outlineOf({row.settings, runOf(3)}), row.three) << row.name;
@@ -70,13 +70,13 @@ TEST(CutRules, OnATape) {
 }
 
 // It is led back to the print head, unless its driver says otherwise.
-TEST(CutRules, ARollHasNoLeader) {
+TEST(KnifeRules, ARollHasNoLeader) {
   EXPECT_EQ(outlineOf({{.cutsAutomatically = true, .isRoll = true}, runOf(2)}), "L|L~|");
   EXPECT_EQ(outlineOf({{.cutsAutomatically = true, .isRoll = true, .leader = 3.0}, runOf(2)}),
             "~|L|L~|");
 }
 
-TEST(CutRules, WithoutLabelsThereIsNothing) {
+TEST(KnifeRules, WithoutLabelsThereIsNothing) {
   const CutPlan plan({.cutsAutomatically = true, .halfCuts = true, .printsCutMarks = true},
                      runOf(0));
   EXPECT_EQ(outlineOf(plan), "");
@@ -86,7 +86,7 @@ TEST(CutRules, WithoutLabelsThereIsNothing) {
 }
 
 // Mirror, blank space and the kind of tape stay.
-TEST(CutRules, SpecialTapeLeavesTheDrawingAlone) {
+TEST(KnifeRules, SpecialTapeLeavesTheDrawingAlone) {
   const CutSettings left =
       inForce({.isSpecialTape = true, .removesBlankSpace = true, .mirrors = true});
   EXPECT_TRUE(left.isSpecialTape);

@@ -1,15 +1,15 @@
-#include "strip/CutRules.h"
+#include "strip/KnifeRules.h"
 
 namespace cutline {
 
-bool CutRules::hasLeader() const {
+bool KnifeRules::hasLeader() const {
   if (mSettings.chains) return false;
   return mSettings.leader ? *mSettings.leader > 0 : !mSettings.isRoll;
 }
 
-bool CutRules::feedsOut() const { return !mSettings.chains && mSettings.feed != 0.0; }
+bool KnifeRules::feedsOut() const { return !mSettings.chains && mSettings.feed != 0.0; }
 
-Cut CutRules::behindLeader() const {
+Cut KnifeRules::behindLeader() const {
   if (!hasLeader()) return Cut::None;
   if (mSettings.halfCuts) return Cut::Half;
   return mSettings.cutsAutomatically ? Cut::Full : Cut::None;
@@ -17,18 +17,18 @@ Cut CutRules::behindLeader() const {
 
 // Half cuts make a strip of labels. With one label to a strip they would be for nothing, so the job
 // becomes one strip.
-unsigned CutRules::labelsPerPiece() const {
+unsigned KnifeRules::labelsPerPiece() const {
   if (!mSettings.cutsAutomatically) return 0;
   return mSettings.halfCuts && mSettings.labelsPerCut == 1 ? 0 : mSettings.labelsPerCut;
 }
 
-Cut CutRules::behindLabel(std::uint64_t number) const {
+Cut KnifeRules::behindLabel(std::uint64_t number) const {
   const unsigned perPiece = labelsPerPiece();
   if (perPiece > 0 && number % perPiece == 0) return Cut::Full;
   return mSettings.halfCuts ? Cut::Half : Cut::None;
 }
 
-Cut CutRules::atEnd() const {
+Cut KnifeRules::atEnd() const {
   if (mSettings.chains) return Cut::None;
   if (mSettings.cutsAutomatically || mSettings.cutsAtEnd) return Cut::Full;
   return mSettings.halfCuts ? Cut::Half : Cut::None;

@@ -14,9 +14,9 @@ enum class Cut {
   Full,
 };
 
-class CutRules {
+class KnifeRules {
  public:
-  explicit CutRules(const CutSettings& asked) : mSettings(inForce(asked)) {}
+  explicit KnifeRules(const CutSettings& asked) : mSettings(inForce(asked)) {}
 
   // As they are in force.
   const CutSettings& settings() const { return mSettings; }

@@ -1,0 +1,47 @@
+#include "host/core/PlanCommand.h"
+
+#include <ostream>
+
+#include "host/core/HeadlessPrinting.h"
+#include "host/core/JobPlan.h"
+#include "strip/PlanJson.h"
+#include "strip/PlanWords.h"
+
+namespace cutline {
+
+namespace {
+
+// Nothing without a document.
+Result<std::optional<int>> pagesOf(const CommandLine& line, HeadlessSession& session) {
+  if (line.files.empty()) {
+    session.note("no document is named: this is the plan of one label");
+    return std::optional<int>();
+  }
+  const Result<ComposedDocument> composed = composeFor(session, line);
+  if (!composed) return composed.error();
+  return std::optional(composed->report.documentPages);
+}
+
+void writePlanWords(const CutPlan& plan, std::ostream& out) {
+  out << planSentence(plan).english() << '\n';
+  for (const Sentence& line : planLines(plan)) out << line.english() << '\n';
+}
+
+}  // namespace
+
+Result<Done> showPlan(const CommandLine& line, PluginLoader& plugIns, const Streams& streams) {
+  if (Result<Done> checked = checkFiles(line); !checked) return checked;
+  HeadlessSession session(line, plugIns, streams.notes);
+  if (Result<Done> opened = session.openSelected(); !opened) return opened;
+  const Result<std::optional<int>> pages = pagesOf(line, session);
+  if (!pages) return pages.error();
+  const CutPlan plan = planFor(session.model(), *pages);
+  if (line.asJson) {
+    writePlanJson(plan, pages->has_value(), streams.out);
+  } else {
+    writePlanWords(plan, streams.out);
+  }
+  return Done{};
+}
+
+}  // namespace cutline

@@ -1,0 +1,12 @@
+// --plan: where the tape is cut, in words or for other programs.
+#pragma once
+
+#include "host/core/HeadlessSession.h"
+
+namespace cutline {
+
+// For the documents of the command line; without one, for one label, which is remarked. The forms
+// are those of docs/cut-plan.md.
+Result<Done> showPlan(const CommandLine& line, PluginLoader& plugIns, const Streams& streams);
+
+}  // namespace cutline

@@ -1,0 +1,58 @@
+// The plan of the job that a model would send.
+#include <gtest/gtest.h>
+
+#include "host/core/JobPlan.h"
+#include "tests/host/Dialog.h"
+#include "tests/support/Command.h"
+
+namespace cutline {
+namespace {
+
+std::shared_ptr<PpdFile> tape() { return *PpdFile::open(test::source("samples/ppd/tape-a.ppd")); }
+
+CutPlan planOf(const AskedSettings& asked, std::optional<int> pages) {
+  Dialog dialog(asked);
+  dialog.open(tape());
+  return planFor(dialog.model(), pages);
+}
+
+TEST(JobPlan, HasTheLabelsLengthAndThePpdsFeeds) {
+  const CutPlan plan = planOf({}, 2);
+  EXPECT_EQ(plan.labels(), 2U);
+  ASSERT_TRUE(plan.tape());
+  EXPECT_NEAR(*plan.tape(), 2 * 50 + 8 + 4, 0.01);
+}
+
+TEST(JobPlan, FollowsTheMarks) {
+  const CutPlan plan =
+      planOf({.options = {{"LxHalfCut", "ON"}, {"LxCutLabel", "3"}, {"PageSize", "W24H100"}}}, 12);
+  EXPECT_EQ(plan.pieces(), 4U);
+  EXPECT_EQ(plan.halfCuts(), 9U);
+  EXPECT_NEAR(*plan.run().labelLength, 100, 0.01);
+}
+
+TEST(JobPlan, HasThePagesAndCopiesThatArePrinted) {
+  const CutPlan plan = planOf({.copies = 2, .pageRanges = "2-3,7"}, 12);
+  EXPECT_EQ(plan.labels(), 6U);
+  EXPECT_EQ(plan.run().pages, (std::vector<unsigned>{2, 3, 7}));
+  EXPECT_EQ(plan.run().pageOf(2), 2U);
+  const CutPlan reversed = planOf({.options = {{"outputorder", "reverse"}}}, 3);
+  EXPECT_EQ(reversed.run().pages, (std::vector<unsigned>{3, 2, 1}));
+}
+
+TEST(JobPlan, IsCollatedWhereItIsAskedFor) {
+  EXPECT_FALSE(planOf({.copies = 2}, 2).run().isCollated);
+  const OptionList::value_type ways[] = {
+      {"collate", "true"}, {"multiple-document-handling", "separate-documents-collated-copies"}};
+  for (const auto& way : ways)
+    EXPECT_TRUE(planOf({.options = {way}, .copies = 2}, 2).run().isCollated) << way.first;
+  EXPECT_FALSE(planOf({.options = {{"collate", "false"}}, .copies = 2}, 2).run().isCollated);
+}
+
+TEST(JobPlan, IsOneLabelWithoutADocument) {
+  EXPECT_EQ(planOf({.pageRanges = "7"}, std::nullopt).labels(), 1U);
+  EXPECT_EQ(planOf({.copies = 3}, std::nullopt).labels(), 3U);
+}
+
+}  // namespace
+}  // namespace cutline
