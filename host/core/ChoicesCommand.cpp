@@ -3,9 +3,6 @@
 #include <algorithm>
 #include <ostream>
 #include <string>
-#include <vector>
-
-#include "base/Lists.h"
 
 namespace cutline {
 
@@ -15,16 +12,16 @@ std::string withText(const std::string& name, const std::string& text) {
   return text == name ? name : name + '/' + text;
 }
 
-// A value of the user's own is no choice of the list, and stands before it.
-std::string choicesOf(const PpdOption& option, const std::string& marked) {
-  const bool isListed =
-      std::any_of(option.choices.begin(), option.choices.end(),
-                  [&](const OptionChoice& choice) { return choice.name == marked; });
-  std::vector<std::string> words;
-  if (!isListed && !marked.empty()) words.push_back('*' + marked);
-  for (const OptionChoice& choice : option.choices)
-    words.push_back((choice.name == marked ? "*" : "") + withText(choice.name, choice.text));
-  return listed(words);
+void write(const PpdOption& option, const std::string& marked, std::ostream& out) {
+  out << withText(option.keyword, option.text) << ":\n";
+  bool isListed = marked.empty();
+  for (const OptionChoice& choice : option.choices) {
+    const bool isMarked = choice.name == marked;
+    isListed = isListed || isMarked;
+    out << (isMarked ? "* " : "  ") << withText(choice.name, choice.text) << '\n';
+  }
+  // A value of the user's own, such as a size, is no choice of the list.
+  if (!isListed) out << "* " << marked << '\n';
 }
 
 std::string valueIn(const OptionList& options, const std::string& keyword) {
@@ -42,8 +39,7 @@ Result<Done> showChoices(const CommandLine& line, PluginLoader& plugIns, const S
   const OptionList marked = ppd.markedOptions();
   for (const OptionGroup& group : ppd.optionGroups())
     for (const PpdOption& option : group.options)
-      streams.out << withText(option.keyword, option.text) << ": "
-                  << choicesOf(option, valueIn(marked, option.keyword)) << '\n';
+      write(option, valueIn(marked, option.keyword), streams.out);
   return Done{};
 }
 

@@ -5,8 +5,8 @@
 
 namespace cutline {
 
-// A line for each option, as lpoptions has them, with texts and commas:
-// "LxHalfCut/Half cut between labels: *OFF/Off, ON/On". A star is before the choice in force; a
+// As lpoptions has them, with texts: a line for each option, "LxHalfCut/Half cut between labels:",
+// and below it one for each choice, "  ON/On", which begins with a star where it is in force. A
 // text that says no more than the word it belongs to is left out.
 Result<Done> showChoices(const CommandLine& line, PluginLoader& plugIns, const Streams& streams);
 

@@ -8,7 +8,11 @@ namespace {
 
 using Pages = std::vector<int>;
 
-PageSelection ranges(const char* text) { return {.ranges = *PageRanges::parse(text)}; }
+PageSelection ranges(const char* text) {
+  PageSelection selection;
+  selection.ranges = *PageRanges::parse(text);
+  return selection;
+}
 
 TEST(PickedPagesTest, AreAllWithoutASelection) {
   EXPECT_EQ(pickedPages({}, 3), (Pages{0, 1, 2}));
@@ -21,13 +25,13 @@ TEST(PickedPagesTest, AreThoseOfTheRangesThatAreThere) {
 }
 
 TEST(PickedPagesTest, AreOddOrEvenAsPeopleCount) {
-  EXPECT_EQ(pickedPages({.set = PageSet::odd}, 5), (Pages{0, 2, 4}));
-  EXPECT_EQ(pickedPages({.set = PageSet::even}, 5), (Pages{1, 3}));
+  EXPECT_EQ(pickedPages({.ranges = {}, .set = PageSet::odd}, 5), (Pages{0, 2, 4}));
+  EXPECT_EQ(pickedPages({.ranges = {}, .set = PageSet::even}, 5), (Pages{1, 3}));
 }
 
 TEST(PickedPagesTest, AreTurnedRoundBeforeTheyAreCounted) {
-  EXPECT_EQ(pickedPages({.isReversed = true, .most = 2}, 5), (Pages{4, 3}));
-  EXPECT_EQ(pickedPages({.most = 9}, 2), (Pages{0, 1}));
+  EXPECT_EQ(pickedPages({.ranges = {}, .isReversed = true, .most = 2}, 5), (Pages{4, 3}));
+  EXPECT_EQ(pickedPages({.ranges = {}, .most = 9}, 2), (Pages{0, 1}));
 }
 
 }  // namespace

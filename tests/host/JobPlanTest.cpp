@@ -10,8 +10,13 @@ namespace {
 
 std::shared_ptr<PpdFile> tape() { return *PpdFile::open(test::source("samples/ppd/tape-a.ppd")); }
 
-CutPlan planOf(const AskedSettings& asked, std::optional<int> pages) {
-  Dialog dialog(asked);
+AskedSettings asked(OptionList options, std::optional<int> copies = std::nullopt,
+                    std::optional<std::string> pageRanges = std::nullopt) {
+  return {std::move(options), copies, std::move(pageRanges)};
+}
+
+CutPlan planOf(const AskedSettings& settings, std::optional<int> pages) {
+  Dialog dialog(settings);
   dialog.open(tape());
   return planFor(dialog.model(), pages);
 }
@@ -25,33 +30,33 @@ TEST(JobPlan, HasTheLabelsLengthAndThePpdsFeeds) {
 
 TEST(JobPlan, FollowsTheMarks) {
   const CutPlan plan =
-      planOf({.options = {{"LxHalfCut", "ON"}, {"LxCutLabel", "3"}, {"PageSize", "W24H100"}}}, 12);
+      planOf(asked({{"LxHalfCut", "ON"}, {"LxCutLabel", "3"}, {"PageSize", "W24H100"}}), 12);
   EXPECT_EQ(plan.pieces(), 4U);
   EXPECT_EQ(plan.halfCuts(), 9U);
   EXPECT_NEAR(*plan.run().labelLength, 100, 0.01);
 }
 
 TEST(JobPlan, HasThePagesAndCopiesThatArePrinted) {
-  const CutPlan plan = planOf({.copies = 2, .pageRanges = "2-3,7"}, 12);
+  const CutPlan plan = planOf(asked({}, 2, "2-3,7"), 12);
   EXPECT_EQ(plan.labels(), 6U);
   EXPECT_EQ(plan.run().pages, (std::vector<unsigned>{2, 3, 7}));
   EXPECT_EQ(plan.run().pageOf(2), 2U);
-  const CutPlan reversed = planOf({.options = {{"outputorder", "reverse"}}}, 3);
+  const CutPlan reversed = planOf(asked({{"outputorder", "reverse"}}), 3);
   EXPECT_EQ(reversed.run().pages, (std::vector<unsigned>{3, 2, 1}));
 }
 
 TEST(JobPlan, IsCollatedWhereItIsAskedFor) {
-  EXPECT_FALSE(planOf({.copies = 2}, 2).run().isCollated);
+  EXPECT_FALSE(planOf(asked({}, 2), 2).run().isCollated);
   const OptionList::value_type ways[] = {
       {"collate", "true"}, {"multiple-document-handling", "separate-documents-collated-copies"}};
   for (const auto& way : ways)
-    EXPECT_TRUE(planOf({.options = {way}, .copies = 2}, 2).run().isCollated) << way.first;
-  EXPECT_FALSE(planOf({.options = {{"collate", "false"}}, .copies = 2}, 2).run().isCollated);
+    EXPECT_TRUE(planOf(asked({way}, 2), 2).run().isCollated) << way.first;
+  EXPECT_FALSE(planOf(asked({{"collate", "false"}}, 2), 2).run().isCollated);
 }
 
 TEST(JobPlan, IsOneLabelWithoutADocument) {
-  EXPECT_EQ(planOf({.pageRanges = "7"}, std::nullopt).labels(), 1U);
-  EXPECT_EQ(planOf({.copies = 3}, std::nullopt).labels(), 3U);
+  EXPECT_EQ(planOf(asked({}, std::nullopt, "7"), std::nullopt).labels(), 1U);
+  EXPECT_EQ(planOf(asked({}, 3), std::nullopt).labels(), 3U);
 }
 
 }  // namespace

@@ -212,8 +212,10 @@ TEST_F(Program, APlanOfADocumentThatIsNotThereIsAnError) {
 TEST_F(Program, ListsChoicesWithTheMarkedOne) {
   const Outcome outcome = run("--choices --ppd tape.ppd -o LxHalfCut=ON -o LxCutLabel=2");
   EXPECT_EQ(outcome.status, 0) << outcome.err;
-  EXPECT_NE(outcome.out.find("LxHalfCut/HalfCut: OFF/Off, *ON/On\n"), std::string::npos) << outcome.out;
-  EXPECT_NE(outcome.out.find("LxCutLabel: 1, *2, 3, 4, 5, 6, 7, 8, 9\n"), std::string::npos);
+  EXPECT_NE(outcome.out.find("LxHalfCut/HalfCut:\n  OFF/Off\n* ON/On\n"), std::string::npos);
+  EXPECT_NE(outcome.out.find("LxCutLabel:\n  1\n* 2\n  3\n"), std::string::npos) << outcome.out;
+  EXPECT_NE(outcome.out.find("\n* W12/Paper W12\n  W24/Paper W24\n"), std::string::npos)
+      << outcome.out;
 }
 
 }  // namespace
