@@ -116,7 +116,7 @@ void DocumentLoader::take(int asked, bool isFirst, const Result<Answer>& answer)
   mHasText = answer->hasText;
   mInks.clear();
   ++mComposition;
-  mIsComplete = !isFirst || mReport.documentPages <= 1;
+  mIsComplete = !isFirst || (mReport.documentPages <= 1 && !mReport.isPartial);
   mIsInkTold = !mIsComplete;
   if (!mIsComplete) ask(false);
   emit composed();

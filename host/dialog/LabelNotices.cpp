@@ -12,6 +12,15 @@ constexpr double kMillimetre = 72 / 25.4;  // in points; sizes this close are th
 constexpr double kWhole = 100;
 constexpr double kRounding = 1e-6;
 constexpr double kHardlyShrunk = 0.995;
+constexpr int kHalfTurn = 180;
+
+// Of a page that reaches beyond its label nobody sees here where its ink ends.
+bool isWholeOn(const ComposedPage& page, const LabelPage& label) {
+  const bool isQuarter = page.turn % kHalfTurn != 0;
+  const double across = (isQuarter ? page.size.height : page.size.width) * page.scale;
+  const double along = (isQuarter ? page.size.width : page.size.height) * page.scale;
+  return across <= label.width + kMillimetre && along <= label.length + kMillimetre;
+}
 
 // The percentage at which nothing of the label is lost; nothing where nothing is.
 std::optional<int> percentFor(const ComposedPage& page, const LabelPage& label,
@@ -60,7 +69,7 @@ std::optional<EdgeLoss> edgeLoss(const CompositionReport& report, const LayoutSe
   for (int label = 0; label < static_cast<int>(report.pages.size()); ++label) {
     const ComposedPage& page = report.pages[static_cast<std::size_t>(label)];
     const auto found = inks.find(label);
-    const bool hasInk = found != inks.end() && found->second;
+    const bool hasInk = found != inks.end() && found->second && isWholeOn(page, report.label);
     const std::optional<int> percent =
         hasInk ? percentFor(page, report.label, settings, *found->second) : std::nullopt;
     if (percent) loss.labels.push_back(label);

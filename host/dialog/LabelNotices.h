@@ -18,8 +18,8 @@ struct EdgeLoss {
   std::vector<int> labels;  // from 0, never empty
   int percent = 100;        // of the documents' own sizes: with it nothing is cut off on any label
 };
-// By the inks of the labels that were looked at; nothing where all is well, and where the documents
-// are meant to be cut off.
+// By the inks of the labels that were looked at; nothing where all is well, where the documents are
+// meant to be cut off, and of pages that are larger than their label even so.
 std::optional<EdgeLoss> edgeLoss(const CompositionReport& report, const LayoutSettings& settings,
                                  const std::map<int, std::optional<Ink>>& inks);
 

@@ -102,11 +102,11 @@ LayoutForm::LayoutForm(QWidget* parent)
       mFont(makeList(tr("Font"), &LayoutForm::reportLayout)),
       mTextSize(makeNumber(tr("Text size"), &LayoutForm::reportLayout)) {
   mPercent->setRange(1, kMostPercent);
-  mPercent->setSuffix(tr(" %", "percent"));
-  mMillimetres->setSuffix(tr(" mm"));
+  mPercent->setSuffix(QStringLiteral(" %"));
+  mMillimetres->setSuffix(QStringLiteral(" mm"));
   mTextSize->setRange(0, kMostTextSize);
   mTextSize->setSpecialValueText(tr("Automatic"));
-  mTextSize->setSuffix(tr(" pt"));
+  mTextSize->setSuffix(QStringLiteral(" pt"));
   mFont->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   mFont->setMinimumContentsLength(kFontLetters);
   fillLists();
@@ -253,6 +253,9 @@ QString LayoutForm::words() const {
   QStringList words = {isPercent ? mPercent->text() : mSize->currentText()};
   if (mTurn->currentData().toInt() != kAutomaticTurn) words.append(mTurn->currentText());
   words.append(mPlace->currentText());
+  const auto rule = chosen<LengthRule>(*mLength);
+  if (mHasLengths && rule == LengthRule::fixed) words.append(mMillimetres->text());
+  if (mHasLengths && rule == LengthRule::content) words.append(mLength->currentText());
   return words.join(QStringLiteral(" \u00b7 "));
 }
 

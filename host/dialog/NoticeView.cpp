@@ -162,7 +162,9 @@ void NoticeView::rebuild() {
   emptyLayout(*mRows);
   for (const auto& [topic, notices] : mNotices) {
     for (std::size_t place = 0; place < notices.size(); ++place) {
-      mRows->addWidget(makeRow(topic, place));
+      QWidget* const row = makeRow(topic, place);
+      mRows->addWidget(row);
+      row->show();  // the layout would do so later, when letters are dealt out already
     }
   }
   setVisible(mRows->count() > 0);
@@ -179,7 +181,8 @@ QWidget* NoticeView::makeRow(NoticeTopic topic, std::size_t place) {
   row->setAccessibleName(notice.line);
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(new StatusIcon(severityOf(topic), row), 0, Qt::AlignTop);
+  layout->addWidget(new StatusIcon(severityOf(topic), row), 0,
+                    notice.action.isEmpty() ? Qt::AlignTop : Qt::AlignVCenter);
   auto* text = new QLabel(notice.line, row);
   text->setTextFormat(Qt::PlainText);
   text->setWordWrap(true);

@@ -2,6 +2,136 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>base</name>
+    <message>
+        <source>%1: cannot keep the document: %2</source>
+        <translation>%1: das Dokument kann nicht aufbewahrt werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>composition</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>das ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>das ist keine Datei</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>es ist leer</translation>
+    </message>
+    <message>
+        <source>there is no document</source>
+        <translation>es gibt kein Dokument</translation>
+    </message>
+    <message>
+        <source>it was stopped</source>
+        <translation>es wurde angehalten</translation>
+    </message>
+    <message>
+        <source>it is not of a kind that can be read: PDF, PostScript, PNG, JPEG, TIFF, WebP, SVG or text (UTF-8); &quot;-o raw&quot; sends it to the printer as it is</source>
+        <translation>es ist von keiner Art, die gelesen werden kann: PDF, PostScript, PNG, JPEG, TIFF, WebP, SVG oder Text (UTF-8); „-o raw“ sendet es unverändert an den Drucker</translation>
+    </message>
+    <message>
+        <source>it is damaged; open it elsewhere and save it again</source>
+        <translation>es ist beschädigt; öffnen Sie es in einem anderen Programm, und speichern Sie es neu</translation>
+    </message>
+    <message>
+        <source>it is locked with a password; save it without one</source>
+        <translation>es ist mit einem Kennwort gesperrt; speichern Sie es ohne Kennwort</translation>
+    </message>
+    <message>
+        <source>it is locked against printing; ask its owner for another one</source>
+        <translation>es ist gegen Drucken gesperrt; bitten Sie seinen Besitzer um ein anderes</translation>
+    </message>
+    <message>
+        <source>it has no pages</source>
+        <translation>es hat keine Seiten</translation>
+    </message>
+    <message>
+        <source>it has too many pages; print it in smaller parts</source>
+        <translation>es hat zu viele Seiten; drucken Sie es in kleineren Teilen</translation>
+    </message>
+    <message>
+        <source>it has a page of a size that no paper has; save it with another one</source>
+        <translation>es hat eine Seite in einer Größe, die kein Papier hat; speichern Sie es mit einer anderen</translation>
+    </message>
+    <message>
+        <source>it needs more memory than a document may take; save it with smaller pictures, or in parts</source>
+        <translation>es braucht mehr Speicher, als ein Dokument haben darf; speichern Sie es mit kleineren Bildern oder in Teilen</translation>
+    </message>
+    <message>
+        <source>it takes too long to read; save it as a PDF elsewhere, or print it in parts</source>
+        <translation>das Lesen dauert zu lange; speichern Sie es anderswo als PDF, oder drucken Sie es in Teilen</translation>
+    </message>
+    <message>
+        <source>it does not have all the pages that were chosen</source>
+        <translation>es hat nicht alle Seiten, die gewählt wurden</translation>
+    </message>
+    <message>
+        <source>what reads documents of its kind is not installed</source>
+        <translation>was Dokumente dieser Art liest, ist nicht installiert</translation>
+    </message>
+    <message>
+        <source>its reader failed</source>
+        <translation>sein Leseprogramm ist gescheitert</translation>
+    </message>
+    <message>
+        <source>it has %1 pages, which is too many; print it in smaller parts</source>
+        <translation>es hat %1 Seiten, und das sind zu viele; drucken Sie es in kleineren Teilen</translation>
+    </message>
+    <message>
+        <source>there are pages chosen that it does not have; it has %1</source>
+        <translation>es sind Seiten gewählt, die es nicht hat; es hat %1</translation>
+    </message>
+    <message>
+        <source>it is too large: %1</source>
+        <translation>es ist zu groß: %1</translation>
+    </message>
+    <message>
+        <source>what reads documents of its kind is not installed: %1</source>
+        <translation>was Dokumente dieser Art liest, ist nicht installiert: %1</translation>
+    </message>
+    <message>
+        <source>its reader failed: %1</source>
+        <translation>sein Leseprogramm ist gescheitert: %1</translation>
+    </message>
+    <message>
+        <source>cannot read the document &quot;%1&quot;: %2</source>
+        <translation>das Dokument „%1“ kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>cannot read one of the documents %1: %2</source>
+        <translation>eines der Dokumente %1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>cannot start the program &quot;%1&quot;: %2</source>
+        <translation>das Programm „%1“ kann nicht gestartet werden: %2</translation>
+    </message>
+    <message>
+        <source>the pages cannot be drawn: %1</source>
+        <translation>die Seiten können nicht gezeichnet werden: %1</translation>
+    </message>
+    <message>
+        <source>there is no such page</source>
+        <translation>diese Seite gibt es nicht</translation>
+    </message>
+    <message>
+        <source>its picture would be too large</source>
+        <translation>ihr Bild würde zu groß</translation>
+    </message>
+    <message>
+        <source>it takes too long</source>
+        <translation>es dauert zu lange</translation>
+    </message>
+    <message>
+        <source>page %1 cannot be drawn: %2</source>
+        <translation>Seite %1 kann nicht gezeichnet werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>cups</name>
     <message>
         <source>label roll or tape is empty</source>
@@ -488,6 +618,10 @@
         <source>Cancelling...</source>
         <translation>Wird abgebrochen …</translation>
     </message>
+    <message>
+        <source>Composing...</source>
+        <translation>Wird zusammengestellt …</translation>
+    </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
@@ -510,6 +644,168 @@
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
         <translation>%1%2. Sorgen Sie dafür, dass der Drucker bereit ist, und drucken Sie noch einmal.</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::LayoutBar</name>
+    <message>
+        <source>Layout:</source>
+        <translation>Layout:</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Ändern</translation>
+    </message>
+    <message>
+        <source>Change the layout</source>
+        <translation>Layout ändern</translation>
+    </message>
+    <message>
+        <source>Size, turn and place of the document on the label</source>
+        <translation>Größe, Drehung und Lage des Dokuments auf dem Etikett</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::LayoutForm</name>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Originalgröße</translation>
+    </message>
+    <message>
+        <source>Fit the label</source>
+        <translation>Einpassen</translation>
+    </message>
+    <message>
+        <source>Fill the label</source>
+        <translation>Ausfüllen</translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>Prozent</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Oben links</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Unten links</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Unten rechts</translation>
+    </message>
+    <message>
+        <source>Of the paper</source>
+        <translation>Des Papiers</translation>
+    </message>
+    <message>
+        <source>Fixed</source>
+        <translation>Fest</translation>
+    </message>
+    <message>
+        <source>Of the content</source>
+        <translation>Des Inhalts</translation>
+    </message>
+    <message>
+        <source>One a paragraph</source>
+        <translation>Je Absatz</translation>
+    </message>
+    <message>
+        <source>One a line</source>
+        <translation>Je Zeile</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Percent of the document&apos;s size</source>
+        <translation>Prozent der Größe des Dokuments</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Drehung</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Lage</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Length in millimetres</source>
+        <translation>Länge in Millimetern</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiketten</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Schriftgröße</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Größe:</translation>
+    </message>
+    <message>
+        <source>Turn:</source>
+        <translation>Drehung:</translation>
+    </message>
+    <message>
+        <source>Place:</source>
+        <translation>Lage:</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>Länge:</translation>
+    </message>
+    <message>
+        <source>Labels:</source>
+        <translation>Etiketten:</translation>
+    </message>
+    <message>
+        <source>Font:</source>
+        <translation>Schrift:</translation>
+    </message>
+    <message>
+        <source>Text size:</source>
+        <translation>Schriftgröße:</translation>
     </message>
 </context>
 <context>
@@ -539,13 +835,6 @@
     <message>
         <source>This printer has no panel of its own. Its options are under &quot;More printer options&quot;.</source>
         <translation>Dieser Drucker hat kein eigenes Bedienfeld. Seine Optionen stehen unter „Weitere Druckeroptionen“.</translation>
-    </message>
-</context>
-<context>
-    <name>cutline::PlaceholderDocument</name>
-    <message>
-        <source>No preview for this kind of document; it prints as it is</source>
-        <translation>Keine Vorschau für diese Art von Dokument; gedruckt wird es wie es ist</translation>
     </message>
 </context>
 <context>
@@ -657,10 +946,6 @@
         <translation>%1 drucken</translation>
     </message>
     <message>
-        <source>No preview: its module is not installed</source>
-        <translation>Keine Vorschau: das Modul dafür ist nicht installiert</translation>
-    </message>
-    <message>
         <source>This document cannot be shown</source>
         <translation>Dieses Dokument kann nicht angezeigt werden</translation>
     </message>
@@ -675,10 +960,6 @@
     <message>
         <source>No printer</source>
         <translation>Kein Drucker</translation>
-    </message>
-    <message>
-        <source>No document</source>
-        <translation>Kein Dokument</translation>
     </message>
     <message>
         <source>Opening %1...</source>
@@ -701,12 +982,64 @@
         <translation>Dies ist eine PPD-Datei, kein Drucker: Drucken ist nicht möglich.</translation>
     </message>
     <message>
-        <source>There is no document to print: start with &quot;cutline FILE&quot;.</source>
-        <translation>Es gibt kein Dokument zu drucken: starten Sie mit „cutline DATEI“.</translation>
-    </message>
-    <message>
         <source>This document cannot be printed.</source>
         <translation>Dieses Dokument kann nicht gedruckt werden.</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>The document has %1 pages; they are shrunk to %2 %</source>
+        <translation>Das Dokument hat %1-Seiten; sie werden auf %2 % verkleinert</translation>
+    </message>
+    <message>
+        <source>Fits better: %1</source>
+        <translation>Passt besser: %1</translation>
+    </message>
+    <message>
+        <source>Use it</source>
+        <translation>Verwenden</translation>
+    </message>
+    <message>
+        <source>Choose this paper</source>
+        <translation>Dieses Papier wählen</translation>
+    </message>
+    <message>
+        <source>Edges will be cut off on label %1: shrink to %2 %</source>
+        <translation>Auf Etikett %1 werden Ränder abgeschnitten: auf %2 % verkleinern</translation>
+    </message>
+    <message>
+        <source>Edges will be cut off on %1 labels: shrink to %2 %</source>
+        <translation>Auf %1 Etiketten werden Ränder abgeschnitten: auf %2 % verkleinern</translation>
+    </message>
+    <message>
+        <source>Shrink</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Make the documents small enough</source>
+        <translation>Die Dokumente genügend verkleinern</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>Open or drop a document</source>
+        <translation>Dokument öffnen oder hier ablegen</translation>
+    </message>
+    <message>
+        <source>This document goes to the printer as it is, unseen</source>
+        <translation>Dieses Dokument geht unverändert und ungesehen an den Drucker</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>There is no document to print: open one, or drop it here.</source>
+        <translation>Es gibt kein Dokument zu drucken: öffnen Sie eines, oder legen Sie es hier ab.</translation>
     </message>
 </context>
 <context>
@@ -751,10 +1084,6 @@
         <translation>Vergrößern</translation>
     </message>
     <message>
-        <source>No preview</source>
-        <translation>Keine Vorschau</translation>
-    </message>
-    <message>
         <source>Label %1 of %2</source>
         <translation>Etikett %1 von %2</translation>
     </message>
@@ -784,28 +1113,8 @@
 <context>
     <name>document</name>
     <message>
-        <source>the picture cannot be drawn: %1</source>
-        <translation>das Bild kann nicht gezeichnet werden: %1</translation>
-    </message>
-    <message>
-        <source>there is no such page</source>
-        <translation>diese Seite gibt es nicht</translation>
-    </message>
-    <message>
-        <source>the page cannot be drawn at this size</source>
-        <translation>die Seite kann in dieser Größe nicht gezeichnet werden</translation>
-    </message>
-    <message>
-        <source>page %1 cannot be drawn</source>
-        <translation>Seite %1 kann nicht gezeichnet werden</translation>
-    </message>
-    <message>
         <source>page %1 cannot be drawn: %2</source>
         <translation>Seite %1 kann nicht gezeichnet werden: %2</translation>
-    </message>
-    <message>
-        <source>the page cannot be drawn: %1</source>
-        <translation>die Seite kann nicht gezeichnet werden: %1</translation>
     </message>
 </context>
 <context>
@@ -891,24 +1200,16 @@
         <translation>%1: dieses Dokument gibt es nicht</translation>
     </message>
     <message>
-        <source>the PDF is locked with a password; save it without one</source>
-        <translation>die PDF-Datei ist mit einem Kennwort gesperrt; speichern Sie sie ohne Kennwort</translation>
-    </message>
-    <message>
-        <source>the PDF has no pages</source>
-        <translation>die PDF-Datei hat keine Seiten</translation>
-    </message>
-    <message>
         <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
         <translation>Seitenbereich „%1“: das Dokument hat keine Seite %2, seine letzte ist Seite %3</translation>
     </message>
     <message>
-        <source>the PDF is locked against printing; ask its owner for another one</source>
-        <translation>die PDF-Datei ist gegen Drucken gesperrt; bitten Sie ihren Besitzer um eine andere</translation>
+        <source>%1 has no value &quot;%2&quot;: its values are %3</source>
+        <translation>%1 hat keinen Wert „%2“: möglich sind %3</translation>
     </message>
     <message>
-        <source>the picture is damaged; open it elsewhere and save it again</source>
-        <translation>das Bild ist beschädigt; öffnen Sie es in einem anderen Programm, und speichern Sie es neu</translation>
+        <source>&quot;%1&quot; does not go with labels: left out</source>
+        <translation>„%1“ passt nicht zu Etiketten: weggelassen</translation>
     </message>
 </context>
 </TS>

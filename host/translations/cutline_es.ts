@@ -2,6 +2,136 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>base</name>
+    <message>
+        <source>%1: cannot keep the document: %2</source>
+        <translation>%1: no se puede guardar el documento: %2</translation>
+    </message>
+</context>
+<context>
+    <name>composition</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>es una carpeta</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>no es un archivo</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>está vacío</translation>
+    </message>
+    <message>
+        <source>there is no document</source>
+        <translation>no hay documento</translation>
+    </message>
+    <message>
+        <source>it was stopped</source>
+        <translation>se ha detenido</translation>
+    </message>
+    <message>
+        <source>it is not of a kind that can be read: PDF, PostScript, PNG, JPEG, TIFF, WebP, SVG or text (UTF-8); &quot;-o raw&quot; sends it to the printer as it is</source>
+        <translation>no es de un tipo que se pueda leer: PDF, PostScript, PNG, JPEG, TIFF, WebP, SVG o texto (UTF-8); «-o raw» lo envía tal cual a la impresora</translation>
+    </message>
+    <message>
+        <source>it is damaged; open it elsewhere and save it again</source>
+        <translation>está dañado; ábralo en otro programa y guárdelo de nuevo</translation>
+    </message>
+    <message>
+        <source>it is locked with a password; save it without one</source>
+        <translation>está protegido con contraseña; guárdelo sin ella</translation>
+    </message>
+    <message>
+        <source>it is locked against printing; ask its owner for another one</source>
+        <translation>está protegido contra la impresión; pida otro a su propietario</translation>
+    </message>
+    <message>
+        <source>it has no pages</source>
+        <translation>no tiene páginas</translation>
+    </message>
+    <message>
+        <source>it has too many pages; print it in smaller parts</source>
+        <translation>tiene demasiadas páginas; imprímalo en partes más pequeñas</translation>
+    </message>
+    <message>
+        <source>it has a page of a size that no paper has; save it with another one</source>
+        <translation>tiene una página de un tamaño que ningún papel tiene; guárdelo con otro</translation>
+    </message>
+    <message>
+        <source>it needs more memory than a document may take; save it with smaller pictures, or in parts</source>
+        <translation>necesita más memoria de la permitida a un documento; guárdelo con imágenes más pequeñas o en partes</translation>
+    </message>
+    <message>
+        <source>it takes too long to read; save it as a PDF elsewhere, or print it in parts</source>
+        <translation>tarda demasiado en leerse; guárdelo como PDF en otro programa o imprímalo en partes</translation>
+    </message>
+    <message>
+        <source>it does not have all the pages that were chosen</source>
+        <translation>no tiene todas las páginas elegidas</translation>
+    </message>
+    <message>
+        <source>what reads documents of its kind is not installed</source>
+        <translation>no está instalado lo que lee documentos de este tipo</translation>
+    </message>
+    <message>
+        <source>its reader failed</source>
+        <translation>su lector ha fallado</translation>
+    </message>
+    <message>
+        <source>it has %1 pages, which is too many; print it in smaller parts</source>
+        <translation>tiene %1 páginas, que son demasiadas; imprímalo en partes más pequeñas</translation>
+    </message>
+    <message>
+        <source>there are pages chosen that it does not have; it has %1</source>
+        <translation>se han elegido páginas que no tiene; tiene %1</translation>
+    </message>
+    <message>
+        <source>it is too large: %1</source>
+        <translation>es demasiado grande: %1</translation>
+    </message>
+    <message>
+        <source>what reads documents of its kind is not installed: %1</source>
+        <translation>no está instalado lo que lee documentos de este tipo: %1</translation>
+    </message>
+    <message>
+        <source>its reader failed: %1</source>
+        <translation>su lector ha fallado: %1</translation>
+    </message>
+    <message>
+        <source>cannot read the document &quot;%1&quot;: %2</source>
+        <translation>no se puede leer el documento «%1»: %2</translation>
+    </message>
+    <message>
+        <source>cannot read one of the documents %1: %2</source>
+        <translation>no se puede leer uno de los documentos %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot start the program &quot;%1&quot;: %2</source>
+        <translation>no se puede iniciar el programa «%1»: %2</translation>
+    </message>
+    <message>
+        <source>the pages cannot be drawn: %1</source>
+        <translation>no se pueden dibujar las páginas: %1</translation>
+    </message>
+    <message>
+        <source>there is no such page</source>
+        <translation>esa página no existe</translation>
+    </message>
+    <message>
+        <source>its picture would be too large</source>
+        <translation>su imagen sería demasiado grande</translation>
+    </message>
+    <message>
+        <source>it takes too long</source>
+        <translation>tarda demasiado</translation>
+    </message>
+    <message>
+        <source>page %1 cannot be drawn: %2</source>
+        <translation>no se puede dibujar la página %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>cups</name>
     <message>
         <source>label roll or tape is empty</source>
@@ -488,6 +618,10 @@
         <source>Cancelling...</source>
         <translation>Cancelando…</translation>
     </message>
+    <message>
+        <source>Composing...</source>
+        <translation>Componiendo…</translation>
+    </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
@@ -510,6 +644,168 @@
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
         <translation>%1%2. Compruebe que la impresora está lista y vuelva a imprimir.</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::LayoutBar</name>
+    <message>
+        <source>Layout:</source>
+        <translation>Diseño:</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Cambiar</translation>
+    </message>
+    <message>
+        <source>Change the layout</source>
+        <translation>Cambiar el diseño</translation>
+    </message>
+    <message>
+        <source>Size, turn and place of the document on the label</source>
+        <translation>Tamaño, giro y posición del documento en la etiqueta</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::LayoutForm</name>
+    <message>
+        <source>Automatic</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Tamaño real</translation>
+    </message>
+    <message>
+        <source>Fit the label</source>
+        <translation>Ajustar</translation>
+    </message>
+    <message>
+        <source>Fill the label</source>
+        <translation>Rellenar</translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>Porcentaje</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Centro</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Arriba</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Abajo</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Izquierda</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Derecha</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Arriba izquierda</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Arriba derecha</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Abajo izquierda</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Abajo derecha</translation>
+    </message>
+    <message>
+        <source>Of the paper</source>
+        <translation>Del papel</translation>
+    </message>
+    <message>
+        <source>Fixed</source>
+        <translation>Fijo</translation>
+    </message>
+    <message>
+        <source>Of the content</source>
+        <translation>Del contenido</translation>
+    </message>
+    <message>
+        <source>One a paragraph</source>
+        <translation>Por párrafo</translation>
+    </message>
+    <message>
+        <source>One a line</source>
+        <translation>Por línea</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>Percent of the document&apos;s size</source>
+        <translation>Porcentaje del tamaño del documento</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Giro</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Longitud</translation>
+    </message>
+    <message>
+        <source>Length in millimetres</source>
+        <translation>Longitud en milímetros</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiquetas</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Fuente</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Tamaño del texto</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Tamaño:</translation>
+    </message>
+    <message>
+        <source>Turn:</source>
+        <translation>Giro:</translation>
+    </message>
+    <message>
+        <source>Place:</source>
+        <translation>Posición:</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>Longitud:</translation>
+    </message>
+    <message>
+        <source>Labels:</source>
+        <translation>Etiquetas:</translation>
+    </message>
+    <message>
+        <source>Font:</source>
+        <translation>Fuente:</translation>
+    </message>
+    <message>
+        <source>Text size:</source>
+        <translation>Tamaño del texto:</translation>
     </message>
 </context>
 <context>
@@ -539,13 +835,6 @@
     <message>
         <source>This printer has no panel of its own. Its options are under &quot;More printer options&quot;.</source>
         <translation>Esta impresora no tiene un panel propio. Sus opciones están en «Más opciones de impresora».</translation>
-    </message>
-</context>
-<context>
-    <name>cutline::PlaceholderDocument</name>
-    <message>
-        <source>No preview for this kind of document; it prints as it is</source>
-        <translation>No hay vista previa de este tipo de documento; se imprime tal cual</translation>
     </message>
 </context>
 <context>
@@ -657,10 +946,6 @@
         <translation>Imprimir %1</translation>
     </message>
     <message>
-        <source>No preview: its module is not installed</source>
-        <translation>Sin vista previa: su módulo no está instalado</translation>
-    </message>
-    <message>
         <source>This document cannot be shown</source>
         <translation>No se puede mostrar este documento</translation>
     </message>
@@ -675,10 +960,6 @@
     <message>
         <source>No printer</source>
         <translation>Ninguna impresora</translation>
-    </message>
-    <message>
-        <source>No document</source>
-        <translation>Ningún documento</translation>
     </message>
     <message>
         <source>Opening %1...</source>
@@ -701,12 +982,64 @@
         <translation>Esto es un archivo PPD, no una impresora: no se puede imprimir.</translation>
     </message>
     <message>
-        <source>There is no document to print: start with &quot;cutline FILE&quot;.</source>
-        <translation>No hay documento que imprimir: ejecute «cutline ARCHIVO».</translation>
-    </message>
-    <message>
         <source>This document cannot be printed.</source>
         <translation>No se puede imprimir este documento.</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>A&amp;brir…</translation>
+    </message>
+    <message>
+        <source>The document has %1 pages; they are shrunk to %2 %</source>
+        <translation>El documento tiene páginas %1; se reducen al %2 %</translation>
+    </message>
+    <message>
+        <source>Fits better: %1</source>
+        <translation>Encaja mejor: %1</translation>
+    </message>
+    <message>
+        <source>Use it</source>
+        <translation>Usar</translation>
+    </message>
+    <message>
+        <source>Choose this paper</source>
+        <translation>Elegir este papel</translation>
+    </message>
+    <message>
+        <source>Edges will be cut off on label %1: shrink to %2 %</source>
+        <translation>Se cortarán bordes en la etiqueta %1: reducir al %2 %</translation>
+    </message>
+    <message>
+        <source>Edges will be cut off on %1 labels: shrink to %2 %</source>
+        <translation>Se cortarán bordes en %1 etiquetas: reducir al %2 %</translation>
+    </message>
+    <message>
+        <source>Shrink</source>
+        <translation>Reducir</translation>
+    </message>
+    <message>
+        <source>Make the documents small enough</source>
+        <translation>Hacer los documentos lo bastante pequeños</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 y %2 más</translation>
+    </message>
+    <message>
+        <source>Open or drop a document</source>
+        <translation>Abra o arrastre aquí un documento</translation>
+    </message>
+    <message>
+        <source>This document goes to the printer as it is, unseen</source>
+        <translation>Este documento va tal cual a la impresora, sin vista previa</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>There is no document to print: open one, or drop it here.</source>
+        <translation>No hay documento que imprimir: abra uno o arrástrelo aquí.</translation>
     </message>
 </context>
 <context>
@@ -751,10 +1084,6 @@
         <translation>Ampliar</translation>
     </message>
     <message>
-        <source>No preview</source>
-        <translation>Sin vista previa</translation>
-    </message>
-    <message>
         <source>Label %1 of %2</source>
         <translation>Etiqueta %1 de %2</translation>
     </message>
@@ -784,28 +1113,8 @@
 <context>
     <name>document</name>
     <message>
-        <source>the picture cannot be drawn: %1</source>
-        <translation>no se puede dibujar la imagen: %1</translation>
-    </message>
-    <message>
-        <source>there is no such page</source>
-        <translation>esa página no existe</translation>
-    </message>
-    <message>
-        <source>the page cannot be drawn at this size</source>
-        <translation>no se puede dibujar la página a este tamaño</translation>
-    </message>
-    <message>
-        <source>page %1 cannot be drawn</source>
-        <translation>no se puede dibujar la página %1</translation>
-    </message>
-    <message>
         <source>page %1 cannot be drawn: %2</source>
         <translation>no se puede dibujar la página %1: %2</translation>
-    </message>
-    <message>
-        <source>the page cannot be drawn: %1</source>
-        <translation>no se puede dibujar la página: %1</translation>
     </message>
 </context>
 <context>
@@ -891,24 +1200,16 @@
         <translation>%1: ese documento no existe</translation>
     </message>
     <message>
-        <source>the PDF is locked with a password; save it without one</source>
-        <translation>el archivo PDF está protegido con contraseña; guárdelo sin ella</translation>
-    </message>
-    <message>
-        <source>the PDF has no pages</source>
-        <translation>el archivo PDF no tiene páginas</translation>
-    </message>
-    <message>
         <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
         <translation>intervalo de páginas «%1»: el documento no tiene la página %2, la última es la página %3</translation>
     </message>
     <message>
-        <source>the PDF is locked against printing; ask its owner for another one</source>
-        <translation>el archivo PDF está protegido contra la impresión; pida otro a su propietario</translation>
+        <source>%1 has no value &quot;%2&quot;: its values are %3</source>
+        <translation>%1 no tiene el valor «%2»: sus valores son %3</translation>
     </message>
     <message>
-        <source>the picture is damaged; open it elsewhere and save it again</source>
-        <translation>la imagen está dañada; ábrala en otro programa y guárdela de nuevo</translation>
+        <source>&quot;%1&quot; does not go with labels: left out</source>
+        <translation>«%1» no es para etiquetas: se omite</translation>
     </message>
 </context>
 </TS>

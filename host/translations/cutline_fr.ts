@@ -2,6 +2,136 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>base</name>
+    <message>
+        <source>%1: cannot keep the document: %2</source>
+        <translation>%1 : impossible de conserver le document : %2</translation>
+    </message>
+</context>
+<context>
+    <name>composition</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>c’est un dossier</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>ce n’est pas un fichier</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>il est vide</translation>
+    </message>
+    <message>
+        <source>there is no document</source>
+        <translation>il n’y a pas de document</translation>
+    </message>
+    <message>
+        <source>it was stopped</source>
+        <translation>il a été arrêté</translation>
+    </message>
+    <message>
+        <source>it is not of a kind that can be read: PDF, PostScript, PNG, JPEG, TIFF, WebP, SVG or text (UTF-8); &quot;-o raw&quot; sends it to the printer as it is</source>
+        <translation>il n’est pas d’un type lisible : PDF, PostScript, PNG, JPEG, TIFF, WebP, SVG ou texte (UTF-8) ; « -o raw » l’envoie tel quel à l’imprimante</translation>
+    </message>
+    <message>
+        <source>it is damaged; open it elsewhere and save it again</source>
+        <translation>il est endommagé ; ouvrez-le dans un autre programme et enregistrez-le à nouveau</translation>
+    </message>
+    <message>
+        <source>it is locked with a password; save it without one</source>
+        <translation>il est protégé par un mot de passe ; enregistrez-le sans mot de passe</translation>
+    </message>
+    <message>
+        <source>it is locked against printing; ask its owner for another one</source>
+        <translation>il est protégé contre l’impression ; demandez-en un autre à son propriétaire</translation>
+    </message>
+    <message>
+        <source>it has no pages</source>
+        <translation>il n’a pas de pages</translation>
+    </message>
+    <message>
+        <source>it has too many pages; print it in smaller parts</source>
+        <translation>il a trop de pages ; imprimez-le en plusieurs parties</translation>
+    </message>
+    <message>
+        <source>it has a page of a size that no paper has; save it with another one</source>
+        <translation>il a une page d’une taille qu’aucun papier n’a ; enregistrez-le avec une autre</translation>
+    </message>
+    <message>
+        <source>it needs more memory than a document may take; save it with smaller pictures, or in parts</source>
+        <translation>il demande plus de mémoire qu’un document ne peut en prendre ; enregistrez-le avec des images plus petites ou en plusieurs parties</translation>
+    </message>
+    <message>
+        <source>it takes too long to read; save it as a PDF elsewhere, or print it in parts</source>
+        <translation>sa lecture prend trop de temps ; enregistrez-le ailleurs en PDF ou imprimez-le en plusieurs parties</translation>
+    </message>
+    <message>
+        <source>it does not have all the pages that were chosen</source>
+        <translation>il n’a pas toutes les pages choisies</translation>
+    </message>
+    <message>
+        <source>what reads documents of its kind is not installed</source>
+        <translation>ce qui lit les documents de ce type n’est pas installé</translation>
+    </message>
+    <message>
+        <source>its reader failed</source>
+        <translation>son lecteur a échoué</translation>
+    </message>
+    <message>
+        <source>it has %1 pages, which is too many; print it in smaller parts</source>
+        <translation>il a %1 pages, ce qui est trop ; imprimez-le en plusieurs parties</translation>
+    </message>
+    <message>
+        <source>there are pages chosen that it does not have; it has %1</source>
+        <translation>des pages choisies n’existent pas ; il en a %1</translation>
+    </message>
+    <message>
+        <source>it is too large: %1</source>
+        <translation>il est trop grand : %1</translation>
+    </message>
+    <message>
+        <source>what reads documents of its kind is not installed: %1</source>
+        <translation>ce qui lit les documents de ce type n’est pas installé : %1</translation>
+    </message>
+    <message>
+        <source>its reader failed: %1</source>
+        <translation>son lecteur a échoué : %1</translation>
+    </message>
+    <message>
+        <source>cannot read the document &quot;%1&quot;: %2</source>
+        <translation>impossible de lire le document « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>cannot read one of the documents %1: %2</source>
+        <translation>impossible de lire l’un des documents %1 : %2</translation>
+    </message>
+    <message>
+        <source>cannot start the program &quot;%1&quot;: %2</source>
+        <translation>impossible de démarrer le programme « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>the pages cannot be drawn: %1</source>
+        <translation>les pages ne peuvent pas être dessinées : %1</translation>
+    </message>
+    <message>
+        <source>there is no such page</source>
+        <translation>cette page n’existe pas</translation>
+    </message>
+    <message>
+        <source>its picture would be too large</source>
+        <translation>son image serait trop grande</translation>
+    </message>
+    <message>
+        <source>it takes too long</source>
+        <translation>cela prend trop de temps</translation>
+    </message>
+    <message>
+        <source>page %1 cannot be drawn: %2</source>
+        <translation>la page %1 ne peut pas être dessinée : %2</translation>
+    </message>
+</context>
+<context>
     <name>cups</name>
     <message>
         <source>label roll or tape is empty</source>
@@ -488,6 +618,10 @@
         <source>Cancelling...</source>
         <translation>Annulation…</translation>
     </message>
+    <message>
+        <source>Composing...</source>
+        <translation>Composition…</translation>
+    </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
@@ -510,6 +644,168 @@
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
         <translation>%1%2. Vérifiez que l’imprimante est prête, puis imprimez de nouveau.</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::LayoutBar</name>
+    <message>
+        <source>Layout:</source>
+        <translation>Disposition :</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <source>Change the layout</source>
+        <translation>Modifier la disposition</translation>
+    </message>
+    <message>
+        <source>Size, turn and place of the document on the label</source>
+        <translation>Taille, rotation et position du document sur l’étiquette</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::LayoutForm</name>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Taille réelle</translation>
+    </message>
+    <message>
+        <source>Fit the label</source>
+        <translation>Ajuster</translation>
+    </message>
+    <message>
+        <source>Fill the label</source>
+        <translation>Remplir</translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>Pourcentage</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Centre</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Haut</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Bas</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Gauche</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Droite</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Haut gauche</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Haut droite</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Bas gauche</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Bas droite</translation>
+    </message>
+    <message>
+        <source>Of the paper</source>
+        <translation>Du papier</translation>
+    </message>
+    <message>
+        <source>Fixed</source>
+        <translation>Fixe</translation>
+    </message>
+    <message>
+        <source>Of the content</source>
+        <translation>Du contenu</translation>
+    </message>
+    <message>
+        <source>One a paragraph</source>
+        <translation>Par paragraphe</translation>
+    </message>
+    <message>
+        <source>One a line</source>
+        <translation>Par ligne</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Percent of the document&apos;s size</source>
+        <translation>Pourcentage de la taille du document</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Longueur</translation>
+    </message>
+    <message>
+        <source>Length in millimetres</source>
+        <translation>Longueur en millimètres</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Étiquettes</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Police</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Taille du texte</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Taille :</translation>
+    </message>
+    <message>
+        <source>Turn:</source>
+        <translation>Rotation :</translation>
+    </message>
+    <message>
+        <source>Place:</source>
+        <translation>Position :</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>Longueur :</translation>
+    </message>
+    <message>
+        <source>Labels:</source>
+        <translation>Étiquettes :</translation>
+    </message>
+    <message>
+        <source>Font:</source>
+        <translation>Police :</translation>
+    </message>
+    <message>
+        <source>Text size:</source>
+        <translation>Taille du texte :</translation>
     </message>
 </context>
 <context>
@@ -539,13 +835,6 @@
     <message>
         <source>This printer has no panel of its own. Its options are under &quot;More printer options&quot;.</source>
         <translation>Cette imprimante n’a pas de panneau à elle. Ses options se trouvent sous « Plus d’options d’imprimante ».</translation>
-    </message>
-</context>
-<context>
-    <name>cutline::PlaceholderDocument</name>
-    <message>
-        <source>No preview for this kind of document; it prints as it is</source>
-        <translation>Pas d’aperçu pour ce type de document ; il s’imprime tel quel</translation>
     </message>
 </context>
 <context>
@@ -657,10 +946,6 @@
         <translation>Imprimer %1</translation>
     </message>
     <message>
-        <source>No preview: its module is not installed</source>
-        <translation>Pas d’aperçu : son module n’est pas installé</translation>
-    </message>
-    <message>
         <source>This document cannot be shown</source>
         <translation>Ce document ne peut pas être affiché</translation>
     </message>
@@ -675,10 +960,6 @@
     <message>
         <source>No printer</source>
         <translation>Aucune imprimante</translation>
-    </message>
-    <message>
-        <source>No document</source>
-        <translation>Aucun document</translation>
     </message>
     <message>
         <source>Opening %1...</source>
@@ -701,12 +982,64 @@
         <translation>Ceci est un fichier PPD, pas une imprimante : l’impression est désactivée.</translation>
     </message>
     <message>
-        <source>There is no document to print: start with &quot;cutline FILE&quot;.</source>
-        <translation>Il n’y a pas de document à imprimer : lancez « cutline FICHIER ».</translation>
-    </message>
-    <message>
         <source>This document cannot be printed.</source>
         <translation>Ce document ne peut pas être imprimé.</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Ouvrir…</translation>
+    </message>
+    <message>
+        <source>The document has %1 pages; they are shrunk to %2 %</source>
+        <translation>Le document a des pages %1 ; elles sont réduites à %2 %</translation>
+    </message>
+    <message>
+        <source>Fits better: %1</source>
+        <translation>Convient mieux : %1</translation>
+    </message>
+    <message>
+        <source>Use it</source>
+        <translation>Utiliser</translation>
+    </message>
+    <message>
+        <source>Choose this paper</source>
+        <translation>Choisir ce papier</translation>
+    </message>
+    <message>
+        <source>Edges will be cut off on label %1: shrink to %2 %</source>
+        <translation>Des bords seront coupés sur l’étiquette %1 : réduire à %2 %</translation>
+    </message>
+    <message>
+        <source>Edges will be cut off on %1 labels: shrink to %2 %</source>
+        <translation>Des bords seront coupés sur %1 étiquettes : réduire à %2 %</translation>
+    </message>
+    <message>
+        <source>Shrink</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>Make the documents small enough</source>
+        <translation>Rendre les documents assez petits</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 et %2 de plus</translation>
+    </message>
+    <message>
+        <source>Open or drop a document</source>
+        <translation>Ouvrez ou déposez un document</translation>
+    </message>
+    <message>
+        <source>This document goes to the printer as it is, unseen</source>
+        <translation>Ce document va tel quel à l’imprimante, sans aperçu</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>There is no document to print: open one, or drop it here.</source>
+        <translation>Il n’y a pas de document à imprimer : ouvrez-en un ou déposez-le ici.</translation>
     </message>
 </context>
 <context>
@@ -751,10 +1084,6 @@
         <translation>Zoom avant</translation>
     </message>
     <message>
-        <source>No preview</source>
-        <translation>Pas d’aperçu</translation>
-    </message>
-    <message>
         <source>Label %1 of %2</source>
         <translation>Étiquette %1 sur %2</translation>
     </message>
@@ -784,28 +1113,8 @@
 <context>
     <name>document</name>
     <message>
-        <source>the picture cannot be drawn: %1</source>
-        <translation>l’image ne peut pas être dessinée : %1</translation>
-    </message>
-    <message>
-        <source>there is no such page</source>
-        <translation>cette page n’existe pas</translation>
-    </message>
-    <message>
-        <source>the page cannot be drawn at this size</source>
-        <translation>la page ne peut pas être dessinée à cette taille</translation>
-    </message>
-    <message>
-        <source>page %1 cannot be drawn</source>
-        <translation>la page %1 ne peut pas être dessinée</translation>
-    </message>
-    <message>
         <source>page %1 cannot be drawn: %2</source>
         <translation>la page %1 ne peut pas être dessinée : %2</translation>
-    </message>
-    <message>
-        <source>the page cannot be drawn: %1</source>
-        <translation>la page ne peut pas être dessinée : %1</translation>
     </message>
 </context>
 <context>
@@ -891,24 +1200,16 @@
         <translation>%1 : ce document n’existe pas</translation>
     </message>
     <message>
-        <source>the PDF is locked with a password; save it without one</source>
-        <translation>le fichier PDF est protégé par un mot de passe ; enregistrez-le sans mot de passe</translation>
-    </message>
-    <message>
-        <source>the PDF has no pages</source>
-        <translation>le fichier PDF n’a pas de pages</translation>
-    </message>
-    <message>
         <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
         <translation>plage de pages « %1 » : le document n’a pas de page %2, la dernière est la page %3</translation>
     </message>
     <message>
-        <source>the PDF is locked against printing; ask its owner for another one</source>
-        <translation>le fichier PDF est protégé contre l’impression ; demandez-en un autre à son propriétaire</translation>
+        <source>%1 has no value &quot;%2&quot;: its values are %3</source>
+        <translation>%1 n’a pas de valeur « %2 » : ses valeurs sont %3</translation>
     </message>
     <message>
-        <source>the picture is damaged; open it elsewhere and save it again</source>
-        <translation>l’image est endommagée ; ouvrez-la dans un autre programme et enregistrez-la de nouveau</translation>
+        <source>&quot;%1&quot; does not go with labels: left out</source>
+        <translation>« %1 » ne convient pas aux étiquettes : ignoré</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,136 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>base</name>
+    <message>
+        <source>%1: cannot keep the document: %2</source>
+        <translation>%1: impossibile conservare il documento: %2</translation>
+    </message>
+</context>
+<context>
+    <name>composition</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>è una cartella</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>non è un file</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>è vuoto</translation>
+    </message>
+    <message>
+        <source>there is no document</source>
+        <translation>non c’è un documento</translation>
+    </message>
+    <message>
+        <source>it was stopped</source>
+        <translation>è stato interrotto</translation>
+    </message>
+    <message>
+        <source>it is not of a kind that can be read: PDF, PostScript, PNG, JPEG, TIFF, WebP, SVG or text (UTF-8); &quot;-o raw&quot; sends it to the printer as it is</source>
+        <translation>non è di un tipo leggibile: PDF, PostScript, PNG, JPEG, TIFF, WebP, SVG o testo (UTF-8); «-o raw» lo invia alla stampante così com’è</translation>
+    </message>
+    <message>
+        <source>it is damaged; open it elsewhere and save it again</source>
+        <translation>è danneggiato; aprirlo in un altro programma e salvarlo di nuovo</translation>
+    </message>
+    <message>
+        <source>it is locked with a password; save it without one</source>
+        <translation>è protetto da password; salvarlo senza password</translation>
+    </message>
+    <message>
+        <source>it is locked against printing; ask its owner for another one</source>
+        <translation>è protetto dalla stampa; chiederne un altro al proprietario</translation>
+    </message>
+    <message>
+        <source>it has no pages</source>
+        <translation>non ha pagine</translation>
+    </message>
+    <message>
+        <source>it has too many pages; print it in smaller parts</source>
+        <translation>ha troppe pagine; stamparlo in parti più piccole</translation>
+    </message>
+    <message>
+        <source>it has a page of a size that no paper has; save it with another one</source>
+        <translation>ha una pagina di dimensioni che nessuna carta ha; salvarlo con altre</translation>
+    </message>
+    <message>
+        <source>it needs more memory than a document may take; save it with smaller pictures, or in parts</source>
+        <translation>richiede più memoria di quanta un documento possa usarne; salvarlo con immagini più piccole o in parti</translation>
+    </message>
+    <message>
+        <source>it takes too long to read; save it as a PDF elsewhere, or print it in parts</source>
+        <translation>la lettura richiede troppo tempo; salvarlo altrove come PDF o stamparlo in parti</translation>
+    </message>
+    <message>
+        <source>it does not have all the pages that were chosen</source>
+        <translation>non ha tutte le pagine scelte</translation>
+    </message>
+    <message>
+        <source>what reads documents of its kind is not installed</source>
+        <translation>il componente che legge documenti di questo tipo non è installato</translation>
+    </message>
+    <message>
+        <source>its reader failed</source>
+        <translation>il suo lettore non è riuscito</translation>
+    </message>
+    <message>
+        <source>it has %1 pages, which is too many; print it in smaller parts</source>
+        <translation>ha %1 pagine, che sono troppe; stamparlo in parti più piccole</translation>
+    </message>
+    <message>
+        <source>there are pages chosen that it does not have; it has %1</source>
+        <translation>sono state scelte pagine che non ha; ne ha %1</translation>
+    </message>
+    <message>
+        <source>it is too large: %1</source>
+        <translation>è troppo grande: %1</translation>
+    </message>
+    <message>
+        <source>what reads documents of its kind is not installed: %1</source>
+        <translation>il componente che legge documenti di questo tipo non è installato: %1</translation>
+    </message>
+    <message>
+        <source>its reader failed: %1</source>
+        <translation>il suo lettore non è riuscito: %1</translation>
+    </message>
+    <message>
+        <source>cannot read the document &quot;%1&quot;: %2</source>
+        <translation>impossibile leggere il documento «%1»: %2</translation>
+    </message>
+    <message>
+        <source>cannot read one of the documents %1: %2</source>
+        <translation>impossibile leggere uno dei documenti %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot start the program &quot;%1&quot;: %2</source>
+        <translation>impossibile avviare il programma «%1»: %2</translation>
+    </message>
+    <message>
+        <source>the pages cannot be drawn: %1</source>
+        <translation>impossibile disegnare le pagine: %1</translation>
+    </message>
+    <message>
+        <source>there is no such page</source>
+        <translation>questa pagina non esiste</translation>
+    </message>
+    <message>
+        <source>its picture would be too large</source>
+        <translation>la sua immagine sarebbe troppo grande</translation>
+    </message>
+    <message>
+        <source>it takes too long</source>
+        <translation>richiede troppo tempo</translation>
+    </message>
+    <message>
+        <source>page %1 cannot be drawn: %2</source>
+        <translation>impossibile disegnare la pagina %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>cups</name>
     <message>
         <source>label roll or tape is empty</source>
@@ -488,6 +618,10 @@
         <source>Cancelling...</source>
         <translation>Annullamento…</translation>
     </message>
+    <message>
+        <source>Composing...</source>
+        <translation>Composizione…</translation>
+    </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
@@ -510,6 +644,168 @@
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
         <translation>%1%2. Controllare che la stampante sia pronta e stampare di nuovo.</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::LayoutBar</name>
+    <message>
+        <source>Layout:</source>
+        <translation>Layout:</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Cambia</translation>
+    </message>
+    <message>
+        <source>Change the layout</source>
+        <translation>Cambia il layout</translation>
+    </message>
+    <message>
+        <source>Size, turn and place of the document on the label</source>
+        <translation>Dimensione, rotazione e posizione del documento sull’etichetta</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::LayoutForm</name>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatico</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Dimensioni reali</translation>
+    </message>
+    <message>
+        <source>Fit the label</source>
+        <translation>Adatta</translation>
+    </message>
+    <message>
+        <source>Fill the label</source>
+        <translation>Riempi</translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>Percentuale</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Centro</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>In alto</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>In basso</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>A sinistra</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>A destra</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>In alto a sinistra</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>In alto a destra</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>In basso a sinistra</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>In basso a destra</translation>
+    </message>
+    <message>
+        <source>Of the paper</source>
+        <translation>Della carta</translation>
+    </message>
+    <message>
+        <source>Fixed</source>
+        <translation>Fissa</translation>
+    </message>
+    <message>
+        <source>Of the content</source>
+        <translation>Del contenuto</translation>
+    </message>
+    <message>
+        <source>One a paragraph</source>
+        <translation>Per paragrafo</translation>
+    </message>
+    <message>
+        <source>One a line</source>
+        <translation>Per riga</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Dimensione</translation>
+    </message>
+    <message>
+        <source>Percent of the document&apos;s size</source>
+        <translation>Percentuale delle dimensioni del documento</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Rotazione</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Posizione</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Lunghezza</translation>
+    </message>
+    <message>
+        <source>Length in millimetres</source>
+        <translation>Lunghezza in millimetri</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etichette</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Carattere</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Dimensione testo</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Dimensione:</translation>
+    </message>
+    <message>
+        <source>Turn:</source>
+        <translation>Rotazione:</translation>
+    </message>
+    <message>
+        <source>Place:</source>
+        <translation>Posizione:</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>Lunghezza:</translation>
+    </message>
+    <message>
+        <source>Labels:</source>
+        <translation>Etichette:</translation>
+    </message>
+    <message>
+        <source>Font:</source>
+        <translation>Carattere:</translation>
+    </message>
+    <message>
+        <source>Text size:</source>
+        <translation>Dimensione testo:</translation>
     </message>
 </context>
 <context>
@@ -539,13 +835,6 @@
     <message>
         <source>This printer has no panel of its own. Its options are under &quot;More printer options&quot;.</source>
         <translation>Questa stampante non ha un pannello proprio. Le sue opzioni sono in «Altre opzioni della stampante».</translation>
-    </message>
-</context>
-<context>
-    <name>cutline::PlaceholderDocument</name>
-    <message>
-        <source>No preview for this kind of document; it prints as it is</source>
-        <translation>Nessuna anteprima per questo tipo di documento; viene stampato così com’è</translation>
     </message>
 </context>
 <context>
@@ -657,10 +946,6 @@
         <translation>Stampa di %1</translation>
     </message>
     <message>
-        <source>No preview: its module is not installed</source>
-        <translation>Nessuna anteprima: il suo modulo non è installato</translation>
-    </message>
-    <message>
         <source>This document cannot be shown</source>
         <translation>Impossibile mostrare questo documento</translation>
     </message>
@@ -675,10 +960,6 @@
     <message>
         <source>No printer</source>
         <translation>Nessuna stampante</translation>
-    </message>
-    <message>
-        <source>No document</source>
-        <translation>Nessun documento</translation>
     </message>
     <message>
         <source>Opening %1...</source>
@@ -701,12 +982,64 @@
         <translation>Questo è un file PPD, non una stampante: non si può stampare.</translation>
     </message>
     <message>
-        <source>There is no document to print: start with &quot;cutline FILE&quot;.</source>
-        <translation>Non c’è un documento da stampare: avviare «cutline FILE».</translation>
-    </message>
-    <message>
         <source>This document cannot be printed.</source>
         <translation>Impossibile stampare questo documento.</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Apr&amp;i…</translation>
+    </message>
+    <message>
+        <source>The document has %1 pages; they are shrunk to %2 %</source>
+        <translation>Il documento ha pagine %1; vengono ridotte al %2%</translation>
+    </message>
+    <message>
+        <source>Fits better: %1</source>
+        <translation>Più adatta: %1</translation>
+    </message>
+    <message>
+        <source>Use it</source>
+        <translation>Usa</translation>
+    </message>
+    <message>
+        <source>Choose this paper</source>
+        <translation>Scegli questa carta</translation>
+    </message>
+    <message>
+        <source>Edges will be cut off on label %1: shrink to %2 %</source>
+        <translation>I bordi dell’etichetta %1 saranno tagliati: ridurre al %2%</translation>
+    </message>
+    <message>
+        <source>Edges will be cut off on %1 labels: shrink to %2 %</source>
+        <translation>I bordi di %1 etichette saranno tagliati: ridurre al %2%</translation>
+    </message>
+    <message>
+        <source>Shrink</source>
+        <translation>Riduci</translation>
+    </message>
+    <message>
+        <source>Make the documents small enough</source>
+        <translation>Rende i documenti abbastanza piccoli</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 e altri %2</translation>
+    </message>
+    <message>
+        <source>Open or drop a document</source>
+        <translation>Aprire o trascinare qui un documento</translation>
+    </message>
+    <message>
+        <source>This document goes to the printer as it is, unseen</source>
+        <translation>Questo documento va alla stampante così com’è, senza anteprima</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Apri</translation>
+    </message>
+    <message>
+        <source>There is no document to print: open one, or drop it here.</source>
+        <translation>Non c’è un documento da stampare: aprirne uno o trascinarlo qui.</translation>
     </message>
 </context>
 <context>
@@ -751,10 +1084,6 @@
         <translation>Ingrandisci</translation>
     </message>
     <message>
-        <source>No preview</source>
-        <translation>Nessuna anteprima</translation>
-    </message>
-    <message>
         <source>Label %1 of %2</source>
         <translation>Etichetta %1 di %2</translation>
     </message>
@@ -784,28 +1113,8 @@
 <context>
     <name>document</name>
     <message>
-        <source>the picture cannot be drawn: %1</source>
-        <translation>impossibile disegnare l’immagine: %1</translation>
-    </message>
-    <message>
-        <source>there is no such page</source>
-        <translation>questa pagina non esiste</translation>
-    </message>
-    <message>
-        <source>the page cannot be drawn at this size</source>
-        <translation>impossibile disegnare la pagina a questa dimensione</translation>
-    </message>
-    <message>
-        <source>page %1 cannot be drawn</source>
-        <translation>impossibile disegnare la pagina %1</translation>
-    </message>
-    <message>
         <source>page %1 cannot be drawn: %2</source>
         <translation>impossibile disegnare la pagina %1: %2</translation>
-    </message>
-    <message>
-        <source>the page cannot be drawn: %1</source>
-        <translation>impossibile disegnare la pagina: %1</translation>
     </message>
 </context>
 <context>
@@ -891,24 +1200,16 @@
         <translation>%1: questo documento non esiste</translation>
     </message>
     <message>
-        <source>the PDF is locked with a password; save it without one</source>
-        <translation>il file PDF è protetto da password; salvarlo senza password</translation>
-    </message>
-    <message>
-        <source>the PDF has no pages</source>
-        <translation>il file PDF non ha pagine</translation>
-    </message>
-    <message>
         <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
         <translation>intervallo di pagine «%1»: il documento non ha la pagina %2, l’ultima è la pagina %3</translation>
     </message>
     <message>
-        <source>the PDF is locked against printing; ask its owner for another one</source>
-        <translation>il file PDF è protetto dalla stampa; chiederne un altro al proprietario</translation>
+        <source>%1 has no value &quot;%2&quot;: its values are %3</source>
+        <translation>%1 non ha il valore «%2»: i valori sono %3</translation>
     </message>
     <message>
-        <source>the picture is damaged; open it elsewhere and save it again</source>
-        <translation>l’immagine è danneggiata; aprirla in un altro programma e salvarla di nuovo</translation>
+        <source>&quot;%1&quot; does not go with labels: left out</source>
+        <translation>«%1» non è adatto alle etichette: tralasciato</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,136 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>base</name>
+    <message>
+        <source>%1: cannot keep the document: %2</source>
+        <translation>%1: 文書を保管できません: %2</translation>
+    </message>
+</context>
+<context>
+    <name>composition</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>フォルダーです</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>ファイルではありません</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>空です</translation>
+    </message>
+    <message>
+        <source>there is no document</source>
+        <translation>文書がありません</translation>
+    </message>
+    <message>
+        <source>it was stopped</source>
+        <translation>中止されました</translation>
+    </message>
+    <message>
+        <source>it is not of a kind that can be read: PDF, PostScript, PNG, JPEG, TIFF, WebP, SVG or text (UTF-8); &quot;-o raw&quot; sends it to the printer as it is</source>
+        <translation>読み取れる種類ではありません: PDF、PostScript、PNG、JPEG、TIFF、WebP、SVG、テキスト (UTF-8)。「-o raw」でそのままプリンターに送れます</translation>
+    </message>
+    <message>
+        <source>it is damaged; open it elsewhere and save it again</source>
+        <translation>破損しています。別のプログラムで開いて保存し直してください</translation>
+    </message>
+    <message>
+        <source>it is locked with a password; save it without one</source>
+        <translation>パスワードで保護されています。パスワードなしで保存してください</translation>
+    </message>
+    <message>
+        <source>it is locked against printing; ask its owner for another one</source>
+        <translation>印刷が禁止されています。所有者に別のファイルを依頼してください</translation>
+    </message>
+    <message>
+        <source>it has no pages</source>
+        <translation>ページがありません</translation>
+    </message>
+    <message>
+        <source>it has too many pages; print it in smaller parts</source>
+        <translation>ページが多すぎます。分けて印刷してください</translation>
+    </message>
+    <message>
+        <source>it has a page of a size that no paper has; save it with another one</source>
+        <translation>用紙にないサイズのページがあります。別のサイズで保存してください</translation>
+    </message>
+    <message>
+        <source>it needs more memory than a document may take; save it with smaller pictures, or in parts</source>
+        <translation>文書に許されるより多くのメモリーが必要です。画像を小さくするか、分けて保存してください</translation>
+    </message>
+    <message>
+        <source>it takes too long to read; save it as a PDF elsewhere, or print it in parts</source>
+        <translation>読み取りに時間がかかりすぎます。別のプログラムで PDF として保存するか、分けて印刷してください</translation>
+    </message>
+    <message>
+        <source>it does not have all the pages that were chosen</source>
+        <translation>選択されたページの一部がありません</translation>
+    </message>
+    <message>
+        <source>what reads documents of its kind is not installed</source>
+        <translation>この種類の文書を読み取る部品がインストールされていません</translation>
+    </message>
+    <message>
+        <source>its reader failed</source>
+        <translation>読み取りプログラムが失敗しました</translation>
+    </message>
+    <message>
+        <source>it has %1 pages, which is too many; print it in smaller parts</source>
+        <translation>%1 ページあり、多すぎます。分けて印刷してください</translation>
+    </message>
+    <message>
+        <source>there are pages chosen that it does not have; it has %1</source>
+        <translation>存在しないページが選択されています。全部で %1 ページです</translation>
+    </message>
+    <message>
+        <source>it is too large: %1</source>
+        <translation>大きすぎます: %1</translation>
+    </message>
+    <message>
+        <source>what reads documents of its kind is not installed: %1</source>
+        <translation>この種類の文書を読み取る部品がインストールされていません: %1</translation>
+    </message>
+    <message>
+        <source>its reader failed: %1</source>
+        <translation>読み取りプログラムが失敗しました: %1</translation>
+    </message>
+    <message>
+        <source>cannot read the document &quot;%1&quot;: %2</source>
+        <translation>文書「%1」を読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>cannot read one of the documents %1: %2</source>
+        <translation>文書 %1 のいずれかを読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>cannot start the program &quot;%1&quot;: %2</source>
+        <translation>プログラム「%1」を起動できません: %2</translation>
+    </message>
+    <message>
+        <source>the pages cannot be drawn: %1</source>
+        <translation>ページを描画できません: %1</translation>
+    </message>
+    <message>
+        <source>there is no such page</source>
+        <translation>そのページはありません</translation>
+    </message>
+    <message>
+        <source>its picture would be too large</source>
+        <translation>画像が大きくなりすぎます</translation>
+    </message>
+    <message>
+        <source>it takes too long</source>
+        <translation>時間がかかりすぎます</translation>
+    </message>
+    <message>
+        <source>page %1 cannot be drawn: %2</source>
+        <translation>ページ %1 を描画できません: %2</translation>
+    </message>
+</context>
+<context>
     <name>cups</name>
     <message>
         <source>label roll or tape is empty</source>
@@ -488,6 +618,10 @@
         <source>Cancelling...</source>
         <translation>キャンセルしています…</translation>
     </message>
+    <message>
+        <source>Composing...</source>
+        <translation>レイアウトしています…</translation>
+    </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
@@ -510,6 +644,168 @@
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
         <translation>%1%2。プリンターの準備ができていることを確認して、もう一度印刷してください。</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::LayoutBar</name>
+    <message>
+        <source>Layout:</source>
+        <translation>レイアウト:</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>変更</translation>
+    </message>
+    <message>
+        <source>Change the layout</source>
+        <translation>レイアウトを変更</translation>
+    </message>
+    <message>
+        <source>Size, turn and place of the document on the label</source>
+        <translation>ラベル上の文書のサイズ、回転、位置</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::LayoutForm</name>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>実際のサイズ</translation>
+    </message>
+    <message>
+        <source>Fit the label</source>
+        <translation>ラベルに収める</translation>
+    </message>
+    <message>
+        <source>Fill the label</source>
+        <translation>ラベルを満たす</translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>倍率</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>中央</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Of the paper</source>
+        <translation>用紙に従う</translation>
+    </message>
+    <message>
+        <source>Fixed</source>
+        <translation>固定</translation>
+    </message>
+    <message>
+        <source>Of the content</source>
+        <translation>内容に従う</translation>
+    </message>
+    <message>
+        <source>One a paragraph</source>
+        <translation>段落ごと</translation>
+    </message>
+    <message>
+        <source>One a line</source>
+        <translation>行ごと</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>Percent of the document&apos;s size</source>
+        <translation>文書のサイズに対する倍率</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>回転</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>長さ</translation>
+    </message>
+    <message>
+        <source>Length in millimetres</source>
+        <translation>長さ (ミリメートル)</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>ラベル</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>フォント</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>文字サイズ</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>サイズ:</translation>
+    </message>
+    <message>
+        <source>Turn:</source>
+        <translation>回転:</translation>
+    </message>
+    <message>
+        <source>Place:</source>
+        <translation>位置:</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>長さ:</translation>
+    </message>
+    <message>
+        <source>Labels:</source>
+        <translation>ラベル:</translation>
+    </message>
+    <message>
+        <source>Font:</source>
+        <translation>フォント:</translation>
+    </message>
+    <message>
+        <source>Text size:</source>
+        <translation>文字サイズ:</translation>
     </message>
 </context>
 <context>
@@ -539,13 +835,6 @@
     <message>
         <source>This printer has no panel of its own. Its options are under &quot;More printer options&quot;.</source>
         <translation>このプリンター専用のパネルはありません。オプションは「その他のプリンターオプション」にあります。</translation>
-    </message>
-</context>
-<context>
-    <name>cutline::PlaceholderDocument</name>
-    <message>
-        <source>No preview for this kind of document; it prints as it is</source>
-        <translation>この種類の文書はプレビューできません。そのまま印刷されます</translation>
     </message>
 </context>
 <context>
@@ -657,10 +946,6 @@
         <translation>%1 の印刷</translation>
     </message>
     <message>
-        <source>No preview: its module is not installed</source>
-        <translation>プレビューなし: モジュールがインストールされていません</translation>
-    </message>
-    <message>
         <source>This document cannot be shown</source>
         <translation>この文書は表示できません</translation>
     </message>
@@ -675,10 +960,6 @@
     <message>
         <source>No printer</source>
         <translation>プリンターなし</translation>
-    </message>
-    <message>
-        <source>No document</source>
-        <translation>文書なし</translation>
     </message>
     <message>
         <source>Opening %1...</source>
@@ -701,12 +982,64 @@
         <translation>これは PPD ファイルで、プリンターではありません: 印刷はできません。</translation>
     </message>
     <message>
-        <source>There is no document to print: start with &quot;cutline FILE&quot;.</source>
-        <translation>印刷する文書がありません: 「cutline ファイル」で起動してください。</translation>
-    </message>
-    <message>
         <source>This document cannot be printed.</source>
         <translation>この文書は印刷できません。</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>開く(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>The document has %1 pages; they are shrunk to %2 %</source>
+        <translation>文書は %1 のページです。%2 % に縮小されます</translation>
+    </message>
+    <message>
+        <source>Fits better: %1</source>
+        <translation>より適した用紙: %1</translation>
+    </message>
+    <message>
+        <source>Use it</source>
+        <translation>使用</translation>
+    </message>
+    <message>
+        <source>Choose this paper</source>
+        <translation>この用紙を選択</translation>
+    </message>
+    <message>
+        <source>Edges will be cut off on label %1: shrink to %2 %</source>
+        <translation>ラベル %1 の端が切れます: %2 % に縮小できます</translation>
+    </message>
+    <message>
+        <source>Edges will be cut off on %1 labels: shrink to %2 %</source>
+        <translation>%1 枚のラベルの端が切れます: %2 % に縮小できます</translation>
+    </message>
+    <message>
+        <source>Shrink</source>
+        <translation>縮小</translation>
+    </message>
+    <message>
+        <source>Make the documents small enough</source>
+        <translation>文書を収まる大きさに縮小</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 ほか %2 件</translation>
+    </message>
+    <message>
+        <source>Open or drop a document</source>
+        <translation>文書を開くか、ここにドロップしてください</translation>
+    </message>
+    <message>
+        <source>This document goes to the printer as it is, unseen</source>
+        <translation>この文書はプレビューなしで、そのままプリンターに送られます</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>There is no document to print: open one, or drop it here.</source>
+        <translation>印刷する文書がありません: 文書を開くか、ここにドロップしてください。</translation>
     </message>
 </context>
 <context>
@@ -751,10 +1084,6 @@
         <translation>拡大</translation>
     </message>
     <message>
-        <source>No preview</source>
-        <translation>プレビューなし</translation>
-    </message>
-    <message>
         <source>Label %1 of %2</source>
         <translation>ラベル %1/%2</translation>
     </message>
@@ -784,28 +1113,8 @@
 <context>
     <name>document</name>
     <message>
-        <source>the picture cannot be drawn: %1</source>
-        <translation>画像を描画できません: %1</translation>
-    </message>
-    <message>
-        <source>there is no such page</source>
-        <translation>そのページはありません</translation>
-    </message>
-    <message>
-        <source>the page cannot be drawn at this size</source>
-        <translation>この大きさではページを描画できません</translation>
-    </message>
-    <message>
-        <source>page %1 cannot be drawn</source>
-        <translation>ページ %1 を描画できません</translation>
-    </message>
-    <message>
         <source>page %1 cannot be drawn: %2</source>
         <translation>ページ %1 を描画できません: %2</translation>
-    </message>
-    <message>
-        <source>the page cannot be drawn: %1</source>
-        <translation>ページを描画できません: %1</translation>
     </message>
 </context>
 <context>
@@ -891,24 +1200,16 @@
         <translation>%1: その文書はありません</translation>
     </message>
     <message>
-        <source>the PDF is locked with a password; save it without one</source>
-        <translation>PDF はパスワードで保護されています。パスワードなしで保存してください</translation>
-    </message>
-    <message>
-        <source>the PDF has no pages</source>
-        <translation>PDF にページがありません</translation>
-    </message>
-    <message>
         <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
         <translation>ページ範囲「%1」: 文書に %2 ページはありません。最後は %3 ページです</translation>
     </message>
     <message>
-        <source>the PDF is locked against printing; ask its owner for another one</source>
-        <translation>PDF は印刷が禁止されています。所有者に別のファイルを依頼してください</translation>
+        <source>%1 has no value &quot;%2&quot;: its values are %3</source>
+        <translation>%1 に値「%2」はありません: 使える値は %3 です</translation>
     </message>
     <message>
-        <source>the picture is damaged; open it elsewhere and save it again</source>
-        <translation>画像が壊れています。別のプログラムで開いて保存し直してください</translation>
+        <source>&quot;%1&quot; does not go with labels: left out</source>
+        <translation>「%1」はラベルには使えないため、省きます</translation>
     </message>
 </context>
 </TS>

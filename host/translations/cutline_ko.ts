@@ -2,6 +2,136 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko" sourcelanguage="en">
 <context>
+    <name>base</name>
+    <message>
+        <source>%1: cannot keep the document: %2</source>
+        <translation>%1: 문서를 보관할 수 없습니다: %2</translation>
+    </message>
+</context>
+<context>
+    <name>composition</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>폴더입니다</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>파일이 아닙니다</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>비어 있습니다</translation>
+    </message>
+    <message>
+        <source>there is no document</source>
+        <translation>문서가 없습니다</translation>
+    </message>
+    <message>
+        <source>it was stopped</source>
+        <translation>중지되었습니다</translation>
+    </message>
+    <message>
+        <source>it is not of a kind that can be read: PDF, PostScript, PNG, JPEG, TIFF, WebP, SVG or text (UTF-8); &quot;-o raw&quot; sends it to the printer as it is</source>
+        <translation>읽을 수 있는 종류가 아닙니다: PDF, PostScript, PNG, JPEG, TIFF, WebP, SVG 또는 텍스트(UTF-8). “-o raw”를 쓰면 그대로 프린터로 보냅니다</translation>
+    </message>
+    <message>
+        <source>it is damaged; open it elsewhere and save it again</source>
+        <translation>손상되었습니다. 다른 프로그램에서 열어 다시 저장하십시오</translation>
+    </message>
+    <message>
+        <source>it is locked with a password; save it without one</source>
+        <translation>암호로 잠겨 있습니다. 암호 없이 저장하십시오</translation>
+    </message>
+    <message>
+        <source>it is locked against printing; ask its owner for another one</source>
+        <translation>인쇄가 금지되어 있습니다. 소유자에게 다른 파일을 요청하십시오</translation>
+    </message>
+    <message>
+        <source>it has no pages</source>
+        <translation>페이지가 없습니다</translation>
+    </message>
+    <message>
+        <source>it has too many pages; print it in smaller parts</source>
+        <translation>페이지가 너무 많습니다. 나누어 인쇄하십시오</translation>
+    </message>
+    <message>
+        <source>it has a page of a size that no paper has; save it with another one</source>
+        <translation>어떤 용지에도 없는 크기의 페이지가 있습니다. 다른 크기로 저장하십시오</translation>
+    </message>
+    <message>
+        <source>it needs more memory than a document may take; save it with smaller pictures, or in parts</source>
+        <translation>문서에 허용된 것보다 많은 메모리가 필요합니다. 그림을 줄이거나 나누어 저장하십시오</translation>
+    </message>
+    <message>
+        <source>it takes too long to read; save it as a PDF elsewhere, or print it in parts</source>
+        <translation>읽는 데 너무 오래 걸립니다. 다른 곳에서 PDF로 저장하거나 나누어 인쇄하십시오</translation>
+    </message>
+    <message>
+        <source>it does not have all the pages that were chosen</source>
+        <translation>선택한 페이지가 모두 있지는 않습니다</translation>
+    </message>
+    <message>
+        <source>what reads documents of its kind is not installed</source>
+        <translation>이 종류의 문서를 읽는 구성 요소가 설치되어 있지 않습니다</translation>
+    </message>
+    <message>
+        <source>its reader failed</source>
+        <translation>읽기 프로그램이 실패했습니다</translation>
+    </message>
+    <message>
+        <source>it has %1 pages, which is too many; print it in smaller parts</source>
+        <translation>페이지가 %1개로 너무 많습니다. 나누어 인쇄하십시오</translation>
+    </message>
+    <message>
+        <source>there are pages chosen that it does not have; it has %1</source>
+        <translation>없는 페이지가 선택되었습니다. 전체는 %1페이지입니다</translation>
+    </message>
+    <message>
+        <source>it is too large: %1</source>
+        <translation>너무 큽니다: %1</translation>
+    </message>
+    <message>
+        <source>what reads documents of its kind is not installed: %1</source>
+        <translation>이 종류의 문서를 읽는 구성 요소가 설치되어 있지 않습니다: %1</translation>
+    </message>
+    <message>
+        <source>its reader failed: %1</source>
+        <translation>읽기 프로그램이 실패했습니다: %1</translation>
+    </message>
+    <message>
+        <source>cannot read the document &quot;%1&quot;: %2</source>
+        <translation>문서 “%1”을(를) 읽을 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>cannot read one of the documents %1: %2</source>
+        <translation>문서 %1 중 하나를 읽을 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>cannot start the program &quot;%1&quot;: %2</source>
+        <translation>프로그램 “%1”을(를) 시작할 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>the pages cannot be drawn: %1</source>
+        <translation>페이지를 그릴 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>there is no such page</source>
+        <translation>그런 페이지가 없습니다</translation>
+    </message>
+    <message>
+        <source>its picture would be too large</source>
+        <translation>그림이 너무 커집니다</translation>
+    </message>
+    <message>
+        <source>it takes too long</source>
+        <translation>너무 오래 걸립니다</translation>
+    </message>
+    <message>
+        <source>page %1 cannot be drawn: %2</source>
+        <translation>페이지 %1을(를) 그릴 수 없습니다: %2</translation>
+    </message>
+</context>
+<context>
     <name>cups</name>
     <message>
         <source>label roll or tape is empty</source>
@@ -488,6 +618,10 @@
         <source>Cancelling...</source>
         <translation>취소하는 중…</translation>
     </message>
+    <message>
+        <source>Composing...</source>
+        <translation>배치하는 중…</translation>
+    </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
@@ -510,6 +644,168 @@
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
         <translation>%1%2. 프린터가 준비되었는지 확인한 다음 다시 인쇄하십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::LayoutBar</name>
+    <message>
+        <source>Layout:</source>
+        <translation>레이아웃:</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>변경</translation>
+    </message>
+    <message>
+        <source>Change the layout</source>
+        <translation>레이아웃 변경</translation>
+    </message>
+    <message>
+        <source>Size, turn and place of the document on the label</source>
+        <translation>라벨에서 문서의 크기, 회전, 위치</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::LayoutForm</name>
+    <message>
+        <source>Automatic</source>
+        <translation>자동</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>실제 크기</translation>
+    </message>
+    <message>
+        <source>Fit the label</source>
+        <translation>라벨에 맞춤</translation>
+    </message>
+    <message>
+        <source>Fill the label</source>
+        <translation>라벨 채우기</translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>비율</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>가운데</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>위</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>아래</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>왼쪽</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>오른쪽</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>왼쪽 위</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>오른쪽 위</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>왼쪽 아래</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>오른쪽 아래</translation>
+    </message>
+    <message>
+        <source>Of the paper</source>
+        <translation>용지에 따름</translation>
+    </message>
+    <message>
+        <source>Fixed</source>
+        <translation>고정</translation>
+    </message>
+    <message>
+        <source>Of the content</source>
+        <translation>내용에 따름</translation>
+    </message>
+    <message>
+        <source>One a paragraph</source>
+        <translation>문단마다</translation>
+    </message>
+    <message>
+        <source>One a line</source>
+        <translation>줄마다</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>크기</translation>
+    </message>
+    <message>
+        <source>Percent of the document&apos;s size</source>
+        <translation>문서 크기에 대한 비율</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>회전</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>위치</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>길이</translation>
+    </message>
+    <message>
+        <source>Length in millimetres</source>
+        <translation>길이(밀리미터)</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>라벨</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>글꼴</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>글자 크기</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>크기:</translation>
+    </message>
+    <message>
+        <source>Turn:</source>
+        <translation>회전:</translation>
+    </message>
+    <message>
+        <source>Place:</source>
+        <translation>위치:</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>길이:</translation>
+    </message>
+    <message>
+        <source>Labels:</source>
+        <translation>라벨:</translation>
+    </message>
+    <message>
+        <source>Font:</source>
+        <translation>글꼴:</translation>
+    </message>
+    <message>
+        <source>Text size:</source>
+        <translation>글자 크기:</translation>
     </message>
 </context>
 <context>
@@ -539,13 +835,6 @@
     <message>
         <source>This printer has no panel of its own. Its options are under &quot;More printer options&quot;.</source>
         <translation>이 프린터에는 전용 패널이 없습니다. 옵션은 “추가 프린터 옵션”에 있습니다.</translation>
-    </message>
-</context>
-<context>
-    <name>cutline::PlaceholderDocument</name>
-    <message>
-        <source>No preview for this kind of document; it prints as it is</source>
-        <translation>이 종류의 문서는 미리 볼 수 없습니다. 그대로 인쇄됩니다</translation>
     </message>
 </context>
 <context>
@@ -657,10 +946,6 @@
         <translation>%1 인쇄</translation>
     </message>
     <message>
-        <source>No preview: its module is not installed</source>
-        <translation>미리 보기 없음: 해당 모듈이 설치되어 있지 않습니다</translation>
-    </message>
-    <message>
         <source>This document cannot be shown</source>
         <translation>이 문서는 표시할 수 없습니다</translation>
     </message>
@@ -675,10 +960,6 @@
     <message>
         <source>No printer</source>
         <translation>프린터 없음</translation>
-    </message>
-    <message>
-        <source>No document</source>
-        <translation>문서 없음</translation>
     </message>
     <message>
         <source>Opening %1...</source>
@@ -701,12 +982,64 @@
         <translation>이것은 프린터가 아니라 PPD 파일입니다: 인쇄할 수 없습니다.</translation>
     </message>
     <message>
-        <source>There is no document to print: start with &quot;cutline FILE&quot;.</source>
-        <translation>인쇄할 문서가 없습니다: “cutline 파일”로 시작하십시오.</translation>
-    </message>
-    <message>
         <source>This document cannot be printed.</source>
         <translation>이 문서는 인쇄할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>열기(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>The document has %1 pages; they are shrunk to %2 %</source>
+        <translation>문서의 페이지는 %1입니다. %2 %로 축소됩니다</translation>
+    </message>
+    <message>
+        <source>Fits better: %1</source>
+        <translation>더 알맞은 용지: %1</translation>
+    </message>
+    <message>
+        <source>Use it</source>
+        <translation>사용</translation>
+    </message>
+    <message>
+        <source>Choose this paper</source>
+        <translation>이 용지 선택</translation>
+    </message>
+    <message>
+        <source>Edges will be cut off on label %1: shrink to %2 %</source>
+        <translation>라벨 %1의 가장자리가 잘립니다: %2 %로 축소</translation>
+    </message>
+    <message>
+        <source>Edges will be cut off on %1 labels: shrink to %2 %</source>
+        <translation>라벨 %1장의 가장자리가 잘립니다: %2 %로 축소</translation>
+    </message>
+    <message>
+        <source>Shrink</source>
+        <translation>축소</translation>
+    </message>
+    <message>
+        <source>Make the documents small enough</source>
+        <translation>문서를 충분히 작게 축소</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 외 %2개</translation>
+    </message>
+    <message>
+        <source>Open or drop a document</source>
+        <translation>문서를 열거나 여기에 끌어 놓으십시오</translation>
+    </message>
+    <message>
+        <source>This document goes to the printer as it is, unseen</source>
+        <translation>이 문서는 미리 보기 없이 그대로 프린터로 보내집니다</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>열기</translation>
+    </message>
+    <message>
+        <source>There is no document to print: open one, or drop it here.</source>
+        <translation>인쇄할 문서가 없습니다: 문서를 열거나 여기에 끌어 놓으십시오.</translation>
     </message>
 </context>
 <context>
@@ -751,10 +1084,6 @@
         <translation>확대</translation>
     </message>
     <message>
-        <source>No preview</source>
-        <translation>미리 보기 없음</translation>
-    </message>
-    <message>
         <source>Label %1 of %2</source>
         <translation>라벨 %1/%2</translation>
     </message>
@@ -784,28 +1113,8 @@
 <context>
     <name>document</name>
     <message>
-        <source>the picture cannot be drawn: %1</source>
-        <translation>그림을 그릴 수 없습니다: %1</translation>
-    </message>
-    <message>
-        <source>there is no such page</source>
-        <translation>그런 페이지가 없습니다</translation>
-    </message>
-    <message>
-        <source>the page cannot be drawn at this size</source>
-        <translation>이 크기로 페이지를 그릴 수 없습니다</translation>
-    </message>
-    <message>
-        <source>page %1 cannot be drawn</source>
-        <translation>페이지 %1을(를) 그릴 수 없습니다</translation>
-    </message>
-    <message>
         <source>page %1 cannot be drawn: %2</source>
         <translation>페이지 %1을(를) 그릴 수 없습니다: %2</translation>
-    </message>
-    <message>
-        <source>the page cannot be drawn: %1</source>
-        <translation>페이지를 그릴 수 없습니다: %1</translation>
     </message>
 </context>
 <context>
@@ -891,24 +1200,16 @@
         <translation>%1: 그런 문서가 없습니다</translation>
     </message>
     <message>
-        <source>the PDF is locked with a password; save it without one</source>
-        <translation>PDF가 암호로 잠겨 있습니다. 암호 없이 저장하십시오</translation>
-    </message>
-    <message>
-        <source>the PDF has no pages</source>
-        <translation>PDF에 페이지가 없습니다</translation>
-    </message>
-    <message>
         <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
         <translation>페이지 범위 “%1”: 문서에 %2페이지가 없습니다. 마지막은 %3페이지입니다</translation>
     </message>
     <message>
-        <source>the PDF is locked against printing; ask its owner for another one</source>
-        <translation>PDF의 인쇄가 금지되어 있습니다. 소유자에게 다른 파일을 요청하십시오</translation>
+        <source>%1 has no value &quot;%2&quot;: its values are %3</source>
+        <translation>%1에 값 “%2”이(가) 없습니다. 가능한 값은 %3입니다</translation>
     </message>
     <message>
-        <source>the picture is damaged; open it elsewhere and save it again</source>
-        <translation>그림이 손상되었습니다. 다른 프로그램에서 열어 다시 저장하십시오</translation>
+        <source>&quot;%1&quot; does not go with labels: left out</source>
+        <translation>“%1”은(는) 라벨에 맞지 않아 제외합니다</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,136 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl" sourcelanguage="en">
 <context>
+    <name>base</name>
+    <message>
+        <source>%1: cannot keep the document: %2</source>
+        <translation>%1: kan het document niet bewaren: %2</translation>
+    </message>
+</context>
+<context>
+    <name>composition</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>het is een map</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>het is geen bestand</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>het is leeg</translation>
+    </message>
+    <message>
+        <source>there is no document</source>
+        <translation>er is geen document</translation>
+    </message>
+    <message>
+        <source>it was stopped</source>
+        <translation>het is gestopt</translation>
+    </message>
+    <message>
+        <source>it is not of a kind that can be read: PDF, PostScript, PNG, JPEG, TIFF, WebP, SVG or text (UTF-8); &quot;-o raw&quot; sends it to the printer as it is</source>
+        <translation>het is niet van een leesbare soort: PDF, PostScript, PNG, JPEG, TIFF, WebP, SVG of tekst (UTF-8); ‘-o raw’ stuurt het ongewijzigd naar de printer</translation>
+    </message>
+    <message>
+        <source>it is damaged; open it elsewhere and save it again</source>
+        <translation>het is beschadigd; open het in een ander programma en sla het opnieuw op</translation>
+    </message>
+    <message>
+        <source>it is locked with a password; save it without one</source>
+        <translation>het is met een wachtwoord beveiligd; sla het zonder wachtwoord op</translation>
+    </message>
+    <message>
+        <source>it is locked against printing; ask its owner for another one</source>
+        <translation>het is tegen afdrukken beveiligd; vraag de eigenaar om een ander document</translation>
+    </message>
+    <message>
+        <source>it has no pages</source>
+        <translation>het heeft geen pagina’s</translation>
+    </message>
+    <message>
+        <source>it has too many pages; print it in smaller parts</source>
+        <translation>het heeft te veel pagina’s; druk het in kleinere delen af</translation>
+    </message>
+    <message>
+        <source>it has a page of a size that no paper has; save it with another one</source>
+        <translation>het heeft een pagina van een grootte die geen papier heeft; sla het met een andere op</translation>
+    </message>
+    <message>
+        <source>it needs more memory than a document may take; save it with smaller pictures, or in parts</source>
+        <translation>het heeft meer geheugen nodig dan een document mag gebruiken; sla het met kleinere afbeeldingen of in delen op</translation>
+    </message>
+    <message>
+        <source>it takes too long to read; save it as a PDF elsewhere, or print it in parts</source>
+        <translation>het lezen duurt te lang; sla het elders op als PDF of druk het in delen af</translation>
+    </message>
+    <message>
+        <source>it does not have all the pages that were chosen</source>
+        <translation>het heeft niet alle gekozen pagina’s</translation>
+    </message>
+    <message>
+        <source>what reads documents of its kind is not installed</source>
+        <translation>wat documenten van deze soort leest, is niet geïnstalleerd</translation>
+    </message>
+    <message>
+        <source>its reader failed</source>
+        <translation>het leesprogramma is mislukt</translation>
+    </message>
+    <message>
+        <source>it has %1 pages, which is too many; print it in smaller parts</source>
+        <translation>het heeft %1 pagina’s en dat zijn er te veel; druk het in kleinere delen af</translation>
+    </message>
+    <message>
+        <source>there are pages chosen that it does not have; it has %1</source>
+        <translation>er zijn pagina’s gekozen die het niet heeft; het heeft er %1</translation>
+    </message>
+    <message>
+        <source>it is too large: %1</source>
+        <translation>het is te groot: %1</translation>
+    </message>
+    <message>
+        <source>what reads documents of its kind is not installed: %1</source>
+        <translation>wat documenten van deze soort leest, is niet geïnstalleerd: %1</translation>
+    </message>
+    <message>
+        <source>its reader failed: %1</source>
+        <translation>het leesprogramma is mislukt: %1</translation>
+    </message>
+    <message>
+        <source>cannot read the document &quot;%1&quot;: %2</source>
+        <translation>kan het document ‘%1’ niet lezen: %2</translation>
+    </message>
+    <message>
+        <source>cannot read one of the documents %1: %2</source>
+        <translation>kan een van de documenten %1 niet lezen: %2</translation>
+    </message>
+    <message>
+        <source>cannot start the program &quot;%1&quot;: %2</source>
+        <translation>kan het programma ‘%1’ niet starten: %2</translation>
+    </message>
+    <message>
+        <source>the pages cannot be drawn: %1</source>
+        <translation>de pagina’s kunnen niet worden getekend: %1</translation>
+    </message>
+    <message>
+        <source>there is no such page</source>
+        <translation>deze pagina bestaat niet</translation>
+    </message>
+    <message>
+        <source>its picture would be too large</source>
+        <translation>de afbeelding zou te groot worden</translation>
+    </message>
+    <message>
+        <source>it takes too long</source>
+        <translation>het duurt te lang</translation>
+    </message>
+    <message>
+        <source>page %1 cannot be drawn: %2</source>
+        <translation>pagina %1 kan niet worden getekend: %2</translation>
+    </message>
+</context>
+<context>
     <name>cups</name>
     <message>
         <source>label roll or tape is empty</source>
@@ -488,6 +618,10 @@
         <source>Cancelling...</source>
         <translation>Annuleren…</translation>
     </message>
+    <message>
+        <source>Composing...</source>
+        <translation>Samenstellen…</translation>
+    </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
@@ -510,6 +644,168 @@
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
         <translation>%1%2. Controleer of de printer gereed is en druk opnieuw af.</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::LayoutBar</name>
+    <message>
+        <source>Layout:</source>
+        <translation>Indeling:</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Wijzigen</translation>
+    </message>
+    <message>
+        <source>Change the layout</source>
+        <translation>Indeling wijzigen</translation>
+    </message>
+    <message>
+        <source>Size, turn and place of the document on the label</source>
+        <translation>Grootte, draaiing en plaats van het document op het etiket</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::LayoutForm</name>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Ware grootte</translation>
+    </message>
+    <message>
+        <source>Fit the label</source>
+        <translation>Passend maken</translation>
+    </message>
+    <message>
+        <source>Fill the label</source>
+        <translation>Vullen</translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>Percentage</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Midden</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Boven</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Onder</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Linksboven</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Rechtsboven</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Linksonder</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Rechtsonder</translation>
+    </message>
+    <message>
+        <source>Of the paper</source>
+        <translation>Van het papier</translation>
+    </message>
+    <message>
+        <source>Fixed</source>
+        <translation>Vast</translation>
+    </message>
+    <message>
+        <source>Of the content</source>
+        <translation>Van de inhoud</translation>
+    </message>
+    <message>
+        <source>One a paragraph</source>
+        <translation>Per alinea</translation>
+    </message>
+    <message>
+        <source>One a line</source>
+        <translation>Per regel</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Grootte</translation>
+    </message>
+    <message>
+        <source>Percent of the document&apos;s size</source>
+        <translation>Percentage van de documentgrootte</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Draaiing</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Plaats</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Lengte</translation>
+    </message>
+    <message>
+        <source>Length in millimetres</source>
+        <translation>Lengte in millimeters</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiketten</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Lettertype</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Tekstgrootte</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Grootte:</translation>
+    </message>
+    <message>
+        <source>Turn:</source>
+        <translation>Draaiing:</translation>
+    </message>
+    <message>
+        <source>Place:</source>
+        <translation>Plaats:</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>Lengte:</translation>
+    </message>
+    <message>
+        <source>Labels:</source>
+        <translation>Etiketten:</translation>
+    </message>
+    <message>
+        <source>Font:</source>
+        <translation>Lettertype:</translation>
+    </message>
+    <message>
+        <source>Text size:</source>
+        <translation>Tekstgrootte:</translation>
     </message>
 </context>
 <context>
@@ -539,13 +835,6 @@
     <message>
         <source>This printer has no panel of its own. Its options are under &quot;More printer options&quot;.</source>
         <translation>Deze printer heeft geen eigen paneel. De opties staan onder ‘Meer printeropties’.</translation>
-    </message>
-</context>
-<context>
-    <name>cutline::PlaceholderDocument</name>
-    <message>
-        <source>No preview for this kind of document; it prints as it is</source>
-        <translation>Geen voorbeeld voor dit soort document; het wordt afgedrukt zoals het is</translation>
     </message>
 </context>
 <context>
@@ -657,10 +946,6 @@
         <translation>%1 afdrukken</translation>
     </message>
     <message>
-        <source>No preview: its module is not installed</source>
-        <translation>Geen voorbeeld: de module daarvoor is niet geïnstalleerd</translation>
-    </message>
-    <message>
         <source>This document cannot be shown</source>
         <translation>Dit document kan niet worden getoond</translation>
     </message>
@@ -675,10 +960,6 @@
     <message>
         <source>No printer</source>
         <translation>Geen printer</translation>
-    </message>
-    <message>
-        <source>No document</source>
-        <translation>Geen document</translation>
     </message>
     <message>
         <source>Opening %1...</source>
@@ -701,12 +982,64 @@
         <translation>Dit is een PPD-bestand, geen printer: afdrukken is uitgeschakeld.</translation>
     </message>
     <message>
-        <source>There is no document to print: start with &quot;cutline FILE&quot;.</source>
-        <translation>Er is geen document om af te drukken: start met ‘cutline BESTAND’.</translation>
-    </message>
-    <message>
         <source>This document cannot be printed.</source>
         <translation>Dit document kan niet worden afgedrukt.</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Ope&amp;nen…</translation>
+    </message>
+    <message>
+        <source>The document has %1 pages; they are shrunk to %2 %</source>
+        <translation>Het document heeft %1-pagina’s; ze worden verkleind tot %2%</translation>
+    </message>
+    <message>
+        <source>Fits better: %1</source>
+        <translation>Past beter: %1</translation>
+    </message>
+    <message>
+        <source>Use it</source>
+        <translation>Gebruiken</translation>
+    </message>
+    <message>
+        <source>Choose this paper</source>
+        <translation>Dit papier kiezen</translation>
+    </message>
+    <message>
+        <source>Edges will be cut off on label %1: shrink to %2 %</source>
+        <translation>Randen vallen weg op etiket %1: verkleinen tot %2%</translation>
+    </message>
+    <message>
+        <source>Edges will be cut off on %1 labels: shrink to %2 %</source>
+        <translation>Randen vallen weg op %1 etiketten: verkleinen tot %2%</translation>
+    </message>
+    <message>
+        <source>Shrink</source>
+        <translation>Verkleinen</translation>
+    </message>
+    <message>
+        <source>Make the documents small enough</source>
+        <translation>De documenten klein genoeg maken</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 en nog %2</translation>
+    </message>
+    <message>
+        <source>Open or drop a document</source>
+        <translation>Open een document of sleep er een hierheen</translation>
+    </message>
+    <message>
+        <source>This document goes to the printer as it is, unseen</source>
+        <translation>Dit document gaat ongewijzigd en ongezien naar de printer</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Openen</translation>
+    </message>
+    <message>
+        <source>There is no document to print: open one, or drop it here.</source>
+        <translation>Er is geen document om af te drukken: open er een of sleep het hierheen.</translation>
     </message>
 </context>
 <context>
@@ -751,10 +1084,6 @@
         <translation>Inzoomen</translation>
     </message>
     <message>
-        <source>No preview</source>
-        <translation>Geen voorbeeld</translation>
-    </message>
-    <message>
         <source>Label %1 of %2</source>
         <translation>Label %1 van %2</translation>
     </message>
@@ -784,28 +1113,8 @@
 <context>
     <name>document</name>
     <message>
-        <source>the picture cannot be drawn: %1</source>
-        <translation>de afbeelding kan niet worden getekend: %1</translation>
-    </message>
-    <message>
-        <source>there is no such page</source>
-        <translation>deze pagina bestaat niet</translation>
-    </message>
-    <message>
-        <source>the page cannot be drawn at this size</source>
-        <translation>de pagina kan niet op deze grootte worden getekend</translation>
-    </message>
-    <message>
-        <source>page %1 cannot be drawn</source>
-        <translation>pagina %1 kan niet worden getekend</translation>
-    </message>
-    <message>
         <source>page %1 cannot be drawn: %2</source>
         <translation>pagina %1 kan niet worden getekend: %2</translation>
-    </message>
-    <message>
-        <source>the page cannot be drawn: %1</source>
-        <translation>de pagina kan niet worden getekend: %1</translation>
     </message>
 </context>
 <context>
@@ -891,24 +1200,16 @@
         <translation>%1: dit document bestaat niet</translation>
     </message>
     <message>
-        <source>the PDF is locked with a password; save it without one</source>
-        <translation>het PDF-bestand is met een wachtwoord beveiligd; sla het zonder wachtwoord op</translation>
-    </message>
-    <message>
-        <source>the PDF has no pages</source>
-        <translation>het PDF-bestand heeft geen pagina’s</translation>
-    </message>
-    <message>
         <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
         <translation>paginabereik ‘%1’: het document heeft geen pagina %2, de laatste is pagina %3</translation>
     </message>
     <message>
-        <source>the PDF is locked against printing; ask its owner for another one</source>
-        <translation>het PDF-bestand is tegen afdrukken beveiligd; vraag de eigenaar om een ander bestand</translation>
+        <source>%1 has no value &quot;%2&quot;: its values are %3</source>
+        <translation>%1 heeft geen waarde ‘%2’: mogelijk zijn %3</translation>
     </message>
     <message>
-        <source>the picture is damaged; open it elsewhere and save it again</source>
-        <translation>de afbeelding is beschadigd; open deze in een ander programma en sla deze opnieuw op</translation>
+        <source>&quot;%1&quot; does not go with labels: left out</source>
+        <translation>‘%1’ past niet bij etiketten: weggelaten</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,136 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt" sourcelanguage="en">
 <context>
+    <name>base</name>
+    <message>
+        <source>%1: cannot keep the document: %2</source>
+        <translation>%1: não é possível guardar o documento: %2</translation>
+    </message>
+</context>
+<context>
+    <name>composition</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>é uma pasta</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>não é um arquivo</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>está vazio</translation>
+    </message>
+    <message>
+        <source>there is no document</source>
+        <translation>não há documento</translation>
+    </message>
+    <message>
+        <source>it was stopped</source>
+        <translation>foi interrompido</translation>
+    </message>
+    <message>
+        <source>it is not of a kind that can be read: PDF, PostScript, PNG, JPEG, TIFF, WebP, SVG or text (UTF-8); &quot;-o raw&quot; sends it to the printer as it is</source>
+        <translation>não é de um tipo legível: PDF, PostScript, PNG, JPEG, TIFF, WebP, SVG ou texto (UTF-8); “-o raw” o envia como está à impressora</translation>
+    </message>
+    <message>
+        <source>it is damaged; open it elsewhere and save it again</source>
+        <translation>está danificado; abra-o em outro programa e salve-o novamente</translation>
+    </message>
+    <message>
+        <source>it is locked with a password; save it without one</source>
+        <translation>está protegido por senha; salve-o sem senha</translation>
+    </message>
+    <message>
+        <source>it is locked against printing; ask its owner for another one</source>
+        <translation>está protegido contra impressão; peça outro ao proprietário</translation>
+    </message>
+    <message>
+        <source>it has no pages</source>
+        <translation>não tem páginas</translation>
+    </message>
+    <message>
+        <source>it has too many pages; print it in smaller parts</source>
+        <translation>tem páginas demais; imprima-o em partes menores</translation>
+    </message>
+    <message>
+        <source>it has a page of a size that no paper has; save it with another one</source>
+        <translation>tem uma página de um tamanho que nenhum papel tem; salve-o com outro</translation>
+    </message>
+    <message>
+        <source>it needs more memory than a document may take; save it with smaller pictures, or in parts</source>
+        <translation>precisa de mais memória do que um documento pode usar; salve-o com imagens menores ou em partes</translation>
+    </message>
+    <message>
+        <source>it takes too long to read; save it as a PDF elsewhere, or print it in parts</source>
+        <translation>demora demais para ser lido; salve-o como PDF em outro programa ou imprima-o em partes</translation>
+    </message>
+    <message>
+        <source>it does not have all the pages that were chosen</source>
+        <translation>não tem todas as páginas escolhidas</translation>
+    </message>
+    <message>
+        <source>what reads documents of its kind is not installed</source>
+        <translation>o que lê documentos deste tipo não está instalado</translation>
+    </message>
+    <message>
+        <source>its reader failed</source>
+        <translation>seu leitor falhou</translation>
+    </message>
+    <message>
+        <source>it has %1 pages, which is too many; print it in smaller parts</source>
+        <translation>tem %1 páginas, o que é demais; imprima-o em partes menores</translation>
+    </message>
+    <message>
+        <source>there are pages chosen that it does not have; it has %1</source>
+        <translation>foram escolhidas páginas que ele não tem; ele tem %1</translation>
+    </message>
+    <message>
+        <source>it is too large: %1</source>
+        <translation>é grande demais: %1</translation>
+    </message>
+    <message>
+        <source>what reads documents of its kind is not installed: %1</source>
+        <translation>o que lê documentos deste tipo não está instalado: %1</translation>
+    </message>
+    <message>
+        <source>its reader failed: %1</source>
+        <translation>seu leitor falhou: %1</translation>
+    </message>
+    <message>
+        <source>cannot read the document &quot;%1&quot;: %2</source>
+        <translation>não é possível ler o documento “%1”: %2</translation>
+    </message>
+    <message>
+        <source>cannot read one of the documents %1: %2</source>
+        <translation>não é possível ler um dos documentos %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot start the program &quot;%1&quot;: %2</source>
+        <translation>não é possível iniciar o programa “%1”: %2</translation>
+    </message>
+    <message>
+        <source>the pages cannot be drawn: %1</source>
+        <translation>não é possível desenhar as páginas: %1</translation>
+    </message>
+    <message>
+        <source>there is no such page</source>
+        <translation>esta página não existe</translation>
+    </message>
+    <message>
+        <source>its picture would be too large</source>
+        <translation>sua imagem seria grande demais</translation>
+    </message>
+    <message>
+        <source>it takes too long</source>
+        <translation>demora demais</translation>
+    </message>
+    <message>
+        <source>page %1 cannot be drawn: %2</source>
+        <translation>não é possível desenhar a página %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>cups</name>
     <message>
         <source>label roll or tape is empty</source>
@@ -488,6 +618,10 @@
         <source>Cancelling...</source>
         <translation>Cancelando…</translation>
     </message>
+    <message>
+        <source>Composing...</source>
+        <translation>Compondo…</translation>
+    </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
@@ -510,6 +644,168 @@
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
         <translation>%1%2. Verifique se a impressora está pronta e imprima de novo.</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::LayoutBar</name>
+    <message>
+        <source>Layout:</source>
+        <translation>Layout:</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Alterar</translation>
+    </message>
+    <message>
+        <source>Change the layout</source>
+        <translation>Alterar o layout</translation>
+    </message>
+    <message>
+        <source>Size, turn and place of the document on the label</source>
+        <translation>Tamanho, rotação e posição do documento na etiqueta</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::LayoutForm</name>
+    <message>
+        <source>Automatic</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Tamanho real</translation>
+    </message>
+    <message>
+        <source>Fit the label</source>
+        <translation>Ajustar</translation>
+    </message>
+    <message>
+        <source>Fill the label</source>
+        <translation>Preencher</translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>Porcentagem</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Centro</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Acima</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Abaixo</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Esquerda</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Direita</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Acima à esquerda</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Acima à direita</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Abaixo à esquerda</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Abaixo à direita</translation>
+    </message>
+    <message>
+        <source>Of the paper</source>
+        <translation>Do papel</translation>
+    </message>
+    <message>
+        <source>Fixed</source>
+        <translation>Fixo</translation>
+    </message>
+    <message>
+        <source>Of the content</source>
+        <translation>Do conteúdo</translation>
+    </message>
+    <message>
+        <source>One a paragraph</source>
+        <translation>Por parágrafo</translation>
+    </message>
+    <message>
+        <source>One a line</source>
+        <translation>Por linha</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamanho</translation>
+    </message>
+    <message>
+        <source>Percent of the document&apos;s size</source>
+        <translation>Porcentagem do tamanho do documento</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Rotação</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Posição</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Comprimento</translation>
+    </message>
+    <message>
+        <source>Length in millimetres</source>
+        <translation>Comprimento em milímetros</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiquetas</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Fonte</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Tamanho do texto</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Tamanho:</translation>
+    </message>
+    <message>
+        <source>Turn:</source>
+        <translation>Rotação:</translation>
+    </message>
+    <message>
+        <source>Place:</source>
+        <translation>Posição:</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>Comprimento:</translation>
+    </message>
+    <message>
+        <source>Labels:</source>
+        <translation>Etiquetas:</translation>
+    </message>
+    <message>
+        <source>Font:</source>
+        <translation>Fonte:</translation>
+    </message>
+    <message>
+        <source>Text size:</source>
+        <translation>Tamanho do texto:</translation>
     </message>
 </context>
 <context>
@@ -539,13 +835,6 @@
     <message>
         <source>This printer has no panel of its own. Its options are under &quot;More printer options&quot;.</source>
         <translation>Esta impressora não tem um painel próprio. Suas opções estão em “Mais opções da impressora”.</translation>
-    </message>
-</context>
-<context>
-    <name>cutline::PlaceholderDocument</name>
-    <message>
-        <source>No preview for this kind of document; it prints as it is</source>
-        <translation>Sem visualização para este tipo de documento; ele é impresso como está</translation>
     </message>
 </context>
 <context>
@@ -657,10 +946,6 @@
         <translation>Imprimir %1</translation>
     </message>
     <message>
-        <source>No preview: its module is not installed</source>
-        <translation>Sem visualização: seu módulo não está instalado</translation>
-    </message>
-    <message>
         <source>This document cannot be shown</source>
         <translation>Não é possível mostrar este documento</translation>
     </message>
@@ -675,10 +960,6 @@
     <message>
         <source>No printer</source>
         <translation>Nenhuma impressora</translation>
-    </message>
-    <message>
-        <source>No document</source>
-        <translation>Nenhum documento</translation>
     </message>
     <message>
         <source>Opening %1...</source>
@@ -701,12 +982,64 @@
         <translation>Isto é um arquivo PPD, não uma impressora: não é possível imprimir.</translation>
     </message>
     <message>
-        <source>There is no document to print: start with &quot;cutline FILE&quot;.</source>
-        <translation>Não há documento para imprimir: inicie com “cutline ARQUIVO”.</translation>
-    </message>
-    <message>
         <source>This document cannot be printed.</source>
         <translation>Não é possível imprimir este documento.</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>A&amp;brir…</translation>
+    </message>
+    <message>
+        <source>The document has %1 pages; they are shrunk to %2 %</source>
+        <translation>O documento tem páginas %1; elas são reduzidas a %2%</translation>
+    </message>
+    <message>
+        <source>Fits better: %1</source>
+        <translation>Mais adequado: %1</translation>
+    </message>
+    <message>
+        <source>Use it</source>
+        <translation>Usar</translation>
+    </message>
+    <message>
+        <source>Choose this paper</source>
+        <translation>Escolher este papel</translation>
+    </message>
+    <message>
+        <source>Edges will be cut off on label %1: shrink to %2 %</source>
+        <translation>As bordas da etiqueta %1 serão cortadas: reduzir a %2%</translation>
+    </message>
+    <message>
+        <source>Edges will be cut off on %1 labels: shrink to %2 %</source>
+        <translation>As bordas de %1 etiquetas serão cortadas: reduzir a %2%</translation>
+    </message>
+    <message>
+        <source>Shrink</source>
+        <translation>Reduzir</translation>
+    </message>
+    <message>
+        <source>Make the documents small enough</source>
+        <translation>Tornar os documentos pequenos o bastante</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 e mais %2</translation>
+    </message>
+    <message>
+        <source>Open or drop a document</source>
+        <translation>Abra um documento ou solte-o aqui</translation>
+    </message>
+    <message>
+        <source>This document goes to the printer as it is, unseen</source>
+        <translation>Este documento vai à impressora como está, sem visualização</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>There is no document to print: open one, or drop it here.</source>
+        <translation>Não há documento para imprimir: abra um ou solte-o aqui.</translation>
     </message>
 </context>
 <context>
@@ -751,10 +1084,6 @@
         <translation>Ampliar</translation>
     </message>
     <message>
-        <source>No preview</source>
-        <translation>Sem visualização</translation>
-    </message>
-    <message>
         <source>Label %1 of %2</source>
         <translation>Etiqueta %1 de %2</translation>
     </message>
@@ -784,28 +1113,8 @@
 <context>
     <name>document</name>
     <message>
-        <source>the picture cannot be drawn: %1</source>
-        <translation>não é possível desenhar a imagem: %1</translation>
-    </message>
-    <message>
-        <source>there is no such page</source>
-        <translation>esta página não existe</translation>
-    </message>
-    <message>
-        <source>the page cannot be drawn at this size</source>
-        <translation>não é possível desenhar a página neste tamanho</translation>
-    </message>
-    <message>
-        <source>page %1 cannot be drawn</source>
-        <translation>não é possível desenhar a página %1</translation>
-    </message>
-    <message>
         <source>page %1 cannot be drawn: %2</source>
         <translation>não é possível desenhar a página %1: %2</translation>
-    </message>
-    <message>
-        <source>the page cannot be drawn: %1</source>
-        <translation>não é possível desenhar a página: %1</translation>
     </message>
 </context>
 <context>
@@ -891,24 +1200,16 @@
         <translation>%1: este documento não existe</translation>
     </message>
     <message>
-        <source>the PDF is locked with a password; save it without one</source>
-        <translation>o arquivo PDF está protegido por senha; salve-o sem senha</translation>
-    </message>
-    <message>
-        <source>the PDF has no pages</source>
-        <translation>o arquivo PDF não tem páginas</translation>
-    </message>
-    <message>
         <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
         <translation>intervalo de páginas “%1”: o documento não tem a página %2, a última é a página %3</translation>
     </message>
     <message>
-        <source>the PDF is locked against printing; ask its owner for another one</source>
-        <translation>o arquivo PDF está protegido contra impressão; peça outro ao proprietário</translation>
+        <source>%1 has no value &quot;%2&quot;: its values are %3</source>
+        <translation>%1 não tem o valor “%2”: seus valores são %3</translation>
     </message>
     <message>
-        <source>the picture is damaged; open it elsewhere and save it again</source>
-        <translation>a imagem está danificada; abra-a em outro programa e salve-a de novo</translation>
+        <source>&quot;%1&quot; does not go with labels: left out</source>
+        <translation>“%1” não combina com etiquetas: omitido</translation>
     </message>
 </context>
 </TS>

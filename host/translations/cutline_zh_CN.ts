@@ -2,6 +2,136 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>base</name>
+    <message>
+        <source>%1: cannot keep the document: %2</source>
+        <translation>%1：无法保存文档：%2</translation>
+    </message>
+</context>
+<context>
+    <name>composition</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>它是文件夹</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>它不是文件</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>它是空的</translation>
+    </message>
+    <message>
+        <source>there is no document</source>
+        <translation>没有文档</translation>
+    </message>
+    <message>
+        <source>it was stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>it is not of a kind that can be read: PDF, PostScript, PNG, JPEG, TIFF, WebP, SVG or text (UTF-8); &quot;-o raw&quot; sends it to the printer as it is</source>
+        <translation>不是可以读取的类型：PDF、PostScript、PNG、JPEG、TIFF、WebP、SVG 或文本 (UTF-8)；“-o raw”可将其原样送往打印机</translation>
+    </message>
+    <message>
+        <source>it is damaged; open it elsewhere and save it again</source>
+        <translation>已损坏；请在其他程序中打开并重新保存</translation>
+    </message>
+    <message>
+        <source>it is locked with a password; save it without one</source>
+        <translation>受密码保护；请保存为不带密码的文件</translation>
+    </message>
+    <message>
+        <source>it is locked against printing; ask its owner for another one</source>
+        <translation>禁止打印；请向其所有者索取另一个文件</translation>
+    </message>
+    <message>
+        <source>it has no pages</source>
+        <translation>没有页面</translation>
+    </message>
+    <message>
+        <source>it has too many pages; print it in smaller parts</source>
+        <translation>页面过多；请分成较小的部分打印</translation>
+    </message>
+    <message>
+        <source>it has a page of a size that no paper has; save it with another one</source>
+        <translation>有一页的尺寸是任何纸张都没有的；请用其他尺寸保存</translation>
+    </message>
+    <message>
+        <source>it needs more memory than a document may take; save it with smaller pictures, or in parts</source>
+        <translation>所需内存超过文档允许的上限；请缩小图片或分成几部分保存</translation>
+    </message>
+    <message>
+        <source>it takes too long to read; save it as a PDF elsewhere, or print it in parts</source>
+        <translation>读取时间过长；请在其他程序中保存为 PDF，或分成几部分打印</translation>
+    </message>
+    <message>
+        <source>it does not have all the pages that were chosen</source>
+        <translation>没有所选的全部页面</translation>
+    </message>
+    <message>
+        <source>what reads documents of its kind is not installed</source>
+        <translation>未安装读取此类文档的组件</translation>
+    </message>
+    <message>
+        <source>its reader failed</source>
+        <translation>其读取程序失败</translation>
+    </message>
+    <message>
+        <source>it has %1 pages, which is too many; print it in smaller parts</source>
+        <translation>有 %1 页，过多；请分成较小的部分打印</translation>
+    </message>
+    <message>
+        <source>there are pages chosen that it does not have; it has %1</source>
+        <translation>选择了不存在的页面；共有 %1 页</translation>
+    </message>
+    <message>
+        <source>it is too large: %1</source>
+        <translation>过大：%1</translation>
+    </message>
+    <message>
+        <source>what reads documents of its kind is not installed: %1</source>
+        <translation>未安装读取此类文档的组件：%1</translation>
+    </message>
+    <message>
+        <source>its reader failed: %1</source>
+        <translation>其读取程序失败：%1</translation>
+    </message>
+    <message>
+        <source>cannot read the document &quot;%1&quot;: %2</source>
+        <translation>无法读取文档“%1”：%2</translation>
+    </message>
+    <message>
+        <source>cannot read one of the documents %1: %2</source>
+        <translation>无法读取文档 %1 中的一个：%2</translation>
+    </message>
+    <message>
+        <source>cannot start the program &quot;%1&quot;: %2</source>
+        <translation>无法启动程序“%1”：%2</translation>
+    </message>
+    <message>
+        <source>the pages cannot be drawn: %1</source>
+        <translation>无法绘制页面：%1</translation>
+    </message>
+    <message>
+        <source>there is no such page</source>
+        <translation>没有这一页</translation>
+    </message>
+    <message>
+        <source>its picture would be too large</source>
+        <translation>其图像会过大</translation>
+    </message>
+    <message>
+        <source>it takes too long</source>
+        <translation>时间过长</translation>
+    </message>
+    <message>
+        <source>page %1 cannot be drawn: %2</source>
+        <translation>无法绘制第 %1 页：%2</translation>
+    </message>
+</context>
+<context>
     <name>cups</name>
     <message>
         <source>label roll or tape is empty</source>
@@ -488,6 +618,10 @@
         <source>Cancelling...</source>
         <translation>正在取消…</translation>
     </message>
+    <message>
+        <source>Composing...</source>
+        <translation>正在排版…</translation>
+    </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
@@ -510,6 +644,168 @@
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
         <translation>%1%2。请确认打印机已就绪，然后重新打印。</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::LayoutBar</name>
+    <message>
+        <source>Layout:</source>
+        <translation>版面：</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>更改</translation>
+    </message>
+    <message>
+        <source>Change the layout</source>
+        <translation>更改版面</translation>
+    </message>
+    <message>
+        <source>Size, turn and place of the document on the label</source>
+        <translation>文档在标签上的大小、旋转和位置</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::LayoutForm</name>
+    <message>
+        <source>Automatic</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>实际大小</translation>
+    </message>
+    <message>
+        <source>Fit the label</source>
+        <translation>适合标签</translation>
+    </message>
+    <message>
+        <source>Fill the label</source>
+        <translation>填满标签</translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>百分比</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>居中</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Of the paper</source>
+        <translation>按纸张</translation>
+    </message>
+    <message>
+        <source>Fixed</source>
+        <translation>固定</translation>
+    </message>
+    <message>
+        <source>Of the content</source>
+        <translation>按内容</translation>
+    </message>
+    <message>
+        <source>One a paragraph</source>
+        <translation>每段一张</translation>
+    </message>
+    <message>
+        <source>One a line</source>
+        <translation>每行一张</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Percent of the document&apos;s size</source>
+        <translation>文档大小的百分比</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>长度</translation>
+    </message>
+    <message>
+        <source>Length in millimetres</source>
+        <translation>长度（毫米）</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>标签</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>字体</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>字号</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>大小：</translation>
+    </message>
+    <message>
+        <source>Turn:</source>
+        <translation>旋转：</translation>
+    </message>
+    <message>
+        <source>Place:</source>
+        <translation>位置：</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>长度：</translation>
+    </message>
+    <message>
+        <source>Labels:</source>
+        <translation>标签：</translation>
+    </message>
+    <message>
+        <source>Font:</source>
+        <translation>字体：</translation>
+    </message>
+    <message>
+        <source>Text size:</source>
+        <translation>字号：</translation>
     </message>
 </context>
 <context>
@@ -539,13 +835,6 @@
     <message>
         <source>This printer has no panel of its own. Its options are under &quot;More printer options&quot;.</source>
         <translation>此打印机没有自己的面板。其选项位于“更多打印机选项”中。</translation>
-    </message>
-</context>
-<context>
-    <name>cutline::PlaceholderDocument</name>
-    <message>
-        <source>No preview for this kind of document; it prints as it is</source>
-        <translation>此类文档没有预览；将按原样打印</translation>
     </message>
 </context>
 <context>
@@ -657,10 +946,6 @@
         <translation>打印 %1</translation>
     </message>
     <message>
-        <source>No preview: its module is not installed</source>
-        <translation>没有预览：未安装相应模块</translation>
-    </message>
-    <message>
         <source>This document cannot be shown</source>
         <translation>无法显示此文档</translation>
     </message>
@@ -675,10 +960,6 @@
     <message>
         <source>No printer</source>
         <translation>没有打印机</translation>
-    </message>
-    <message>
-        <source>No document</source>
-        <translation>没有文档</translation>
     </message>
     <message>
         <source>Opening %1...</source>
@@ -701,12 +982,64 @@
         <translation>这是 PPD 文件，不是打印机：无法打印。</translation>
     </message>
     <message>
-        <source>There is no document to print: start with &quot;cutline FILE&quot;.</source>
-        <translation>没有要打印的文档：请用“cutline 文件”启动。</translation>
-    </message>
-    <message>
         <source>This document cannot be printed.</source>
         <translation>无法打印此文档。</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>打开(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>The document has %1 pages; they are shrunk to %2 %</source>
+        <translation>文档的页面为 %1；将缩小到 %2 %</translation>
+    </message>
+    <message>
+        <source>Fits better: %1</source>
+        <translation>更合适：%1</translation>
+    </message>
+    <message>
+        <source>Use it</source>
+        <translation>使用</translation>
+    </message>
+    <message>
+        <source>Choose this paper</source>
+        <translation>选择此纸张</translation>
+    </message>
+    <message>
+        <source>Edges will be cut off on label %1: shrink to %2 %</source>
+        <translation>标签 %1 的边缘会被裁掉：缩小到 %2 %</translation>
+    </message>
+    <message>
+        <source>Edges will be cut off on %1 labels: shrink to %2 %</source>
+        <translation>%1 张标签的边缘会被裁掉：缩小到 %2 %</translation>
+    </message>
+    <message>
+        <source>Shrink</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>Make the documents small enough</source>
+        <translation>将文档缩到足够小</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 等另外 %2 个</translation>
+    </message>
+    <message>
+        <source>Open or drop a document</source>
+        <translation>打开文档或将其拖到此处</translation>
+    </message>
+    <message>
+        <source>This document goes to the printer as it is, unseen</source>
+        <translation>此文档将原样送往打印机，不经预览</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>There is no document to print: open one, or drop it here.</source>
+        <translation>没有要打印的文档：请打开一个，或拖到此处。</translation>
     </message>
 </context>
 <context>
@@ -751,10 +1084,6 @@
         <translation>放大</translation>
     </message>
     <message>
-        <source>No preview</source>
-        <translation>没有预览</translation>
-    </message>
-    <message>
         <source>Label %1 of %2</source>
         <translation>标签 %1/%2</translation>
     </message>
@@ -784,28 +1113,8 @@
 <context>
     <name>document</name>
     <message>
-        <source>the picture cannot be drawn: %1</source>
-        <translation>无法绘制图片：%1</translation>
-    </message>
-    <message>
-        <source>there is no such page</source>
-        <translation>没有这一页</translation>
-    </message>
-    <message>
-        <source>the page cannot be drawn at this size</source>
-        <translation>无法以此大小绘制页面</translation>
-    </message>
-    <message>
-        <source>page %1 cannot be drawn</source>
-        <translation>无法绘制第 %1 页</translation>
-    </message>
-    <message>
         <source>page %1 cannot be drawn: %2</source>
         <translation>无法绘制第 %1 页：%2</translation>
-    </message>
-    <message>
-        <source>the page cannot be drawn: %1</source>
-        <translation>无法绘制页面：%1</translation>
     </message>
 </context>
 <context>
@@ -891,24 +1200,16 @@
         <translation>%1：没有这个文档</translation>
     </message>
     <message>
-        <source>the PDF is locked with a password; save it without one</source>
-        <translation>PDF 受密码保护；请保存为不带密码的文件</translation>
-    </message>
-    <message>
-        <source>the PDF has no pages</source>
-        <translation>PDF 没有页面</translation>
-    </message>
-    <message>
         <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
         <translation>页面范围“%1”：文档没有第 %2 页，最后一页是第 %3 页</translation>
     </message>
     <message>
-        <source>the PDF is locked against printing; ask its owner for another one</source>
-        <translation>PDF 禁止打印；请向其所有者索取另一个文件</translation>
+        <source>%1 has no value &quot;%2&quot;: its values are %3</source>
+        <translation>%1 没有值“%2”：可用的值为 %3</translation>
     </message>
     <message>
-        <source>the picture is damaged; open it elsewhere and save it again</source>
-        <translation>图片已损坏；请用其他程序打开并重新保存</translation>
+        <source>&quot;%1&quot; does not go with labels: left out</source>
+        <translation>“%1”不适用于标签：已省略</translation>
     </message>
 </context>
 </TS>

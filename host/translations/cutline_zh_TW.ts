@@ -2,6 +2,136 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_TW" sourcelanguage="en">
 <context>
+    <name>base</name>
+    <message>
+        <source>%1: cannot keep the document: %2</source>
+        <translation>%1：無法保存文件：%2</translation>
+    </message>
+</context>
+<context>
+    <name>composition</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>它是資料夾</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>它不是檔案</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>它是空的</translation>
+    </message>
+    <message>
+        <source>there is no document</source>
+        <translation>沒有文件</translation>
+    </message>
+    <message>
+        <source>it was stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>it is not of a kind that can be read: PDF, PostScript, PNG, JPEG, TIFF, WebP, SVG or text (UTF-8); &quot;-o raw&quot; sends it to the printer as it is</source>
+        <translation>不是可以讀取的類型：PDF、PostScript、PNG、JPEG、TIFF、WebP、SVG 或文字 (UTF-8)；「-o raw」可將其原樣送往印表機</translation>
+    </message>
+    <message>
+        <source>it is damaged; open it elsewhere and save it again</source>
+        <translation>已損壞；請在其他程式中開啟並重新儲存</translation>
+    </message>
+    <message>
+        <source>it is locked with a password; save it without one</source>
+        <translation>受密碼保護；請另存為不含密碼的檔案</translation>
+    </message>
+    <message>
+        <source>it is locked against printing; ask its owner for another one</source>
+        <translation>禁止列印；請向其擁有者索取另一個檔案</translation>
+    </message>
+    <message>
+        <source>it has no pages</source>
+        <translation>沒有頁面</translation>
+    </message>
+    <message>
+        <source>it has too many pages; print it in smaller parts</source>
+        <translation>頁面過多；請分成較小的部分列印</translation>
+    </message>
+    <message>
+        <source>it has a page of a size that no paper has; save it with another one</source>
+        <translation>有一頁的尺寸是任何紙張都沒有的；請用其他尺寸儲存</translation>
+    </message>
+    <message>
+        <source>it needs more memory than a document may take; save it with smaller pictures, or in parts</source>
+        <translation>所需記憶體超過文件允許的上限；請縮小圖片或分成幾部分儲存</translation>
+    </message>
+    <message>
+        <source>it takes too long to read; save it as a PDF elsewhere, or print it in parts</source>
+        <translation>讀取時間過長；請在其他程式中儲存為 PDF，或分成幾部分列印</translation>
+    </message>
+    <message>
+        <source>it does not have all the pages that were chosen</source>
+        <translation>沒有所選的全部頁面</translation>
+    </message>
+    <message>
+        <source>what reads documents of its kind is not installed</source>
+        <translation>未安裝讀取此類文件的元件</translation>
+    </message>
+    <message>
+        <source>its reader failed</source>
+        <translation>其讀取程式失敗</translation>
+    </message>
+    <message>
+        <source>it has %1 pages, which is too many; print it in smaller parts</source>
+        <translation>有 %1 頁，過多；請分成較小的部分列印</translation>
+    </message>
+    <message>
+        <source>there are pages chosen that it does not have; it has %1</source>
+        <translation>選擇了不存在的頁面；共有 %1 頁</translation>
+    </message>
+    <message>
+        <source>it is too large: %1</source>
+        <translation>過大：%1</translation>
+    </message>
+    <message>
+        <source>what reads documents of its kind is not installed: %1</source>
+        <translation>未安裝讀取此類文件的元件：%1</translation>
+    </message>
+    <message>
+        <source>its reader failed: %1</source>
+        <translation>其讀取程式失敗：%1</translation>
+    </message>
+    <message>
+        <source>cannot read the document &quot;%1&quot;: %2</source>
+        <translation>無法讀取文件「%1」：%2</translation>
+    </message>
+    <message>
+        <source>cannot read one of the documents %1: %2</source>
+        <translation>無法讀取文件 %1 其中之一：%2</translation>
+    </message>
+    <message>
+        <source>cannot start the program &quot;%1&quot;: %2</source>
+        <translation>無法啟動程式「%1」：%2</translation>
+    </message>
+    <message>
+        <source>the pages cannot be drawn: %1</source>
+        <translation>無法繪製頁面：%1</translation>
+    </message>
+    <message>
+        <source>there is no such page</source>
+        <translation>沒有這一頁</translation>
+    </message>
+    <message>
+        <source>its picture would be too large</source>
+        <translation>其影像會過大</translation>
+    </message>
+    <message>
+        <source>it takes too long</source>
+        <translation>時間過長</translation>
+    </message>
+    <message>
+        <source>page %1 cannot be drawn: %2</source>
+        <translation>無法繪製第 %1 頁：%2</translation>
+    </message>
+</context>
+<context>
     <name>cups</name>
     <message>
         <source>label roll or tape is empty</source>
@@ -488,6 +618,10 @@
         <source>Cancelling...</source>
         <translation>正在取消…</translation>
     </message>
+    <message>
+        <source>Composing...</source>
+        <translation>正在排版…</translation>
+    </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
@@ -510,6 +644,168 @@
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
         <translation>%1%2。請確認印表機已就緒，然後重新列印。</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::LayoutBar</name>
+    <message>
+        <source>Layout:</source>
+        <translation>版面：</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>變更</translation>
+    </message>
+    <message>
+        <source>Change the layout</source>
+        <translation>變更版面</translation>
+    </message>
+    <message>
+        <source>Size, turn and place of the document on the label</source>
+        <translation>文件在標籤上的大小、旋轉和位置</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::LayoutForm</name>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>實際大小</translation>
+    </message>
+    <message>
+        <source>Fit the label</source>
+        <translation>符合標籤</translation>
+    </message>
+    <message>
+        <source>Fill the label</source>
+        <translation>填滿標籤</translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>百分比</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>置中</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Of the paper</source>
+        <translation>依紙張</translation>
+    </message>
+    <message>
+        <source>Fixed</source>
+        <translation>固定</translation>
+    </message>
+    <message>
+        <source>Of the content</source>
+        <translation>依內容</translation>
+    </message>
+    <message>
+        <source>One a paragraph</source>
+        <translation>每段一張</translation>
+    </message>
+    <message>
+        <source>One a line</source>
+        <translation>每行一張</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Percent of the document&apos;s size</source>
+        <translation>文件大小的百分比</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>旋轉</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>長度</translation>
+    </message>
+    <message>
+        <source>Length in millimetres</source>
+        <translation>長度（公釐）</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>標籤</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>字型</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>字級</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>大小：</translation>
+    </message>
+    <message>
+        <source>Turn:</source>
+        <translation>旋轉：</translation>
+    </message>
+    <message>
+        <source>Place:</source>
+        <translation>位置：</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>長度：</translation>
+    </message>
+    <message>
+        <source>Labels:</source>
+        <translation>標籤：</translation>
+    </message>
+    <message>
+        <source>Font:</source>
+        <translation>字型：</translation>
+    </message>
+    <message>
+        <source>Text size:</source>
+        <translation>字級：</translation>
     </message>
 </context>
 <context>
@@ -539,13 +835,6 @@
     <message>
         <source>This printer has no panel of its own. Its options are under &quot;More printer options&quot;.</source>
         <translation>此印表機沒有自己的面板。其選項位於「更多印表機選項」中。</translation>
-    </message>
-</context>
-<context>
-    <name>cutline::PlaceholderDocument</name>
-    <message>
-        <source>No preview for this kind of document; it prints as it is</source>
-        <translation>此類文件沒有預覽；會依原樣列印</translation>
     </message>
 </context>
 <context>
@@ -657,10 +946,6 @@
         <translation>列印 %1</translation>
     </message>
     <message>
-        <source>No preview: its module is not installed</source>
-        <translation>沒有預覽：未安裝相關模組</translation>
-    </message>
-    <message>
         <source>This document cannot be shown</source>
         <translation>無法顯示此文件</translation>
     </message>
@@ -675,10 +960,6 @@
     <message>
         <source>No printer</source>
         <translation>沒有印表機</translation>
-    </message>
-    <message>
-        <source>No document</source>
-        <translation>沒有文件</translation>
     </message>
     <message>
         <source>Opening %1...</source>
@@ -701,12 +982,64 @@
         <translation>這是 PPD 檔案，不是印表機：無法列印。</translation>
     </message>
     <message>
-        <source>There is no document to print: start with &quot;cutline FILE&quot;.</source>
-        <translation>沒有要列印的文件：請用「cutline 檔案」啟動。</translation>
-    </message>
-    <message>
         <source>This document cannot be printed.</source>
         <translation>無法列印此文件。</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>開啟(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>The document has %1 pages; they are shrunk to %2 %</source>
+        <translation>文件的頁面為 %1；將縮小到 %2 %</translation>
+    </message>
+    <message>
+        <source>Fits better: %1</source>
+        <translation>更合適：%1</translation>
+    </message>
+    <message>
+        <source>Use it</source>
+        <translation>使用</translation>
+    </message>
+    <message>
+        <source>Choose this paper</source>
+        <translation>選擇此紙張</translation>
+    </message>
+    <message>
+        <source>Edges will be cut off on label %1: shrink to %2 %</source>
+        <translation>標籤 %1 的邊緣會被裁掉：縮小到 %2 %</translation>
+    </message>
+    <message>
+        <source>Edges will be cut off on %1 labels: shrink to %2 %</source>
+        <translation>%1 張標籤的邊緣會被裁掉：縮小到 %2 %</translation>
+    </message>
+    <message>
+        <source>Shrink</source>
+        <translation>縮小</translation>
+    </message>
+    <message>
+        <source>Make the documents small enough</source>
+        <translation>將文件縮到足夠小</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 與另外 %2 個</translation>
+    </message>
+    <message>
+        <source>Open or drop a document</source>
+        <translation>開啟文件或將其拖曳到此處</translation>
+    </message>
+    <message>
+        <source>This document goes to the printer as it is, unseen</source>
+        <translation>此文件將原樣送往印表機，不經預覽</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開啟</translation>
+    </message>
+    <message>
+        <source>There is no document to print: open one, or drop it here.</source>
+        <translation>沒有要列印的文件：請開啟一個，或拖曳到此處。</translation>
     </message>
 </context>
 <context>
@@ -751,10 +1084,6 @@
         <translation>放大</translation>
     </message>
     <message>
-        <source>No preview</source>
-        <translation>沒有預覽</translation>
-    </message>
-    <message>
         <source>Label %1 of %2</source>
         <translation>標籤 %1/%2</translation>
     </message>
@@ -784,28 +1113,8 @@
 <context>
     <name>document</name>
     <message>
-        <source>the picture cannot be drawn: %1</source>
-        <translation>無法繪製圖片：%1</translation>
-    </message>
-    <message>
-        <source>there is no such page</source>
-        <translation>沒有這一頁</translation>
-    </message>
-    <message>
-        <source>the page cannot be drawn at this size</source>
-        <translation>無法以此大小繪製頁面</translation>
-    </message>
-    <message>
-        <source>page %1 cannot be drawn</source>
-        <translation>無法繪製第 %1 頁</translation>
-    </message>
-    <message>
         <source>page %1 cannot be drawn: %2</source>
         <translation>無法繪製第 %1 頁：%2</translation>
-    </message>
-    <message>
-        <source>the page cannot be drawn: %1</source>
-        <translation>無法繪製頁面：%1</translation>
     </message>
 </context>
 <context>
@@ -891,24 +1200,16 @@
         <translation>%1：沒有這個文件</translation>
     </message>
     <message>
-        <source>the PDF is locked with a password; save it without one</source>
-        <translation>PDF 受密碼保護；請另存為不含密碼的檔案</translation>
-    </message>
-    <message>
-        <source>the PDF has no pages</source>
-        <translation>PDF 沒有頁面</translation>
-    </message>
-    <message>
         <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
         <translation>頁面範圍「%1」：文件沒有第 %2 頁，最後一頁是第 %3 頁</translation>
     </message>
     <message>
-        <source>the PDF is locked against printing; ask its owner for another one</source>
-        <translation>PDF 禁止列印；請向其擁有者索取另一個檔案</translation>
+        <source>%1 has no value &quot;%2&quot;: its values are %3</source>
+        <translation>%1 沒有值「%2」：可用的值為 %3</translation>
     </message>
     <message>
-        <source>the picture is damaged; open it elsewhere and save it again</source>
-        <translation>圖片已損壞；請用其他程式開啟並重新儲存</translation>
+        <source>&quot;%1&quot; does not go with labels: left out</source>
+        <translation>「%1」不適用於標籤：已省略</translation>
     </message>
 </context>
 </TS>

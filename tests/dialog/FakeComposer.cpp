@@ -10,9 +10,9 @@ std::string composedText(const CompositionRequest& request) { return "%PDF\n" + 
 
 DocumentTools FakeComposer::tools() {
   return {
-      [self = shared_from_this()](const std::vector<std::string>&,
+      [self = shared_from_this()](const std::vector<std::string>& paths,
                                   const CompositionRequest& request, const std::stop_token& stop) {
-        return self->compose(request, stop);
+        return self->compose(paths, request, stop);
       },
       [self = shared_from_this()](const ComposedDocument& composed) {
         const std::scoped_lock lock(self->mMutex);
@@ -25,6 +25,11 @@ void FakeComposer::setPages(int pages, const PageSize& size, double scale) {
   const std::scoped_lock lock(mMutex);
   mPages = pages;
   mPage = {size, scale, 0};
+}
+
+void FakeComposer::setPartial() {
+  const std::scoped_lock lock(mMutex);
+  mIsPartial = true;
 }
 
 void FakeComposer::setBleed(double points) {
@@ -47,15 +52,30 @@ void FakeComposer::hold() {
   mIsHeld = true;
 }
 
+void FakeComposer::holdRest() {
+  const std::scoped_lock lock(mMutex);
+  mIsRestHeld = true;
+}
+
 void FakeComposer::letGo() {
   const std::scoped_lock lock(mMutex);
-  mIsHeld = false;
+  mIsHeld = mIsRestHeld = false;
   mLetGo.notify_all();
 }
 
 std::vector<CompositionRequest> FakeComposer::requests() {
   const std::scoped_lock lock(mMutex);
   return mRequests;
+}
+
+std::vector<std::string> FakeComposer::paths() {
+  const std::scoped_lock lock(mMutex);
+  return mPaths;
+}
+
+int FakeComposer::answered() {
+  const std::scoped_lock lock(mMutex);
+  return mAnswered;
 }
 
 int FakeComposer::stopped() {
@@ -72,19 +92,25 @@ CompositionReport FakeComposer::reportFor(const CompositionRequest& request) con
   }
   report.documentPages = mPages;
   const int most = request.pages.most;
-  report.pages.assign(static_cast<std::size_t>(most > 0 ? std::min(most, mPages) : mPages), mPage);
+  report.isPartial = mIsPartial && most > 0;
+  report.pages.assign(static_cast<std::size_t>(most > 0 ? std::min(most, mPages) : mPages),
+                      {mPage.size, mPage.scale, request.label.upright});
   return report;
 }
 
-Result<ComposedDocument> FakeComposer::compose(const CompositionRequest& request,
+Result<ComposedDocument> FakeComposer::compose(const std::vector<std::string>& paths,
+                                               const CompositionRequest& request,
                                                const std::stop_token& stop) {
   std::unique_lock lock(mMutex);
   mRequests.push_back(request);
-  if (!mLetGo.wait(lock, stop, [this] { return !mIsHeld; })) {
+  mPaths = paths;
+  const bool isRest = request.pages.most == 0;
+  if (!mLetGo.wait(lock, stop, [&] { return !mIsHeld && !(isRest && mIsRestHeld); })) {
     ++mStopped;
     return Error{"stopped"};
   }
-  if (mFailure) return Error{*mFailure};
+  ++mAnswered;
+  if (!mFailure.empty()) return Error{mFailure};
   Result<TemporaryFile> file = TemporaryFile::make();
   if (!file) return file.error();
   const std::string text = composedText(request);

@@ -12,6 +12,7 @@
 
 #include "host/dialog/DialogLanguage.h"
 #include "host/dialog/JobRunner.h"
+#include "host/dialog/LayoutForm.h"
 #include "host/dialog/NoticeView.h"
 #include "host/dialog/PresetBar.h"
 #include "platform/lib/Languages.h"
@@ -20,6 +21,7 @@
 #include "tests/dialog/languages.h"
 #include "tests/dialog/window_checks.h"
 #include "tests/support/TemporaryBundle.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace cutline {
 
@@ -91,6 +93,36 @@ TEST_P(LanguagesTest, TheDialogIsUsableOnEachKindOfPrinter) {
 TEST_P(LanguagesTest, TheDialogIsUsableWithMoreOptions) {
   openQueue(samplePpd("tape-a"));
   showMoreOptions();
+  expectUsable(dialog());
+}
+
+TEST_P(LanguagesTest, TheLayoutFormIsUsable) {
+  const test::TemporaryFolder folder;
+  setPaths({folder.write("notes.txt", "one\n\ntwo\n")});
+  openQueue(samplePpd("tape-a"));
+  click(dialog().findChild<LayoutBar*>()->findChild<QPushButton*>());
+  JobLayout layout;
+  layout.placing.scaling = Scaling::percent;
+  model().setJobLayout(layout);
+  QTest::qWait(20);
+  expectUsable(dialog());
+  for (const QComboBox* list : dialog().findChild<LayoutForm*>()->findChildren<QComboBox*>())
+    expectWholeEntry(*list);
+  EXPECT_LE(dialog().minimumSizeHint().width(), kSmallScreen.width());
+  EXPECT_LE(dialog().minimumSizeHint().height(), 720);
+}
+
+TEST_P(LanguagesTest, NoticesOfLabelsAreUsable) {
+  composer().setPages(1, {283.46, 68.03}, 0.5);
+  composer().setBleed(3);
+  openQueue(samplePpd("tape-a"));
+  ASSERT_EQ(dialog().findChild<NoticeView*>()->findChildren<QPushButton*>().size(), 2);
+  expectUsable(dialog());
+}
+
+TEST_P(LanguagesTest, TheDialogWithoutADocumentIsUsable) {
+  setPaths({});
+  openQueue(samplePpd("tape-a"));
   expectUsable(dialog());
 }
 
@@ -171,7 +203,7 @@ TEST_P(LanguagesTest, DeletingAPresetIsUsable) {
 TEST_P(LanguagesTest, TheDialogsOwnWordsAreInTheLanguage) {
   openQueue(samplePpd("tape-a"));
   const bool isEnglish = std::string(std::get<0>(GetParam())) == "en";
-  for (const char* words : {"No document", "Printer's own settings", "Printing"}) {
+  for (const char* words : {"Open or drop a document", "Printer's own settings", "Printing"}) {
     const QStringList said = {PrintDialog::tr(words), PresetBar::tr(words),
                               QCoreApplication::translate("cups", words)};
     EXPECT_EQ(said.count(QLatin1String(words)) == said.size(), isEnglish) << words;

@@ -12,6 +12,7 @@
 #include "tests/dialog/FakeDocument.h"
 #include "tests/dialog/FontSize.h"
 #include "tests/dialog/window_checks.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace cutline {
 
@@ -57,6 +58,25 @@ TEST_P(LookTest, NoTextIsCutOffWithMoreOptionsAndNotices) {
   dialog().resize(kSmallScreen);
   QTest::qWait(20);
   expectNothingCutOff(dialog());
+}
+
+TEST_P(LookTest, TheLayoutFormFitsAndIsWhole) {
+  const test::TemporaryFolder folder;
+  setPaths({folder.write("notes.txt", "one\n\ntwo\n")});
+  for (const char* name : {"tape-a", "roll"}) {
+    openQueue(samplePpd(name));
+    click(named<QPushButton>("Change the layout"));
+    JobLayout layout;
+    layout.placing.scaling = Scaling::percent;
+    model().setJobLayout(layout);
+    QTest::qWait(20);
+    EXPECT_LE(dialog().minimumSizeHint().width(), kSmallScreen.width()) << name;
+    EXPECT_LE(dialog().minimumSizeHint().height(), 720) << name;
+    dialog().resize(dialog().minimumSizeHint());
+    QTest::qWait(20);
+    expectNothingCutOff(dialog());
+    closeDialog();
+  }
 }
 
 TEST_P(LookTest, ThePreviewTakesTheSpaceThatIsLeft) {

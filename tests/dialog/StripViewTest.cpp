@@ -126,6 +126,64 @@ TEST_F(StripViewTest, SkippedPagesAreDimmed) {
   EXPECT_EQ(leftmost(Qt::red), -1);
 }
 
+TEST_F(StripViewTest, PagesOutsideTheSetAreDimmed) {
+  drawHalves(0);
+  mStrip.setSelection({{}, PageSet::odd});
+  EXPECT_GE(leftmost(Qt::red), 0);
+  mStrip.setSelection({{}, PageSet::even});
+  EXPECT_EQ(leftmost(Qt::red), -1);
+}
+
+TEST_F(StripViewTest, PicturesOfWhatIsNoMoreAskedForAreDimmed) {
+  drawHalves(0);
+  mStrip.setDimmed(true);
+  EXPECT_EQ(leftmost(Qt::red), -1);
+  mStrip.setDimmed(false);
+  EXPECT_GE(leftmost(Qt::red), 0);
+}
+
+// A picture in the wanted scale is shown as it is: no pixel is mixed with its neighbour.
+TEST_F(StripViewTest, APictureLiesPixelUponPixel) {
+  const QSizeF seen = sizeAsSeen(tape()) * scale();
+  QImage image(seen.toSize(), QImage::Format_ARGB32_Premultiplied);
+  for (int x = 0; x < image.width(); ++x) {
+    for (int y = 0; y < image.height(); ++y)
+      image.setPixel(x, y, (x + y) % 2 == 0 ? 0xffff0000 : 0xff0000ff);
+  }
+  mStrip.showPage(0, scale(), image);
+  const QImage picture = grabbed();
+  const QPoint corner(leftmost(Qt::red) + 20, 100);
+  for (int x = 0; x < 40; ++x) {
+    for (int y = 0; y < 30; ++y) {
+      const QColor pixel = picture.pixelColor(corner + QPoint(x, y));
+      EXPECT_TRUE(isNear(pixel, Qt::red) || isNear(pixel, Qt::blue)) << x << ' ' << y;
+    }
+  }
+}
+
+TEST_F(StripViewTest, OldPicturesStayUntilThereAreNewOnes) {
+  drawHalves(0);
+  mStrip.setLabels(tape(), 12);
+  EXPECT_GE(leftmost(Qt::red), 0);
+  EXPECT_EQ(mWanted.front().page, 0);
+}
+
+TEST_F(StripViewTest, PicturesOfAnotherLabelGo) {
+  drawHalves(0);
+  LabelPage longer = tape();
+  longer.length += 20;
+  mStrip.setLabels(longer, 12);
+  EXPECT_EQ(leftmost(Qt::red), -1);
+}
+
+TEST_F(StripViewTest, TheCurrentPageStaysWhereItIs) {
+  mStrip.setCurrentPage(7);
+  mStrip.setLabels(tape(), 12);
+  EXPECT_EQ(mStrip.currentPage(), 7);
+  mStrip.setLabels(tape(), 3);
+  EXPECT_EQ(mStrip.currentPage(), 2);
+}
+
 TEST_F(StripViewTest, WithoutADocumentAnEmptyLabelIsShown) {
   mStrip.setLabels(tape(), 0);
   EXPECT_EQ(mStrip.pageCount(), 0);
