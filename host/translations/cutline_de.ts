@@ -318,10 +318,6 @@
         <translation>der Drucker „%1“ hat keine gespeicherten Einstellungen „%2“: %3</translation>
     </message>
     <message>
-        <source>settings that are all the print server&apos;s own defaults cannot be saved as &quot;%1&quot;: choose one that differs</source>
-        <translation>Einstellungen, die alle den Vorgaben des Druckservers entsprechen, können nicht als „%1“ gespeichert werden: wählen Sie eine andere Einstellung</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is a printer, not saved settings</source>
         <translation>„%1“ ist ein Drucker, keine gespeicherte Einstellung</translation>
     </message>
@@ -548,6 +544,78 @@
     <message>
         <source>it is not a file</source>
         <translation>das ist keine Datei</translation>
+    </message>
+    <message>
+        <source>no printer &quot;%1&quot;</source>
+        <translation>kein Drucker „%1“</translation>
+    </message>
+    <message>
+        <source>no default printer</source>
+        <translation>kein Standarddrucker</translation>
+    </message>
+    <message>
+        <source>the paper &quot;%1&quot; has measures that no paper has</source>
+        <translation>das Papier „%1“ hat Maße, die kein Papier hat</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>sie ist größer als %1 MB</translation>
+    </message>
+    <message>
+        <source>it is damaged or not whole</source>
+        <translation>sie ist beschädigt oder unvollständig</translation>
+    </message>
+    <message>
+        <source>no PPD of &quot;%1&quot;</source>
+        <translation>keine PPD-Datei von „%1“</translation>
+    </message>
+    <message>
+        <source>cannot use %1: it has %2 %3, and at most %4 can be used</source>
+        <translation>%1 kann nicht verwendet werden: sie hat %2 %3, höchstens %4 sind verwendbar</translation>
+    </message>
+    <message>
+        <source>cannot use %1: the parameter %2 of its custom page size is no measure</source>
+        <translation>%1 kann nicht verwendet werden: der Parameter %2 ihres eigenen Seitenformats ist kein Maß</translation>
+    </message>
+    <message>
+        <source>cannot use %1: its default paper &quot;%2&quot; has measures that no paper has</source>
+        <translation>%1 kann nicht verwendet werden: ihr Standardpapier „%2“ hat Maße, die kein Papier hat</translation>
+    </message>
+    <message>
+        <source>the document &quot;%1&quot; did not reach &quot;%2&quot; whole: print it again</source>
+        <translation>das Dokument „%1“ ist nicht vollständig bei „%2“ angekommen: drucken Sie es noch einmal</translation>
+    </message>
+    <message>
+        <source>the settings &quot;%1&quot; cannot be saved: they have %2 characters, and at most %3 can be saved</source>
+        <translation>die Einstellungen „%1“ können nicht gespeichert werden: sie haben %2 Zeichen, höchstens %3 sind möglich</translation>
+    </message>
+    <message>
+        <source>the print server at &quot;%1&quot; does not answer: try again later, start it anew or name another with -h</source>
+        <translation>der Druckserver auf „%1“ antwortet nicht: versuchen Sie es später, starten Sie ihn neu, oder geben Sie mit -h einen anderen an</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 from the print server at &quot;%2&quot; is larger than %3 MB</source>
+        <translation>%1 vom Druckserver auf „%2“ ist größer als %3 MB</translation>
+    </message>
+    <message>
+        <source>%1 did not arrive whole</source>
+        <translation>%1 ist nicht vollständig angekommen</translation>
+    </message>
+    <message>
+        <source>%1 did not arrive whole from the print server at &quot;%2&quot;: try again</source>
+        <translation>%1 ist vom Druckserver auf „%2“ nicht vollständig angekommen: versuchen Sie es noch einmal</translation>
+    </message>
+    <message>
+        <source>another program keeps it locked; try again</source>
+        <translation>ein anderes Programm hält sie gesperrt; versuchen Sie es noch einmal</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>sie ist zu groß</translation>
     </message>
 </context>
 <context>

@@ -318,10 +318,6 @@
         <translation>la impresora «%1» no tiene ajustes guardados «%2»: %3</translation>
     </message>
     <message>
-        <source>settings that are all the print server&apos;s own defaults cannot be saved as &quot;%1&quot;: choose one that differs</source>
-        <translation>no se pueden guardar como «%1» ajustes que son todos los predeterminados del servidor de impresión: elija uno distinto</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is a printer, not saved settings</source>
         <translation>«%1» es una impresora, no unos ajustes guardados</translation>
     </message>
@@ -548,6 +544,78 @@
     <message>
         <source>it is not a file</source>
         <translation>no es un archivo</translation>
+    </message>
+    <message>
+        <source>no printer &quot;%1&quot;</source>
+        <translation>ninguna impresora «%1»</translation>
+    </message>
+    <message>
+        <source>no default printer</source>
+        <translation>ninguna impresora predeterminada</translation>
+    </message>
+    <message>
+        <source>the paper &quot;%1&quot; has measures that no paper has</source>
+        <translation>el papel «%1» tiene medidas que ningún papel tiene</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>tiene más de %1 MB</translation>
+    </message>
+    <message>
+        <source>it is damaged or not whole</source>
+        <translation>está dañado o incompleto</translation>
+    </message>
+    <message>
+        <source>no PPD of &quot;%1&quot;</source>
+        <translation>ningún PPD de «%1»</translation>
+    </message>
+    <message>
+        <source>cannot use %1: it has %2 %3, and at most %4 can be used</source>
+        <translation>no se puede usar %1: tiene %2 %3 y como máximo se pueden usar %4</translation>
+    </message>
+    <message>
+        <source>cannot use %1: the parameter %2 of its custom page size is no measure</source>
+        <translation>no se puede usar %1: el parámetro %2 de su tamaño personalizado no es una medida</translation>
+    </message>
+    <message>
+        <source>cannot use %1: its default paper &quot;%2&quot; has measures that no paper has</source>
+        <translation>no se puede usar %1: su papel predeterminado «%2» tiene medidas que ningún papel tiene</translation>
+    </message>
+    <message>
+        <source>the document &quot;%1&quot; did not reach &quot;%2&quot; whole: print it again</source>
+        <translation>el documento «%1» no llegó entero a «%2»: imprímalo de nuevo</translation>
+    </message>
+    <message>
+        <source>the settings &quot;%1&quot; cannot be saved: they have %2 characters, and at most %3 can be saved</source>
+        <translation>no se pueden guardar los ajustes «%1»: tienen %2 caracteres y como máximo se pueden guardar %3</translation>
+    </message>
+    <message>
+        <source>the print server at &quot;%1&quot; does not answer: try again later, start it anew or name another with -h</source>
+        <translation>el servidor de impresión en «%1» no responde: inténtelo más tarde, reinícielo o indique otro con -h</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 from the print server at &quot;%2&quot; is larger than %3 MB</source>
+        <translation>%1 del servidor de impresión en «%2» tiene más de %3 MB</translation>
+    </message>
+    <message>
+        <source>%1 did not arrive whole</source>
+        <translation>%1 no llegó entero</translation>
+    </message>
+    <message>
+        <source>%1 did not arrive whole from the print server at &quot;%2&quot;: try again</source>
+        <translation>%1 no llegó entero del servidor de impresión en «%2»: inténtelo de nuevo</translation>
+    </message>
+    <message>
+        <source>another program keeps it locked; try again</source>
+        <translation>otro programa lo mantiene bloqueado; inténtelo de nuevo</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>es demasiado grande</translation>
     </message>
 </context>
 <context>

@@ -318,10 +318,6 @@
         <translation>l’imprimante « %1 » n’a pas de réglages enregistrés « %2 » : %3</translation>
     </message>
     <message>
-        <source>settings that are all the print server&apos;s own defaults cannot be saved as &quot;%1&quot;: choose one that differs</source>
-        <translation>des réglages tous égaux à ceux du serveur d’impression ne peuvent pas être enregistrés sous « %1 » : changez-en un</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is a printer, not saved settings</source>
         <translation>« %1 » est une imprimante, pas un réglage enregistré</translation>
     </message>
@@ -548,6 +544,78 @@
     <message>
         <source>it is not a file</source>
         <translation>ce n’est pas un fichier</translation>
+    </message>
+    <message>
+        <source>no printer &quot;%1&quot;</source>
+        <translation>pas d’imprimante « %1 »</translation>
+    </message>
+    <message>
+        <source>no default printer</source>
+        <translation>pas d’imprimante par défaut</translation>
+    </message>
+    <message>
+        <source>the paper &quot;%1&quot; has measures that no paper has</source>
+        <translation>le papier « %1 » a des dimensions qu’aucun papier n’a</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>il dépasse %1 Mo</translation>
+    </message>
+    <message>
+        <source>it is damaged or not whole</source>
+        <translation>il est endommagé ou incomplet</translation>
+    </message>
+    <message>
+        <source>no PPD of &quot;%1&quot;</source>
+        <translation>pas de fichier PPD de « %1 »</translation>
+    </message>
+    <message>
+        <source>cannot use %1: it has %2 %3, and at most %4 can be used</source>
+        <translation>impossible d’utiliser %1 : il a %2 %3, et %4 au plus sont utilisables</translation>
+    </message>
+    <message>
+        <source>cannot use %1: the parameter %2 of its custom page size is no measure</source>
+        <translation>impossible d’utiliser %1 : le paramètre %2 de son format personnalisé n’est pas une mesure</translation>
+    </message>
+    <message>
+        <source>cannot use %1: its default paper &quot;%2&quot; has measures that no paper has</source>
+        <translation>impossible d’utiliser %1 : son papier par défaut « %2 » a des dimensions qu’aucun papier n’a</translation>
+    </message>
+    <message>
+        <source>the document &quot;%1&quot; did not reach &quot;%2&quot; whole: print it again</source>
+        <translation>le document « %1 » n’est pas arrivé entier à « %2 » : imprimez-le à nouveau</translation>
+    </message>
+    <message>
+        <source>the settings &quot;%1&quot; cannot be saved: they have %2 characters, and at most %3 can be saved</source>
+        <translation>impossible d’enregistrer les réglages « %1 » : ils ont %2 caractères, et %3 au plus peuvent être enregistrés</translation>
+    </message>
+    <message>
+        <source>the print server at &quot;%1&quot; does not answer: try again later, start it anew or name another with -h</source>
+        <translation>le serveur d’impression à « %1 » ne répond pas : réessayez plus tard, redémarrez-le ou indiquez-en un autre avec -h</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 from the print server at &quot;%2&quot; is larger than %3 MB</source>
+        <translation>%1 du serveur d’impression à « %2 » dépasse %3 Mo</translation>
+    </message>
+    <message>
+        <source>%1 did not arrive whole</source>
+        <translation>%1 n’est pas arrivé entier</translation>
+    </message>
+    <message>
+        <source>%1 did not arrive whole from the print server at &quot;%2&quot;: try again</source>
+        <translation>%1 n’est pas arrivé entier du serveur d’impression à « %2 » : réessayez</translation>
+    </message>
+    <message>
+        <source>another program keeps it locked; try again</source>
+        <translation>un autre programme le garde verrouillé ; réessayez</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>il est trop grand</translation>
     </message>
 </context>
 <context>

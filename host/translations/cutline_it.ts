@@ -318,10 +318,6 @@
         <translation>la stampante «%1» non ha impostazioni salvate «%2»: %3</translation>
     </message>
     <message>
-        <source>settings that are all the print server&apos;s own defaults cannot be saved as &quot;%1&quot;: choose one that differs</source>
-        <translation>impostazioni tutte uguali a quelle del server di stampa non si possono salvare come «%1»: sceglierne una diversa</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is a printer, not saved settings</source>
         <translation>«%1» è una stampante, non impostazioni salvate</translation>
     </message>
@@ -548,6 +544,78 @@
     <message>
         <source>it is not a file</source>
         <translation>non è un file</translation>
+    </message>
+    <message>
+        <source>no printer &quot;%1&quot;</source>
+        <translation>nessuna stampante «%1»</translation>
+    </message>
+    <message>
+        <source>no default printer</source>
+        <translation>nessuna stampante predefinita</translation>
+    </message>
+    <message>
+        <source>the paper &quot;%1&quot; has measures that no paper has</source>
+        <translation>la carta «%1» ha misure che nessuna carta ha</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>supera %1 MB</translation>
+    </message>
+    <message>
+        <source>it is damaged or not whole</source>
+        <translation>è danneggiato o incompleto</translation>
+    </message>
+    <message>
+        <source>no PPD of &quot;%1&quot;</source>
+        <translation>nessun file PPD di «%1»</translation>
+    </message>
+    <message>
+        <source>cannot use %1: it has %2 %3, and at most %4 can be used</source>
+        <translation>impossibile usare %1: ha %2 %3 e se ne possono usare al massimo %4</translation>
+    </message>
+    <message>
+        <source>cannot use %1: the parameter %2 of its custom page size is no measure</source>
+        <translation>impossibile usare %1: il parametro %2 del formato personalizzato non è una misura</translation>
+    </message>
+    <message>
+        <source>cannot use %1: its default paper &quot;%2&quot; has measures that no paper has</source>
+        <translation>impossibile usare %1: la carta predefinita «%2» ha misure che nessuna carta ha</translation>
+    </message>
+    <message>
+        <source>the document &quot;%1&quot; did not reach &quot;%2&quot; whole: print it again</source>
+        <translation>il documento «%1» non è arrivato intero a «%2»: stamparlo di nuovo</translation>
+    </message>
+    <message>
+        <source>the settings &quot;%1&quot; cannot be saved: they have %2 characters, and at most %3 can be saved</source>
+        <translation>impossibile salvare le impostazioni «%1»: hanno %2 caratteri e se ne possono salvare al massimo %3</translation>
+    </message>
+    <message>
+        <source>the print server at &quot;%1&quot; does not answer: try again later, start it anew or name another with -h</source>
+        <translation>il server di stampa su «%1» non risponde: riprovare più tardi, riavviarlo o indicarne un altro con -h</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 from the print server at &quot;%2&quot; is larger than %3 MB</source>
+        <translation>%1 dal server di stampa su «%2» supera %3 MB</translation>
+    </message>
+    <message>
+        <source>%1 did not arrive whole</source>
+        <translation>%1 non è arrivato intero</translation>
+    </message>
+    <message>
+        <source>%1 did not arrive whole from the print server at &quot;%2&quot;: try again</source>
+        <translation>%1 non è arrivato intero dal server di stampa su «%2»: riprovare</translation>
+    </message>
+    <message>
+        <source>another program keeps it locked; try again</source>
+        <translation>un altro programma lo tiene bloccato; riprovare</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>è troppo grande</translation>
     </message>
 </context>
 <context>

@@ -318,10 +318,6 @@
         <translation>プリンター「%1」に保存済みの設定「%2」はありません: %3</translation>
     </message>
     <message>
-        <source>settings that are all the print server&apos;s own defaults cannot be saved as &quot;%1&quot;: choose one that differs</source>
-        <translation>すべてプリントサーバーの既定値のままの設定は「%1」として保存できません: 異なる設定を選んでください</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is a printer, not saved settings</source>
         <translation>「%1」はプリンターで、保存済みの設定ではありません</translation>
     </message>
@@ -548,6 +544,78 @@
     <message>
         <source>it is not a file</source>
         <translation>ファイルではありません</translation>
+    </message>
+    <message>
+        <source>no printer &quot;%1&quot;</source>
+        <translation>プリンター「%1」がありません</translation>
+    </message>
+    <message>
+        <source>no default printer</source>
+        <translation>既定のプリンターがありません</translation>
+    </message>
+    <message>
+        <source>the paper &quot;%1&quot; has measures that no paper has</source>
+        <translation>用紙「%1」の寸法は用紙としてありえません</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>%1 MB を超えています</translation>
+    </message>
+    <message>
+        <source>it is damaged or not whole</source>
+        <translation>破損しているか、不完全です</translation>
+    </message>
+    <message>
+        <source>no PPD of &quot;%1&quot;</source>
+        <translation>「%1」の PPD がありません</translation>
+    </message>
+    <message>
+        <source>cannot use %1: it has %2 %3, and at most %4 can be used</source>
+        <translation>%1 を使用できません: %3 が %2 個あり、使えるのは %4 個までです</translation>
+    </message>
+    <message>
+        <source>cannot use %1: the parameter %2 of its custom page size is no measure</source>
+        <translation>%1 を使用できません: カスタムサイズのパラメーター %2 が寸法ではありません</translation>
+    </message>
+    <message>
+        <source>cannot use %1: its default paper &quot;%2&quot; has measures that no paper has</source>
+        <translation>%1 を使用できません: 既定の用紙「%2」の寸法は用紙としてありえません</translation>
+    </message>
+    <message>
+        <source>the document &quot;%1&quot; did not reach &quot;%2&quot; whole: print it again</source>
+        <translation>文書「%1」は完全には「%2」に届きませんでした: もう一度印刷してください</translation>
+    </message>
+    <message>
+        <source>the settings &quot;%1&quot; cannot be saved: they have %2 characters, and at most %3 can be saved</source>
+        <translation>設定「%1」を保存できません: %2 文字あり、保存できるのは %3 文字までです</translation>
+    </message>
+    <message>
+        <source>the print server at &quot;%1&quot; does not answer: try again later, start it anew or name another with -h</source>
+        <translation>「%1」のプリントサーバーが応答しません: 後でやり直すか、再起動するか、-h で別のサーバーを指定してください</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 from the print server at &quot;%2&quot; is larger than %3 MB</source>
+        <translation>「%2」のプリントサーバーからの %1 が %3 MB を超えています</translation>
+    </message>
+    <message>
+        <source>%1 did not arrive whole</source>
+        <translation>%1 が完全には届きませんでした</translation>
+    </message>
+    <message>
+        <source>%1 did not arrive whole from the print server at &quot;%2&quot;: try again</source>
+        <translation>「%2」のプリントサーバーから %1 が完全には届きませんでした: もう一度試してください</translation>
+    </message>
+    <message>
+        <source>another program keeps it locked; try again</source>
+        <translation>別のプログラムがロックしています。もう一度試してください</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>大きすぎます</translation>
     </message>
 </context>
 <context>

@@ -318,10 +318,6 @@
         <translation>프린터 “%1”에 저장된 설정 “%2”이(가) 없습니다: %3</translation>
     </message>
     <message>
-        <source>settings that are all the print server&apos;s own defaults cannot be saved as &quot;%1&quot;: choose one that differs</source>
-        <translation>모두 프린트 서버의 기본값인 설정은 “%1”(으)로 저장할 수 없습니다: 다른 설정을 선택하십시오</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is a printer, not saved settings</source>
         <translation>“%1”은(는) 저장된 설정이 아니라 프린터입니다</translation>
     </message>
@@ -548,6 +544,78 @@
     <message>
         <source>it is not a file</source>
         <translation>파일이 아닙니다</translation>
+    </message>
+    <message>
+        <source>no printer &quot;%1&quot;</source>
+        <translation>프린터 “%1”이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>no default printer</source>
+        <translation>기본 프린터가 없습니다</translation>
+    </message>
+    <message>
+        <source>the paper &quot;%1&quot; has measures that no paper has</source>
+        <translation>용지 “%1”의 치수는 용지로서 있을 수 없습니다</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>%1 MB보다 큽니다</translation>
+    </message>
+    <message>
+        <source>it is damaged or not whole</source>
+        <translation>손상되었거나 온전하지 않습니다</translation>
+    </message>
+    <message>
+        <source>no PPD of &quot;%1&quot;</source>
+        <translation>“%1”의 PPD가 없습니다</translation>
+    </message>
+    <message>
+        <source>cannot use %1: it has %2 %3, and at most %4 can be used</source>
+        <translation>%1을(를) 사용할 수 없습니다. %3이(가) %2개이며 최대 %4개까지 쓸 수 있습니다</translation>
+    </message>
+    <message>
+        <source>cannot use %1: the parameter %2 of its custom page size is no measure</source>
+        <translation>%1을(를) 사용할 수 없습니다. 사용자 지정 크기의 매개변수 %2이(가) 치수가 아닙니다</translation>
+    </message>
+    <message>
+        <source>cannot use %1: its default paper &quot;%2&quot; has measures that no paper has</source>
+        <translation>%1을(를) 사용할 수 없습니다. 기본 용지 “%2”의 치수는 용지로서 있을 수 없습니다</translation>
+    </message>
+    <message>
+        <source>the document &quot;%1&quot; did not reach &quot;%2&quot; whole: print it again</source>
+        <translation>문서 “%1”이(가) “%2”에 온전히 도착하지 않았습니다. 다시 인쇄하십시오</translation>
+    </message>
+    <message>
+        <source>the settings &quot;%1&quot; cannot be saved: they have %2 characters, and at most %3 can be saved</source>
+        <translation>설정 “%1”을(를) 저장할 수 없습니다. %2자이며 최대 %3자까지 저장할 수 있습니다</translation>
+    </message>
+    <message>
+        <source>the print server at &quot;%1&quot; does not answer: try again later, start it anew or name another with -h</source>
+        <translation>“%1”의 인쇄 서버가 응답하지 않습니다. 나중에 다시 시도하거나, 다시 시작하거나, -h로 다른 서버를 지정하십시오</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 from the print server at &quot;%2&quot; is larger than %3 MB</source>
+        <translation>“%2”의 인쇄 서버에서 온 %1이(가) %3 MB보다 큽니다</translation>
+    </message>
+    <message>
+        <source>%1 did not arrive whole</source>
+        <translation>%1이(가) 온전히 도착하지 않았습니다</translation>
+    </message>
+    <message>
+        <source>%1 did not arrive whole from the print server at &quot;%2&quot;: try again</source>
+        <translation>“%2”의 인쇄 서버에서 %1이(가) 온전히 도착하지 않았습니다. 다시 시도하십시오</translation>
+    </message>
+    <message>
+        <source>another program keeps it locked; try again</source>
+        <translation>다른 프로그램이 잠그고 있습니다. 다시 시도하십시오</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>너무 큽니다</translation>
     </message>
 </context>
 <context>

@@ -318,10 +318,6 @@
         <translation>de printer ‘%1’ heeft geen bewaarde instellingen ‘%2’: %3</translation>
     </message>
     <message>
-        <source>settings that are all the print server&apos;s own defaults cannot be saved as &quot;%1&quot;: choose one that differs</source>
-        <translation>instellingen die allemaal de standaardwaarden van de printserver zijn, kunnen niet als ‘%1’ worden bewaard: kies er een die afwijkt</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is a printer, not saved settings</source>
         <translation>‘%1’ is een printer, geen bewaarde instellingen</translation>
     </message>
@@ -548,6 +544,78 @@
     <message>
         <source>it is not a file</source>
         <translation>het is geen bestand</translation>
+    </message>
+    <message>
+        <source>no printer &quot;%1&quot;</source>
+        <translation>geen printer ‘%1’</translation>
+    </message>
+    <message>
+        <source>no default printer</source>
+        <translation>geen standaardprinter</translation>
+    </message>
+    <message>
+        <source>the paper &quot;%1&quot; has measures that no paper has</source>
+        <translation>het papier ‘%1’ heeft maten die geen papier heeft</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>het is groter dan %1 MB</translation>
+    </message>
+    <message>
+        <source>it is damaged or not whole</source>
+        <translation>het is beschadigd of onvolledig</translation>
+    </message>
+    <message>
+        <source>no PPD of &quot;%1&quot;</source>
+        <translation>geen PPD van ‘%1’</translation>
+    </message>
+    <message>
+        <source>cannot use %1: it has %2 %3, and at most %4 can be used</source>
+        <translation>kan %1 niet gebruiken: het heeft %2 %3, en hoogstens %4 zijn bruikbaar</translation>
+    </message>
+    <message>
+        <source>cannot use %1: the parameter %2 of its custom page size is no measure</source>
+        <translation>kan %1 niet gebruiken: de parameter %2 van het aangepaste formaat is geen maat</translation>
+    </message>
+    <message>
+        <source>cannot use %1: its default paper &quot;%2&quot; has measures that no paper has</source>
+        <translation>kan %1 niet gebruiken: het standaardpapier ‘%2’ heeft maten die geen papier heeft</translation>
+    </message>
+    <message>
+        <source>the document &quot;%1&quot; did not reach &quot;%2&quot; whole: print it again</source>
+        <translation>het document ‘%1’ is niet volledig bij ‘%2’ aangekomen: druk het opnieuw af</translation>
+    </message>
+    <message>
+        <source>the settings &quot;%1&quot; cannot be saved: they have %2 characters, and at most %3 can be saved</source>
+        <translation>kan de instellingen ‘%1’ niet opslaan: ze hebben %2 tekens, en hoogstens %3 zijn mogelijk</translation>
+    </message>
+    <message>
+        <source>the print server at &quot;%1&quot; does not answer: try again later, start it anew or name another with -h</source>
+        <translation>de printserver op ‘%1’ antwoordt niet: probeer het later opnieuw, start hem opnieuw of noem een andere met -h</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 from the print server at &quot;%2&quot; is larger than %3 MB</source>
+        <translation>%1 van de printserver op ‘%2’ is groter dan %3 MB</translation>
+    </message>
+    <message>
+        <source>%1 did not arrive whole</source>
+        <translation>%1 is niet volledig aangekomen</translation>
+    </message>
+    <message>
+        <source>%1 did not arrive whole from the print server at &quot;%2&quot;: try again</source>
+        <translation>%1 is niet volledig van de printserver op ‘%2’ aangekomen: probeer het opnieuw</translation>
+    </message>
+    <message>
+        <source>another program keeps it locked; try again</source>
+        <translation>een ander programma houdt het vergrendeld; probeer het opnieuw</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>het is te groot</translation>
     </message>
 </context>
 <context>

@@ -318,10 +318,6 @@
         <translation>a impressora “%1” não tem configurações salvas “%2”: %3</translation>
     </message>
     <message>
-        <source>settings that are all the print server&apos;s own defaults cannot be saved as &quot;%1&quot;: choose one that differs</source>
-        <translation>configurações que são todas iguais às do servidor de impressão não podem ser salvas como “%1”: escolha uma diferente</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is a printer, not saved settings</source>
         <translation>“%1” é uma impressora, não configurações salvas</translation>
     </message>
@@ -548,6 +544,78 @@
     <message>
         <source>it is not a file</source>
         <translation>não é um arquivo</translation>
+    </message>
+    <message>
+        <source>no printer &quot;%1&quot;</source>
+        <translation>nenhuma impressora “%1”</translation>
+    </message>
+    <message>
+        <source>no default printer</source>
+        <translation>nenhuma impressora padrão</translation>
+    </message>
+    <message>
+        <source>the paper &quot;%1&quot; has measures that no paper has</source>
+        <translation>o papel “%1” tem medidas que nenhum papel tem</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>tem mais de %1 MB</translation>
+    </message>
+    <message>
+        <source>it is damaged or not whole</source>
+        <translation>está danificado ou incompleto</translation>
+    </message>
+    <message>
+        <source>no PPD of &quot;%1&quot;</source>
+        <translation>nenhum PPD de “%1”</translation>
+    </message>
+    <message>
+        <source>cannot use %1: it has %2 %3, and at most %4 can be used</source>
+        <translation>não é possível usar %1: tem %2 %3, e no máximo %4 podem ser usados</translation>
+    </message>
+    <message>
+        <source>cannot use %1: the parameter %2 of its custom page size is no measure</source>
+        <translation>não é possível usar %1: o parâmetro %2 do tamanho personalizado não é uma medida</translation>
+    </message>
+    <message>
+        <source>cannot use %1: its default paper &quot;%2&quot; has measures that no paper has</source>
+        <translation>não é possível usar %1: o papel padrão “%2” tem medidas que nenhum papel tem</translation>
+    </message>
+    <message>
+        <source>the document &quot;%1&quot; did not reach &quot;%2&quot; whole: print it again</source>
+        <translation>o documento “%1” não chegou inteiro a “%2”: imprima-o novamente</translation>
+    </message>
+    <message>
+        <source>the settings &quot;%1&quot; cannot be saved: they have %2 characters, and at most %3 can be saved</source>
+        <translation>não é possível salvar as configurações “%1”: têm %2 caracteres, e no máximo %3 podem ser salvos</translation>
+    </message>
+    <message>
+        <source>the print server at &quot;%1&quot; does not answer: try again later, start it anew or name another with -h</source>
+        <translation>o servidor de impressão em “%1” não responde: tente mais tarde, reinicie-o ou indique outro com -h</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 from the print server at &quot;%2&quot; is larger than %3 MB</source>
+        <translation>%1 do servidor de impressão em “%2” tem mais de %3 MB</translation>
+    </message>
+    <message>
+        <source>%1 did not arrive whole</source>
+        <translation>%1 não chegou inteiro</translation>
+    </message>
+    <message>
+        <source>%1 did not arrive whole from the print server at &quot;%2&quot;: try again</source>
+        <translation>%1 não chegou inteiro do servidor de impressão em “%2”: tente novamente</translation>
+    </message>
+    <message>
+        <source>another program keeps it locked; try again</source>
+        <translation>outro programa o mantém bloqueado; tente novamente</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>é grande demais</translation>
     </message>
 </context>
 <context>

@@ -318,10 +318,6 @@
         <translation>打印机“%1”没有已保存的设置“%2”：%3</translation>
     </message>
     <message>
-        <source>settings that are all the print server&apos;s own defaults cannot be saved as &quot;%1&quot;: choose one that differs</source>
-        <translation>与打印服务器默认值完全相同的设置无法保存为“%1”：请更改其中一项</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is a printer, not saved settings</source>
         <translation>“%1”是打印机，不是已保存的设置</translation>
     </message>
@@ -548,6 +544,78 @@
     <message>
         <source>it is not a file</source>
         <translation>它不是文件</translation>
+    </message>
+    <message>
+        <source>no printer &quot;%1&quot;</source>
+        <translation>没有打印机“%1”</translation>
+    </message>
+    <message>
+        <source>no default printer</source>
+        <translation>没有默认打印机</translation>
+    </message>
+    <message>
+        <source>the paper &quot;%1&quot; has measures that no paper has</source>
+        <translation>纸张“%1”的尺寸是任何纸张都没有的</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>超过 %1 MB</translation>
+    </message>
+    <message>
+        <source>it is damaged or not whole</source>
+        <translation>已损坏或不完整</translation>
+    </message>
+    <message>
+        <source>no PPD of &quot;%1&quot;</source>
+        <translation>没有“%1”的 PPD</translation>
+    </message>
+    <message>
+        <source>cannot use %1: it has %2 %3, and at most %4 can be used</source>
+        <translation>无法使用 %1：它有 %2 个 %3，最多可用 %4 个</translation>
+    </message>
+    <message>
+        <source>cannot use %1: the parameter %2 of its custom page size is no measure</source>
+        <translation>无法使用 %1：其自定义尺寸的参数 %2 不是尺寸</translation>
+    </message>
+    <message>
+        <source>cannot use %1: its default paper &quot;%2&quot; has measures that no paper has</source>
+        <translation>无法使用 %1：其默认纸张“%2”的尺寸是任何纸张都没有的</translation>
+    </message>
+    <message>
+        <source>the document &quot;%1&quot; did not reach &quot;%2&quot; whole: print it again</source>
+        <translation>文档“%1”未完整送达“%2”：请重新打印</translation>
+    </message>
+    <message>
+        <source>the settings &quot;%1&quot; cannot be saved: they have %2 characters, and at most %3 can be saved</source>
+        <translation>无法保存设置“%1”：共 %2 个字符，最多可保存 %3 个</translation>
+    </message>
+    <message>
+        <source>the print server at &quot;%1&quot; does not answer: try again later, start it anew or name another with -h</source>
+        <translation>“%1”上的打印服务器没有响应：请稍后再试、重新启动它，或用 -h 指定其他服务器</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1 from the print server at &quot;%2&quot; is larger than %3 MB</source>
+        <translation>来自“%2”上打印服务器的 %1 超过 %3 MB</translation>
+    </message>
+    <message>
+        <source>%1 did not arrive whole</source>
+        <translation>%1 未完整到达</translation>
+    </message>
+    <message>
+        <source>%1 did not arrive whole from the print server at &quot;%2&quot;: try again</source>
+        <translation>%1 未从“%2”上的打印服务器完整到达：请重试</translation>
+    </message>
+    <message>
+        <source>another program keeps it locked; try again</source>
+        <translation>另一个程序将其锁定；请重试</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>过大</translation>
     </message>
 </context>
 <context>

@@ -318,10 +318,6 @@
         <translation>印表機「%1」沒有已儲存的設定「%2」：%3</translation>
     </message>
     <message>
-        <source>settings that are all the print server&apos;s own defaults cannot be saved as &quot;%1&quot;: choose one that differs</source>
-        <translation>與列印伺服器預設值完全相同的設定無法儲存為「%1」：請變更其中一項</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is a printer, not saved settings</source>
         <translation>「%1」是印表機，不是已儲存的設定</translation>
     </message>
@@ -548,6 +544,78 @@
     <message>
         <source>it is not a file</source>
         <translation>它不是檔案</translation>
+    </message>
+    <message>
+        <source>no printer &quot;%1&quot;</source>
+        <translation>沒有印表機「%1」</translation>
+    </message>
+    <message>
+        <source>no default printer</source>
+        <translation>沒有預設印表機</translation>
+    </message>
+    <message>
+        <source>the paper &quot;%1&quot; has measures that no paper has</source>
+        <translation>紙張「%1」的尺寸是任何紙張都沒有的</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>超過 %1 MB</translation>
+    </message>
+    <message>
+        <source>it is damaged or not whole</source>
+        <translation>已損壞或不完整</translation>
+    </message>
+    <message>
+        <source>no PPD of &quot;%1&quot;</source>
+        <translation>沒有「%1」的 PPD</translation>
+    </message>
+    <message>
+        <source>cannot use %1: it has %2 %3, and at most %4 can be used</source>
+        <translation>無法使用 %1：它有 %2 個 %3，最多可用 %4 個</translation>
+    </message>
+    <message>
+        <source>cannot use %1: the parameter %2 of its custom page size is no measure</source>
+        <translation>無法使用 %1：其自訂尺寸的參數 %2 不是尺寸</translation>
+    </message>
+    <message>
+        <source>cannot use %1: its default paper &quot;%2&quot; has measures that no paper has</source>
+        <translation>無法使用 %1：其預設紙張「%2」的尺寸是任何紙張都沒有的</translation>
+    </message>
+    <message>
+        <source>the document &quot;%1&quot; did not reach &quot;%2&quot; whole: print it again</source>
+        <translation>文件「%1」未完整送達「%2」：請重新列印</translation>
+    </message>
+    <message>
+        <source>the settings &quot;%1&quot; cannot be saved: they have %2 characters, and at most %3 can be saved</source>
+        <translation>無法儲存設定「%1」：共 %2 個字元，最多可儲存 %3 個</translation>
+    </message>
+    <message>
+        <source>the print server at &quot;%1&quot; does not answer: try again later, start it anew or name another with -h</source>
+        <translation>「%1」上的列印伺服器沒有回應：請稍後再試、重新啟動它，或用 -h 指定其他伺服器</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1 from the print server at &quot;%2&quot; is larger than %3 MB</source>
+        <translation>來自「%2」上列印伺服器的 %1 超過 %3 MB</translation>
+    </message>
+    <message>
+        <source>%1 did not arrive whole</source>
+        <translation>%1 未完整到達</translation>
+    </message>
+    <message>
+        <source>%1 did not arrive whole from the print server at &quot;%2&quot;: try again</source>
+        <translation>%1 未從「%2」上的列印伺服器完整到達：請重試</translation>
+    </message>
+    <message>
+        <source>another program keeps it locked; try again</source>
+        <translation>另一個程式將其鎖定；請重試</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>過大</translation>
     </message>
 </context>
 <context>
