@@ -134,7 +134,13 @@ void DocumentLoader::fail(const QString& reason) {
   drawNext();
 }
 
-void DocumentLoader::setLook(const PrinterLook& look) { mLook = look; }
+void DocumentLoader::setLook(const PrinterLook& look) {
+  if (mLook == look) return;
+  mLook = look;
+  if (!mDocument) return;
+  ++mComposition;
+  emit composed();
+}
 
 bool DocumentLoader::isIdle() const noexcept {
   return !mIsComposing && !mIsDrawing && mIsInkTold && mRequests.empty();

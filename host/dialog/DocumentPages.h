@@ -44,7 +44,7 @@ class DocumentLoader : public QObject {
   // Draws these labels next, in this order; earlier requests that were not begun are dropped. Those
   // that are not composed yet wait.
   void request(std::deque<PageRequest> requests);
-  // How pictures look from now on; those that are there stay as they are.
+  // How pictures look from now on; composed follows where there are some.
   void setLook(const PrinterLook& look);
 
   // Something is composed: the first label, at least.

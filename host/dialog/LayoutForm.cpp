@@ -78,26 +78,16 @@ void choose(QComboBox& list, int value) { list.setCurrentIndex(list.findData(val
 
 QString degrees(int count) { return QStringLiteral("%1\u00b0").arg(count); }
 
-// A control and the number that one of its entries needs.
-QWidget* inOneRow(QWidget* list, QWidget* number) {
-  auto* both = new QWidget(list->parentWidget());
-  auto* row = new QHBoxLayout(both);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->addWidget(list, 1);
-  row->addWidget(number);
-  return both;
-}
-
 }  // namespace
 
 LayoutForm::LayoutForm(QWidget* parent)
     : QWidget(parent),
       mSize(makeList(tr("Size"), &LayoutForm::reportLayout)),
       mPercent(makeNumber(tr("Percent of the document's size"), &LayoutForm::reportLayout)),
-      mTurn(makeList(tr("Turn"), &LayoutForm::reportLayout)),
-      mPlace(makeList(tr("Place"), &LayoutForm::reportLayout)),
       mLength(makeList(tr("Length"), &LayoutForm::reportLength)),
       mMillimetres(makeNumber(tr("Length in millimetres"), &LayoutForm::reportLength)),
+      mTurn(makeList(tr("Turn"), &LayoutForm::reportLayout)),
+      mPlace(makeList(tr("Place"), &LayoutForm::reportLayout)),
       mUnit(makeList(tr("Labels"), &LayoutForm::reportLayout)),
       mFont(makeList(tr("Font"), &LayoutForm::reportLayout)),
       mTextSize(makeNumber(tr("Text size"), &LayoutForm::reportLayout)) {
@@ -151,26 +141,28 @@ void LayoutForm::layOut() {
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setColumnStretch(1, 1);
   grid->setColumnStretch(3, 1);
-  const auto add = [&](int row, int column, const QString& text, QWidget* field,
-                       QWidget* whole) -> std::vector<QWidget*> {
+  const auto add = [&](int row, int column, const QString& text,
+                       QWidget* field) -> std::vector<QWidget*> {
     QLabel* const caption = makeCaption(text, field);
     grid->addWidget(caption, row, column);
-    grid->addWidget(whole, row, column + 1);
-    return {caption, whole};
+    grid->addWidget(field, row, column + 1);
+    return {caption, field};
   };
-  add(0, 0, tr("Size:"), mSize, inOneRow(mSize, mPercent));
-  add(0, 2, tr("Turn:"), mTurn, mTurn);
-  add(1, 0, tr("Place:"), mPlace, mPlace);
-  mOfLengths = add(1, 2, tr("Length:"), mLength, inOneRow(mLength, mMillimetres));
-  mOfText = add(2, 0, tr("Labels:"), mUnit, mUnit);
-  for (QWidget* each : add(2, 2, tr("Font:"), mFont, mFont)) mOfText.push_back(each);
-  for (QWidget* each : add(3, 0, tr("Text size:"), mTextSize, mTextSize)) mOfText.push_back(each);
+  add(0, 0, tr("Size:"), mSize);
+  mOfLengths = add(0, 2, tr("Length:"), mLength);
+  grid->addWidget(mPercent, 1, 1);
+  grid->addWidget(mMillimetres, 1, 3);
+  add(2, 0, tr("Turn:"), mTurn);
+  add(2, 2, tr("Place:"), mPlace);
+  mOfText = add(3, 0, tr("Labels:"), mUnit);
+  for (QWidget* each : add(3, 2, tr("Font:"), mFont)) mOfText.push_back(each);
+  for (QWidget* each : add(4, 0, tr("Text size:"), mTextSize)) mOfText.push_back(each);
 }
 
 // Only what counts now is shown.
 void LayoutForm::refresh() {
   mPercent->setVisible(chosen<Scaling>(*mSize) == Scaling::percent);
-  mMillimetres->setVisible(chosen<LengthRule>(*mLength) == LengthRule::fixed);
+  mMillimetres->setVisible(mHasLengths && chosen<LengthRule>(*mLength) == LengthRule::fixed);
   for (QWidget* each : mOfLengths) each->setVisible(mHasLengths);
   for (QWidget* each : mOfText) each->setVisible(mHasText);
   emit wordsChanged();

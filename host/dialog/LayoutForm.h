@@ -59,10 +59,10 @@ class LayoutForm : public QWidget {
   bool mHasLengths = false;
   QComboBox* mSize;
   QDoubleSpinBox* mPercent;
-  QComboBox* mTurn;
-  QComboBox* mPlace;
   QComboBox* mLength;
   QDoubleSpinBox* mMillimetres;
+  QComboBox* mTurn;
+  QComboBox* mPlace;
   QComboBox* mUnit;
   QComboBox* mFont;
   QDoubleSpinBox* mTextSize;

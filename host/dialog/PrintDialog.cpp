@@ -215,8 +215,9 @@ void PrintDialog::showPagesProblem(const Result<Done>& checked) {
 Result<Done> PrintDialog::checkPages() const {
   const Result<PageRanges> ranges = PageRanges::parse(mModel.pageRanges());
   if (!ranges) return ranges.error();
-  if (!mDocument->isOpen()) return Done{};
-  return ranges->checkWithin(mDocument->report().documentPages);
+  const CompositionReport& report = mDocument->report();
+  if (!mDocument->isOpen() || report.isPartial) return Done{};
+  return ranges->checkWithin(report.documentPages);
 }
 
 void PrintDialog::showMoreOptions(bool shown) {

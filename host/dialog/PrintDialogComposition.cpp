@@ -1,5 +1,6 @@
 // The part of PrintDialog that has to do with how documents lie on labels: shows the settings of
 // it, takes the user's, and says what could be better.
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -77,8 +78,11 @@ void PrintDialog::recompose() {
 
 void PrintDialog::takeComposition() {
   const CompositionReport report = mDocument->report();
-  mStripPane->strip().setMessage({});
-  mStripPane->strip().setLabels(report.label, report.documentPages);
+  StripView& strip = mStripPane->strip();
+  // There are more labels than the first, as before; how many the rest of the answer says.
+  const int known = report.isPartial ? strip.pageCount() : 0;
+  strip.setMessage({});
+  strip.setLabels(report.label, std::max(report.documentPages, known));
   mNotices->clear(NoticeTopic::document);
   mLayoutForm->setHasText(mDocument->hasText());
   showPagesProblem(checkPages());

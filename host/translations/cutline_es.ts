@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>Text size:</source>
-        <translation>Tamaño del texto:</translation>
+        <translation>Cuerpo:</translation>
     </message>
 </context>
 <context>

@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>Text size:</source>
-        <translation>Taille du texte :</translation>
+        <translation>Corps :</translation>
     </message>
 </context>
 <context>

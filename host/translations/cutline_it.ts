@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>Text size:</source>
-        <translation>Dimensione testo:</translation>
+        <translation>Corpo:</translation>
     </message>
 </context>
 <context>

@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>Text size:</source>
-        <translation>Tamanho do texto:</translation>
+        <translation>Corpo:</translation>
     </message>
 </context>
 <context>

@@ -60,6 +60,20 @@ TEST_F(CompositionTest, AnotherPaperIsComposedForAndShown) {
   }));
 }
 
+// Of a text only the first label is known at first.
+TEST_F(CompositionTest, TheLabelThatIsLookedAtStaysWhileATextIsComposedAnew) {
+  composer().setPartial();
+  openQueue(samplePpd("tape-a"));
+  strip().setCurrentPage(2);
+  composer().holdRest();
+  const std::size_t asked = composer().requests().size();
+  ASSERT_TRUE(model().setPaper("W24H100"));
+  ASSERT_TRUE(waitUntil([&] { return composer().requests().size() == asked + 2; }));
+  EXPECT_EQ(strip().pageCount(), 3);
+  EXPECT_EQ(strip().currentPage(), 2);
+  composer().letGo();
+}
+
 TEST_F(CompositionTest, WhatWillBeCutOffIsNamedAndSavedAtAClick) {
   composer().setPages(1, {141.73, 68.03});
   composer().setBleed(3);

@@ -211,6 +211,17 @@ TEST_F(DocumentPagesTest, AFailureIsToldAndLeavesNothing) {
   EXPECT_FALSE(mLoader.isOpen());
 }
 
+TEST_F(DocumentPagesTest, AnotherLookMakesEveryPictureOld) {
+  setDocument();
+  compose(requestFor());
+  ASSERT_TRUE(settle());
+  mNews.clear();
+  mLoader.setLook({true});
+  EXPECT_EQ(mNews, std::vector<std::string>{"composed 3"});
+  mLoader.setLook({true});
+  EXPECT_EQ(mNews.size(), 1u);
+}
+
 TEST_F(DocumentPagesTest, OnlyWhatTakesLongIsWaitedFor) {
   setDocument();
   compose(requestFor());
