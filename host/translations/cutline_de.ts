@@ -83,10 +83,6 @@
         <translation>es hat %1 Seiten, und das sind zu viele; drucken Sie es in kleineren Teilen</translation>
     </message>
     <message>
-        <source>there are pages chosen that it does not have; it has %1</source>
-        <translation>es sind Seiten gewählt, die es nicht hat; es hat %1</translation>
-    </message>
-    <message>
         <source>it is too large: %1</source>
         <translation>es ist zu groß: %1</translation>
     </message>

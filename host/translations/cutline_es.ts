@@ -83,10 +83,6 @@
         <translation>tiene %1 páginas, que son demasiadas; imprímalo en partes más pequeñas</translation>
     </message>
     <message>
-        <source>there are pages chosen that it does not have; it has %1</source>
-        <translation>se han elegido páginas que no tiene; tiene %1</translation>
-    </message>
-    <message>
         <source>it is too large: %1</source>
         <translation>es demasiado grande: %1</translation>
     </message>

@@ -83,10 +83,6 @@
         <translation>il a %1 pages, ce qui est trop ; imprimez-le en plusieurs parties</translation>
     </message>
     <message>
-        <source>there are pages chosen that it does not have; it has %1</source>
-        <translation>des pages choisies n’existent pas ; il en a %1</translation>
-    </message>
-    <message>
         <source>it is too large: %1</source>
         <translation>il est trop grand : %1</translation>
     </message>

@@ -83,10 +83,6 @@
         <translation>ha %1 pagine, che sono troppe; stamparlo in parti più piccole</translation>
     </message>
     <message>
-        <source>there are pages chosen that it does not have; it has %1</source>
-        <translation>sono state scelte pagine che non ha; ne ha %1</translation>
-    </message>
-    <message>
         <source>it is too large: %1</source>
         <translation>è troppo grande: %1</translation>
     </message>

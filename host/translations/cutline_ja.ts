@@ -83,10 +83,6 @@
         <translation>%1 ページあり、多すぎます。分けて印刷してください</translation>
     </message>
     <message>
-        <source>there are pages chosen that it does not have; it has %1</source>
-        <translation>存在しないページが選択されています。全部で %1 ページです</translation>
-    </message>
-    <message>
         <source>it is too large: %1</source>
         <translation>大きすぎます: %1</translation>
     </message>

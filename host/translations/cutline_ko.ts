@@ -83,10 +83,6 @@
         <translation>페이지가 %1개로 너무 많습니다. 나누어 인쇄하십시오</translation>
     </message>
     <message>
-        <source>there are pages chosen that it does not have; it has %1</source>
-        <translation>없는 페이지가 선택되었습니다. 전체는 %1페이지입니다</translation>
-    </message>
-    <message>
         <source>it is too large: %1</source>
         <translation>너무 큽니다: %1</translation>
     </message>

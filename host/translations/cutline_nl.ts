@@ -83,10 +83,6 @@
         <translation>het heeft %1 pagina’s en dat zijn er te veel; druk het in kleinere delen af</translation>
     </message>
     <message>
-        <source>there are pages chosen that it does not have; it has %1</source>
-        <translation>er zijn pagina’s gekozen die het niet heeft; het heeft er %1</translation>
-    </message>
-    <message>
         <source>it is too large: %1</source>
         <translation>het is te groot: %1</translation>
     </message>

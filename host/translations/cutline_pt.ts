@@ -83,10 +83,6 @@
         <translation>tem %1 páginas, o que é demais; imprima-o em partes menores</translation>
     </message>
     <message>
-        <source>there are pages chosen that it does not have; it has %1</source>
-        <translation>foram escolhidas páginas que ele não tem; ele tem %1</translation>
-    </message>
-    <message>
         <source>it is too large: %1</source>
         <translation>é grande demais: %1</translation>
     </message>

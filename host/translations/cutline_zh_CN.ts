@@ -83,10 +83,6 @@
         <translation>有 %1 页，过多；请分成较小的部分打印</translation>
     </message>
     <message>
-        <source>there are pages chosen that it does not have; it has %1</source>
-        <translation>选择了不存在的页面；共有 %1 页</translation>
-    </message>
-    <message>
         <source>it is too large: %1</source>
         <translation>过大：%1</translation>
     </message>

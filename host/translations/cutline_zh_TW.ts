@@ -83,10 +83,6 @@
         <translation>有 %1 頁，過多；請分成較小的部分列印</translation>
     </message>
     <message>
-        <source>there are pages chosen that it does not have; it has %1</source>
-        <translation>選擇了不存在的頁面；共有 %1 頁</translation>
-    </message>
-    <message>
         <source>it is too large: %1</source>
         <translation>過大：%1</translation>
     </message>
