@@ -9,7 +9,7 @@ namespace cutline::test {
 namespace {
 
 constexpr char kFolders[] =
-    "base platform bundle plain qt cups host samples bench tests docs scripts";
+    "base composition strip platform bundle plain qt cups host samples bench tests docs scripts";
 
 // Made once: the check reads it and changes nothing.
 const TreeCopy& tree() {
@@ -86,8 +86,10 @@ INSTANTIATE_TEST_SUITE_P(
                   "host/core/ may not include bundle/"},
         Forbidden{"HostInTheAdapter", "qt/extra.cpp", "\"host/core/PrintModel.h\"",
                   "qt/ may not include host/core/"},
-        Forbidden{"DialogInTheRenderer", "host/document/extra.cpp", "\"host/dialog/PrintDialog.h\"",
-                  "host/document/ may not include host/dialog/"},
+        Forbidden{"DialogInTheComposer", "composition/extra.cpp", "\"host/dialog/PrintDialog.h\"",
+                  "composition/ may not include host/dialog/"},
+        Forbidden{"PrintersInTheCutPlan", "strip/extra.cpp", "\"cups/PpdFile.h\"",
+                  "strip/ may not include cups/"},
         Forbidden{"HostInTheVirtualPrinter", "samples/printer/extra.cpp",
                   "\"host/core/PrintModel.h\"", "samples/printer/ may not include host/core/"},
         Forbidden{"TestsInTheProduct", "host/core/extra.cpp", "\"tests/support/Command.h\"",
