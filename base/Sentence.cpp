@@ -4,9 +4,14 @@
 #include <string_view>
 #include <utility>
 
+#include "base/Visible.h"
+
 namespace cutline {
 
 namespace {
+
+// Names come from files and from outside, and nobody reads more of one.
+constexpr std::size_t kLongestVerbatim = 2000;
 
 bool isPlace(std::string_view words, std::size_t at) {
   return words[at] == '%' && at + 1 < words.size() && words[at + 1] >= '1' && words[at + 1] <= '9';
@@ -14,9 +19,9 @@ bool isPlace(std::string_view words, std::size_t at) {
 
 }  // namespace
 
-Sentence::Sentence(std::string verbatim) : mVerbatim(std::move(verbatim)) {}
+Sentence::Sentence(std::string verbatim) : mVerbatim(shortened(verbatim, kLongestVerbatim)) {}
 
-Sentence::Sentence(const char* verbatim) : mVerbatim(verbatim) {}
+Sentence::Sentence(const char* verbatim) : mVerbatim(shortened(verbatim, kLongestVerbatim)) {}
 
 Sentence::Sentence(Phrase phrase, std::vector<Sentence> arguments)
     : mPhrase(phrase), mArguments(std::move(arguments)) {}

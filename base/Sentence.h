@@ -27,7 +27,8 @@ struct Phrase {
 class Sentence {
  public:
   Sentence() = default;  // says nothing
-  // The same in every language: a name, a number, another program's words.
+  // The same in every language: a name, a number, another program's words; cut where it is longer
+  // than anybody reads.
   Sentence(std::string verbatim);
   Sentence(const char* verbatim);
   // `arguments` stand in %1, %2, ...

@@ -26,24 +26,20 @@ Error cannotMake(const std::string& path) {
 
 }  // namespace
 
+// No name is left behind, however the program ends. Some file systems give none without a name;
+// there it is taken away at once.
 Result<TemporaryFile> TemporaryFile::make() {
+  constexpr mode_t kMode = 0600;
   std::string path = pattern();
-  FileDescriptor descriptor(::mkostemp(path.data(), O_CLOEXEC));
-  if (!descriptor) return cannotMake(path);
-  return TemporaryFile(std::move(path), std::move(descriptor));
-}
-
-TemporaryFile::TemporaryFile(TemporaryFile&& other) noexcept
-    : mPath(std::exchange(other.mPath, {})), mDescriptor(std::move(other.mDescriptor)) {}
-
-TemporaryFile& TemporaryFile::operator=(TemporaryFile&& other) noexcept {
-  std::swap(mPath, other.mPath);
-  std::swap(mDescriptor, other.mDescriptor);
-  return *this;
-}
-
-TemporaryFile::~TemporaryFile() {
-  if (!mPath.empty()) ::unlink(mPath.c_str());
+  const std::string folder = std::filesystem::path(path).parent_path();
+  FileDescriptor descriptor(::open(folder.c_str(), O_TMPFILE | O_RDWR | O_CLOEXEC, kMode));
+  if (!descriptor) {
+    descriptor = FileDescriptor(::mkostemp(path.data(), O_CLOEXEC));
+    if (!descriptor) return cannotMake(path);
+    ::unlink(path.c_str());
+  }
+  std::string open = "/proc/self/fd/" + std::to_string(descriptor.get());
+  return TemporaryFile(std::move(open), std::move(descriptor));
 }
 
 Result<TemporaryFolder> TemporaryFolder::make() {

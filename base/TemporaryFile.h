@@ -8,15 +8,14 @@
 
 namespace cutline {
 
-// A file that only its user may read, in the temporary directory; the owner's end removes it.
+// A file in the temporary directory that only its user may read. It has no name there, so that it
+// goes with its owner however that ends.
 class TemporaryFile {
  public:
   // An empty file. The error names the path and the system's reason.
   static Result<TemporaryFile> make();
-  TemporaryFile(TemporaryFile&& other) noexcept;
-  TemporaryFile& operator=(TemporaryFile&& other) noexcept;
-  ~TemporaryFile();
 
+  // How this process opens it anew, as long as this object lives.
   const std::string& path() const noexcept { return mPath; }
   // Open for reading and writing as long as this object lives; no program that is started gets it.
   int descriptor() const noexcept { return mDescriptor.get(); }
@@ -25,7 +24,7 @@ class TemporaryFile {
   TemporaryFile(std::string path, FileDescriptor descriptor) noexcept
       : mPath(std::move(path)), mDescriptor(std::move(descriptor)) {}
 
-  std::string mPath;  // empty for one that was moved away
+  std::string mPath;
   FileDescriptor mDescriptor;
 };
 

@@ -94,10 +94,14 @@ bool serverKeptSilent() noexcept { return tKeptSilent; }
 
 Error serverError(Sentence what) {
   if (tKeptSilent) return Sentence(Phrase("cups", "%1: %2"), {std::move(what), silence()});
+  // Where the connection breaks libcups still tells of what went well before.
+  const bool isStale = cupsLastError() <= IPP_STATUS_OK_EVENTS_COMPLETE;
   const char* reason = cupsLastErrorString();
-  const Sentence words = reason && *reason ? Sentence(reason) : Phrase("cups", "nothing");
+  if (isStale || !reason || !*reason)
+    return Sentence(Phrase("cups", "%1: the connection to the print server at \"%2\" was lost"),
+                    {std::move(what), serverText()});
   return Sentence(Phrase("cups", "%1: the print server at \"%2\" says: %3"),
-                  {std::move(what), serverText(), words});
+                  {std::move(what), serverText(), std::string(reason)});
 }
 
 }  // namespace cutline

@@ -3,6 +3,7 @@
 #include <ostream>
 
 #include "base/Lists.h"
+#include "base/Visible.h"
 #include "cups/Destinations.h"
 #include "host/core/ChoicesCommand.h"
 #include "host/core/CutRules.h"
@@ -20,7 +21,7 @@ Result<Done> showSummary(const CommandLine& line, PluginLoader& plugIns, const S
   Result<Done> opened = session.openSelected();
   if (!opened) return opened;
   for (const SummaryLine& entry : session.model().summary())
-    streams.out << entry.title << ": " << entry.value << "\n";
+    streams.out << visible(entry.title) << ": " << visible(entry.value) << "\n";
   return Done{};
 }
 
@@ -29,7 +30,7 @@ Result<Done> showOptions(const CommandLine& line, PluginLoader& plugIns, const S
   Result<Done> opened = session.openSelected();
   if (!opened) return opened;
   for (const auto& [name, value] : session.model().jobOptions())
-    streams.out << name << "=" << value << "\n";
+    streams.out << visible(name) << "=" << visible(value) << "\n";
   return Done{};
 }
 
@@ -46,11 +47,11 @@ std::string panelNames(const PrintModel& model) {
 
 void describe(const Result<PrinterChoice>& choice, HeadlessSession& session, std::ostream& out) {
   if (!choice) {
-    out << "no driver description (" << choice.error().message << ")\n";
+    out << "no driver description (" << visible(choice.error().message) << ")\n";
     return;
   }
   session.open(*choice);
-  out << familyOf(*choice->ppd) << "; panels: " << panelNames(session.model()) << "\n";
+  out << familyOf(*choice->ppd) << "; panels: " << visible(panelNames(session.model())) << "\n";
 }
 
 Result<Done> listPrinters(const CommandLine& line, PluginLoader& plugIns, const Streams& streams) {
@@ -59,7 +60,8 @@ Result<Done> listPrinters(const CommandLine& line, PluginLoader& plugIns, const 
   if (destinations->empty()) return Error{"the print server has no printers"};
   HeadlessSession session(line, plugIns, streams.notes);
   for (const Destination& destination : *destinations) {
-    streams.out << destination.name.text() << (destination.isDefault ? " (default): " : ": ");
+    streams.out << visible(destination.name.text())
+                << (destination.isDefault ? " (default): " : ": ");
     describe(selectPrinter(line.server, destination), session, streams.out);
   }
   return Done{};

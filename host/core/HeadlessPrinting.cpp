@@ -7,6 +7,7 @@
 #include <iostream>
 #include <thread>
 
+#include "base/Visible.h"
 #include "cups/DocumentFile.h"
 #include "cups/PrintJob.h"
 #include "host/core/Installation.h"
@@ -61,8 +62,8 @@ Result<Done> send(const CommandLine& line, const std::string& path, HeadlessSess
       line.server, {name, path, line.title.value_or(nameOf(line)), *options, nameOf(line)},
       [](std::uint64_t, std::uint64_t) { return true; });
   if (!job) return job.error();
-  streams.out << "request id is " << jobName(name, *job) << " (" << line.files.size() << " file(s))"
-              << std::endl;
+  streams.out << "request id is " << visible(jobName(name, *job)) << " (" << line.files.size()
+              << " file(s))" << std::endl;
   return line.waits ? follow(line, name, *job, session) : Result<Done>(Done{});
 }
 
@@ -115,7 +116,7 @@ Result<Done> keepDocument(const CommandLine& line, PluginLoader& plugIns, const 
   if (!composed) return composed.error();
   if (Result<Done> kept = keepAs(line.dryRunPath, *composed); !kept) return kept;
   for (const auto& [name, value] : session.model().jobOptions())
-    streams.out << name << "=" << value << "\n";
+    streams.out << visible(name) << "=" << visible(value) << "\n";
   return Done{};
 }
 

@@ -2,6 +2,7 @@
 
 #include <ostream>
 
+#include "base/Visible.h"
 #include "host/core/PrinterSelection.h"
 
 namespace cutline {
@@ -29,6 +30,8 @@ Result<Done> HeadlessSession::openSelected() {
 }
 
 // At once, because it may be all that is heard for a while.
-void HeadlessSession::note(const std::string& text) { mNotes << "cutline: " << text << std::endl; }
+void HeadlessSession::note(const std::string& text) {
+  mNotes << "cutline: " << visible(text) << std::endl;
+}
 
 }  // namespace cutline

@@ -2,9 +2,12 @@
 
 #include <dlfcn.h>
 
+#include <filesystem>
 #include <string_view>
 
 #include "host/core/BuildId.h"
+#include "host/core/ElfFile.h"
+#include "host/core/TrustedFile.h"
 
 namespace cutline {
 
@@ -16,9 +19,23 @@ Error damaged(const std::string& path, const std::string& reason) {
   return Error{path + ": " + reason + "; install the program again"};
 }
 
+// A module is loaded by its name, so that it finds its libraries beside it; so the folder that it
+// is in must be nobody else's, too.
+Result<Done> check(const std::string& path) {
+  const std::string folder = std::filesystem::path(path).parent_path();
+  Result<FileDescriptor> directory = openTrusted(folder, FileKind::directory);
+  if (directory) directory = belowTrustedFolders(std::move(*directory), folder);
+  if (!directory) return directory.error();
+  const Result<FileDescriptor> code = openTrusted(path, FileKind::regular);
+  if (!code) return code.error();
+  const std::string reason = reasonAgainstCode(*code);
+  return reason.empty() ? Result<Done>(Done{}) : damaged(path, reason);
+}
+
 }  // namespace
 
 Result<void*> loadModule(const std::string& path, const char* buildSymbol, const char* symbol) {
+  if (Result<Done> checked = check(path); !checked) return checked.error();
   void* module = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
   if (module == nullptr) return damaged(path, dlerror());
   const auto askBuild = reinterpret_cast<BuildFunction>(dlsym(module, buildSymbol));

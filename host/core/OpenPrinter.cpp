@@ -151,7 +151,7 @@ void OpenPrinter::chooseOptions(const OptionList& changes) {
     want(keyword, choice);
     mPanels->report(nullptr, keyword, choice);
     changesPaper |= keyword == "PageSize";
-    concernsPanels |= mPanels->declares(keyword);
+    concernsPanels |= isRuled(keyword);
   }
   if (changesPaper) return runFromPaper();
   if (concernsPanels) runFromMarks();
@@ -191,12 +191,19 @@ void OpenPrinter::panelWillChange(const PDEPluginCallback13_v400_& from, const s
 void OpenPrinter::panelDidResize() { mLayoutDidChange(); }
 
 void OpenPrinter::want(const std::string& keyword, const std::string& choice) {
-  if (mPanels->declares(keyword)) mWanted.want(keyword, choice);
+  if (isRuled(keyword)) mWanted.want(keyword, choice);
+}
+
+// The rules of tape and media hold also where the cut panel could not be loaded.
+bool OpenPrinter::isRuled(const std::string& keyword) const {
+  return mPanels->declares(keyword) || isCutKeyword(keyword);
 }
 
 void OpenPrinter::wantMarked() {
   mWanted.clear();
-  for (const std::string& keyword : mPanels->keywords()) {
+  std::set<std::string> keywords = mPanels->keywords();
+  keywords.insert(kCutKeywords.begin(), kCutKeywords.end());
+  for (const std::string& keyword : keywords) {
     const std::string marked = mChoice.ppd->markedChoice(keyword);
     if (!marked.empty()) mWanted.want(keyword, marked);
   }

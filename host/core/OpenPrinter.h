@@ -87,6 +87,7 @@ class OpenPrinter final : private PanelHostOwner {
 
   void markLayers();
   void want(const std::string& keyword, const std::string& choice);
+  bool isRuled(const std::string& keyword) const;
   void wantMarked();
   void wantChosen(PopUpButton& presets);
   void wantIfMeant(PopUpButton& presets, const std::vector<CheckBox*>& unmoved);

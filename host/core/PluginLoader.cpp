@@ -8,6 +8,7 @@
 
 #include "cups/PpdFile.h"
 #include "host/core/CutRules.h"
+#include "host/core/ElfFile.h"
 #include "host/core/TrustedFile.h"
 #include "platform/lib/DirectoryBundle.h"
 
@@ -26,6 +27,8 @@ using EntryFunction = const PrincipalClassEntry* (*)();
 Result<FileDescriptor> openCode(const std::string& bundlePath) {
   const auto path = std::filesystem::path(bundlePath);
   Result<FileDescriptor> directory = openTrusted(path.parent_path().string(), FileKind::directory);
+  if (directory)
+    directory = belowTrustedFolders(std::move(*directory), path.parent_path().string());
   std::string shown = path.parent_path().string();
   for (const std::string& name : {path.filename().string(), std::string("Contents")}) {
     if (!directory) return directory;
@@ -46,6 +49,8 @@ Result<FileDescriptor> openCode(const std::string& bundlePath) {
 // Loads the very file that was checked. The descriptor stays open for good: the dynamic loader
 // knows the library by this name, and would take another file with the same number for this one.
 Result<void*> loadCode(FileDescriptor code, const std::string& bundlePath) {
+  const std::string reason = reasonAgainstCode(code);
+  if (!reason.empty()) return Error{bundlePath + ": its code " + reason};
   const std::string name = "/proc/self/fd/" + std::to_string(code.release());
   void* library = dlopen(name.c_str(), RTLD_NOW | RTLD_LOCAL);
   if (library == nullptr) return Error{bundlePath + ": " + dlerror()};

@@ -4,9 +4,11 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <filesystem>
+#include <cerrno>
+#include <cstring>
 #include <iostream>
 
+#include "base/Visible.h"
 #include "host/core/CommandLine.h"
 #include "host/core/DialogModule.h"
 #include "host/core/HeadlessCommands.h"
@@ -22,8 +24,16 @@ namespace {
 using DialogFunction = int (*)(const DialogRequest&) noexcept;
 
 int fail(const Error& error, int status = kExitError) {
-  std::cerr << "cutline: " << error.message << std::endl;
+  std::cerr << "cutline: " << visible(error.message) << std::endl;
   return status;
+}
+
+// What was asked for has to have come out: a full disk, or a reader who went, is an error.
+int endOutput() {
+  errno = 0;
+  if (std::cout.flush()) return kExitDone;
+  const std::string reason = errno != 0 ? std::strerror(errno) : "a part of it was not taken";
+  return fail({"standard output cannot be written: " + reason});
 }
 
 int showDialog(const CommandLine& line, PluginLoader& plugIns) {
@@ -36,7 +46,7 @@ int showDialog(const CommandLine& line, PluginLoader& plugIns) {
 
 int runWithoutWindow(const CommandLine& line, PluginLoader& plugIns) {
   const Result<Done> done = runHeadlessCommand(line, plugIns, std::cout, std::cerr);
-  return done ? kExitDone : fail(done.error());
+  return done ? endOutput() : fail(done.error());
 }
 
 bool needsWindow(Command command) {
@@ -84,9 +94,9 @@ int run(CommandLine line) {
 int runProgram(int argc, const char* const* argv) {
   const Result<CommandLine> line = parseCommandLine(argc, argv);
   if (!line) return fail({line.error().message + " (see cutline --help)"}, kExitUsage);
-  if (line->command == Command::help) return std::cout << helpText(), kExitDone;
+  if (line->command == Command::help) return std::cout << helpText(), endOutput();
   if (line->command == Command::version)
-    return std::cout << "cutline " CUTLINE_VERSION "\n", kExitDone;
+    return std::cout << "cutline " CUTLINE_VERSION "\n", endOutput();
   return run(*line);
 }
 

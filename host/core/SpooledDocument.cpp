@@ -18,7 +18,7 @@ constexpr std::size_t kBlock = 65536;
 std::string systemReason() { return std::strerror(errno); }
 
 // The number of bytes copied.
-Result<std::size_t> copyAll(int from, int to, const std::string& path) {
+Result<std::size_t> copyAll(int from, int to) {
   std::array<char, kBlock> block;
   std::size_t total = 0;
   for (;;) {
@@ -27,7 +27,7 @@ Result<std::size_t> copyAll(int from, int to, const std::string& path) {
     if (count < 0) return Error{"cannot read standard input: " + systemReason()};
     if (count == 0) return total;
     if (!writeAll(to, block.data(), static_cast<std::size_t>(count)))
-      return Error{path + ": cannot keep the document: " + systemReason()};
+      return Error{"the document from standard input cannot be kept: " + systemReason()};
     total += static_cast<std::size_t>(count);
   }
 }
@@ -37,7 +37,7 @@ Result<std::size_t> copyAll(int from, int to, const std::string& path) {
 Result<std::shared_ptr<SpooledDocument>> SpooledDocument::read(int descriptor) {
   Result<TemporaryFile> file = TemporaryFile::make();
   if (!file) return file.error();
-  const Result<std::size_t> size = copyAll(descriptor, file->descriptor(), file->path());
+  const Result<std::size_t> size = copyAll(descriptor, file->descriptor());
   if (!size) return size.error();
   if (*size == 0) return Error{"standard input is empty; there is nothing to print"};
   return std::shared_ptr<SpooledDocument>(new SpooledDocument(std::move(*file)));

@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 
 namespace cutline {
 
@@ -42,6 +43,20 @@ Result<FileDescriptor> checked(FileDescriptor file, FileKind kind, const std::st
 
 Result<FileDescriptor> openTrusted(const std::string& path, FileKind kind) {
   return checked(FileDescriptor(::open(path.c_str(), openFlags(kind))), kind, path);
+}
+
+Result<FileDescriptor> belowTrustedFolders(FileDescriptor file, const std::string& path) {
+  for (std::filesystem::path above = path; above.has_relative_path();) {
+    above = above.parent_path();
+    struct stat status {};
+    if (::stat(above.c_str(), &status) != 0)
+      return Error{above.string() + ": " + std::strerror(errno)};
+    if (status.st_uid != 0 && status.st_uid != geteuid())
+      return Error{above.string() + " belongs to another user; it must belong to root or to you"};
+    if ((status.st_mode & S_IWOTH) != 0 && (status.st_mode & S_ISVTX) == 0)
+      return Error{above.string() + " can be changed by everybody; take that away (chmod o-w)"};
+  }
+  return file;
 }
 
 Result<FileDescriptor> openTrustedIn(const FileDescriptor& directory, const std::string& name,

@@ -19,4 +19,10 @@ Result<FileDescriptor> openTrusted(const std::string& path, FileKind kind);
 Result<FileDescriptor> openTrustedIn(const FileDescriptor& directory, const std::string& name,
                                      FileKind kind, const std::string& shownPath);
 
+// The same descriptor where nobody else can put another folder into the place of one above it:
+// those belong to root or the running user, and not everybody can write them, but for the sticky
+// ones, where each removes his own entries alone. A group may, as below /usr/local. `path` is an
+// absolute one without links.
+Result<FileDescriptor> belowTrustedFolders(FileDescriptor file, const std::string& path);
+
 }  // namespace cutline

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <optional>
+#include <string>
 
 #include "base/TemporaryFile.h"
 
@@ -22,18 +23,17 @@ TEST(TemporaryFile, IsPrivateAndEmpty) {
   EXPECT_TRUE(::fcntl(file->descriptor(), F_GETFD) & FD_CLOEXEC);
 }
 
-TEST(TemporaryFile, GoesWithItsOwner) {
-  std::string path;
-  {
-    Result<TemporaryFile> made = TemporaryFile::make();
-    ASSERT_TRUE(made);
-    path = made->path();
-    const TemporaryFile owner = std::move(*made);
-    EXPECT_EQ(owner.path(), path);
-    EXPECT_TRUE(std::filesystem::exists(path));
-    EXPECT_EQ(::write(owner.descriptor(), "x", 1), 1);
-  }
-  EXPECT_FALSE(std::filesystem::exists(path));
+TEST(TemporaryFile, IsOpenedAnewButHasNoNameInItsFolder) {
+  Result<TemporaryFile> made = TemporaryFile::make();
+  ASSERT_TRUE(made);
+  const TemporaryFile owner = std::move(*made);
+  ASSERT_EQ(::write(owner.descriptor(), "x", 1), 1);
+  std::string text;
+  std::ifstream(owner.path()) >> text;
+  EXPECT_EQ(text, "x");
+  struct stat facts {};
+  ASSERT_EQ(::fstat(owner.descriptor(), &facts), 0);
+  EXPECT_EQ(facts.st_nlink, 0U);
 }
 
 TEST(TemporaryFolder, GoesWithWhatIsInIt) {
@@ -68,7 +68,7 @@ class WithoutRoom : public testing::Test {
 TEST_F(WithoutRoom, UsesTheUsualFolder) {
   const Result<TemporaryFile> file = TemporaryFile::make();
   ASSERT_TRUE(file) << file.error().message;
-  EXPECT_TRUE(file->path().starts_with("/tmp/"));
+  EXPECT_TRUE(std::filesystem::read_symlink(file->path()).string().starts_with("/tmp/"));
 }
 
 }  // namespace

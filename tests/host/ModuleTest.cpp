@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "host/core/Installation.h"
 #include "host/core/Module.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace cutline {
 namespace {
@@ -20,6 +23,24 @@ TEST(Module, RefusesAnotherBuild) {
   EXPECT_EQ(address.error().message, std::string(kModule) +
                                          ": belongs to another build of the program; install the "
                                          "program again");
+}
+
+TEST(Module, RefusesAFileThatOthersCanChangeOrThatIsNotWhole) {
+  const test::TemporaryFolder folder;
+  const std::string path = folder / "Module.so";
+  std::filesystem::copy_file(kModule, path);
+  std::filesystem::permissions(path, std::filesystem::perms::group_write,
+                               std::filesystem::perm_options::add);
+  const auto open = loadModule(path, "TestModuleBuild", "TestModuleAnswer");
+  ASSERT_FALSE(open);
+  EXPECT_NE(open.error().message.find("can be changed by other users"), std::string::npos)
+      << open.error().message;
+  std::filesystem::permissions(path, std::filesystem::perms::group_write,
+                               std::filesystem::perm_options::remove);
+  std::filesystem::resize_file(path, std::filesystem::file_size(path) / 2);
+  const auto half = loadModule(path, "TestModuleBuild", "TestModuleAnswer");
+  ASSERT_FALSE(half);
+  EXPECT_EQ(half.error().message, path + ": is not whole; install the program again");
 }
 
 TEST(Module, RefusesAMissingSymbol) {

@@ -143,6 +143,32 @@ TEST_F(PluginLoaderTest, RefusesCodeThatIsNoLibrary) {
   expectRefused(bundle, "Test.plugin");
 }
 
+// Bytes that are promised and missing would end the program at their first touch.
+TEST_F(PluginLoaderTest, RefusesCodeThatIsNotWhole) {
+  const fs::path bundle = makeBundle("GoodPlugIn");
+  const auto whole = fs::file_size(code(bundle));
+  for (const std::uintmax_t size : {whole - 1, whole / 2, whole / 4, std::uintmax_t{4096}}) {
+    fs::resize_file(code(bundle), size);
+    expectRefused(bundle, "is not whole");
+  }
+  fs::resize_file(code(bundle), 32);
+  expectRefused(bundle, "is no code for this machine");
+}
+
+TEST_F(PluginLoaderTest, RefusesABundleBelowAFolderThatEverybodyCanChange) {
+  const fs::path bundle = makeBundle("GoodPlugIn");
+  const fs::path deep = mDirectory / "open/own";
+  fs::create_directories(deep);
+  fs::rename(bundle, deep / "Test.plugin");
+  fs::permissions(deep.parent_path(), fs::perms::others_write, fs::perm_options::add);
+  const auto loaded = LoadedBundle::load((deep / "Test.plugin").string());
+  ASSERT_FALSE(loaded);
+  EXPECT_EQ(loaded.error().message,
+            mDirectory / "open" + " can be changed by everybody; take that away (chmod o-w)");
+  fs::permissions(deep.parent_path(), fs::perms::sticky_bit, fs::perm_options::add);
+  EXPECT_TRUE(LoadedBundle::load((deep / "Test.plugin").string()));
+}
+
 TEST_F(PluginLoaderTest, TwoBundlesNeverTakeEachOthersCode) {
   const auto good = LoadedBundle::load(makeBundle("GoodPlugIn", "First").string());
   const auto refusing = LoadedBundle::load(makeBundle("RefusingPlugIn", "Second").string());

@@ -176,6 +176,61 @@ TEST_F(Program, AnotherDirectoryOfPanelsIsLookedAtFirst) {
   EXPECT_EQ(pairs(outcome.out)["LxHalfCut"], "OFF") << "options are sent without a panel too";
 }
 
+// The rules are the host's own, too.
+TEST_F(Program, TheRulesHoldWithoutThePanel) {
+  std::filesystem::create_directories(file("panels/CutOptions.plugin"));
+  const Outcome outcome =
+      run("--ppd tape.ppd --options --plugin-dir panels -o 'LxSpecialTape=ON LxAutoTapeCut=ON "
+          "LxHalfCut=ON LxCutMark=ON'");
+  EXPECT_EQ(outcome.status, 0);
+  auto sent = pairs(outcome.out);
+  EXPECT_EQ(sent["LxSpecialTape"], "ON");
+  for (const char* keyword : {"LxAutoTapeCut", "LxHalfCut", "LxCutMark"}) {
+    EXPECT_EQ(sent[keyword], "OFF") << keyword;
+  }
+  EXPECT_NE(outcome.err.find("because special tape is on"), std::string::npos) << outcome.err;
+}
+
+TEST_F(Program, WhatCannotBeWrittenIsAnError) {
+  for (const char* command :
+       {"--ppd tape.ppd --options", "--ppd tape.ppd --summary", "--help", "--version"}) {
+    const int status =
+        std::system(("cd " + mDirectory.path() + " && HOME=. " CUTLINE_BUILD_DIR "/bin/cutline " +
+                     command + " >/dev/full 2>err")
+                        .c_str());
+    EXPECT_EQ(WEXITSTATUS(status), 1) << command;
+    EXPECT_EQ(contents("err"),
+              "cutline: standard output cannot be written: No space left on device\n");
+  }
+}
+
+TEST_F(Program, NothingFromOutsideReachesATerminalRaw) {
+  test::TestPrinter printer = test::fullTapePrinter();
+  std::ofstream(file("odd.ppd")) << test::ppdText(printer)
+                                 << "*OpenUI *Odd/Odd: PickOne\n*DefaultOdd: A\n*Odd A/A: \"\"\n"
+                                    "*Odd B\x1b[31m/B: \"\"\n*CloseUI: *Odd\n";
+  const Outcome options = run("--ppd odd.ppd --options -o 'Odd=B\x1b[31m' -o 'job-name=a\x1b]0;x'");
+  EXPECT_EQ(options.out.find('\x1b'), std::string::npos) << options.out << options.err;
+  EXPECT_NE((options.out + options.err).find("\\x1b"), std::string::npos) << options.out;
+  const Outcome forged = run("--ppd $'x\\ncutline: printed\\x1b[2J.ppd' --options");
+  expectError(forged, 1, "x\\ncutline: printed\\x1b[2J.ppd");
+}
+
+TEST_F(Program, AKilledProgramLeavesNoDocumentBehind) {
+  const std::string temporary = file("tmp");
+  std::filesystem::create_directory(temporary);
+  for (const char* signal : {"KILL", "INT", "TERM", "HUP"}) {
+    const std::string command =
+        "cd " + mDirectory.path() + " && mkfifo pipe; (TMPDIR=" + temporary +
+        " CUPS_SERVER=/nowhere exec " CUTLINE_BUILD_DIR
+        "/bin/cutline -d tape --print <pipe 2>err) & exec 9>pipe; echo text "
+        ">&9; sleep 0.3; kill -" +
+        signal + " $!; wait $!; rm pipe";
+    std::system(("bash -c '" + command + "'").c_str());
+    EXPECT_TRUE(std::filesystem::is_empty(temporary)) << signal;
+  }
+}
+
 TEST_F(Program, APrinterWithoutCutOptionsHasNoPanelAndNoCutOptions) {
   writePpd("plain.ppd", test::TestPrinter());
   const Outcome outcome = run("--ppd plain.ppd --options");
