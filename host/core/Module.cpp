@@ -22,12 +22,12 @@ Error damaged(const std::string& path, const std::string& reason) {
 // A module is loaded by its name, so that it finds its libraries beside it; so the folder that it
 // is in must be nobody else's, too.
 Result<Done> check(const std::string& path) {
+  const Result<FileDescriptor> code = openTrusted(path, FileKind::regular);
+  if (!code) return code.error();
   const std::string folder = std::filesystem::path(path).parent_path();
   Result<FileDescriptor> directory = openTrusted(folder, FileKind::directory);
   if (directory) directory = belowTrustedFolders(std::move(*directory), folder);
   if (!directory) return directory.error();
-  const Result<FileDescriptor> code = openTrusted(path, FileKind::regular);
-  if (!code) return code.error();
   const std::string reason = reasonAgainstCode(*code);
   return reason.empty() ? Result<Done>(Done{}) : damaged(path, reason);
 }

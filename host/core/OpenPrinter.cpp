@@ -151,10 +151,11 @@ void OpenPrinter::chooseOptions(const OptionList& changes) {
     want(keyword, choice);
     mPanels->report(nullptr, keyword, choice);
     changesPaper |= keyword == "PageSize";
-    concernsPanels |= isRuled(keyword);
+    concernsPanels |= mPanels->declares(keyword);
   }
   if (changesPaper) return runFromPaper();
-  if (concernsPanels) runFromMarks();
+  if (concernsPanels) return runFromMarks();
+  markUnshown();
 }
 
 bool OpenPrinter::userDidAct(View& sender) {

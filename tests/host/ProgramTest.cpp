@@ -205,14 +205,15 @@ TEST_F(Program, WhatCannotBeWrittenIsAnError) {
 }
 
 TEST_F(Program, NothingFromOutsideReachesATerminalRaw) {
-  test::TestPrinter printer = test::fullTapePrinter();
-  std::ofstream(file("odd.ppd")) << test::ppdText(printer)
-                                 << "*OpenUI *Odd/Odd: PickOne\n*DefaultOdd: A\n*Odd A/A: \"\"\n"
-                                    "*Odd B\x1b[31m/B: \"\"\n*CloseUI: *Odd\n";
-  const Outcome options = run("--ppd odd.ppd --options -o 'Odd=B\x1b[31m' -o 'job-name=a\x1b]0;x'");
-  EXPECT_EQ(options.out.find('\x1b'), std::string::npos) << options.out << options.err;
-  EXPECT_NE((options.out + options.err).find("\\x1b"), std::string::npos) << options.out;
-  const Outcome forged = run("--ppd $'x\\ncutline: printed\\x1b[2J.ppd' --options");
+  std::string ppd = contents("tape.ppd");
+  const std::string title = "*OpenUI *LxHalfCut/";
+  ASSERT_NE(ppd.find(title), std::string::npos);
+  ppd.insert(ppd.find(title) + title.size(), "<1B>[31m");
+  std::ofstream(file("odd.ppd")) << ppd;
+  const Outcome options = run("--ppd odd.ppd --options -o 'LxSpecialTape=ON LxHalfCut=ON'");
+  EXPECT_EQ(options.err.find('\x1b'), std::string::npos) << options.err;
+  EXPECT_NE(options.err.find("\\x1b[31m"), std::string::npos) << options.err;
+  const Outcome forged = run("--ppd 'x\ncutline: printed\x1b[2J.ppd' --options");
   expectError(forged, 1, "x\\ncutline: printed\\x1b[2J.ppd");
 }
 
