@@ -4,6 +4,8 @@
 #include <ostream>
 #include <string>
 
+#include "base/Visible.h"
+
 namespace cutline {
 
 namespace {
@@ -13,15 +15,15 @@ std::string withText(const std::string& name, const std::string& text) {
 }
 
 void write(const PpdOption& option, const std::string& marked, std::ostream& out) {
-  out << withText(option.keyword, option.text) << ":\n";
+  out << visible(withText(option.keyword, option.text)) << ":\n";
   bool isListed = marked.empty();
   for (const OptionChoice& choice : option.choices) {
     const bool isMarked = choice.name == marked;
     isListed = isListed || isMarked;
-    out << (isMarked ? "* " : "  ") << withText(choice.name, choice.text) << '\n';
+    out << (isMarked ? "* " : "  ") << visible(withText(choice.name, choice.text)) << '\n';
   }
   // A value of the user's own, such as a size, is no choice of the list.
-  if (!isListed) out << "* " << marked << '\n';
+  if (!isListed) out << "* " << visible(marked) << '\n';
 }
 
 std::string valueIn(const OptionList& options, const std::string& keyword) {

@@ -2,6 +2,7 @@
 
 #include <ostream>
 
+#include "base/Visible.h"
 #include "host/core/HeadlessPrinting.h"
 #include "host/core/JobPlan.h"
 #include "strip/PlanJson.h"
@@ -23,8 +24,8 @@ Result<std::optional<int>> pagesOf(const CommandLine& line, HeadlessSession& ses
 }
 
 void writePlanWords(const CutPlan& plan, std::ostream& out) {
-  out << planSentence(plan).english() << '\n';
-  for (const Sentence& line : planLines(plan)) out << line.english() << '\n';
+  out << visible(planSentence(plan).english()) << '\n';
+  for (const Sentence& line : planLines(plan)) out << visible(line.english()) << '\n';
 }
 
 }  // namespace
