@@ -9,6 +9,7 @@
 #include "host/core/CutRules.h"
 #include "host/core/OptionTable.h"
 #include "host/dialog/DialogLanguage.h"
+#include "host/dialog/DocumentWatch.h"
 #include "host/dialog/JobForm.h"
 #include "host/dialog/JobRunner.h"
 #include "host/dialog/LayoutForm.h"
@@ -57,6 +58,7 @@ PrintDialog::PrintDialog(PrintModel& model, std::shared_ptr<PrintServer> server,
       mExitStatus(kExitCancelled),
       mServer(new ServerClient(server, this)),
       mDocument(new DocumentLoader(this)),
+      mWatch(new DocumentWatch(this)),
       mJob(new JobRunner(server, this)),
       mSettings(new QWidget(this)),
       mPrinterBar(new PrinterBar(mSettings)),

@@ -21,6 +21,7 @@ class QStackedWidget;
 
 namespace cutline {
 
+class DocumentWatch;
 class JobForm;
 class JobProgress;
 class LayoutBar;
@@ -117,6 +118,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
 
   void askForDocuments();
   void openDocuments(std::vector<std::string> paths);
+  void reloadDocument();
   void showTitle();
   void recompose();
   void takeComposition();
@@ -139,6 +141,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
 
   ServerClient* mServer;
   DocumentLoader* mDocument;
+  DocumentWatch* mWatch;
   JobRunner* mJob;
 
   QWidget* mSettings;  // everything that a running job forbids to change

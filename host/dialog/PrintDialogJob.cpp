@@ -11,6 +11,7 @@
 
 #include "host/core/CommandLine.h"
 #include "host/dialog/DialogLanguage.h"
+#include "host/dialog/DocumentWatch.h"
 #include "host/dialog/JobForm.h"
 #include "host/dialog/LayoutForm.h"
 #include "host/dialog/MoreOptionsPanel.h"
@@ -63,6 +64,7 @@ void PrintDialog::connectDocument() {
   connect(mDocument, &DocumentLoader::pageFailed, this, [this](int page, const QString& reason) {
     mNotices->setNotice(NoticeTopic::document, tr("Label %1: %2").arg(page + 1).arg(reason));
   });
+  connect(mWatch, &DocumentWatch::changed, this, &PrintDialog::reloadDocument);
   connect(mDocument, &DocumentLoader::becameIdle, this, &PrintDialog::becameSettled);
 }
 
@@ -79,6 +81,14 @@ void PrintDialog::loadDocument() {
     return;
   }
   strip.setMessage(tr("Opening %1...").arg(titleOf(mSource.paths)));
+  mWatch->watch(mSource.paths);
+  mDocument->setDocuments(mSource.paths, mSource.tools);
+  recompose();
+}
+
+// What is on its way to the printer has been read already.
+void PrintDialog::reloadDocument() {
+  if (mSource.paths.empty() || mSource.isRaw) return;
   mDocument->setDocuments(mSource.paths, mSource.tools);
   recompose();
 }
@@ -170,7 +180,8 @@ void PrintDialog::print() {
   showJobRunning(true);
   const DestinationName& name = mModel.destination().name;
   mProgress->showComposing();
-  mJob->start({name, mSource.paths.front(), mSource.title, *options}, jobComposing());
+  const std::string document = toUtf8(fileNameOf(mSource.paths.front()));
+  mJob->start({name, mSource.paths.front(), mSource.title, *options, document}, jobComposing());
 }
 
 // Nothing for a document that is sent as it is.

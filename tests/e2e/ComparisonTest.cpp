@@ -10,6 +10,7 @@
 #include "cups/CupsOptions.h"
 #include "host/core/HeadlessSession.h"
 #include "host/core/Installation.h"
+#include "host/dialog/LabelPicture.h"
 #include "tests/e2e/Program.h"
 #include "tests/support/EndToEndTest.h"
 #include "tests/support/FigureFiles.h"
@@ -71,10 +72,10 @@ std::vector<InkMap> shownLabels(const CommandLine& line) {
   for (int page = 0; page < (*drawer)->pageCount(); ++page) {
     const auto image = (*drawer)->draw(page, kDotsPerPoint);
     if (!image) throw std::runtime_error(image.error().message);
-    const InkMap paper(image->width, image->height, [&](int x, int y) {
-      return isDark(image->pixels[static_cast<std::size_t>(y) * image->width + x]);
-    });
-    labels.push_back(paper.turned(session.model().label().upright));
+    const QImage picture =
+        pictureOf(*image, kDotsPerPoint, composed->report.label, {/*isMonochrome=*/true});
+    labels.emplace_back(picture.width(), picture.height(),
+                        [&](int x, int y) { return isDark(picture.pixel(x, y)); });
   }
   return labels;
 }
@@ -199,6 +200,23 @@ TEST_P(EachPrinter, SavedDefaultsDoNotLayTheDocumentOutAgain) {
   std::string back = "lpadmin -p " + printer;
   for (const std::string& name : hostile) back += " -R " + name + "-default";
   outputOf(back);
+}
+
+// The strip on the screen is drawn the other way round, from left to right, where the printer
+// mirrors.
+TEST_P(EachPrinter, MirroredLabelsComeOutAsTheMirrorShowsThem) {
+  const std::string path = mFolder.path() + "/figure";
+  kindNamed("pdf").write(path, kWideFigure);
+  CommandLine line;
+  line.destination = DestinationName{GetParam(), std::nullopt};
+  line.files = {path};
+  line.server = server().options();
+  ASSERT_EQ(runProgram(std::string("--print -o LxMirror=ON -d ") + GetParam() + " " + path).status,
+            0);
+  const std::vector<InkMap> out = printedLabels(newJob());
+  std::vector<InkMap> mirrored;
+  for (const InkMap& label : shownLabels(line)) mirrored.push_back(label.mirrored());
+  expectSameLabels(mirrored, out);
 }
 
 TEST_F(Comparing, TapeIsAsLongAsItsContent) {

@@ -167,6 +167,13 @@ void DialogOnServer::press(const char* text) {
   click(*found);
 }
 
+bool DialogOnServer::canPrint() const {
+  const auto buttons = mDialog->findChildren<QAbstractButton*>();
+  return std::any_of(buttons.begin(), buttons.end(), [](const QAbstractButton* each) {
+    return each->text() == QLatin1String("Pr&int") && each->isEnabled();
+  });
+}
+
 void DialogOnServer::print() {
   press("Pr&int");
   ASSERT_TRUE(waitForClose());

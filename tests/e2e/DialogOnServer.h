@@ -53,6 +53,7 @@ class DialogOnServer {
   // Clicks the button that says so; "&" marks its key.
   void press(const char* text);
 
+  bool canPrint() const;
   // Clicks Print and waits until the dialog has gone.
   void print();
   bool waitForClose();

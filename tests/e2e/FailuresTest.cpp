@@ -202,8 +202,22 @@ TEST_F(Failures, ADocumentThatVanishesBeforePrintIsNamed) {
   expectUsable(dialog);
   EXPECT_TRUE(nothingNew());
   std::filesystem::copy_file(labels(), line.files.front());
+  EXPECT_TRUE(dialog.willShow(QStringLiteral("Label 1 of 12")));
+  EXPECT_TRUE(waitUntil([&] { return dialog.canPrint(); }));
   dialog.print();
   EXPECT_EQ(newJob().number("labels"), kLabels);
+}
+
+// What is printed is read when it is printed: the preview must not show what was there before.
+TEST_F(Failures, ADocumentThatIsWrittenAnewIsShownAnew) {
+  const TemporaryFolder folder;
+  CommandLine line = dialogOn("tape24");
+  line.files = {folder.path() + "/labels.pdf"};
+  std::filesystem::copy_file(labels(), line.files.front());
+  DialogOnServer dialog(line);
+  ASSERT_TRUE(dialog.willShow(QStringLiteral("Label 1 of 12")));
+  writePdf(line.files.front(), 3);
+  EXPECT_TRUE(dialog.willShow(QStringLiteral("Label 1 of 3")));
 }
 
 TEST_F(Failures, EscapePrintsNothing) {

@@ -32,6 +32,10 @@ InkMap InkMap::turned(int degrees) const {
   }
 }
 
+InkMap InkMap::mirrored() const {
+  return {mWidth, mHeight, [this](int x, int y) { return isInk(mWidth - 1 - x, y); }};
+}
+
 InkMap InkMap::shifted(int right, int down) const {
   return {mWidth, mHeight, [=, this](int x, int y) { return isInk(x - right, y - down); }};
 }

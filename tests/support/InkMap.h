@@ -18,6 +18,8 @@ class InkMap {
   int count() const;
   // Turned counter-clockwise by 0, 90, 180 or 270 degrees.
   InkMap turned(int degrees) const;
+  // Left and right exchanged.
+  InkMap mirrored() const;
   InkMap shifted(int right, int down) const;
   // The share of this one's ink that the other one has, too, at most so many dots away in each
   // direction: 1 for all of it.
