@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 
+#include "composition/PickedPages.h"
 #include "qt/accessibility.h"
 
 namespace cutline {
@@ -49,6 +50,7 @@ void StripView::setLabels(const LabelPage& label, int count) {
   mCache.setOld();
   mLabel = label;
   mPageCount = count;
+  pick();
   mCurrentPage = std::clamp(mCurrentPage, 0, std::max(0, count - 1));
   layOut();
   emit currentPageChanged(mCurrentPage);
@@ -56,14 +58,18 @@ void StripView::setLabels(const LabelPage& label, int count) {
 
 void StripView::setSelection(const PageSelection& selection) {
   mSelection = selection;
+  pick();
   viewport()->update();
 }
 
-bool StripView::isPrinted(int page) const {
-  const bool isInSet =
-      mSelection.set == PageSet::all || (mSelection.set == PageSet::odd) == (page % 2 == 0);
-  return isInSet && mSelection.ranges.contains(page);
+void StripView::pick() {
+  mIsPicked.assign(static_cast<std::size_t>(mPageCount), false);
+  for (const int page : pickedPages(mSelection, mPageCount)) {
+    mIsPicked[static_cast<std::size_t>(page)] = true;
+  }
 }
+
+bool StripView::isPrinted(int page) const { return mIsPicked[static_cast<std::size_t>(page)]; }
 
 void StripView::setMirrored(bool mirrored) {
   mIsMirrored = mirrored;

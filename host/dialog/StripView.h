@@ -6,6 +6,7 @@
 #include <QString>
 #include <deque>
 #include <optional>
+#include <vector>
 
 #include "composition/Composition.h"
 #include "host/dialog/DocumentPages.h"
@@ -72,6 +73,7 @@ class StripView : public QAbstractScrollArea {
   QPointF offset() const;
   bool stepByKey(int key);
   double drawnScale() const;
+  void pick();
   bool isPrinted(int page) const;
 
   void paintLane(QPainter& painter, const StripLayout::Lane& lane) const;
@@ -84,6 +86,7 @@ class StripView : public QAbstractScrollArea {
   std::optional<LabelPage> mLabel;
   int mPageCount = 0;
   PageSelection mSelection;
+  std::vector<bool> mIsPicked;  // of each page, whether it is printed
   bool mIsMirrored = false;
   bool mIsDimmed = false;
   QString mMessage;

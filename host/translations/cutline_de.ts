@@ -530,10 +530,6 @@
         <translation>kein Druckserver antwortet auf „%1“: starten Sie ihn, oder geben Sie mit -h einen anderen an</translation>
     </message>
     <message>
-        <source>nothing</source>
-        <translation>nichts</translation>
-    </message>
-    <message>
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
         <translation>%1: der Druckserver auf „%2“ meldet: %3</translation>
     </message>
@@ -612,6 +608,10 @@
     <message>
         <source>it is too large</source>
         <translation>sie ist zu groß</translation>
+    </message>
+    <message>
+        <source>%1: the connection to the print server at &quot;%2&quot; was lost</source>
+        <translation>%1: die Verbindung zum Druckserver auf „%2“ ist abgebrochen</translation>
     </message>
 </context>
 <context>

@@ -530,10 +530,6 @@
         <translation>ningún servidor de impresión responde en «%1»: inícielo o indique otro con -h</translation>
     </message>
     <message>
-        <source>nothing</source>
-        <translation>nada</translation>
-    </message>
-    <message>
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
         <translation>%1: el servidor de impresión «%2» dice: %3</translation>
     </message>
@@ -612,6 +608,10 @@
     <message>
         <source>it is too large</source>
         <translation>es demasiado grande</translation>
+    </message>
+    <message>
+        <source>%1: the connection to the print server at &quot;%2&quot; was lost</source>
+        <translation>%1: se perdió la conexión con el servidor de impresión en «%2»</translation>
     </message>
 </context>
 <context>

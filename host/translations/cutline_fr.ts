@@ -530,10 +530,6 @@
         <translation>aucun serveur d’impression ne répond sur « %1 » : démarrez-le ou indiquez-en un autre avec -h</translation>
     </message>
     <message>
-        <source>nothing</source>
-        <translation>rien</translation>
-    </message>
-    <message>
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
         <translation>%1 : le serveur d’impression « %2 » répond : %3</translation>
     </message>
@@ -612,6 +608,10 @@
     <message>
         <source>it is too large</source>
         <translation>il est trop grand</translation>
+    </message>
+    <message>
+        <source>%1: the connection to the print server at &quot;%2&quot; was lost</source>
+        <translation>%1 : la connexion au serveur d’impression à « %2 » a été perdue</translation>
     </message>
 </context>
 <context>

@@ -530,10 +530,6 @@
         <translation>nessun server di stampa risponde su «%1»: avviarlo oppure indicarne un altro con -h</translation>
     </message>
     <message>
-        <source>nothing</source>
-        <translation>niente</translation>
-    </message>
-    <message>
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
         <translation>%1: il server di stampa «%2» dice: %3</translation>
     </message>
@@ -612,6 +608,10 @@
     <message>
         <source>it is too large</source>
         <translation>è troppo grande</translation>
+    </message>
+    <message>
+        <source>%1: the connection to the print server at &quot;%2&quot; was lost</source>
+        <translation>%1: la connessione al server di stampa su «%2» è andata persa</translation>
     </message>
 </context>
 <context>

@@ -530,10 +530,6 @@
         <translation>「%1」のプリントサーバーが応答しません: 起動するか、-h で別のサーバーを指定してください</translation>
     </message>
     <message>
-        <source>nothing</source>
-        <translation>応答なし</translation>
-    </message>
-    <message>
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
         <translation>%1: プリントサーバー「%2」からの応答: %3</translation>
     </message>
@@ -612,6 +608,10 @@
     <message>
         <source>it is too large</source>
         <translation>大きすぎます</translation>
+    </message>
+    <message>
+        <source>%1: the connection to the print server at &quot;%2&quot; was lost</source>
+        <translation>%1: 「%2」のプリントサーバーとの接続が切れました</translation>
     </message>
 </context>
 <context>

@@ -530,10 +530,6 @@
         <translation>“%1”에서 응답하는 프린트 서버가 없습니다: 서버를 시작하거나 -h로 다른 서버를 지정하십시오</translation>
     </message>
     <message>
-        <source>nothing</source>
-        <translation>응답 없음</translation>
-    </message>
-    <message>
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
         <translation>%1: 프린트 서버 “%2”의 응답: %3</translation>
     </message>
@@ -612,6 +608,10 @@
     <message>
         <source>it is too large</source>
         <translation>너무 큽니다</translation>
+    </message>
+    <message>
+        <source>%1: the connection to the print server at &quot;%2&quot; was lost</source>
+        <translation>%1: “%2”의 인쇄 서버와 연결이 끊겼습니다</translation>
     </message>
 </context>
 <context>

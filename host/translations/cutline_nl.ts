@@ -530,10 +530,6 @@
         <translation>geen printserver antwoordt op ‘%1’: start hem of noem een andere met -h</translation>
     </message>
     <message>
-        <source>nothing</source>
-        <translation>niets</translation>
-    </message>
-    <message>
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
         <translation>%1: de printserver op ‘%2’ zegt: %3</translation>
     </message>
@@ -612,6 +608,10 @@
     <message>
         <source>it is too large</source>
         <translation>het is te groot</translation>
+    </message>
+    <message>
+        <source>%1: the connection to the print server at &quot;%2&quot; was lost</source>
+        <translation>%1: de verbinding met de printserver op ‘%2’ is verbroken</translation>
     </message>
 </context>
 <context>

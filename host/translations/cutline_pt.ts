@@ -530,10 +530,6 @@
         <translation>nenhum servidor de impressão responde em “%1”: inicie-o ou indique outro com -h</translation>
     </message>
     <message>
-        <source>nothing</source>
-        <translation>nada</translation>
-    </message>
-    <message>
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
         <translation>%1: o servidor de impressão “%2” diz: %3</translation>
     </message>
@@ -612,6 +608,10 @@
     <message>
         <source>it is too large</source>
         <translation>é grande demais</translation>
+    </message>
+    <message>
+        <source>%1: the connection to the print server at &quot;%2&quot; was lost</source>
+        <translation>%1: a conexão com o servidor de impressão em “%2” foi perdida</translation>
     </message>
 </context>
 <context>

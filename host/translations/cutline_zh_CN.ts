@@ -530,10 +530,6 @@
         <translation>“%1”上没有打印服务器响应：请启动它，或用 -h 指定另一个</translation>
     </message>
     <message>
-        <source>nothing</source>
-        <translation>无</translation>
-    </message>
-    <message>
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
         <translation>%1：打印服务器“%2”返回：%3</translation>
     </message>
@@ -612,6 +608,10 @@
     <message>
         <source>it is too large</source>
         <translation>过大</translation>
+    </message>
+    <message>
+        <source>%1: the connection to the print server at &quot;%2&quot; was lost</source>
+        <translation>%1：与“%2”上打印服务器的连接已断开</translation>
     </message>
 </context>
 <context>

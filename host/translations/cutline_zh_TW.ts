@@ -530,10 +530,6 @@
         <translation>「%1」上沒有列印伺服器回應：請啟動它，或用 -h 指定另一個</translation>
     </message>
     <message>
-        <source>nothing</source>
-        <translation>無</translation>
-    </message>
-    <message>
         <source>%1: the print server at &quot;%2&quot; says: %3</source>
         <translation>%1：列印伺服器「%2」回應：%3</translation>
     </message>
@@ -612,6 +608,10 @@
     <message>
         <source>it is too large</source>
         <translation>過大</translation>
+    </message>
+    <message>
+        <source>%1: the connection to the print server at &quot;%2&quot; was lost</source>
+        <translation>%1：與「%2」上列印伺服器的連線已中斷</translation>
     </message>
 </context>
 <context>
