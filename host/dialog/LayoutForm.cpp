@@ -211,7 +211,8 @@ void LayoutForm::listFonts() {
     mFont->addItem(tr("Automatic"), QString());
     for (const QString& family : QFontDatabase::families()) mFont->addItem(family, family);
   }
-  if (mFont->findData(wanted) < 0) mFont->addItem(wanted, wanted);
+  if (mFont->findData(wanted) < 0)
+    mFont->addItem(wanted.isEmpty() ? tr("Automatic") : wanted, wanted);
   mFont->setCurrentIndex(mFont->findData(wanted));
 }
 

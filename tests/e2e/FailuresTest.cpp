@@ -41,6 +41,7 @@ class Failures : public EndToEndTest {
   // The dialog is as it was before Print, and takes a click.
   static void expectUsable(DialogOnServer& dialog) {
     EXPECT_TRUE(dialog.dialog().isVisible());
+    EXPECT_TRUE(waitUntil([&] { return dialog.box("LxMirror")->isEnabled(); }));
     const std::string before = dialog.sent()["LxMirror"];
     click(dialog.box("LxMirror"));
     EXPECT_NE(dialog.sent()["LxMirror"], before);

@@ -117,6 +117,8 @@ TEST_P(SamplePpdTexts, NameEveryChoiceThatIsNoNumber) {
     for (const ppd_option_t* option : optionsOf(ppd.get())) {
       if (std::string_view(option->keyword) == "LxCutLabel") continue;
       for (const ppd_choice_t& choice : std::span(option->choices, option->num_choices)) {
+        // It needs a value, so no list shows it.
+        if (std::string_view(choice.choice) == "Custom") continue;
         EXPECT_TRUE(translation.says(choice.text, option->keyword, choice.choice)) << printer;
       }
     }
