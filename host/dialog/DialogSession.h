@@ -49,6 +49,7 @@ class DialogSession : public QObject {
   void open(const PrinterChoice& printer);
   void show();
   void didPaintFirst();
+  void measureDocument();
   void takeSnapshot();
   void fail(const Error& error);
   PrintSource source() const;

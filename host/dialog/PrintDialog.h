@@ -71,6 +71,8 @@ class PrintDialog : public QDialog, private PrintModelListener {
 
  signals:
   void becameSettled();
+  // The first label that the document gave is on the screen.
+  void labelShown();
 
  public slots:
   void reject() override;

@@ -57,6 +57,7 @@ void PrintDialog::connectDocument() {
   StripView& strip = mStripPane->strip();
   connect(&strip, &StripView::pagesWanted, mDocument, &DocumentLoader::request);
   connect(mDocument, &DocumentLoader::pageDrawn, &strip, &StripView::showPage);
+  connect(mDocument, &DocumentLoader::pageDrawn, this, &PrintDialog::labelShown);
   connect(mDocument, &DocumentLoader::composed, this, &PrintDialog::takeComposition);
   connect(mDocument, &DocumentLoader::waiting, &strip, &StripView::setDimmed);
   connect(mDocument, &DocumentLoader::failed, this, &PrintDialog::failComposition);
