@@ -70,7 +70,6 @@ PrintDialog::PrintDialog(PrintModel& model, std::shared_ptr<PrintServer> server,
       mNotices(new NoticeView(mSettings)),
       mPresets(new PresetKeeper(model, *mServer, *mPresetBar, *mNotices, this)),
       mStripPane(new StripPane(this)),
-      mLayoutForm(new LayoutForm(this)),
       mMoreOptions(new MoreOptionsPanel(this)),
       mMoreButton(new QPushButton(tr("&More printer options"), this)),
       mOpen(new QPushButton(tr("&Open..."), this)),
@@ -82,7 +81,6 @@ PrintDialog::PrintDialog(PrintModel& model, std::shared_ptr<PrintServer> server,
   showTitle();
   makeLayout();
   connectSettings();
-  connectLayout();
   connectDocument();
   connectServer();
   connectJob();
@@ -232,7 +230,7 @@ void PrintDialog::setMnemonics() {
   const QString reserved = mnemonicIn(NoticeView::resolveTitle());
   for (QWidget* root : std::initializer_list<QWidget*>{mPanelFrame, mLayoutBar, mLayoutForm,
                                                        mNotices, mMoreOptions}) {
-    assignMnemonics(*this, *root, reserved);
+    if (root != nullptr) assignMnemonics(*this, *root, reserved);
   }
 }
 

@@ -97,7 +97,8 @@ class PrintDialog : public QDialog, private PrintModelListener {
   void connectSettings();
   void connectDocument();
   void connectServer();
-  void connectLayout();
+  void connectLayoutForm();
+  void makeLayoutForm();
   void connectJob();
   void setTabOrders();
   void setMnemonics();
@@ -156,7 +157,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
   NoticeView* mNotices;
   PresetKeeper* mPresets;
   StripPane* mStripPane;
-  LayoutForm* mLayoutForm;
+  LayoutForm* mLayoutForm = nullptr;  // until the dialog has been painted
   MoreOptionsPanel* mMoreOptions;
   QPushButton* mMoreButton;
   QPushButton* mOpen;  // where the dialog was opened without a document

@@ -29,7 +29,7 @@ LengthRule ruleOf(const PrintModel& model) {
 
 }  // namespace
 
-void PrintDialog::connectLayout() {
+void PrintDialog::connectLayoutForm() {
   connect(mLayoutForm, &LayoutForm::layoutChosen, this,
           [this](const JobLayout& layout) { mModel.setJobLayout(layout); });
   connect(mLayoutForm, &LayoutForm::lengthChosen, this, &PrintDialog::chooseLength);
@@ -43,6 +43,7 @@ void PrintDialog::connectLayout() {
 }
 
 void PrintDialog::showLayout() {
+  if (mLayoutForm == nullptr) return;
   const LabelPage label = mModel.label();
   mLayoutForm->setLayout(mModel.jobLayout(), label);
   mLayoutForm->setLengths(mModel.customLengths(), ruleOf(mModel), label.length);

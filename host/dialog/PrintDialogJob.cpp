@@ -70,6 +70,7 @@ void PrintDialog::connectDocument() {
 }
 
 void PrintDialog::loadDocument() {
+  if (mLayoutForm == nullptr) makeLayoutForm();
   StripView& strip = mStripPane->strip();
   if (mSource.paths.empty()) {
     strip.setMessage(tr("Open or drop a document"));

@@ -79,9 +79,7 @@ QWidget* PrintDialog::makeLeftSide() {
   auto* column = new QVBoxLayout(side);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(mStripPane, kPreviewShare);
-  column->addWidget(mLayoutForm);
   column->addWidget(mMoreOptions, kMoreOptionsShare);
-  mLayoutForm->hide();
   mMoreOptions->hide();
   return side;
 }
@@ -125,8 +123,23 @@ QWidget* PrintDialog::makeButtons() {
 }
 
 void PrintDialog::setTabOrders() {
-  chainTabs({mPrinterBar, mPresetBar, mJobForm, mLayoutBar, mLayoutForm, mPanelFrame, mNotices,
-             mStripPane, mMoreOptions, mMoreButton, mOpen, mCancel, mPrint, mProgress});
+  std::vector<QWidget*> order = {mPrinterBar, mPresetBar, mJobForm,     mLayoutBar,  mPanelFrame,
+                                 mNotices,    mStripPane, mMoreOptions, mMoreButton, mOpen,
+                                 mCancel,     mPrint,     mProgress};
+  if (mLayoutForm != nullptr) order.insert(order.begin() + 4, mLayoutForm);
+  chainTabs(order);
+}
+
+// Its many lists would hold the first picture of the dialog up, and are hidden in it.
+void PrintDialog::makeLayoutForm() {
+  mLayoutForm = new LayoutForm(this);
+  mLayoutForm->hide();
+  auto* column = static_cast<QVBoxLayout*>(mStripPane->parentWidget()->layout());
+  column->insertWidget(column->indexOf(mMoreOptions), mLayoutForm);
+  connectLayoutForm();
+  if (mModel.isOpen()) showLayout();
+  setTabOrders();
+  setMnemonics();
 }
 
 }  // namespace cutline
