@@ -36,7 +36,9 @@ TEST(Visible, ALongTextIsCutBetweenCharacters) {
 
 // Ten megabytes of a name are no help to anybody.
 TEST(Visible, ASentenceCutsLongNames) {
-  const Sentence sentence(Phrase("test", "no \"%1\" here"), {std::string(10000000, 'x')});
+  std::string name;
+  name.resize(10000000, 'x');
+  const Sentence sentence(Phrase("test", "no \"%1\" here"), {name});
   EXPECT_LT(sentence.english().size(), 3000U);
   EXPECT_TRUE(sentence.english().ends_with("...\" here"));
 }
