@@ -104,6 +104,8 @@ std::chrono::duration<double, std::milli> timeOf(const std::function<void()>& wo
   return std::chrono::steady_clock::now() - start;
 }
 
+constexpr double kMilliseconds = 500;
+
 // The best of a few: others use the machine, too.
 TEST(CutPlan, OfManyLabelsIsMadeAtOnce) {
   const LabelRun run = runOf(100'000);
@@ -118,9 +120,8 @@ TEST(CutPlan, OfManyLabelsIsMadeAtOnce) {
   }
   EXPECT_EQ(events, 2U * 100'000 + 2 + 1);  // each label with a cut, the leader with one, the feed
   RecordProperty("milliseconds", std::to_string(best));
-#if defined(__OPTIMIZE__)
-  EXPECT_LT(best, 5);
-#endif
+  // A hundred times what it takes: only work that grows with the square of the labels is as slow.
+  EXPECT_LT(best, kMilliseconds);
 }
 
 }  // namespace
