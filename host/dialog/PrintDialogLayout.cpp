@@ -50,6 +50,7 @@ std::vector<QWidget*> tabsUnder(QWidget& root) {
 void chainTabs(const std::vector<QWidget*>& roots) {
   QWidget* last = nullptr;
   for (QWidget* root : roots) {
+    if (root == nullptr) continue;  // not made yet
     for (QWidget* each : tabsUnder(*root)) {
       if (last) QWidget::setTabOrder(last, each);
       last = each;
@@ -123,11 +124,8 @@ QWidget* PrintDialog::makeButtons() {
 }
 
 void PrintDialog::setTabOrders() {
-  std::vector<QWidget*> order = {mPrinterBar, mPresetBar, mJobForm,     mLayoutBar,  mPanelFrame,
-                                 mNotices,    mStripPane, mMoreOptions, mMoreButton, mOpen,
-                                 mCancel,     mPrint,     mProgress};
-  if (mLayoutForm != nullptr) order.insert(order.begin() + 4, mLayoutForm);
-  chainTabs(order);
+  chainTabs({mPrinterBar, mPresetBar, mJobForm, mLayoutBar, mLayoutForm, mPanelFrame, mNotices,
+             mStripPane, mMoreOptions, mMoreButton, mOpen, mCancel, mPrint, mProgress});
 }
 
 // Its many lists would hold the first picture of the dialog up, and are hidden in it.
