@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "strip/RunSettings.h"
+
 namespace cutline {
 
 namespace {
@@ -50,7 +52,10 @@ PieceRun::End endOf(const KnifeRules& rules) {
 
 }  // namespace
 
-CutPlan::CutPlan(const CutSettings& asked, LabelRun run) : mRules(asked), mRun(std::move(run)) {}
+CutPlan::CutPlan(const CutSettings& asked, LabelRun run)
+    : mRules(inLabels(asked, run)), mRun(std::move(run)) {}
+
+bool CutPlan::knowsCuts() const { return mRules.settings().authority == CutAuthority::Settings; }
 
 std::uint64_t CutPlan::fullCutsBetweenLabels() const {
   const unsigned perPiece = mRules.labelsPerPiece();
@@ -62,7 +67,9 @@ std::uint64_t CutPlan::halfCutsBetweenLabels() const {
   return labels() - 1 - fullCutsBetweenLabels();
 }
 
-std::uint64_t CutPlan::pieces() const { return labels() == 0 ? 0 : fullCutsBetweenLabels() + 1; }
+std::uint64_t CutPlan::pieces() const {
+  return labels() == 0 || !knowsCuts() ? 0 : fullCutsBetweenLabels() + 1;
+}
 
 std::uint64_t CutPlan::fullCuts() const {
   if (labels() == 0) return 0;
@@ -81,7 +88,7 @@ std::uint64_t CutPlan::cutMarks() const {
 }
 
 std::vector<PieceRun> CutPlan::pieceRuns() const {
-  if (labels() == 0) return {};
+  if (labels() == 0 || !knowsCuts()) return {};
   const std::uint64_t cuts = fullCutsBetweenLabels();
   const PieceRun last = {1, labels() - cuts * mRules.labelsPerPiece(), endOf(mRules)};
   if (cuts == 0) return {last};
@@ -93,6 +100,7 @@ std::vector<PieceRun> CutPlan::pieceRuns() const {
 
 std::optional<double> CutPlan::waste() const {
   if (labels() == 0) return 0;
+  if (!knowsCuts()) return std::nullopt;
   return sumOf(mRules.hasLeader(), mRules.settings().leader, mRules.feedsOut(),
                mRules.settings().feed);
 }
@@ -119,7 +127,14 @@ double CutPlan::positionOf(std::uint64_t label) const {
   return leader() + static_cast<double>(label - 1) * labelLength();
 }
 
+void CutPlan::forEachLabel(const std::function<void(const StripEvent&)>& take) const {
+  for (std::uint64_t label = 1; label <= labels(); ++label)
+    take({StripEventKind::Label, label, static_cast<double>(label - 1) * labelLength(),
+          labelLength(), false, labelsAreExact()});
+}
+
 void CutPlan::forEachEvent(const std::function<void(const StripEvent&)>& take) const {
+  if (!knowsCuts()) return forEachLabel(take);
   const std::uint64_t count = labels();
   if (count == 0) return;
   const CutSettings& settings = mRules.settings();

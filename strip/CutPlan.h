@@ -39,10 +39,14 @@ class CutPlan {
  public:
   CutPlan(const CutSettings& asked, LabelRun run);
 
+  // In labels, whatever was counted.
   const KnifeRules& rules() const { return mRules; }
   const LabelRun& run() const { return mRun; }
 
   std::uint64_t labels() const { return mRun.labels(); }
+  // False where nobody but the printer knows, or the driver has no word for it: then cuts, pieces
+  // and marks count none, and only the labels are events.
+  bool knowsCuts() const;
   // Pieces with labels on them, that in the printer included.
   std::uint64_t pieces() const;
   std::uint64_t fullCuts() const;
@@ -53,7 +57,7 @@ class CutPlan {
   std::uint64_t halfCutsBetweenLabels() const;
   std::vector<PieceRun> pieceRuns() const;
 
-  // All tape of the job in millimetres; nothing when a part of it is not known.
+  // All tape of the job in millimetres; nothing when a part of it, or what is cut, is not known.
   std::optional<double> tape() const;
   // The same, but that it may come out shorter because blank space is removed.
   std::optional<double> mostTape() const;
@@ -69,6 +73,7 @@ class CutPlan {
   double leader() const;
   double labelLength() const { return mRun.labelLength.value_or(0); }
   bool labelsAreExact() const;
+  void forEachLabel(const std::function<void(const StripEvent&)>& take) const;
 
   KnifeRules mRules;
   LabelRun mRun;

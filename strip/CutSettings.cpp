@@ -6,7 +6,8 @@ namespace cutline {
 
 CutSettings inForce(CutSettings asked) {
   asked.labelsPerCut = std::max(1U, asked.labelsPerCut);
-  if (!asked.isSpecialTape) return asked;
+  const bool isUnknown = asked.authority != CutAuthority::Settings;
+  if (!asked.isSpecialTape && !isUnknown) return asked;
   for (bool CutSettings::*of :
        {&CutSettings::cutsAutomatically, &CutSettings::cutsAtEnd, &CutSettings::halfCuts,
         &CutSettings::chains, &CutSettings::printsCutMarks})

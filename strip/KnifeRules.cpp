@@ -30,7 +30,8 @@ Cut KnifeRules::behindLabel(std::uint64_t number) const {
 
 Cut KnifeRules::atEnd() const {
   if (mSettings.chains) return Cut::None;
-  if (mSettings.cutsAutomatically || mSettings.cutsAtEnd) return Cut::Full;
+  const bool cutsLastPiece = mSettings.cutsAutomatically && mSettings.cutsRest;
+  if (cutsLastPiece || mSettings.cutsAtEnd) return Cut::Full;
   return mSettings.halfCuts ? Cut::Half : Cut::None;
 }
 

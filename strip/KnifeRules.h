@@ -1,5 +1,6 @@
 // What happens at each place of a job's strip. A driver that does not know yet how many labels
-// there will be can follow them label by label.
+// there will be can follow them label by label. It counts labels: RunSettings.h has what counts
+// copies or pages.
 #pragma once
 
 #include <cstdint>

@@ -13,6 +13,8 @@ struct LabelRun {
   unsigned copies = 1;
   // The whole document once a copy, or else each page as often as there are copies.
   bool isCollated = false;
+  // The printer makes the copies of what it is sent once, unless they are collated.
+  bool printerRepeats = false;
   // Of each label along the tape, in millimetres; nothing: not known.
   std::optional<double> labelLength = std::nullopt;
 

@@ -30,6 +30,14 @@ std::string numberOrNull(std::optional<double> millimetres) {
   return millimetres ? number(*millimetres) : "null";
 }
 
+// Of cuts, pieces or marks.
+std::string countOrNull(const CutPlan& plan, std::uint64_t count) {
+  return plan.knowsCuts() ? std::to_string(count) : "null";
+}
+
+// In the order of CutAuthority.
+constexpr std::array<std::string_view, 3> kAuthorities = {"settings", "printer", "nobody"};
+
 std::string quoted(std::string_view text) {
   std::string result = "\"";
   for (const char letter : text) {
@@ -62,14 +70,18 @@ void write(const StripEvent& event, const LabelRun& run, std::ostream& out) {
 }  // namespace
 
 void writePlanJson(const CutPlan& plan, bool hasDocument, std::ostream& out) {
+  const CutSettings& settings = plan.rules().settings();
   out << "{\n  \"version\": " << kPlanJsonVersion
       << ",\n  \"sentence\": " << quoted(planSentence(plan).english())
       << ",\n  \"document\": " << boolean(hasDocument) << ",\n  \"labels\": " << plan.labels()
-      << ",\n  \"pieces\": " << plan.pieces() << ",\n  \"full_cuts\": " << plan.fullCuts()
-      << ",\n  \"half_cuts\": " << plan.halfCuts() << ",\n  \"cut_marks\": " << plan.cutMarks()
+      << ",\n  \"pieces\": " << countOrNull(plan, plan.pieces())
+      << ",\n  \"full_cuts\": " << countOrNull(plan, plan.fullCuts())
+      << ",\n  \"half_cuts\": " << countOrNull(plan, plan.halfCuts())
+      << ",\n  \"cut_marks\": " << countOrNull(plan, plan.cutMarks())
       << ",\n  \"tape_mm\": " << numberOrNull(plan.tape())
       << ",\n  \"waste_mm\": " << numberOrNull(plan.waste())
-      << ",\n  \"mirrored\": " << boolean(plan.rules().settings().mirrors) << ",\n  \"events\": [";
+      << ",\n  \"mirrored\": " << boolean(settings.mirrors) << ",\n  \"cuts_said_by\": \""
+      << kAuthorities.at(static_cast<std::size_t>(settings.authority)) << "\",\n  \"events\": [";
   bool isFirst = true;
   plan.forEachEvent([&](const StripEvent& event) {
     if (!isFirst) out << ',';

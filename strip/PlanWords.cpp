@@ -56,6 +56,7 @@ Sentence fullCutsOf(const CutPlan& plan) {
     return settings.isRoll ? Phrase("strip", "roll not cut") : Phrase("strip", "tape not cut");
   }
   if (settings.labelsPerCut == 1) return Phrase("strip", "cut after each label");
+  if (settings.unit == CutUnit::Copy) return Phrase("strip", "cut after each copy");
   return {Phrase("strip", "cut every %1"), {std::to_string(settings.labelsPerCut)}};
 }
 
@@ -110,10 +111,18 @@ Sentence runLine(const PieceRun& run, const CutPlan& plan) {
   return joined(parts);
 }
 
+// Where the settings do not.
+Phrase whoSays(const CutPlan& plan) {
+  if (plan.rules().settings().authority == CutAuthority::Nobody)
+    return Phrase("strip", "%1; this driver says nothing of cutting");
+  return Phrase("strip", "%1; the printer decides where to cut");
+}
+
 }  // namespace
 
 Sentence planSentence(const CutPlan& plan) {
   if (plan.labels() == 0) return Phrase("strip", "no labels");
+  if (!plan.knowsCuts()) return {whoSays(plan), {counted(kLabels, plan.labels())}};
   std::vector<Sentence> asked = effectsOf(plan);
   asked.insert(asked.begin(), counted(kLabels, plan.labels()));
   return {Phrase("strip", "%1: %2"),
@@ -122,7 +131,7 @@ Sentence planSentence(const CutPlan& plan) {
 
 std::vector<Sentence> planLines(const CutPlan& plan) {
   std::vector<Sentence> lines;
-  if (plan.labels() == 0) return lines;
+  if (plan.labels() == 0 || !plan.knowsCuts()) return lines;
   const KnifeRules& rules = plan.rules();
   if (rules.hasLeader()) lines.push_back(leaderLine(plan));
   for (const PieceRun& run : plan.pieceRuns()) lines.push_back(runLine(run, plan));

@@ -31,6 +31,7 @@ TEST(PlanJson, HasTheDocumentedForm) {
   "tape_mm": 62.01,
   "waste_mm": 12,
   "mirrored": false,
+  "cuts_said_by": "settings",
   "events": [
     {"kind": "leader", "position_mm": 0, "length_mm": 8, "label": 0},
     {"kind": "half_cut", "position_mm": 8, "label": 0},
