@@ -72,7 +72,7 @@ Print labels and tapes: shows a print dialog with the printer's cut options.
   --print                print at once, without a window; FILE absent or - reads standard input
   --dry-run PDF          write what would be sent into this file, show with which options, and end
   --wait                 with --print: end when the job has ended
-  --summary              show the panel's summary and end
+  --summary              show the plan in a sentence and the panel's summary, and end
   --options              show what would be sent with the job and end
   --plan                 show where the tape would be cut and end
   --json                 with --plan: for other programs

@@ -7,8 +7,10 @@
 
 #include "base/CutFacts.h"
 #include "base/Numbers.h"
+#include "cups/PpdFacts.h"
 #include "cups/PpdFile.h"
 #include "host/core/CutRules.h"
+#include "host/core/CutWordsFiles.h"
 
 namespace cutline {
 
@@ -43,9 +45,7 @@ unsigned countIn(const PpdFile& ppd) {
   return std::max(1U, numberIn<unsigned>(ppd.markedChoice(kCountKeyword)).value_or(1));
 }
 
-}  // namespace
-
-CutSettings cutSettingsOf(const PpdFile& ppd) {
+CutSettings ownSettingsOf(const PpdFile& ppd) {
   CutSettings settings;
   for (const Switch& known : kSwitches)
     settings.*known.effect = ppd.markedChoice(known.keyword) == "ON";
@@ -55,6 +55,18 @@ CutSettings cutSettingsOf(const PpdFile& ppd) {
   settings.leader = lengthIn(ppd, kLeaderAttribute);
   settings.feed = lengthIn(ppd, kFeedAttribute);
   return settings;
+}
+
+}  // namespace
+
+CutSettings cutSettingsOf(const PpdFile& ppd, const CutWords& words) {
+  if (hasCutOptions(ppd)) return ownSettingsOf(ppd);
+  const auto choiceOf = [&](const std::string& option) { return ppd.markedChoice(option); };
+  return settingsIn(words, choiceOf, filterPrograms(ppd));
+}
+
+CutSettings cutSettingsOf(const PpdFile& ppd) {
+  return cutSettingsOf(ppd, installedCutWords().words);
 }
 
 }  // namespace cutline

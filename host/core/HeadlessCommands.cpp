@@ -9,8 +9,10 @@
 #include "host/core/CutRules.h"
 #include "host/core/HeadlessPrinting.h"
 #include "host/core/HeadlessSession.h"
+#include "host/core/JobPlan.h"
 #include "host/core/PlanCommand.h"
 #include "host/core/PrinterSelection.h"
+#include "strip/PlanWords.h"
 
 namespace cutline {
 
@@ -20,6 +22,9 @@ Result<Done> showSummary(const CommandLine& line, PluginLoader& plugIns, const S
   HeadlessSession session(line, plugIns, streams.notes);
   Result<Done> opened = session.openSelected();
   if (!opened) return opened;
+  const Result<std::optional<int>> pages = pagesToPlan(line, session);
+  if (!pages) return pages.error();
+  streams.out << visible(planSentence(planFor(session.model(), *pages)).english()) << "\n";
   for (const SummaryLine& entry : session.model().summary())
     streams.out << visible(entry.title) << ": " << visible(entry.value) << "\n";
   return Done{};

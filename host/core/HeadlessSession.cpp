@@ -3,6 +3,7 @@
 #include <ostream>
 
 #include "base/Visible.h"
+#include "host/core/CutWordsFiles.h"
 #include "host/core/PrinterSelection.h"
 
 namespace cutline {
@@ -24,6 +25,7 @@ Result<Done> HeadlessSession::openSelected() {
   const Result<PrinterChoice> choice = selectPrinter(mLine);
   if (!choice) return choice.error();
   open(*choice);
+  for (const Sentence& problem : installedCutWords().problems) note(problem.english());
   for (const Deviation& deviation : mModel.deviations()) note(deviation.sentence.english());
   for (const Sentence& conflict : mModel.conflicts()) note(conflict.english());
   return Done{};

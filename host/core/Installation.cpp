@@ -24,4 +24,6 @@ std::string Installation::translationDirectory() const {
   return mPrefix + "/share/cutline/translations";
 }
 
+std::string Installation::cutWordsPath() const { return mPrefix + "/share/cutline/cut-words.txt"; }
+
 }  // namespace cutline

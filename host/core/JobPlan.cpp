@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "composition/PickedPages.h"
+#include "cups/PpdFacts.h"
 #include "host/core/CutSettingsReader.h"
 #include "host/core/PrintModel.h"
 
@@ -51,6 +52,7 @@ CutPlan planFor(const PrintModel& model, std::optional<int> documentPages) {
   run.pages = documentPages ? pagesOf(model, *documentPages) : std::vector<unsigned>{1};
   run.copies = static_cast<unsigned>(model.copies());
   run.isCollated = isCollated(model.jobOptions());
+  run.printerRepeats = printerMakesCopies(*model.ppdFile());
   const double length = model.currentPaper().length;
   if (length > 0) run.labelLength = length * kMillimetresPerInch / kPointsPerInch;
   return {cutSettingsOf(*model.ppdFile()), run};

@@ -12,17 +12,6 @@ namespace cutline {
 
 namespace {
 
-// Nothing without a document.
-Result<std::optional<int>> pagesOf(const CommandLine& line, HeadlessSession& session) {
-  if (line.files.empty()) {
-    session.note("no document is named: this is the plan of one label");
-    return std::optional<int>();
-  }
-  const Result<ComposedDocument> composed = composeFor(session, line);
-  if (!composed) return composed.error();
-  return std::optional(composed->report.documentPages);
-}
-
 void writePlanWords(const CutPlan& plan, std::ostream& out) {
   out << visible(planSentence(plan).english()) << '\n';
   for (const Sentence& line : planLines(plan)) out << visible(line.english()) << '\n';
@@ -30,11 +19,19 @@ void writePlanWords(const CutPlan& plan, std::ostream& out) {
 
 }  // namespace
 
+Result<std::optional<int>> pagesToPlan(const CommandLine& line, HeadlessSession& session) {
+  if (line.files.empty()) return std::optional<int>();
+  const Result<ComposedDocument> composed = composeFor(session, line);
+  if (!composed) return composed.error();
+  return std::optional(composed->report.documentPages);
+}
+
 Result<Done> showPlan(const CommandLine& line, PluginLoader& plugIns, const Streams& streams) {
   if (Result<Done> checked = checkFiles(line); !checked) return checked;
   HeadlessSession session(line, plugIns, streams.notes);
   if (Result<Done> opened = session.openSelected(); !opened) return opened;
-  const Result<std::optional<int>> pages = pagesOf(line, session);
+  if (line.files.empty()) session.note("no document is named: this is the plan of one label");
+  const Result<std::optional<int>> pages = pagesToPlan(line, session);
   if (!pages) return pages.error();
   const CutPlan plan = planFor(session.model(), *pages);
   if (line.asJson) {

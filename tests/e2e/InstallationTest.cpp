@@ -64,6 +64,7 @@ TEST_F(Installation, FindsItsOwnLibrariesPanelsAndSamples) {
   EXPECT_NE(result.output.find("LxHalfCut=ON\n"), std::string::npos) << result.output;
   EXPECT_NE(result.errors.find(place("bin/../lib/cutline/libcutline-host.so")), std::string::npos);
   EXPECT_EQ(result.errors.find(CUTLINE_BUILD_DIR), std::string::npos);
+  EXPECT_TRUE(std::filesystem::exists(place("share/cutline/cut-words.txt")));
   const CommandResult summary =
       program("--summary --ppd " + place("share/cutline/samples/ppd/tape-a.ppd"));
   EXPECT_NE(summary.output.find("Half cut between labels: No"), std::string::npos)

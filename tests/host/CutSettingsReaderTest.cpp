@@ -6,6 +6,7 @@
 #include "host/core/CutSettingsReader.h"
 #include "samples/printer/Choices.h"
 #include "tests/support/Command.h"
+#include "tests/support/OtherDrivers.h"
 #include "tests/support/TestPrinter.h"
 
 namespace cutline {
@@ -43,10 +44,81 @@ TEST(CutSettingsReader, ReadsEachSwitch) {
 
 TEST(CutSettingsReader, CountsLabels) {
   EXPECT_EQ(settingsWith(fullTapePrinter(), {{"LxCutLabel", "7"}}).labelsPerCut, 7U);
-  EXPECT_EQ(settingsWith({}, {}).labelsPerCut, 1U);
+  EXPECT_EQ(settingsWith(fullTapePrinter(), {}).labelsPerCut, 1U);
 }
 
-TEST(CutSettingsReader, IsOffWithoutOptions) { EXPECT_EQ(settingsWith({}, {}), CutSettings()); }
+TEST(CutSettingsReader, IsOffWithoutOneOfOurOptions) {
+  TestPrinter printer;
+  printer.cutOptions = {{"LxMirror", "OFF"}};
+  EXPECT_EQ(settingsWith(printer, {}), CutSettings());
+}
+
+TEST(CutSettingsReader, SaysNothingWhereTheDriverDoesNot) {
+  EXPECT_EQ(settingsWith({}, {}).authority, CutAuthority::Nobody);
+}
+
+// What the installed words make of a choice.
+struct Meaning {
+  TestPrinter printer;
+  OptionList marks;
+  CutSettings means;
+};
+
+CutSettings never() { return {.isRoll = true}; }
+CutSettings cutBehind(CutUnit unit) {
+  return {.cutsAutomatically = true, .unit = unit, .isRoll = true};
+}
+CutSettings atTheEnd() { return {.cutsAtEnd = true, .isRoll = true}; }
+CutSettings asThePrinterDecides() { return {.authority = CutAuthority::Printer, .isRoll = true}; }
+
+void expectMeaning(const Meaning& row) {
+  std::string marks;
+  for (const auto& [keyword, choice] : row.marks) marks += keyword + '=' + choice + ' ';
+  EXPECT_EQ(settingsWith(row.printer, row.marks), row.means) << marks << row.printer.more;
+}
+
+TEST(CutSettingsReader, KnowsTheStandardsKeyword) {
+  const TestPrinter printer = test::cutMediaPrinter();
+  expectMeaning({printer, {}, never()});
+  expectMeaning({printer, {{"CutMedia", "Auto"}}, asThePrinterDecides()});
+  expectMeaning({printer, {{"CutMedia", "EndOfPage"}}, cutBehind(CutUnit::Label)});
+  expectMeaning({printer, {{"CutMedia", "EndOfSet"}}, cutBehind(CutUnit::Copy)});
+  expectMeaning({printer, {{"CutMedia", "EndOfDoc"}}, cutBehind(CutUnit::Document)});
+  expectMeaning({printer, {{"CutMedia", "EndOfJob"}}, atTheEnd()});
+}
+
+TEST(CutSettingsReader, KnowsAFilterThatCutsBehindEachPage) {
+  const TestPrinter printer = test::cutMediaPrinter(test::kLabelFilter);
+  expectMeaning({printer, {}, never()});
+  for (const char* choice : {"Auto", "EndOfPage", "EndOfSet", "EndOfDoc", "EndOfJob"})
+    expectMeaning({printer, {{"CutMedia", choice}}, cutBehind(CutUnit::Page)});
+}
+
+TEST(CutSettingsReader, KnowsAnIntervalThatCountsInOneModeAlone) {
+  CutSettings everyThree = cutBehind(CutUnit::Label);
+  everyThree.labelsPerCut = 3;
+  everyThree.cutsRest = false;
+  const OptionList interval = {{"inPrintMode", "Cut"}, {"inCutInterval", "3"}};
+  expectMeaning({test::intervalPrinter(), interval, everyThree});
+  expectMeaning({test::intervalPrinter(), {{"inCutInterval", "3"}}, never()});
+  expectMeaning({test::intervalPrinter(), {{"inPrintMode", "Cut"}}, asThePrinterDecides()});
+  expectMeaning({test::intervalPrinter(), {{"inPrintMode", "Tear"}}, never()});
+  // It does not get to the printer.
+  expectMeaning({test::intervalPrinter(test::kLabelFilter), interval, asThePrinterDecides()});
+}
+
+TEST(CutSettingsReader, KnowsModes) {
+  expectMeaning({test::modePrinter(), {}, asThePrinterDecides()});
+  for (const char* mode : {"Tear", "Peel", "Rewind", "Applicator"})
+    expectMeaning({test::modePrinter(), {{"zePrintMode", mode}}, never()});
+  expectMeaning({test::modePrinter(), {{"zePrintMode", "Cutter"}}, cutBehind(CutUnit::Label)});
+}
+
+TEST(CutSettingsReader, OurKeywordsAloneCountWhereTheyAre) {
+  TestPrinter printer = test::cutMediaPrinter();
+  printer.cutOptions = {{"LxCutAtEnd", "OFF"}};
+  EXPECT_EQ(settingsWith(printer, {{"CutMedia", "EndOfPage"}}), CutSettings());
+}
 
 // A third choice is neither on nor off; the printer's driver takes only ON as on.
 TEST(CutSettingsReader, TakesAThirdChoiceAsOff) {

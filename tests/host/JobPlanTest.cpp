@@ -2,8 +2,10 @@
 #include <gtest/gtest.h>
 
 #include "host/core/JobPlan.h"
+#include "strip/PlanWords.h"
 #include "tests/host/Dialog.h"
 #include "tests/support/Command.h"
+#include "tests/support/OtherDrivers.h"
 
 namespace cutline {
 namespace {
@@ -57,6 +59,29 @@ TEST(JobPlan, IsCollatedWhereItIsAskedFor) {
 TEST(JobPlan, IsOneLabelWithoutADocument) {
   EXPECT_EQ(planOf(asked({}, std::nullopt, "7"), std::nullopt).labels(), 1U);
   EXPECT_EQ(planOf(asked({}, 3), std::nullopt).labels(), 3U);
+}
+
+CutPlan planOf(const test::TestPrinter& printer, const AskedSettings& settings, int pages) {
+  Dialog dialog(settings);
+  dialog.open(test::ppdFor(printer));
+  return planFor(dialog.model(), pages);
+}
+
+// A filter that makes the copies itself has its printer see one.
+TEST(JobPlan, KnowsWhoMakesTheCopies) {
+  const AskedSettings copies = asked({{"CutMedia", "EndOfSet"}, {"collate", "true"}}, 3);
+  EXPECT_EQ(planOf(test::cutMediaPrinter(), copies, 2).pieces(), 3U);
+  EXPECT_EQ(planOf(test::cutMediaPrinter("", true), copies, 2).pieces(), 1U);
+  const AskedSettings repeated = asked({{"CutMedia", "EndOfPage"}}, 3);
+  EXPECT_EQ(planOf(test::cutMediaPrinter(test::kLabelFilter), repeated, 2).pieces(), 2U);
+  EXPECT_EQ(planOf(test::cutMediaPrinter(test::kLabelFilter, true), repeated, 2).pieces(), 6U);
+}
+
+TEST(JobPlan, SaysWhereNobodyKnows) {
+  EXPECT_EQ(planSentence(planOf(test::TestPrinter(), {}, 12)).english(),
+            "12 labels; this driver says nothing of cutting");
+  EXPECT_EQ(planSentence(planOf(test::modePrinter(), {}, 12)).english(),
+            "12 labels; the printer decides where to cut");
 }
 
 }  // namespace

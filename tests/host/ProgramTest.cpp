@@ -8,6 +8,7 @@
 #include <map>
 #include <sstream>
 
+#include "tests/support/OtherDrivers.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/support/TestPrinter.h"
 
@@ -89,10 +90,12 @@ TEST_F(Program, ShowsTheSummaryInDisplayOrder) {
   std::istringstream lines(outcome.out);
   std::vector<std::string> summary;
   for (std::string line; std::getline(lines, line);) summary.push_back(line);
-  ASSERT_EQ(summary.size(), 8U) << outcome.out;
+  ASSERT_EQ(summary.size(), 9U) << outcome.out;
+  EXPECT_EQ(summary[0],
+            "1 label, tape not cut, half cut beside the label: 1 piece, length not known");
   for (const std::string& line : summary) EXPECT_NE(line.find(": "), std::string::npos) << line;
-  EXPECT_TRUE(summary[2].ends_with(": Yes")) << summary[2];
-  EXPECT_TRUE(summary[3].ends_with(": No")) << summary[3];
+  EXPECT_TRUE(summary[3].ends_with(": Yes")) << summary[3];
+  EXPECT_TRUE(summary[4].ends_with(": No")) << summary[4];
 }
 
 TEST_F(Program, NamesOnStandardErrorWhatTheRulesChange) {
@@ -240,7 +243,7 @@ TEST_F(Program, APrinterWithoutCutOptionsHasNoPanelAndNoCutOptions) {
   EXPECT_TRUE(outcome.out.starts_with("PageSize=W12\ncopies=1\nprint-scaling=none\n"))
       << outcome.out;
   EXPECT_EQ(outcome.out.find("Lx"), std::string::npos) << outcome.out;
-  EXPECT_EQ(run("--ppd plain.ppd --summary").out, "");
+  EXPECT_EQ(run("--ppd plain.ppd --summary").out, "1 label; this driver says nothing of cutting\n");
 }
 
 TEST_F(Program, ShowsThePlanOfADocument) {
@@ -257,6 +260,28 @@ TEST_F(Program, ShowsThePlanOfOneLabelWithoutADocumentAndSaysSo) {
   EXPECT_TRUE(outcome.out.starts_with("1 label, tape not cut: 1 piece, length not known\n"));
   EXPECT_EQ(outcome.err, "cutline: no document is named: this is the plan of one label\n");
   EXPECT_NE(run("--plan --json --ppd tape.ppd").out.find("\"document\": false"), std::string::npos);
+}
+
+TEST_F(Program, TheSummaryBeginsWithThePlan) {
+  const Outcome outcome = run("--summary --ppd tape.ppd -n 3 labels.txt");
+  EXPECT_TRUE(outcome.out.starts_with("3 labels, tape not cut: 1 piece, length not known\n"))
+      << outcome.out;
+  EXPECT_EQ(outcome.err, "");
+}
+
+TEST_F(Program, TakesWordsOfTheUsersOwnAndNamesTheBrokenOnes) {
+  writePpd("other.ppd", test::modePrinter());
+  std::filesystem::create_directories(file("settings/cutline"));
+  const std::string words = file("settings/cutline/cut-words.txt");
+  std::ofstream(words) << "zePrintMode Peel cut=label\nzePrintMode Tear cut=perhaps\n";
+  const std::string settings = "XDG_CONFIG_HOME=" + file("settings");
+  const std::string plan = "--plan --ppd other.ppd -n 2 labels.txt -o zePrintMode=";
+  EXPECT_EQ(run(plan + "Peel").out.find("2 labels, roll not cut"), 0U);
+  const Outcome outcome = run(plan + "Peel", settings);
+  EXPECT_EQ(outcome.out.find("2 labels, cut after each label: 2 pieces"), 0U) << outcome.out;
+  EXPECT_EQ(outcome.err, "cutline: \"" + words +
+                             "\", line 2, is left out: \"cut=perhaps\" means nothing there\n");
+  EXPECT_EQ(run(plan + "Tear", settings).out.find("2 labels, roll not cut"), 0U);
 }
 
 TEST_F(Program, APlanOfADocumentThatIsNotThereIsAnError) {

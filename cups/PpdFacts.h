@@ -1,0 +1,21 @@
+// What a PPD says of the way from a job to the printer.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "base/OptionList.h"
+
+namespace cutline {
+
+class PpdFile;
+
+// The programs that make the printer's language, by their file names: "rastertolabel". Empty for a
+// printer that takes what the print server has.
+std::vector<std::string> filterPrograms(const PpdFile& ppd);
+
+// Whether the printer makes copies of what it is sent once. Otherwise the print system sends each
+// copy.
+bool printerMakesCopies(const PpdFile& ppd);
+
+}  // namespace cutline

@@ -1,0 +1,35 @@
+#include <gtest/gtest.h>
+
+#include "cups/PpdFacts.h"
+#include "tests/support/TestPrinter.h"
+
+namespace cutline {
+namespace {
+
+using Programs = std::vector<std::string>;
+
+std::shared_ptr<PpdFile> ppdWith(const std::string& lines) {
+  test::TestPrinter printer;
+  printer.more = lines;
+  return test::ppdFor(printer);
+}
+
+TEST(PpdFacts, NameTheFilterPrograms) {
+  EXPECT_EQ(filterPrograms(*ppdWith("")), Programs());
+  EXPECT_EQ(filterPrograms(*ppdWith("*cupsFilter: \"application/vnd.cups-raster 50 one\"\n"
+                                    "*cupsFilter: \"image/x-y 0 /usr/lib/filters/two\"\n")),
+            (Programs{"one", "two"}));
+  EXPECT_EQ(filterPrograms(*ppdWith("*cupsFilter2: \"image/pwg-raster image/x-y 100 three \"\n")),
+            Programs{"three"});
+  EXPECT_EQ(filterPrograms(*ppdWith("*cupsFilter2: \"image/pwg-raster image/pwg-raster 100 -\"\n")),
+            Programs());
+}
+
+TEST(PpdFacts, SayWhoMakesCopies) {
+  EXPECT_TRUE(printerMakesCopies(*ppdWith("")));
+  EXPECT_TRUE(printerMakesCopies(*ppdWith("*cupsManualCopies: False\n")));
+  EXPECT_FALSE(printerMakesCopies(*ppdWith("*cupsManualCopies: True\n")));
+}
+
+}  // namespace
+}  // namespace cutline
