@@ -1275,5 +1275,25 @@
         <source>&quot;%1&quot; does not go with labels: left out</source>
         <translation>„%1“ passt nicht zu Etiketten: weggelassen</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2</source>
+        <translation>„%1“ kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is left out: it is no plain text of at most %2 kB</source>
+        <translation>„%1“ wird übergangen: Es ist kein einfacher Text von höchstens %2 kB</translation>
+    </message>
+    <message>
+        <source>%1 is left out: &quot;%2&quot; means nothing there</source>
+        <translation>%1 wird übergangen: „%2“ hat dort keine Bedeutung</translation>
+    </message>
+    <message>
+        <source>%1 is left out: it needs an option, a choice, and what comes of it</source>
+        <translation>%1 wird übergangen: Es fehlen Option, Auswahl oder was daraus folgt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, line %2,</source>
+        <translation>„%1“, Zeile %2,</translation>
+    </message>
 </context>
 </TS>

@@ -1275,5 +1275,25 @@
         <source>&quot;%1&quot; does not go with labels: left out</source>
         <translation>«%1» no es para etiquetas: se omite</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2</source>
+        <translation>No se puede leer «%1»: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is left out: it is no plain text of at most %2 kB</source>
+        <translation>Se omite «%1»: no es texto sin formato de %2 kB como máximo</translation>
+    </message>
+    <message>
+        <source>%1 is left out: &quot;%2&quot; means nothing there</source>
+        <translation>%1 se omite: «%2» no significa nada ahí</translation>
+    </message>
+    <message>
+        <source>%1 is left out: it needs an option, a choice, and what comes of it</source>
+        <translation>%1 se omite: necesita una opción, una elección y su efecto</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, line %2,</source>
+        <translation>«%1», línea %2,</translation>
+    </message>
 </context>
 </TS>

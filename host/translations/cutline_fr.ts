@@ -1275,5 +1275,25 @@
         <source>&quot;%1&quot; does not go with labels: left out</source>
         <translation>« %1 » ne convient pas aux étiquettes : ignoré</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2</source>
+        <translation>« %1 » ne peut pas être lu : %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is left out: it is no plain text of at most %2 kB</source>
+        <translation>« %1 » est ignoré : ce n’est pas un texte brut de %2 ko au plus</translation>
+    </message>
+    <message>
+        <source>%1 is left out: &quot;%2&quot; means nothing there</source>
+        <translation>%1 est ignorée : « %2 » n’y a pas de sens</translation>
+    </message>
+    <message>
+        <source>%1 is left out: it needs an option, a choice, and what comes of it</source>
+        <translation>%1 est ignorée : il faut une option, un choix et son effet</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, line %2,</source>
+        <translation>« %1 », ligne %2,</translation>
+    </message>
 </context>
 </TS>

@@ -1275,5 +1275,25 @@
         <source>&quot;%1&quot; does not go with labels: left out</source>
         <translation>«%1» non è adatto alle etichette: tralasciato</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2</source>
+        <translation>Impossibile leggere «%1»: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is left out: it is no plain text of at most %2 kB</source>
+        <translation>«%1» viene ignorato: non è un testo semplice di al massimo %2 kB</translation>
+    </message>
+    <message>
+        <source>%1 is left out: &quot;%2&quot; means nothing there</source>
+        <translation>%1 viene ignorata: lì «%2» non ha significato</translation>
+    </message>
+    <message>
+        <source>%1 is left out: it needs an option, a choice, and what comes of it</source>
+        <translation>%1 viene ignorata: servono un’opzione, una scelta e il loro effetto</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, line %2,</source>
+        <translation>«%1», riga %2,</translation>
+    </message>
 </context>
 </TS>

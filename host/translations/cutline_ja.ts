@@ -1275,5 +1275,25 @@
         <source>&quot;%1&quot; does not go with labels: left out</source>
         <translation>「%1」はラベルには使えないため、省きます</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2</source>
+        <translation>「%1」を読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is left out: it is no plain text of at most %2 kB</source>
+        <translation>「%1」は無視されます: %2 kB 以下のプレーンテキストではありません</translation>
+    </message>
+    <message>
+        <source>%1 is left out: &quot;%2&quot; means nothing there</source>
+        <translation>%1は無視されます: そこでは「%2」に意味がありません</translation>
+    </message>
+    <message>
+        <source>%1 is left out: it needs an option, a choice, and what comes of it</source>
+        <translation>%1は無視されます: オプション、選択肢、その効果が必要です</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, line %2,</source>
+        <translation>「%1」の%2行目</translation>
+    </message>
 </context>
 </TS>

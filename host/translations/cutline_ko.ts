@@ -1275,5 +1275,25 @@
         <source>&quot;%1&quot; does not go with labels: left out</source>
         <translation>“%1”은(는) 라벨에 맞지 않아 제외합니다</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2</source>
+        <translation>&quot;%1&quot;을(를) 읽을 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is left out: it is no plain text of at most %2 kB</source>
+        <translation>&quot;%1&quot;은(는) 건너뜁니다: %2 kB 이하의 일반 텍스트가 아닙니다</translation>
+    </message>
+    <message>
+        <source>%1 is left out: &quot;%2&quot; means nothing there</source>
+        <translation>%1 건너뜁니다: 그 자리에서 &quot;%2&quot;은(는) 의미가 없습니다</translation>
+    </message>
+    <message>
+        <source>%1 is left out: it needs an option, a choice, and what comes of it</source>
+        <translation>%1 건너뜁니다: 옵션, 선택 항목, 그 효과가 필요합니다</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, line %2,</source>
+        <translation>&quot;%1&quot;의 %2번째 줄을</translation>
+    </message>
 </context>
 </TS>

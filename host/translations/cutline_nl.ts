@@ -1275,5 +1275,25 @@
         <source>&quot;%1&quot; does not go with labels: left out</source>
         <translation>‘%1’ past niet bij etiketten: weggelaten</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2</source>
+        <translation>‘%1’ kan niet worden gelezen: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is left out: it is no plain text of at most %2 kB</source>
+        <translation>‘%1’ wordt overgeslagen: het is geen platte tekst van hoogstens %2 kB</translation>
+    </message>
+    <message>
+        <source>%1 is left out: &quot;%2&quot; means nothing there</source>
+        <translation>%1 wordt overgeslagen: ‘%2’ betekent daar niets</translation>
+    </message>
+    <message>
+        <source>%1 is left out: it needs an option, a choice, and what comes of it</source>
+        <translation>%1 wordt overgeslagen: er zijn een optie, een keuze en het gevolg ervan nodig</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, line %2,</source>
+        <translation>‘%1’, regel %2,</translation>
+    </message>
 </context>
 </TS>
