@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "base/Result.h"
+#include "host/core/CutMeanings.h"
 #include "host/core/JobLayout.h"
 #include "host/core/PanelSource.h"
 #include "host/core/PrintValues.h"
@@ -75,6 +76,12 @@ class PrintModel final : public ActionObserver {
   std::vector<GeneratedGroup> generatedOptions() const;
   // A user's choice in the generated options. An unknown keyword or choice is an error.
   Result<Done> setOption(const std::string& keyword, const std::string& choice);
+
+  // What can be asked of the knife where the driver has words of its own for it; see CutMeanings.h.
+  // Empty for printers with the cut panel's options, and where no word is known.
+  CutMeanings cutMeanings() const;
+  // Chooses what one of cutMeanings() says, as one change.
+  void chooseCut(const CutOffer& offer);
 
   int copies() const noexcept;
   Result<Done> setCopies(int copies);  // 1 to 9999
