@@ -45,11 +45,6 @@ std::optional<double> sumOf(bool hasFirst, std::optional<double> first, bool has
   return (hasFirst ? *first : 0) + (hasSecond ? *second : 0);
 }
 
-PieceRun::End endOf(const KnifeRules& rules) {
-  if (rules.settings().chains) return PieceRun::End::StaysInPrinter;
-  return rules.atEnd() == Cut::Full ? PieceRun::End::Cut : PieceRun::End::HangsOut;
-}
-
 }  // namespace
 
 CutPlan::CutPlan(const CutSettings& asked, LabelRun run)
@@ -58,8 +53,7 @@ CutPlan::CutPlan(const CutSettings& asked, LabelRun run)
 bool CutPlan::knowsCuts() const { return mRules.settings().authority == CutAuthority::Settings; }
 
 std::uint64_t CutPlan::fullCutsBetweenLabels() const {
-  const unsigned perPiece = mRules.labelsPerPiece();
-  return perPiece == 0 || labels() == 0 ? 0 : (labels() - 1) / perPiece;
+  return mRules.fullCutsBefore(labels());
 }
 
 std::uint64_t CutPlan::halfCutsBetweenLabels() const {
@@ -87,10 +81,15 @@ std::uint64_t CutPlan::cutMarks() const {
   return labels() == 0 || !mRules.settings().printsCutMarks ? 0 : labels() + 1;
 }
 
+PieceRun::End CutPlan::end() const {
+  if (mRules.settings().chains) return PieceRun::End::StaysInPrinter;
+  return mRules.atEnd() == Cut::Full ? PieceRun::End::Cut : PieceRun::End::HangsOut;
+}
+
 std::vector<PieceRun> CutPlan::pieceRuns() const {
   if (labels() == 0 || !knowsCuts()) return {};
   const std::uint64_t cuts = fullCutsBetweenLabels();
-  const PieceRun last = {1, labels() - cuts * mRules.labelsPerPiece(), endOf(mRules)};
+  const PieceRun last = {1, labels() - cuts * mRules.labelsPerPiece(), end()};
   if (cuts == 0) return {last};
   const PieceRun first = {cuts, mRules.labelsPerPiece(), PieceRun::End::Cut};
   if (first.labels == last.labels && first.end == last.end)

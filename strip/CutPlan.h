@@ -56,6 +56,8 @@ class CutPlan {
   std::uint64_t fullCutsBetweenLabels() const;
   std::uint64_t halfCutsBetweenLabels() const;
   std::vector<PieceRun> pieceRuns() const;
+  // What becomes of the last piece.
+  PieceRun::End end() const;
 
   // All tape of the job in millimetres; nothing when a part of it, or what is cut, is not known.
   std::optional<double> tape() const;
@@ -68,6 +70,8 @@ class CutPlan {
   double positionOf(std::uint64_t label) const;
   // From the front end to the back end.
   void forEachEvent(const std::function<void(const StripEvent&)>& take) const;
+
+  friend bool operator==(const CutPlan&, const CutPlan&) = default;
 
  private:
   double leader() const;

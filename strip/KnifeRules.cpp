@@ -22,6 +22,11 @@ unsigned KnifeRules::labelsPerPiece() const {
   return mSettings.halfCuts && mSettings.labelsPerCut == 1 ? 0 : mSettings.labelsPerCut;
 }
 
+std::uint64_t KnifeRules::fullCutsBefore(std::uint64_t number) const {
+  const unsigned perPiece = labelsPerPiece();
+  return perPiece == 0 || number == 0 ? 0 : (number - 1) / perPiece;
+}
+
 Cut KnifeRules::behindLabel(std::uint64_t number) const {
   const unsigned perPiece = labelsPerPiece();
   if (perPiece > 0 && number % perPiece == 0) return Cut::Full;

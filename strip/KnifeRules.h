@@ -39,6 +39,10 @@ class KnifeRules {
 
   // After how many labels a piece ends; 0 when the job is one piece.
   unsigned labelsPerPiece() const;
+  // How many full cuts between labels lie before the label `number`, counted from 1.
+  std::uint64_t fullCutsBefore(std::uint64_t number) const;
+
+  friend bool operator==(const KnifeRules&, const KnifeRules&) = default;
 
  private:
   CutSettings mSettings;

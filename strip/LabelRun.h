@@ -23,6 +23,12 @@ struct LabelRun {
   unsigned pageOf(std::uint64_t number) const {
     return pages[isCollated ? (number - 1) % pages.size() : (number - 1) / copies];
   }
+  // Which copy of its page the label is, from 1 to `copies`.
+  unsigned copyOf(std::uint64_t number) const {
+    return static_cast<unsigned>(
+        1 + (isCollated ? (number - 1) / pages.size() : (number - 1) % copies));
+  }
+  friend bool operator==(const LabelRun&, const LabelRun&) = default;
 };
 
 }  // namespace cutline

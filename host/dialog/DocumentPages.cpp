@@ -208,7 +208,7 @@ void DocumentLoader::deliver(int composition, const PageRequest& request, bool i
 
 namespace {
 
-constexpr std::size_t kMostPages = 40;
+constexpr std::size_t kLeastRoom = 40;
 constexpr double kSameScale = 1e-3;
 constexpr double kOldScale = 0;
 
@@ -226,9 +226,14 @@ bool PageCache::has(int page, double scale) const {
   return found != mEntries.end() && std::abs(found->second.scale - scale) < kSameScale;
 }
 
+void PageCache::setRoom(std::size_t labels) {
+  mRoom = std::max(labels, kLeastRoom);
+  while (mEntries.size() > mRoom) forgetOldest();
+}
+
 void PageCache::insert(int page, double scale, QImage image) {
   mEntries[page] = {std::move(image), scale, ++mUses};
-  if (mEntries.size() > kMostPages) forgetOldest();
+  if (mEntries.size() > mRoom) forgetOldest();
 }
 
 void PageCache::setOld() {

@@ -113,6 +113,8 @@ class PageCache {
   // The label at whatever scale it was last drawn, and though it be old; a null image when there is
   // none.
   QImage image(int page);
+  // Keeps so many labels, and never fewer than forty.
+  void setRoom(std::size_t labels);
   // True when the label is there at this scale (pixels a point) and not old.
   bool has(int page, double scale) const;
   void insert(int page, double scale, QImage image);
@@ -129,6 +131,7 @@ class PageCache {
   void forgetOldest();
 
   std::map<int, Entry> mEntries;
+  std::size_t mRoom = 40;
   std::uint64_t mUses = 0;
 };
 

@@ -7,7 +7,6 @@
 
 #include "host/core/CommandLine.h"
 #include "host/core/CutRules.h"
-#include "host/core/OptionTable.h"
 #include "host/dialog/DialogLanguage.h"
 #include "host/dialog/DocumentWatch.h"
 #include "host/dialog/JobForm.h"
@@ -26,11 +25,6 @@
 
 namespace cutline {
 namespace {
-
-bool isMirrored(const PpdFile& ppd) {
-  const std::string keyword = "LxMirror";
-  return OptionTable(ppd).position(keyword, ppd.markedChoice(keyword)) == 1;
-}
 
 QStringList sentencesOf(const std::vector<Deviation>& deviations) {
   QStringList lines;
@@ -102,6 +96,7 @@ void PrintDialog::connectSettings() {
   connect(mJobForm, &JobForm::pagesEdited, this, &PrintDialog::editPages);
   connect(mJobForm, &JobForm::pagesFinished, this, &PrintDialog::finishPages);
   connect(mJobForm, &JobForm::paperChosen, this, &PrintDialog::choosePaper);
+  connect(&mStripPane->strip(), &StripView::onlyThisWanted, this, &PrintDialog::printOnly);
   connect(mNotices, &NoticeView::rebuilt, this, &PrintDialog::setMnemonics);
   connect(mMoreOptions, &MoreOptionsPanel::optionChosen, this, &PrintDialog::chooseOption);
   connect(mMoreButton, &QPushButton::toggled, this, &PrintDialog::showMoreOptions);
@@ -123,6 +118,7 @@ void PrintDialog::modelDidChange(ModelChange what) {
   for (const Row& row : kRows) {
     if (row.change == what) (this->*row.show)();
   }
+  showStrip();
   recompose();
 }
 
@@ -155,7 +151,6 @@ void PrintDialog::showOptions() {
   mNotices->setNotices(NoticeTopic::conflicts,
                        conflictNotices(mModel.conflicts(), [this] { resolveConflicts(); }));
   mNotices->setNotices(NoticeTopic::deviations, sentencesOf(mModel.deviations()));
-  mStripPane->strip().setMirrored(isMirrored(*mModel.ppdFile()));
 }
 
 void PrintDialog::showPaper() {
@@ -163,15 +158,12 @@ void PrintDialog::showPaper() {
   const auto isIt = [&](const PaperSize& each) { return each.name == paper.name; };
   if (std::ranges::any_of(mModel.papers(), isIt)) mNamedPaper = paper.name;
   mJobForm->setCurrentPaper(toQString(paper.name), toQString(paper.text));
-  mStripPane->setPaperText(toQString(paper.text));
-  if (!mDocument->isOpen()) mStripPane->strip().setLabels(mModel.label(), 0);
   showLayout();
 }
 
 void PrintDialog::showJob() {
   mJobForm->setCopies(mModel.copies());
   mJobForm->setPages(toQString(mModel.pageRanges()));
-  mStripPane->strip().setSelection(mModel.pageSelection());
 }
 
 void PrintDialog::fitToPanels() {

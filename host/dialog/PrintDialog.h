@@ -88,6 +88,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
   void showPaper();
   void showJob();
   void showLayout();
+  void showStrip();
   void fitToPanels();
 
   void makeLayout();
@@ -111,6 +112,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
   void chooseOption(const QString& keyword, const QString& choice);
   void editPages(const QString& text);
   void finishPages(const QString& text);
+  void printOnly(unsigned page);
   void showPagesProblem(const Result<Done>& checked);
   Result<Done> checkPages() const;
   void showMoreOptions(bool shown);
@@ -140,6 +142,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
   PrintSource mSource;
   int mExitStatus;
   std::string mNamedPaper;  // the last one that the printer names
+  int mShownPages = 0;      // of the documents
   QTimer mStateTimer;
 
   ServerClient* mServer;

@@ -79,11 +79,9 @@ void PrintDialog::recompose() {
 
 void PrintDialog::takeComposition() {
   const CompositionReport report = mDocument->report();
-  StripView& strip = mStripPane->strip();
-  // There are more labels than the first, as before; how many the rest of the answer says.
-  const int known = report.isPartial ? strip.pageCount() : 0;
-  strip.setMessage({});
-  strip.setLabels(report.label, std::max(report.documentPages, known));
+  mStripPane->strip().setMessage({});
+  showStrip();
+  mStripPane->strip().setPicturesOld();
   mNotices->clear(NoticeTopic::document);
   mLayoutForm->setHasText(mDocument->hasText());
   showPagesProblem(checkPages());
@@ -94,7 +92,7 @@ void PrintDialog::takeComposition() {
 }
 
 void PrintDialog::failComposition(const QString& reason) {
-  mStripPane->strip().setLabels(mModel.label(), 0);
+  showStrip();
   mStripPane->strip().setMessage(tr("This document cannot be shown"));
   mNotices->setNotice(NoticeTopic::document, reason);
   mNotices->clear(NoticeTopic::edges);

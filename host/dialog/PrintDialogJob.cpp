@@ -111,8 +111,8 @@ void PrintDialog::openDocuments(std::vector<std::string> paths) {
   for (const NoticeTopic topic : {NoticeTopic::document, NoticeTopic::edges, NoticeTopic::paper}) {
     mNotices->clear(topic);
   }
-  mStripPane->strip().setLabels(mModel.label(), 0);
   loadDocument();
+  showStrip();
   refreshPrintButton();
 }
 

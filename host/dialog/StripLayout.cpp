@@ -2,123 +2,166 @@
 
 #include <algorithm>
 
+#include "host/dialog/LabelAsSeen.h"
+
 namespace cutline {
 namespace {
 
-constexpr double kMargin = 20;   // around the strip; the torn ends reach into it
-constexpr double kLaneGap = 26;  // holds the numbers of the pages
+constexpr double kMargin = 10;
+constexpr double kLaneGap = 8;
+constexpr double kKnives = 15;
+constexpr double kBacking = 3;
 constexpr double kMostScale = 2.6;
-constexpr double kTolerance = 1;    // in pixels
-constexpr double kRollShare = 0.7;  // of the view's height, for one label of a roll
-constexpr int kQuarter = 90;
-constexpr int kHalf = 180;
-constexpr int kThreeQuarters = 270;
+constexpr double kReadable = 56;  // the least of a label that is not shown smaller by itself
+constexpr int kSteps = 40;        // to the scale that fits
 
-double fitScale(const LabelPage& label, QSizeF view) {
-  const QSizeF seen = sizeAsSeen(label);
-  if (seen.isEmpty()) return 1;
-  const double share = runsAcross(label) ? 1 : kRollShare;
-  const double width = std::max(1.0, view.width() - 2 * kMargin);
-  const double height = std::max(1.0, (view.height() - 2 * kMargin) * share);
-  return std::min({kMostScale, width / seen.width(), height / seen.height()});
+QSizeF alongAndAcross(QSizeF size, bool runsAcross) {
+  return runsAcross ? size : size.transposed();
+}
+
+double besideTape(const StripRoom& room) { return room.ruler + kKnives + kBacking + room.caption; }
+
+std::uint64_t lanesFor(std::uint64_t labels, std::uint64_t labelsInLane) {
+  return (labels + labelsInLane - 1) / labelsInLane;
+}
+
+double roomAlong(const StripLine& line, double view) {
+  return view - 2 * kMargin - line.lead() - line.tail();
+}
+
+// The whole strip along and across, with its margins.
+QSizeF wholeOf(const StripLine& line, std::uint64_t labels, std::uint64_t labelsInLane,
+               double laneExtent) {
+  const auto lanes = static_cast<double>(lanesFor(labels, labelsInLane));
+  return {2 * kMargin + line.lead() + line.roomFor(labelsInLane) + line.tail(),
+          2 * kMargin + lanes * laneExtent + (lanes - 1) * kLaneGap};
+}
+
+// Whether the whole job is in sight at this scale.
+bool fits(const StripContent& content, const StripRoom& room, double scale) {
+  const QSizeF view = alongAndAcross(room.view, runsAcross(content.label));
+  const StripLine line(content, scale);
+  const std::uint64_t labels = std::max<std::uint64_t>(1, content.plan.labels());
+  const std::uint64_t inLane = line.labelsIn(roomAlong(line, view.width()));
+  const QSizeF whole =
+      wholeOf(line, labels, inLane, besideTape(room) + content.label.width * scale);
+  return whole.width() <= view.width() && whole.height() <= view.height();
+}
+
+double leastScale(const LabelPage& label) {
+  const double least = runsAcross(label) ? label.width : std::min(label.width, label.length);
+  return least > 0 ? std::min(kMostScale, kReadable / least) : 1;
+}
+
+double fitScale(const StripContent& content, const StripRoom& room) {
+  double low = leastScale(content.label);
+  double high = kMostScale;
+  if (fits(content, room, high)) return high;
+  if (!fits(content, room, low)) return low;
+  for (int step = 0; step < kSteps; ++step) {
+    const double middle = (low + high) / 2;
+    (fits(content, room, middle) ? low : high) = middle;
+  }
+  return low;
+}
+
+double largeScale(const LabelPage& label, const StripRoom& room) {
+  const QSizeF view = alongAndAcross(room.view, runsAcross(label));
+  if (label.length <= 0 || label.width <= 0) return 1;
+  const double least = leastScale(label);
+  return std::max(least, std::min((view.width() - 2 * kMargin) / label.length,
+                                  (view.height() - besideTape(room) - kMargin) / label.width));
+}
+
+double scaleFor(const StripContent& content, const StripRoom& room, StripZoom zoom) {
+  return zoom.isLarge ? largeScale(content.label, room) : fitScale(content, room) * zoom.factor;
+}
+
+// Which of `count` things that begin at each `pitch` an offset falls on; the nearest one.
+std::uint64_t indexAt(double offset, double pitch, std::uint64_t count) {
+  const double last = static_cast<double>(count - 1);
+  return static_cast<std::uint64_t>(std::clamp(offset / pitch, 0.0, last));
 }
 
 }  // namespace
 
-bool runsAcross(const LabelPage& label) noexcept { return label.upright % kHalf != 0; }
-
-QSizeF sizeAsSeen(const LabelPage& label) noexcept {
-  return runsAcross(label) ? QSizeF(label.length, label.width) : QSizeF(label.width, label.length);
-}
-
-// The paper is turned back by as much as a reader's page is turned onto it: after a quarter its top
-// lies left, as a tape leaves the printer.
-QRectF printableAsSeen(const LabelPage& label) noexcept {
-  const double width = label.printableWidth();
-  const double length = label.printableLength();
-  switch (label.upright) {
-    case kQuarter:
-      return {label.length - label.top, label.width - label.right, length, width};
-    case kHalf:
-      return {label.width - label.right, label.bottom, width, length};
-    case kThreeQuarters:
-      return {label.bottom, label.left, length, width};
-    default:
-      return {label.left, label.length - label.top, width, length};
-  }
-}
-
-StripLayout::StripLayout(const StripContent& content, QSizeF view, double zoom)
-    : mContent(content),
+StripLayout::StripLayout(const StripContent& content, const StripRoom& room, StripZoom zoom)
+    : mRoom(room),
       mRunsAcross(cutline::runsAcross(content.label)),
-      mView(view),
-      mScale(fitScale(mContent.label, view) * zoom) {
-  const double room = view.width() - 2 * kMargin + kTolerance;
-  const int fitting = static_cast<int>(room / std::max(1.0, labelSize().width()));
-  mPagesInLane = mRunsAcross ? std::clamp(fitting, 1, pageCount()) : pageCount();
+      mLabels(std::max<std::uint64_t>(1, content.plan.labels())),
+      mScale(scaleFor(content, room, zoom)),
+      mLine(content, mScale),
+      mBreadth(content.label.width * mScale),
+      mLabelsInLane(
+          mLine.labelsIn(roomAlong(mLine, alongAndAcross(room.view, mRunsAcross).width()))) {}
+
+double StripLayout::knives() noexcept { return kKnives; }
+double StripLayout::backing() noexcept { return kBacking; }
+
+double StripLayout::laneExtent() const noexcept { return besideTape(mRoom) + mBreadth; }
+
+std::uint64_t StripLayout::laneCount() const noexcept { return lanesFor(mLabels, mLabelsInLane); }
+
+QSizeF StripLayout::whole() const noexcept {
+  return wholeOf(mLine, mLabels, mLabelsInLane, laneExtent());
 }
 
-QSizeF StripLayout::labelSize() const noexcept { return sizeAsSeen(mContent.label) * mScale; }
+QSizeF StripLayout::size() const noexcept { return alongAndAcross(whole(), mRunsAcross); }
 
-int StripLayout::laneCount() const noexcept {
-  return (pageCount() + mPagesInLane - 1) / mPagesInLane;
+// In the middle of a view that is larger.
+StripLayout::Lane StripLayout::lane(std::uint64_t index) const noexcept {
+  const QSizeF spare = (alongAndAcross(mRoom.view, mRunsAcross) - whole()) / 2;
+  const std::uint64_t first = index * mLabelsInLane + 1;
+  const double step = laneExtent() + kLaneGap;
+  return {first, std::min(first + mLabelsInLane - 1, mLabels),
+          std::max(0.0, spare.width()) + kMargin + mLine.lead(),
+          std::max(0.0, spare.height()) + kMargin + mRoom.ruler + kKnives +
+              static_cast<double>(index) * step};
 }
 
-double StripLayout::laneStart(double extent) const noexcept {
-  return std::max(kMargin, (mView.width() - extent) / 2);
+double StripLayout::along(const Lane& lane, std::uint64_t label) const noexcept {
+  return lane.along + mLine.begin(lane.first, label);
 }
 
-StripLayout::Lane StripLayout::lane(int index) const noexcept {
-  const int first = index * mPagesInLane;
-  const int last = std::min(first + mPagesInLane, pageCount()) - 1;
-  const QSizeF label = labelSize();
-  const int count = last - first + 1;
-  if (!mRunsAcross) {
-    return {QRectF(laneStart(label.width()), kMargin, label.width(), label.height() * count), first,
-            last};
-  }
-  const double left = laneStart(label.width() * mPagesInLane);
-  const double top = kMargin + index * (label.height() + kLaneGap);
-  return {QRectF(left, top, label.width() * count, label.height()), first, last};
+QRectF StripLayout::placed(double along, double across, double length,
+                           double breadth) const noexcept {
+  return mRunsAcross ? QRectF(along, across, length, breadth)
+                     : QRectF(across, along, breadth, length);
 }
 
-QSizeF StripLayout::size() const noexcept {
-  const QRectF last = lane(laneCount() - 1).rect;
-  const QRectF first = lane(0).rect;
-  return {first.width() + 2 * kMargin, last.bottom() + kLaneGap};
+QRectF StripLayout::label(std::uint64_t label) const noexcept {
+  const Lane found = lane(laneOf(label));
+  return placed(along(found, label), found.across, mLine.labelLength(), mBreadth);
 }
 
-QRectF StripLayout::label(int page) const noexcept {
-  const Lane found = lane(page / mPagesInLane);
-  const QSizeF size = labelSize();
-  const int position = page - found.first;
-  const QPointF step =
-      mRunsAcross ? QPointF(size.width() * position, 0) : QPointF(0, size.height() * position);
-  return {found.rect.topLeft() + step, size};
+QRectF StripLayout::surroundings(std::uint64_t label) const noexcept {
+  const Lane found = lane(laneOf(label));
+  const double start = along(found, label);
+  return placed(start - kMargin, found.across - mRoom.ruler - kKnives,
+                mLine.labelLength() + 2 * kMargin, laneExtent());
 }
 
-QRectF StripLayout::printableArea(int page) const noexcept {
-  const QRectF area = printableAsSeen(mContent.label);
-  return QRectF(area.topLeft() * mScale, area.size() * mScale).translated(label(page).topLeft());
+StripLayout::Range StripLayout::lanesIn(const QRectF& area) const noexcept {
+  const double from = mRunsAcross ? area.top() : area.left();
+  const double to = mRunsAcross ? area.bottom() : area.right();
+  const double start = lane(0).across - mRoom.ruler - kKnives;
+  const double step = laneExtent() + kLaneGap;
+  return {indexAt(from - start, step, laneCount()), indexAt(to - start, step, laneCount())};
 }
 
-std::vector<int> StripLayout::pagesIn(const QRectF& area) const {
-  std::vector<int> pages;
-  for (int index = 0; index < laneCount(); ++index) {
-    const Lane each = lane(index);
-    if (!each.rect.intersects(area)) continue;
-    for (int page = each.first; page <= each.last; ++page) {
-      if (label(page).intersects(area)) pages.push_back(page);
-    }
-  }
-  return pages;
+StripLayout::Range StripLayout::labelsIn(const Lane& lane, const QRectF& area) const noexcept {
+  const double from = mRunsAcross ? area.left() : area.top();
+  const double to = mRunsAcross ? area.right() : area.bottom();
+  return {std::min(lane.last, mLine.labelBefore(lane.first, from - lane.along)),
+          std::min(lane.last, mLine.labelBefore(lane.first, to - lane.along))};
 }
 
-int StripLayout::pageAt(const QPointF& place) const noexcept {
-  for (int page = 0; page < pageCount(); ++page) {
-    if (label(page).contains(place)) return page;
-  }
-  return -1;
+std::uint64_t StripLayout::labelAt(const QPointF& place) const noexcept {
+  const Lane found = lane(lanesIn(QRectF(place, QSizeF(1, 1))).first);
+  const std::uint64_t label = labelsIn(found, QRectF(place, QSizeF(1, 1))).first;
+  const QRectF taken = placed(along(found, label), found.across, mLine.labelLength(),
+                              mBreadth + kBacking + mRoom.caption);
+  return taken.contains(place) ? label : 0;
 }
 
 }  // namespace cutline

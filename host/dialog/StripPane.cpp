@@ -9,36 +9,47 @@ namespace cutline {
 namespace {
 
 const QString kSeparator = QStringLiteral(" \u00b7 ");
+constexpr double kSentenceShare = 1.15;  // of the dialog's font
+constexpr int kGap = 12;
 
 }  // namespace
 
 StripPane::StripPane(QWidget* parent)
     : QWidget(parent),
       mStrip(new StripView(this)),
+      mSentence(new QLabel(this)),
       mPrevious(
           makeButton(QStringLiteral("\u2039"), tr("Previous label"), &StripPane::showPrevious)),
       mPosition(new QLabel(this)),
       mNext(makeButton(QStringLiteral("\u203a"), tr("Next label"), &StripPane::showNext)),
       mZoomOut(makeButton(QStringLiteral("\u2212"), tr("Zoom out"), &StripPane::zoomOut)),
-      mFit(makeButton(tr("Fit"), tr("Fit a label into the view"), &StripPane::zoomToFit)),
+      mFit(makeButton(tr("Fit"), tr("Fit the job into the view"), &StripPane::zoomToFit)),
       mZoomIn(makeButton(QStringLiteral("+"), tr("Zoom in"), &StripPane::zoomIn)) {
+  makeLayout();
+  connect(mStrip, &StripView::currentLabelChanged, this, &StripPane::refresh);
+  connect(mStrip, &StripView::zoomChanged, this, &StripPane::refresh);
+  refresh();
+}
+
+void StripPane::makeLayout() {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(mStrip, 1);
+  column->addWidget(mSentence);
   auto* row = new QHBoxLayout;
-  row->setSpacing(4);
-  row->addWidget(mPrevious);
-  row->addWidget(mNext);
+  row->setSpacing(2);
   row->addWidget(mPosition, 1);
-  row->addWidget(mZoomOut);
-  row->addWidget(mFit);
-  row->addWidget(mZoomIn);
+  row->addSpacing(kGap);
+  for (QWidget* each : {mPrevious, mNext, mZoomOut, mFit, mZoomIn}) row->addWidget(each);
   column->addLayout(row);
+  QFont larger = mSentence->font();
+  larger.setPointSizeF(larger.pointSizeF() * kSentenceShare);
+  mSentence->setFont(larger);
+  mSentence->setTextFormat(Qt::PlainText);
+  mSentence->setWordWrap(true);
   mPosition->setTextFormat(Qt::PlainText);
   mPosition->setWordWrap(true);
-  connect(mStrip, &StripView::currentPageChanged, this, &StripPane::refresh);
-  connect(mStrip, &StripView::zoomChanged, this, &StripPane::refresh);
-  refresh();
+  mPosition->setForegroundRole(QPalette::PlaceholderText);
 }
 
 QToolButton* StripPane::makeButton(const QString& text, const QString& name,
@@ -53,29 +64,32 @@ QToolButton* StripPane::makeButton(const QString& text, const QString& name,
   return button;
 }
 
-void StripPane::setPaperText(const QString& text) {
-  mPaperText = text;
+void StripPane::setJob(const StripContent& content, const QString& sentence, const QString& paper) {
+  mPaper = paper;
+  mSentence->setText(sentence);
+  mStrip->setContent(content);
   refresh();
 }
 
-QString StripPane::pageText() const {
-  if (mStrip->pageCount() == 0) return {};
-  return tr("Label %1 of %2").arg(mStrip->currentPage() + 1).arg(mStrip->pageCount());
+QString StripPane::position() const {
+  if (mStrip->labelCount() == 0) return mPaper;
+  const QString label = tr("Label %1 of %2").arg(mStrip->currentLabel()).arg(mStrip->labelCount());
+  return mPaper.isEmpty() ? label : label + kSeparator + mPaper;
 }
 
 void StripPane::refresh() {
-  const QString page = pageText();
-  mPosition->setText(page.isEmpty() || mPaperText.isEmpty() ? page + mPaperText
-                                                            : page + kSeparator + mPaperText);
-  mStrip->setWords(mPosition->text());
-  mPrevious->setEnabled(mStrip->currentPage() > 0);
-  mNext->setEnabled(mStrip->currentPage() + 1 < mStrip->pageCount());
+  const QString place = position();
+  const QString sentence = mSentence->text();
+  mPosition->setText(place);
+  mStrip->setWords(sentence.isEmpty() ? place : sentence + QStringLiteral("\n") + place);
+  mPrevious->setEnabled(mStrip->currentLabel() > 1);
+  mNext->setEnabled(mStrip->currentLabel() < mStrip->labelCount());
   mZoomOut->setEnabled(mStrip->canZoomOut());
   mZoomIn->setEnabled(mStrip->canZoomIn());
 }
 
-void StripPane::showPrevious() { mStrip->setCurrentPage(mStrip->currentPage() - 1); }
-void StripPane::showNext() { mStrip->setCurrentPage(mStrip->currentPage() + 1); }
+void StripPane::showPrevious() { mStrip->setCurrentLabel(mStrip->currentLabel() - 1); }
+void StripPane::showNext() { mStrip->setCurrentLabel(mStrip->currentLabel() + 1); }
 void StripPane::zoomOut() { mStrip->zoomOut(); }
 void StripPane::zoomToFit() { mStrip->zoomToFit(); }
 void StripPane::zoomIn() { mStrip->zoomIn(); }

@@ -1,4 +1,5 @@
-// The preview with what belongs to it: which label it shows, steps to the next, zoom.
+// The preview with what belongs to it: the job in a sentence, which label is the current one, steps
+// to the next, zoom.
 #pragma once
 
 #include <QWidget>
@@ -17,13 +18,15 @@ class StripPane : public QWidget {
   explicit StripPane(QWidget* parent = nullptr);
 
   StripView& strip() const noexcept { return *mStrip; }
-  // Said beside the label's number, such as the paper's name.
-  void setPaperText(const QString& text);
+  // Shows the job and says what becomes of it. `paper`, such as its name, is said beside the
+  // label's number. The same again changes nothing.
+  void setJob(const StripContent& content, const QString& sentence, const QString& paper);
 
  private:
   QToolButton* makeButton(const QString& text, const QString& name, void (StripPane::*step)());
+  void makeLayout();
   void refresh();
-  QString pageText() const;
+  QString position() const;
   void showPrevious();
   void showNext();
   void zoomOut();
@@ -31,13 +34,14 @@ class StripPane : public QWidget {
   void zoomIn();
 
   StripView* mStrip;
+  QLabel* mSentence;
   QToolButton* mPrevious;
   QLabel* mPosition;
   QToolButton* mNext;
   QToolButton* mZoomOut;
   QToolButton* mFit;
   QToolButton* mZoomIn;
-  QString mPaperText;
+  QString mPaper;
 };
 
 }  // namespace cutline

@@ -1,164 +1,143 @@
 // The part of StripView that paints.
 #include <QPaintEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <algorithm>
-#include <cmath>
 
-#include "host/dialog/Appearance.h"
+#include "host/dialog/LabelAsSeen.h"
+#include "host/dialog/StripDrawing.h"
 #include "host/dialog/StripView.h"
 
 namespace cutline {
 namespace {
 
-constexpr double kTornDepth = 5;
-constexpr double kTornTail = 12;  // how far the tape goes on beyond its last label
-constexpr double kSkippedOpacity = 0.22;
 constexpr double kDimmedOpacity = 0.45;
-constexpr double kNumberShare = 0.88;  // of the dialog's font
-
-struct Colours {
-  QColor desk;
-  QColor tape;
-  QColor skippedTape;
-  QColor edge;
-  QColor boundary;
-  QColor printable;
-  QColor number;
-};
-
-Colours coloursFor(const QPalette& palette) {
-  const QColor desk = isDark(palette) ? QColor(0xff15171a) : QColor(0xffdfe2e3);
-  const QColor number = isDark(palette) ? QColor(0xffa9aeb2) : QColor(0xff4d5256);
-  return {desk,
-          QColor(0xfffdfdfb),
-          isDark(palette) ? QColor(0xff8a8d90) : QColor(0xffe9ebec),
-          QColor(0xff8f9497),
-          QColor(0xff9aa0a4),
-          QColor(0xffbdd3ea),
-          number};
-}
-
-// The outline of a torn end: from `from` to `to` in teeth that stand out by `depth`.
-void addTeeth(QPainterPath& path, QPointF from, QPointF to, QPointF depth) {
-  const double length = std::hypot(to.x() - from.x(), to.y() - from.y());
-  const int count = std::max(2, static_cast<int>(length / (2 * kTornDepth)));
-  for (int tooth = 0; tooth < count; ++tooth) {
-    const QPointF middle = from + (to - from) * ((tooth + 0.5) / count);
-    path.lineTo(middle + depth);
-    path.lineTo(from + (to - from) * ((tooth + 1.0) / count));
-  }
-}
-
-// A piece of tape whose start is cut off straight or torn, and whose end is torn.
-QPainterPath pieceAcross(const QRectF& rect, bool startsTorn) {
-  const QRectF piece = rect.adjusted(startsTorn ? -kTornTail : 0, 0, kTornTail, 0);
-  QPainterPath path(piece.topLeft());
-  path.lineTo(piece.topRight());
-  addTeeth(path, piece.topRight(), piece.bottomRight(), {kTornDepth, 0});
-  path.lineTo(piece.bottomLeft());
-  if (startsTorn) addTeeth(path, piece.bottomLeft(), piece.topLeft(), {kTornDepth, 0});
-  path.closeSubpath();
-  return path;
-}
-
-QPainterPath pieceDown(const QRectF& rect) {
-  const QRectF piece = rect.adjusted(0, 0, 0, kTornTail);
-  QPainterPath path(piece.topLeft());
-  path.lineTo(piece.topRight());
-  path.lineTo(piece.bottomRight());
-  addTeeth(path, piece.bottomRight(), piece.bottomLeft(), {0, kTornDepth});
-  path.closeSubpath();
-  return path;
-}
+constexpr double kCaptionGap = 3;
+constexpr double kPillPadding = 6;
 
 }  // namespace
 
-void StripView::paintEvent(QPaintEvent* event) {
-  QPainter painter(viewport());
-  painter.fillRect(event->rect(), coloursFor(palette()).desk);
-  if (mLayout) {
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.translate(-offset());
-    for (int lane = 0; lane < mLayout->laneCount(); ++lane) {
-      paintLane(painter, mLayout->lane(lane));
-    }
-    const QRectF visible(offset(), QSizeF(viewport()->size()));
-    for (const int page : mLayout->pagesIn(visible)) paintLabel(painter, page);
-    painter.resetTransform();
+// Draws labels and what is said of them; the rest of a strip is StripDrawing's.
+class StripView::LabelPainter {
+ public:
+  LabelPainter(StripView& view, QPainter& painter, const StripCanvas& canvas,
+               const StripColours& colours)
+      : mView(view), mPainter(painter), mCanvas(canvas), mColours(colours) {}
+
+  void paintLabel(std::uint64_t label) const;
+  void paintCaption(std::uint64_t label) const;
+
+ private:
+  QRectF seen(std::uint64_t label) const {
+    return mView.mLayout->label(label).translated(-mView.offset());
   }
-  if (!mMessage.isEmpty()) paintMessage(painter);
+  QRectF snapped(const QRectF& rect) const;
+  QRectF pictureRect(const QImage& picture, std::uint64_t label) const;
+  QString fittingCaption(std::uint64_t label, double room) const;
+  QRectF captionRoom(std::uint64_t label) const;
+
+  StripView& mView;
+  QPainter& mPainter;
+  const StripCanvas& mCanvas;
+  const StripColours& mColours;
+};
+
+QRectF StripView::LabelPainter::snapped(const QRectF& rect) const {
+  const bool across = mCanvas.runsAcross();
+  const QRectF strip = rect.translated(mView.offset());
+  return across ? mCanvas.rect(strip.left(), strip.top(), strip.width(), strip.height())
+                : mCanvas.rect(strip.top(), strip.left(), strip.height(), strip.width());
 }
 
-void StripView::paintLane(QPainter& painter, const StripLayout::Lane& lane) const {
-  const Colours colours = coloursFor(palette());
-  const QPainterPath piece =
-      mLayout->runsAcross() ? pieceAcross(lane.rect, lane.first > 0) : pieceDown(lane.rect);
-  painter.setPen(QPen(colours.edge, 1));
-  painter.setBrush(colours.tape);
-  painter.drawPath(piece);
-}
-
-void StripView::paintLabel(QPainter& painter, int page) {
-  const Colours colours = coloursFor(palette());
-  const QRectF label = mLayout->label(page);
-  const bool isSkipped = mPageCount > 0 && !isPrinted(page);
-  if (isSkipped) painter.fillRect(label.adjusted(1, 1, -1, -1), colours.skippedTape);
-  painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(colours.printable, 1, Qt::DotLine));
-  painter.drawRect(mLayout->printableArea(page));
-  painter.save();
-  if (mIsDimmed) painter.setOpacity(kDimmedOpacity);
-  if (isSkipped) painter.setOpacity(kSkippedOpacity);
-  paintContent(painter, page);
-  painter.restore();
-  painter.setPen(QPen(colours.boundary, 1, Qt::DashLine));
-  if (mLayout->runsAcross()) {
-    painter.drawLine(label.topRight(), label.bottomRight());
-  } else {
-    painter.drawLine(label.bottomLeft(), label.bottomRight());
+void StripView::LabelPainter::paintLabel(std::uint64_t label) const {
+  const double scale = mView.mLayout->scale();
+  const QRectF area = printableAsSeen(mView.mContent->label);
+  const QRectF whole = seen(label);
+  mPainter.save();
+  mPainter.setBrush(Qt::NoBrush);
+  mPainter.setPen(QPen(mColours.printable, mCanvas.hair(), Qt::DotLine));
+  const double half = mCanvas.hair() / 2;
+  mPainter.drawRect(snapped(QRectF(whole.topLeft() + area.topLeft() * scale, area.size() * scale))
+                        .adjusted(half, half, -half, -half));
+  QImage picture = mView.mCache.image(mView.pageOf(label));
+  if (!picture.isNull() && mView.mContent->hasDocument) {
+    if (mView.mIsDimmed) mPainter.setOpacity(kDimmedOpacity);
+    if (mView.mContent->plan.rules().settings().mirrors) picture = picture.mirrored(true, false);
+    mPainter.setClipRect(snapped(whole));
+    mPainter.setCompositionMode(QPainter::CompositionMode_Multiply);
+    mPainter.drawImage(pictureRect(picture, label), picture);
   }
-  paintNumber(painter, page);
-}
-
-void StripView::paintContent(QPainter& painter, int page) {
-  QImage picture = mCache.image(page);
-  if (picture.isNull()) return;
-  if (mIsMirrored) picture = picture.mirrored(true, false);
-  painter.setClipRect(mLayout->label(page));
-  painter.setCompositionMode(QPainter::CompositionMode_Multiply);
-  painter.drawImage(pictureRect(picture, page), picture);
+  mPainter.restore();
 }
 
 // One that was drawn for this scale lies pixel upon pixel; another is stretched until that comes.
-QRectF StripView::pictureRect(const QImage& picture, int page) const {
-  const QRectF label = mLayout->label(page);
-  if (!mCache.has(page, drawnScale())) return label;
-  const double ratio = devicePixelRatioF();
-  const auto onPixel = [ratio](double at) { return std::round(at * ratio) / ratio; };
-  const QPointF corner = label.topLeft() - offset();
-  return {QPointF(onPixel(corner.x()), onPixel(corner.y())) + offset(),
-          QSizeF(picture.size()) / ratio};
+QRectF StripView::LabelPainter::pictureRect(const QImage& picture, std::uint64_t label) const {
+  const QRectF whole = snapped(seen(label));
+  if (!mView.mCache.has(mView.pageOf(label), mView.drawnScale())) return whole;
+  return {whole.topLeft(), QSizeF(picture.size()) / mView.devicePixelRatioF()};
 }
 
-void StripView::paintNumber(QPainter& painter, int page) const {
-  if (mPageCount == 0) return;
-  const Colours colours = coloursFor(palette());
-  const QRectF label = mLayout->label(page);
-  QFont numberFont = font();
-  numberFont.setPointSizeF(numberFont.pointSizeF() * kNumberShare);
-  numberFont.setBold(page == mCurrentPage);
-  painter.setFont(numberFont);
-  painter.setPen(page == mCurrentPage ? palette().color(QPalette::Text) : colours.number);
-  const QString number = QString::number(page + 1);
-  const QString caption = isPrinted(page) ? number : tr("%1 - not printed").arg(number);
-  const double height = painter.fontMetrics().height();
-  if (mLayout->runsAcross()) {
-    painter.drawText(QRectF(label.left(), label.bottom() + 3, label.width(), height),
-                     Qt::AlignHCenter | Qt::AlignTop, caption);
-  } else {
-    painter.drawText(QRectF(label.right() + 8, label.top(), viewport()->width(), label.height()),
-                     Qt::AlignLeft | Qt::AlignVCenter, number);
+QRectF StripView::LabelPainter::captionRoom(std::uint64_t label) const {
+  const StripLayout& layout = *mView.mLayout;
+  const QRectF whole = seen(label);
+  const double beside = StripLayout::backing() + kCaptionGap;
+  if (!layout.runsAcross())
+    return {whole.right() + beside, whole.top(), layout.caption() - beside, whole.height()};
+  return {whole.left(), whole.bottom() + beside, whole.width(), layout.caption() - beside};
+}
+
+// The longest words that have room; none at all where not even the number has.
+QString StripView::LabelPainter::fittingCaption(std::uint64_t label, double room) const {
+  const QFontMetricsF metrics(mPainter.font());
+  for (const QString& words : mView.captions(label)) {
+    if (metrics.horizontalAdvance(words) + 2 * kPillPadding <= room) return words;
+  }
+  return {};
+}
+
+void StripView::LabelPainter::paintCaption(std::uint64_t label) const {
+  const QRectF room = captionRoom(label);
+  const QString words = fittingCaption(label, room.width() + kPillPadding);
+  if (words.isEmpty()) return;
+  const bool isCurrent = label == mView.mCurrent && mView.labelCount() > 1;
+  const QFontMetricsF metrics(mPainter.font());
+  const QSizeF size(metrics.horizontalAdvance(words) + 2 * kPillPadding, metrics.height());
+  const double left = mCanvas.runsAcross() ? room.center().x() - size.width() / 2 : room.left();
+  const double top = mCanvas.runsAcross() ? room.top() : room.center().y() - size.height() / 2;
+  const QRectF pill = snapped(QRectF(QPointF(left, top), size));
+  if (isCurrent) {
+    mPainter.setPen(Qt::NoPen);
+    mPainter.setBrush(mView.palette().color(QPalette::Highlight));
+    mPainter.drawRoundedRect(pill, size.height() / 2, size.height() / 2);
+  }
+  mPainter.setPen(isCurrent ? mView.palette().color(QPalette::HighlightedText) : mColours.caption);
+  mPainter.drawText(pill, Qt::AlignCenter | Qt::TextDontClip, words);
+}
+
+void StripView::paintEvent(QPaintEvent* event) {
+  QPainter painter(viewport());
+  painter.fillRect(event->rect(), StripColours::of(palette()).desk);
+  if (mLayout) paintStrip(painter);
+  if (!mMessage.isEmpty()) paintMessage(painter);
+}
+
+void StripView::paintStrip(QPainter& painter) {
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+  const StripColours colours = StripColours::of(palette());
+  const QRectF area(offset(), QSizeF(viewport()->size()));
+  const StripCanvas canvas(painter, mLayout->runsAcross(), offset(),
+                           viewport()->mapTo(window(), QPoint(0, 0)), devicePixelRatioF());
+  const StripDrawing drawing(canvas, colours, *mContent, *mLayout, area);
+  const LabelPainter labels(*this, painter, canvas, colours);
+  const StripLayout::Range lanes = mLayout->lanesIn(area);
+  for (std::uint64_t index = lanes.first; index <= lanes.last; ++index) {
+    const StripLayout::Lane lane = mLayout->lane(index);
+    const StripLayout::Range seen = mLayout->labelsIn(lane, area);
+    drawing.drawTape(lane);
+    for (std::uint64_t label = seen.first; label <= seen.last; ++label) labels.paintLabel(label);
+    drawing.drawSigns(lane);
+    drawing.drawRuler(lane);
+    if (labelCount() == 0) continue;
+    for (std::uint64_t label = seen.first; label <= seen.last; ++label) labels.paintCaption(label);
   }
 }
 
@@ -172,6 +151,28 @@ void StripView::paintMessage(QPainter& painter) const {
   painter.drawRoundedRect(plate, 6, 6);
   painter.setPen(palette().color(QPalette::WindowText));
   painter.drawText(text, Qt::AlignCenter | Qt::TextWordWrap, mMessage);
+}
+
+// Of the page with the highest number.
+QString StripView::widestCaption() const {
+  const std::vector<unsigned>& pages = mContent->plan.run().pages;
+  if (pages.empty()) return {};
+  const auto highest = std::max_element(pages.begin(), pages.end()) - pages.begin();
+  const auto copies = std::uint64_t{mContent->plan.run().copies};
+  const auto page = static_cast<std::uint64_t>(highest);
+  return captions(mContent->plan.run().isCollated ? page + 1 : (page + 1) * copies).front();
+}
+
+// From the longest to the shortest.
+QStringList StripView::captions(std::uint64_t label) const {
+  const LabelRun& run = mContent->plan.run();
+  const QString page = QString::number(run.pageOf(label));
+  QStringList words{page};
+  if (run.copies > 1) words.prepend(tr("%1 (copy %2)").arg(page).arg(run.copyOf(label)));
+  const bool staysIn =
+      label == labelCount() && mContent->plan.end() == PieceRun::End::StaysInPrinter;
+  if (staysIn) words.prepend(tr("%1, stays in the printer").arg(words.front()));
+  return words;
 }
 
 }  // namespace cutline

@@ -1140,16 +1140,16 @@
         <translation>Einpassen</translation>
     </message>
     <message>
-        <source>Fit a label into the view</source>
-        <translation>Ein Etikett in die Ansicht einpassen</translation>
-    </message>
-    <message>
         <source>Zoom in</source>
         <translation>Vergrößern</translation>
     </message>
     <message>
         <source>Label %1 of %2</source>
         <translation>Etikett %1 von %2</translation>
+    </message>
+    <message>
+        <source>Fit the job into the view</source>
+        <translation>Den Auftrag in die Ansicht einpassen</translation>
     </message>
 </context>
 <context>
@@ -1159,8 +1159,24 @@
         <translation>Vorschau der Etiketten</translation>
     </message>
     <message>
-        <source>%1 - not printed</source>
-        <translation>%1 – wird nicht gedruckt</translation>
+        <source>Print this label only</source>
+        <translation>Nur dieses Etikett drucken</translation>
+    </message>
+    <message>
+        <source>Show all labels</source>
+        <translation>Alle Etiketten zeigen</translation>
+    </message>
+    <message>
+        <source>Show large</source>
+        <translation>Groß zeigen</translation>
+    </message>
+    <message>
+        <source>%1 (copy %2)</source>
+        <translation>%1 (Kopie %2)</translation>
+    </message>
+    <message>
+        <source>%1, stays in the printer</source>
+        <translation>%1, bleibt im Drucker</translation>
     </message>
 </context>
 <context>

@@ -1140,16 +1140,16 @@
         <translation>Ajustar</translation>
     </message>
     <message>
-        <source>Fit a label into the view</source>
-        <translation>Ajustar una etiqueta a la vista</translation>
-    </message>
-    <message>
         <source>Zoom in</source>
         <translation>Ampliar</translation>
     </message>
     <message>
         <source>Label %1 of %2</source>
         <translation>Etiqueta %1 de %2</translation>
+    </message>
+    <message>
+        <source>Fit the job into the view</source>
+        <translation>Ajustar el trabajo a la vista</translation>
     </message>
 </context>
 <context>
@@ -1159,8 +1159,24 @@
         <translation>Vista previa de las etiquetas</translation>
     </message>
     <message>
-        <source>%1 - not printed</source>
-        <translation>%1 – no se imprime</translation>
+        <source>Print this label only</source>
+        <translation>Imprimir solo esta etiqueta</translation>
+    </message>
+    <message>
+        <source>Show all labels</source>
+        <translation>Mostrar todas las etiquetas</translation>
+    </message>
+    <message>
+        <source>Show large</source>
+        <translation>Mostrar en grande</translation>
+    </message>
+    <message>
+        <source>%1 (copy %2)</source>
+        <translation>%1 (copia %2)</translation>
+    </message>
+    <message>
+        <source>%1, stays in the printer</source>
+        <translation>%1, queda en la impresora</translation>
     </message>
 </context>
 <context>

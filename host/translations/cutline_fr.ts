@@ -1140,16 +1140,16 @@
         <translation>Ajuster</translation>
     </message>
     <message>
-        <source>Fit a label into the view</source>
-        <translation>Ajuster une étiquette à la vue</translation>
-    </message>
-    <message>
         <source>Zoom in</source>
         <translation>Zoom avant</translation>
     </message>
     <message>
         <source>Label %1 of %2</source>
         <translation>Étiquette %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Fit the job into the view</source>
+        <translation>Adapter la tâche à la vue</translation>
     </message>
 </context>
 <context>
@@ -1159,8 +1159,24 @@
         <translation>Aperçu des étiquettes</translation>
     </message>
     <message>
-        <source>%1 - not printed</source>
-        <translation>%1 – non imprimée</translation>
+        <source>Print this label only</source>
+        <translation>N’imprimer que cette étiquette</translation>
+    </message>
+    <message>
+        <source>Show all labels</source>
+        <translation>Afficher toutes les étiquettes</translation>
+    </message>
+    <message>
+        <source>Show large</source>
+        <translation>Afficher en grand</translation>
+    </message>
+    <message>
+        <source>%1 (copy %2)</source>
+        <translation>%1 (copie %2)</translation>
+    </message>
+    <message>
+        <source>%1, stays in the printer</source>
+        <translation>%1, reste dans l’imprimante</translation>
     </message>
 </context>
 <context>

@@ -1140,16 +1140,16 @@
         <translation>Adatta</translation>
     </message>
     <message>
-        <source>Fit a label into the view</source>
-        <translation>Adatta un’etichetta alla vista</translation>
-    </message>
-    <message>
         <source>Zoom in</source>
         <translation>Ingrandisci</translation>
     </message>
     <message>
         <source>Label %1 of %2</source>
         <translation>Etichetta %1 di %2</translation>
+    </message>
+    <message>
+        <source>Fit the job into the view</source>
+        <translation>Adatta il lavoro alla vista</translation>
     </message>
 </context>
 <context>
@@ -1159,8 +1159,24 @@
         <translation>Anteprima delle etichette</translation>
     </message>
     <message>
-        <source>%1 - not printed</source>
-        <translation>%1 – non stampata</translation>
+        <source>Print this label only</source>
+        <translation>Stampa solo questa etichetta</translation>
+    </message>
+    <message>
+        <source>Show all labels</source>
+        <translation>Mostra tutte le etichette</translation>
+    </message>
+    <message>
+        <source>Show large</source>
+        <translation>Mostra ingrandita</translation>
+    </message>
+    <message>
+        <source>%1 (copy %2)</source>
+        <translation>%1 (copia %2)</translation>
+    </message>
+    <message>
+        <source>%1, stays in the printer</source>
+        <translation>%1, resta nella stampante</translation>
     </message>
 </context>
 <context>

@@ -1140,16 +1140,16 @@
         <translation>全体</translation>
     </message>
     <message>
-        <source>Fit a label into the view</source>
-        <translation>ラベルを表示領域に合わせる</translation>
-    </message>
-    <message>
         <source>Zoom in</source>
         <translation>拡大</translation>
     </message>
     <message>
         <source>Label %1 of %2</source>
         <translation>ラベル %1/%2</translation>
+    </message>
+    <message>
+        <source>Fit the job into the view</source>
+        <translation>ジョブ全体を表示</translation>
     </message>
 </context>
 <context>
@@ -1159,8 +1159,24 @@
         <translation>ラベルのプレビュー</translation>
     </message>
     <message>
-        <source>%1 - not printed</source>
-        <translation>%1 – 印刷しない</translation>
+        <source>Print this label only</source>
+        <translation>このラベルだけを印刷</translation>
+    </message>
+    <message>
+        <source>Show all labels</source>
+        <translation>すべてのラベルを表示</translation>
+    </message>
+    <message>
+        <source>Show large</source>
+        <translation>大きく表示</translation>
+    </message>
+    <message>
+        <source>%1 (copy %2)</source>
+        <translation>%1（%2 部目）</translation>
+    </message>
+    <message>
+        <source>%1, stays in the printer</source>
+        <translation>%1、プリンターに残る</translation>
     </message>
 </context>
 <context>

@@ -1140,16 +1140,16 @@
         <translation>맞춤</translation>
     </message>
     <message>
-        <source>Fit a label into the view</source>
-        <translation>라벨을 보기에 맞춤</translation>
-    </message>
-    <message>
         <source>Zoom in</source>
         <translation>확대</translation>
     </message>
     <message>
         <source>Label %1 of %2</source>
         <translation>라벨 %1/%2</translation>
+    </message>
+    <message>
+        <source>Fit the job into the view</source>
+        <translation>작업 전체를 보기에 맞춤</translation>
     </message>
 </context>
 <context>
@@ -1159,8 +1159,24 @@
         <translation>라벨 미리 보기</translation>
     </message>
     <message>
-        <source>%1 - not printed</source>
-        <translation>%1 – 인쇄 안 함</translation>
+        <source>Print this label only</source>
+        <translation>이 라벨만 인쇄</translation>
+    </message>
+    <message>
+        <source>Show all labels</source>
+        <translation>모든 라벨 보기</translation>
+    </message>
+    <message>
+        <source>Show large</source>
+        <translation>크게 보기</translation>
+    </message>
+    <message>
+        <source>%1 (copy %2)</source>
+        <translation>%1(%2번째 사본)</translation>
+    </message>
+    <message>
+        <source>%1, stays in the printer</source>
+        <translation>%1, 프린터에 남음</translation>
     </message>
 </context>
 <context>

@@ -1140,16 +1140,16 @@
         <translation>Passend</translation>
     </message>
     <message>
-        <source>Fit a label into the view</source>
-        <translation>Een label passend in beeld brengen</translation>
-    </message>
-    <message>
         <source>Zoom in</source>
         <translation>Inzoomen</translation>
     </message>
     <message>
         <source>Label %1 of %2</source>
         <translation>Label %1 van %2</translation>
+    </message>
+    <message>
+        <source>Fit the job into the view</source>
+        <translation>De opdracht passend weergeven</translation>
     </message>
 </context>
 <context>
@@ -1159,8 +1159,24 @@
         <translation>Voorbeeld van de labels</translation>
     </message>
     <message>
-        <source>%1 - not printed</source>
-        <translation>%1 – niet afgedrukt</translation>
+        <source>Print this label only</source>
+        <translation>Alleen dit etiket afdrukken</translation>
+    </message>
+    <message>
+        <source>Show all labels</source>
+        <translation>Alle etiketten tonen</translation>
+    </message>
+    <message>
+        <source>Show large</source>
+        <translation>Groot tonen</translation>
+    </message>
+    <message>
+        <source>%1 (copy %2)</source>
+        <translation>%1 (kopie %2)</translation>
+    </message>
+    <message>
+        <source>%1, stays in the printer</source>
+        <translation>%1, blijft in de printer</translation>
     </message>
 </context>
 <context>

@@ -1140,16 +1140,16 @@
         <translation>Ajustar</translation>
     </message>
     <message>
-        <source>Fit a label into the view</source>
-        <translation>Ajustar uma etiqueta à área visível</translation>
-    </message>
-    <message>
         <source>Zoom in</source>
         <translation>Ampliar</translation>
     </message>
     <message>
         <source>Label %1 of %2</source>
         <translation>Etiqueta %1 de %2</translation>
+    </message>
+    <message>
+        <source>Fit the job into the view</source>
+        <translation>Ajustar o trabalho à vista</translation>
     </message>
 </context>
 <context>
@@ -1159,8 +1159,24 @@
         <translation>Visualização das etiquetas</translation>
     </message>
     <message>
-        <source>%1 - not printed</source>
-        <translation>%1 – não impressa</translation>
+        <source>Print this label only</source>
+        <translation>Imprimir apenas esta etiqueta</translation>
+    </message>
+    <message>
+        <source>Show all labels</source>
+        <translation>Mostrar todas as etiquetas</translation>
+    </message>
+    <message>
+        <source>Show large</source>
+        <translation>Mostrar em tamanho grande</translation>
+    </message>
+    <message>
+        <source>%1 (copy %2)</source>
+        <translation>%1 (cópia %2)</translation>
+    </message>
+    <message>
+        <source>%1, stays in the printer</source>
+        <translation>%1, fica na impressora</translation>
     </message>
 </context>
 <context>

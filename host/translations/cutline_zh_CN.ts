@@ -1140,16 +1140,16 @@
         <translation>适合</translation>
     </message>
     <message>
-        <source>Fit a label into the view</source>
-        <translation>使标签适合视图</translation>
-    </message>
-    <message>
         <source>Zoom in</source>
         <translation>放大</translation>
     </message>
     <message>
         <source>Label %1 of %2</source>
         <translation>标签 %1/%2</translation>
+    </message>
+    <message>
+        <source>Fit the job into the view</source>
+        <translation>使整个作业适合视图</translation>
     </message>
 </context>
 <context>
@@ -1159,8 +1159,24 @@
         <translation>标签预览</translation>
     </message>
     <message>
-        <source>%1 - not printed</source>
-        <translation>%1 – 不打印</translation>
+        <source>Print this label only</source>
+        <translation>仅打印此标签</translation>
+    </message>
+    <message>
+        <source>Show all labels</source>
+        <translation>显示全部标签</translation>
+    </message>
+    <message>
+        <source>Show large</source>
+        <translation>放大显示</translation>
+    </message>
+    <message>
+        <source>%1 (copy %2)</source>
+        <translation>%1（第 %2 份）</translation>
+    </message>
+    <message>
+        <source>%1, stays in the printer</source>
+        <translation>%1，留在打印机中</translation>
     </message>
 </context>
 <context>

@@ -1140,16 +1140,16 @@
         <translation>符合</translation>
     </message>
     <message>
-        <source>Fit a label into the view</source>
-        <translation>使標籤符合檢視</translation>
-    </message>
-    <message>
         <source>Zoom in</source>
         <translation>放大</translation>
     </message>
     <message>
         <source>Label %1 of %2</source>
         <translation>標籤 %1/%2</translation>
+    </message>
+    <message>
+        <source>Fit the job into the view</source>
+        <translation>使整個工作適合檢視</translation>
     </message>
 </context>
 <context>
@@ -1159,8 +1159,24 @@
         <translation>標籤預覽</translation>
     </message>
     <message>
-        <source>%1 - not printed</source>
-        <translation>%1 – 不列印</translation>
+        <source>Print this label only</source>
+        <translation>僅列印此標籤</translation>
+    </message>
+    <message>
+        <source>Show all labels</source>
+        <translation>顯示全部標籤</translation>
+    </message>
+    <message>
+        <source>Show large</source>
+        <translation>放大顯示</translation>
+    </message>
+    <message>
+        <source>%1 (copy %2)</source>
+        <translation>%1（第 %2 份）</translation>
+    </message>
+    <message>
+        <source>%1, stays in the printer</source>
+        <translation>%1，留在印表機中</translation>
     </message>
 </context>
 <context>

@@ -180,11 +180,17 @@ TEST_F(AccessibilityTest, TheSummaryIsReadAsOneText) {
 TEST_F(AccessibilityTest, ThePreviewSaysWhichLabelItShows) {
   openAll("tape-a");
   auto* strip = dialog().findChild<StripView*>();
-  ASSERT_TRUE(waitUntil([&] { return strip->pageCount() == 3; }));
+  ASSERT_TRUE(waitUntil([&] { return strip->labelCount() == 3; }));
   const auto words = [&] { return spokenOf(strip).text(QAccessible::Description); };
-  EXPECT_EQ(words(), QStringLiteral("Label 1 of 3 \u00b7 Tape 24 mm, label 50 mm"));
+  const QString sentence =
+      QStringLiteral("3 labels, cut after each label: 3 pieces, 162 mm of tape\n");
+  EXPECT_EQ(words(), sentence + QStringLiteral("Label 1 of 3 \u00b7 Tape 24 mm, label 50 mm"));
   press(strip, Qt::Key_PageDown);
-  EXPECT_EQ(words(), QStringLiteral("Label 2 of 3 \u00b7 Tape 24 mm, label 50 mm"));
+  EXPECT_EQ(words(), sentence + QStringLiteral("Label 2 of 3 \u00b7 Tape 24 mm, label 50 mm"));
+  click(box("LxHalfCut"));
+  EXPECT_TRUE(words().startsWith(
+      QStringLiteral("3 labels, cut at the end, half cut between: 1 piece, 162 mm of tape\n")))
+      << words().toStdString();
   strip->setMessage(QStringLiteral("This document cannot be shown"));
   EXPECT_EQ(words(), QStringLiteral("This document cannot be shown"));
 }

@@ -47,7 +47,7 @@ class CompositionTest : public DialogTest {
 TEST_F(CompositionTest, EachLabelOfTheDocumentsIsShown) {
   composer().setPages(5);
   openQueue(samplePpd("tape-a"));
-  EXPECT_EQ(strip().pageCount(), 5);
+  EXPECT_EQ(strip().labelCount(), 5U);
   EXPECT_TRUE(notices(NoticeTopic::edges).isEmpty());
 }
 
@@ -64,13 +64,13 @@ TEST_F(CompositionTest, AnotherPaperIsComposedForAndShown) {
 TEST_F(CompositionTest, TheLabelThatIsLookedAtStaysWhileATextIsComposedAnew) {
   composer().setPartial();
   openQueue(samplePpd("tape-a"));
-  strip().setCurrentPage(2);
+  strip().setCurrentLabel(3);
   composer().holdRest();
   const std::size_t asked = composer().requests().size();
   ASSERT_TRUE(model().setPaper("W24H100"));
   ASSERT_TRUE(waitUntil([&] { return composer().requests().size() == asked + 2; }));
-  EXPECT_EQ(strip().pageCount(), 3);
-  EXPECT_EQ(strip().currentPage(), 2);
+  EXPECT_EQ(strip().labelCount(), 3U);
+  EXPECT_EQ(strip().currentLabel(), 3U);
   composer().letGo();
 }
 
@@ -135,7 +135,7 @@ TEST_F(CompositionTest, DroppedDocumentsReplaceTheOthers) {
   EXPECT_TRUE(drop({QUrl::fromLocalFile(QStringLiteral("/nowhere/first.pdf")),
                     QUrl::fromLocalFile(QStringLiteral("/nowhere/second.pdf")),
                     QUrl::fromLocalFile(QStringLiteral("/nowhere/third.pdf"))}));
-  EXPECT_TRUE(waitUntil([this] { return strip().pageCount() == 2; }));
+  EXPECT_TRUE(waitUntil([this] { return strip().labelCount() == 2U; }));
   EXPECT_EQ(composer().paths().size(), 3u);
   EXPECT_GT(composer().requests().size(), asked);
   EXPECT_EQ(dialog().windowTitle(), QStringLiteral("Print first.pdf and 2 more"));
@@ -144,7 +144,7 @@ TEST_F(CompositionTest, DroppedDocumentsReplaceTheOthers) {
 TEST_F(CompositionTest, WhatIsNoFileIsNotTaken) {
   openQueue(samplePpd("tape-a"));
   EXPECT_FALSE(drop({QUrl(QStringLiteral("https://example.org/labels.pdf"))}));
-  EXPECT_EQ(strip().pageCount(), 3);
+  EXPECT_EQ(strip().labelCount(), 3U);
 }
 
 TEST_F(CompositionTest, NothingIsTakenWhileAJobIsOnItsWay) {
@@ -163,7 +163,7 @@ TEST_F(CompositionTest, WithoutADocumentOneCanBeOpenedOrDropped) {
   EXPECT_TRUE(buttonWithText<QPushButton>("&Open...")->isVisible());
   EXPECT_FALSE(buttonWithText<QPushButton>("Pr&int")->isEnabled());
   EXPECT_TRUE(drop({QUrl::fromLocalFile(QStringLiteral("/nowhere/first.pdf"))}));
-  EXPECT_TRUE(waitUntil([this] { return strip().pageCount() == 3; }));
+  EXPECT_TRUE(waitUntil([this] { return strip().labelCount() == 3U; }));
   EXPECT_TRUE(buttonWithText<QPushButton>("Pr&int")->isEnabled());
   EXPECT_EQ(dialog().windowTitle(), QStringLiteral("Print first.pdf"));
 }
@@ -172,10 +172,10 @@ TEST_F(CompositionTest, AnotherDocumentMendsOneThatCannotBeRead) {
   composer().fail("first.pdf: damaged");
   openQueue(samplePpd("tape-a"));
   EXPECT_EQ(notices(NoticeTopic::document), QStringList(QStringLiteral("first.pdf: damaged")));
-  EXPECT_EQ(strip().pageCount(), 0);
+  EXPECT_EQ(strip().labelCount(), 0U);
   composer().fail({});
   EXPECT_TRUE(drop({QUrl::fromLocalFile(QStringLiteral("/nowhere/second.pdf"))}));
-  EXPECT_TRUE(waitUntil([this] { return strip().pageCount() == 3; }));
+  EXPECT_TRUE(waitUntil([this] { return strip().labelCount() == 3U; }));
   EXPECT_TRUE(notices(NoticeTopic::document).isEmpty());
   EXPECT_TRUE(buttonWithText<QPushButton>("Pr&int")->isEnabled());
 }

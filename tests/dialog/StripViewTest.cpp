@@ -5,9 +5,11 @@
 #include <QTest>
 #include <cstdlib>
 
+#include "host/dialog/LabelAsSeen.h"
 #include "host/dialog/StripView.h"
+#include "tests/dialog/StripJobs.h"
 
-namespace cutline {
+namespace cutline::test {
 
 namespace {
 
@@ -23,16 +25,11 @@ class StripViewTest : public testing::Test {
   StripViewTest() {
     QObject::connect(&mStrip, &StripView::pagesWanted,
                      [this](const std::deque<PageRequest>& wanted) { mWanted = wanted; });
-    mStrip.resize(500, 400);
+    mStrip.resize(500, 260);
     mStrip.show();
-    mStrip.setLabels(tape(), 12);
+    mStrip.setContent(jobOf(40));
   }
 
-  static LabelPage tape() {
-    LabelPage label{70, 280, 2, 5, 68, 275};
-    label.upright = 90;
-    return label;
-  }
   // The scale that pictures are wanted in.
   double scale() const { return mWanted.front().scale; }
   QImage grabbed() { return mStrip.viewport()->grab().toImage(); }
@@ -63,12 +60,12 @@ class StripViewTest : public testing::Test {
 TEST_F(StripViewTest, WantsTheVisiblePagesOnly) {
   ASSERT_FALSE(mWanted.empty());
   EXPECT_EQ(mWanted.front().page, 0);
-  EXPECT_LT(mWanted.size(), 12u);
+  EXPECT_LT(mWanted.size(), 20u);
 }
 
 TEST_F(StripViewTest, WantsThePagesThatItIsScrolledTo) {
   mStrip.verticalScrollBar()->setValue(mStrip.verticalScrollBar()->maximum());
-  EXPECT_EQ(mWanted.back().page, 11);
+  EXPECT_EQ(mWanted.back().page, 39);
 }
 
 TEST_F(StripViewTest, WantsNoPageTwice) {
@@ -81,22 +78,23 @@ TEST_F(StripViewTest, WantsNoPageTwice) {
   EXPECT_TRUE(mWanted.empty());
 }
 
-TEST_F(StripViewTest, KeysStepThroughThePages) {
+TEST_F(StripViewTest, KeysStepThroughTheLabels) {
   QTest::keyClick(&mStrip, Qt::Key_PageDown);
-  EXPECT_EQ(mStrip.currentPage(), 1);
+  EXPECT_EQ(mStrip.currentLabel(), 2U);
   QTest::keyClick(&mStrip, Qt::Key_End);
-  EXPECT_EQ(mStrip.currentPage(), 11);
+  EXPECT_EQ(mStrip.currentLabel(), 40U);
   QTest::keyClick(&mStrip, Qt::Key_PageDown);
-  EXPECT_EQ(mStrip.currentPage(), 11);
+  EXPECT_EQ(mStrip.currentLabel(), 40U);
   QTest::keyClick(&mStrip, Qt::Key_PageUp);
-  EXPECT_EQ(mStrip.currentPage(), 10);
+  EXPECT_EQ(mStrip.currentLabel(), 39U);
   QTest::keyClick(&mStrip, Qt::Key_Home);
-  EXPECT_EQ(mStrip.currentPage(), 0);
+  EXPECT_EQ(mStrip.currentLabel(), 1U);
 }
 
-TEST_F(StripViewTest, AClickChoosesAPage) {
-  QTest::mouseClick(mStrip.viewport(), Qt::LeftButton, Qt::NoModifier, {250, 200});
-  EXPECT_GT(mStrip.currentPage(), 0);
+TEST_F(StripViewTest, AClickChoosesALabel) {
+  const QPoint place = (mStrip.stripLayout()->label(3).center() - mStrip.offset()).toPoint();
+  QTest::mouseClick(mStrip.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+  EXPECT_EQ(mStrip.currentLabel(), 3U);
 }
 
 TEST_F(StripViewTest, KeysZoomWithinBounds) {
@@ -115,23 +113,22 @@ TEST_F(StripViewTest, MirroringTurnsTheTextRound) {
   const int before = leftmost(Qt::red);
   ASSERT_GE(before, 0);
   ASSERT_LT(before, leftmost(Qt::blue));
-  mStrip.setMirrored(true);
+  CutSettings mirroring = tapeSettings();
+  mirroring.mirrors = true;
+  mStrip.setContent(jobOf(40, mirroring));
   EXPECT_GT(leftmost(Qt::red), leftmost(Qt::blue));
 }
 
-TEST_F(StripViewTest, SkippedPagesAreDimmed) {
+TEST_F(StripViewTest, ShowsOnlyThePagesThatArePrinted) {
   drawHalves(0);
   ASSERT_GE(leftmost(Qt::red), 0);
-  mStrip.setSelection({*PageRanges::parse("2-")});
+  StripContent content = jobOf(40);
+  LabelRun run = content.plan.run();
+  run.pages.erase(run.pages.begin());
+  content.plan = CutPlan(tapeSettings(), run);
+  mStrip.setContent(content);
   EXPECT_EQ(leftmost(Qt::red), -1);
-}
-
-TEST_F(StripViewTest, PagesOutsideTheSetAreDimmed) {
-  drawHalves(0);
-  mStrip.setSelection({{}, PageSet::odd});
-  EXPECT_GE(leftmost(Qt::red), 0);
-  mStrip.setSelection({{}, PageSet::even});
-  EXPECT_EQ(leftmost(Qt::red), -1);
+  EXPECT_EQ(mStrip.labelCount(), 39U);
 }
 
 TEST_F(StripViewTest, PicturesOfWhatIsNoMoreAskedForAreDimmed) {
@@ -144,7 +141,7 @@ TEST_F(StripViewTest, PicturesOfWhatIsNoMoreAskedForAreDimmed) {
 
 // A picture in the wanted scale is shown as it is: no pixel is mixed with its neighbour.
 TEST_F(StripViewTest, APictureLiesPixelUponPixel) {
-  const QSizeF seen = sizeAsSeen(tape()) * scale();
+  const QSizeF seen = sizeAsSeen(tapeLabel()) * scale();
   QImage image(seen.toSize(), QImage::Format_ARGB32_Premultiplied);
   for (int x = 0; x < image.width(); ++x) {
     for (int y = 0; y < image.height(); ++y)
@@ -152,7 +149,8 @@ TEST_F(StripViewTest, APictureLiesPixelUponPixel) {
   }
   mStrip.showPage(0, scale(), image);
   const QImage picture = grabbed();
-  const QPoint corner(leftmost(Qt::red) + 20, 100);
+  const QPointF label = mStrip.stripLayout()->label(1).topLeft() - mStrip.offset();
+  const QPoint corner = label.toPoint() + QPoint(20, 12);
   for (int x = 0; x < 40; ++x) {
     for (int y = 0; y < 30; ++y) {
       const QColor pixel = picture.pixelColor(corner + QPoint(x, y));
@@ -163,34 +161,37 @@ TEST_F(StripViewTest, APictureLiesPixelUponPixel) {
 
 TEST_F(StripViewTest, OldPicturesStayUntilThereAreNewOnes) {
   drawHalves(0);
-  mStrip.setLabels(tape(), 12);
+  mStrip.setPicturesOld();
   EXPECT_GE(leftmost(Qt::red), 0);
   EXPECT_EQ(mWanted.front().page, 0);
 }
 
 TEST_F(StripViewTest, PicturesOfAnotherLabelGo) {
   drawHalves(0);
-  LabelPage longer = tape();
-  longer.length += 20;
-  mStrip.setLabels(longer, 12);
+  mStrip.setContent(jobOf(40, tapeSettings(), tapeLabel(170)));
   EXPECT_EQ(leftmost(Qt::red), -1);
 }
 
-TEST_F(StripViewTest, TheCurrentPageStaysWhereItIs) {
-  mStrip.setCurrentPage(7);
-  mStrip.setLabels(tape(), 12);
-  EXPECT_EQ(mStrip.currentPage(), 7);
-  mStrip.setLabels(tape(), 3);
-  EXPECT_EQ(mStrip.currentPage(), 2);
+TEST_F(StripViewTest, TheCurrentLabelStaysWhereItIs) {
+  mStrip.setCurrentLabel(7);
+  mStrip.setContent(jobOf(12));
+  EXPECT_EQ(mStrip.currentLabel(), 7U);
+  mStrip.setContent(jobOf(3));
+  EXPECT_EQ(mStrip.currentLabel(), 3U);
 }
 
 TEST_F(StripViewTest, WithoutADocumentAnEmptyLabelIsShown) {
-  mStrip.setLabels(tape(), 0);
-  EXPECT_EQ(mStrip.pageCount(), 0);
-  const QImage picture = mStrip.viewport()->grab().toImage();
-  EXPECT_NE(picture.pixel(250, 60), picture.pixel(250, 390));
+  StripContent content = jobOf(1);
+  content.hasDocument = false;
+  mStrip.setContent(content);
+  EXPECT_EQ(mStrip.labelCount(), 0U);
+  const QRectF label = mStrip.stripLayout()->label(1);
+  EXPECT_TRUE(isNear(grabbed().pixelColor(label.center().toPoint()), QColor(0xfffdfdfb)));
+  QTest::mouseClick(mStrip.viewport(), Qt::LeftButton, Qt::NoModifier, label.center().toPoint());
+  QTest::keyClick(&mStrip, Qt::Key_PageDown);
+  EXPECT_EQ(mStrip.currentLabel(), 1U);
 }
 
 }  // namespace
 
-}  // namespace cutline
+}  // namespace cutline::test

@@ -1,0 +1,88 @@
+#include "host/dialog/StripRuler.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace cutline {
+namespace {
+
+constexpr double kFontShare = 0.72;  // of the dialog's font
+constexpr double kTick = 4;
+constexpr double kLongTick = 6;
+constexpr double kSpace = 2;
+constexpr int kCentimetre = 10;
+constexpr double kLeastPitch = 5;  // pixels from tick to tick
+constexpr double kAirOfNumbers = 2.2;
+constexpr std::array<int, 6> kSteps = {10, 50, 100, 500, 1000, 10'000};
+
+}  // namespace
+
+QFont StripRuler::fontFor(const QFont& font) {
+  QFont small = font;
+  small.setPointSizeF(font.pointSizeF() * kFontShare);
+  return small;
+}
+
+double StripRuler::extent(const QFont& font, bool runsAcross) {
+  const QFontMetricsF metrics(fontFor(font));
+  const double text =
+      runsAcross ? metrics.height() : metrics.horizontalAdvance(QStringLiteral("0000"));
+  return std::ceil(text + kLongTick + kSpace);
+}
+
+StripRuler::StripRuler(const StripCanvas& canvas, const StripColours& colours, double scale)
+    : mCanvas(canvas),
+      mColours(colours),
+      mScale(scale),
+      mExtent(extent(canvas.painter().font(), canvas.runsAcross())),
+      mStep(stepOfNumbers()) {}
+
+int StripRuler::stepOfNumbers() const {
+  const QFontMetricsF metrics(fontFor(mCanvas.painter().font()));
+  const double number =
+      mCanvas.runsAcross() ? metrics.horizontalAdvance(QStringLiteral("0000")) : metrics.height();
+  const auto* step = std::find_if(kSteps.begin(), kSteps.end() - 1, [&](int each) {
+    return each >= 50 && each * mScale > kAirOfNumbers * number;
+  });
+  return *step;
+}
+
+void StripRuler::draw(double along, double across, double from, double to, double seenFrom,
+                      double seenTo) {
+  const double base = across + mExtent;
+  const int pitch = kCentimetre * mScale < kLeastPitch ? mStep : kCentimetre;
+  const double start = std::max(along, seenFrom);
+  const double end = std::min(along + (to - from) * mScale, seenTo);
+  if (end <= start) return;
+  mCanvas.lineAlong(start, base - mCanvas.hair(), end - start, mColours.ruler);
+  const auto millimetreAt = [&](double place) { return from + (place - along) / mScale; };
+  const auto first = static_cast<std::int64_t>(std::ceil(millimetreAt(start) / pitch - 1e-6));
+  const auto last = static_cast<std::int64_t>(std::floor(millimetreAt(end) / pitch + 1e-6));
+  for (std::int64_t tick = first; tick <= last; ++tick) {
+    const double at = along + (static_cast<double>(tick * pitch) - from) * mScale;
+    const bool isLong = tick * pitch % mStep == 0;
+    const double length = isLong ? kLongTick : kTick;
+    mCanvas.lineAcross(at - mCanvas.hair() / 2, base - length, length, mColours.ruler);
+    if (isLong) drawNumber(at, across, tick * pitch);
+  }
+}
+
+void StripRuler::drawNumber(double along, double across, std::int64_t number) {
+  QPainter& painter = mCanvas.painter();
+  const QFont before = painter.font();
+  painter.setFont(fontFor(before));
+  painter.setPen(mColours.rulerText);
+  const QString text = QString::number(number);
+  const QFontMetricsF metrics(painter.font());
+  const double width = metrics.horizontalAdvance(text);
+  const double room = mExtent - kLongTick - kSpace;
+  const QRectF place =
+      mCanvas.runsAcross()
+          ? mCanvas.rect(along - width / 2, across, width + 1, room)
+          : mCanvas.rect(along - metrics.height() / 2, across, metrics.height(), room);
+  painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip, text);
+  painter.setFont(before);
+}
+
+}  // namespace cutline

@@ -1,0 +1,31 @@
+// Jobs for the tests of the strip.
+#pragma once
+
+#include "host/dialog/StripContent.h"
+
+namespace cutline::test {
+
+// 24 mm wide and 50 mm long, as points.
+inline LabelPage tapeLabel(double length = 141.732, int upright = 90) {
+  LabelPage label{68.031, length, 4, 8, 64, length - 8};
+  label.upright = upright;
+  return label;
+}
+
+inline CutSettings tapeSettings() {
+  CutSettings settings;
+  settings.leader = 8;
+  settings.feed = 4;
+  return settings;
+}
+
+// A document of so many pages, one copy.
+inline StripContent jobOf(unsigned pages, const CutSettings& settings = tapeSettings(),
+                          const LabelPage& label = tapeLabel()) {
+  LabelRun run;
+  for (unsigned page = 1; page <= pages; ++page) run.pages.push_back(page);
+  run.labelLength = label.length / 72 * 25.4;
+  return {label, CutPlan(settings, run), true};
+}
+
+}  // namespace cutline::test
