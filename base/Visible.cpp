@@ -36,9 +36,9 @@ bool isUnseen(std::int32_t character) {
   });
 }
 
-std::string escaped(const char* form, unsigned number) {
+std::string escaped(char kind, int digits, unsigned number) {
   std::array<char, 16> text{};
-  std::snprintf(text.data(), text.size(), form, number);
+  std::snprintf(text.data(), text.size(), "\\%c%0*x", kind, digits, number);
   return text.data();
 }
 
@@ -47,12 +47,12 @@ std::string shownAs(std::int32_t character) {
   if (character == '\n') return "\\n";
   if (character == '\t') return "\\t";
   const auto number = static_cast<unsigned>(character);
-  return escaped(number < kByte ? "\\x%02x" : "\\u%04x", number);
+  return number < kByte ? escaped('x', 2, number) : escaped('u', 4, number);
 }
 
 std::string bytesOf(std::string_view bytes) {
   std::string shown;
-  for (const char byte : bytes) shown += escaped("\\x%02x", static_cast<unsigned char>(byte));
+  for (const char byte : bytes) shown += escaped('x', 2, static_cast<unsigned char>(byte));
   return shown;
 }
 

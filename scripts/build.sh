@@ -9,7 +9,7 @@ cutline_build() {
   [ $# -eq 0 ] || { shift; targets=("$@"); }
   mkdir -p "$dir"
   if [ ! -f "$dir/build.ninja" ]; then
-    cmake -S "$cutline_top" -B "$dir" -G Ninja "${options[@]}" >"$dir/configure.log" 2>&1 ||
+    cmake -S "$cutline_top" -B "$dir" -G Ninja -DCUTLINE_WERROR=ON -DCUTLINE_HARDENING=ON "${options[@]}" >"$dir/configure.log" 2>&1 ||
       { cat "$dir/configure.log" >&2; echo "cutline: configuring failed" >&2; return 1; }
   fi
   ninja -C "$dir" "${targets[@]}" >"$dir/build.log" 2>&1 ||

@@ -60,6 +60,9 @@ constexpr std::string_view kFlagsOfDecimal = "-0";
 constexpr std::string_view kFlagsOfBits = "-#0";
 constexpr std::string_view kFlagsOfReal = "-+ #0";
 
+// The format is made here, of flags from a table and a type that goes with the value.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wformat-nonliteral"
 // The number as the C library prints it by the conversion's defined flags, its width and its
 // precision. `lengthAndType` are those of Number.
 template <typename Number>
@@ -80,6 +83,7 @@ std::string printed(const Conversion& conversion, std::string_view definedFlags,
   std::snprintf(text.data(), text.size() + 1, format.c_str(), width, precision, value);
   return text;
 }
+#pragma GCC diagnostic pop
 
 // Each printer answers nothing when the argument is of another kind than its conversion's.
 

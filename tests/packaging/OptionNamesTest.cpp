@@ -112,12 +112,5 @@ TEST(Completion, AsksThePrinterForItsChoices) {
   EXPECT_EQ(inFish(start + "LxHalfCut=").output, "LxHalfCut=OFF\tOff\nLxHalfCut=ON\tOn\n");
 }
 
-TEST(ManualPages, AreClean) {
-  const CommandResult result =
-      run("cd " + quoted(source("packaging/man")) + " && mandoc -T lint -W warning *.[1-9]");
-  EXPECT_EQ(result.status, 0) << result.output;
-  EXPECT_EQ(result.output, "");
-}
-
 }  // namespace
 }  // namespace cutline::test
