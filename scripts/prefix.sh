@@ -64,6 +64,20 @@ cutline_name_program() {
   chmod 755 "$stage"/share/kio/servicemenus/*.desktop
 }
 
+# cutline_keep_defaults STAGE PREFIX: a desktop takes a program of the user's own before those of the
+# system, so that a click on a picture would print it. What opens documents today stays the default, in
+# a list that comes and goes with the installation; what the user chooses wins over it.
+cutline_keep_defaults() {
+  local stage=$1 prefix=$2 list=share/applications/mimeapps.list kind opener kept=''
+  command -v gio >/dev/null || return 0
+  if [ -e "$prefix/$list" ] && ! grep -qsxF "$list" "$prefix/$cutline_manifest"; then return 0; fi
+  while IFS= read -r -d ';' kind; do
+    opener=$(LC_ALL=C gio mime "$kind" 2>/dev/null | sed -n '1s/.*: \(.*\.desktop\)$/\1/p')
+    case $opener in '' | cutline.desktop) ;; *) kept+="$kind=$opener"$'\n' ;; esac
+  done < <(sed -n 's/^MimeType=//p' "$stage/share/applications/cutline.desktop")
+  [ -z "$kept" ] || printf '[Default Applications]\n%s' "$kept" >"$stage/$list"
+}
+
 # cutline_tell_desktop PREFIX: menus look at these again.
 cutline_tell_desktop() {
   local applications=$1/share/applications

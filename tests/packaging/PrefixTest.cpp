@@ -102,6 +102,25 @@ TEST_F(Prefix, IsWhereMenusFindTheProgram) {
               "[Desktop Entry]\nExec=\"/home/a/.local/bin/cutline\" %F\n");
 }
 
+// Of a desktop that opens one kind of the two.
+TEST_F(Prefix, KeepsWhatOpensDocumentsToday) {
+  stage.write("share/applications/cutline.desktop", "MimeType=image/png;text/plain;\n");
+  const TemporaryFolder tools;
+  std::filesystem::permissions(
+      tools.write("gio", "#!/bin/sh\n[ $2 != image/png ] || echo 'Default for: viewer.desktop'\n"),
+      std::filesystem::perms(0755));
+  const std::string keep = "PATH=" + tools.path() + ":$PATH; cutline_keep_defaults " +
+                           quoted(stage.path()) + ' ' + quoted(prefix.path());
+  const std::string list = "share/applications/mimeapps.list";
+  ASSERT_EQ(call(keep).status, 0);
+  EXPECT_EQ(contentsOf(stage / list), "[Default Applications]\nimage/png=viewer.desktop\n");
+
+  std::filesystem::remove(stage / list);
+  prefix.write(list, "the user's own");
+  ASSERT_EQ(call(keep).status, 0);
+  EXPECT_FALSE(std::filesystem::exists(stage / list));
+}
+
 TEST_F(Prefix, IsAPathThatMenusCanName) {
   EXPECT_EQ(call("HOME=/home/a; cutline_prefix").output, "/home/a/.local\n");
   EXPECT_EQ(call("cutline_prefix /opt/../usr/local/").output, "/usr/local\n");
