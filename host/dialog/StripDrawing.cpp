@@ -91,6 +91,8 @@ void StripDrawing::drawBack(const Lane& lane) const {
   if (mRules.feedsOut()) mTape.drawWaste(feed, mRules.settings().feed.has_value());
   if (mRules.feedsOut() && end == PieceRun::End::Cut) mTape.drawEdgeBehind(feed);
   along += line.feed();
+  const bool isKnown = mRules.settings().authority == CutAuthority::Settings;
+  if (!isKnown) return mTape.drawGoingOn(stretch(lane, along, line.endLength()), false);
   if (end == PieceRun::End::HangsOut) mTape.drawHangingOut(stretch(lane, along, line.endLength()));
   if (end == PieceRun::End::StaysInPrinter) mTape.drawLabel(stretch(lane, along, line.endLength()));
 }

@@ -10,10 +10,13 @@ namespace {
 constexpr double kMargin = 10;
 constexpr double kLaneGap = 8;
 constexpr double kKnives = 15;
-constexpr double kBacking = 3;
+constexpr double kBacking = 5;
 constexpr double kMostScale = 2.6;
-constexpr double kReadable = 56;  // the least of a label that is not shown smaller by itself
-constexpr int kSteps = 40;        // to the scale that fits
+// The least of a label, across a tape or the shorter way on a roll, that is not shown smaller by
+// itself.
+constexpr double kReadableTape = 56;
+constexpr double kReadableRoll = 44;
+constexpr int kSteps = 40;  // to the scale that fits
 
 QSizeF alongAndAcross(QSizeF size, bool runsAcross) {
   return runsAcross ? size : size.transposed();
@@ -49,8 +52,9 @@ bool fits(const StripContent& content, const StripRoom& room, double scale) {
 }
 
 double leastScale(const LabelPage& label) {
-  const double least = runsAcross(label) ? label.width : std::min(label.width, label.length);
-  return least > 0 ? std::min(kMostScale, kReadable / least) : 1;
+  const bool across = runsAcross(label);
+  const double least = across ? label.width : std::min(label.width, label.length);
+  return least > 0 ? std::min(kMostScale, (across ? kReadableTape : kReadableRoll) / least) : 1;
 }
 
 double fitScale(const StripContent& content, const StripRoom& room) {

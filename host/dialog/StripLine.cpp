@@ -7,7 +7,7 @@ namespace {
 
 constexpr double kPointsPerMillimetre = 72 / 25.4;
 constexpr double kGap = 16;     // holds a knife
-constexpr double kStub = 30;    // of tape whose length is not known
+constexpr double kStub = 34;    // of tape whose length is not known
 constexpr double kGoesOn = 16;  // of tape that goes on in another lane
 constexpr double kHangsOut = 22;
 constexpr double kPrinter = 18;  // of the printer behind a label that stays in it

@@ -16,7 +16,8 @@ constexpr double kMark = 7;  // length of a mark at either edge
 constexpr double kMarkWidth = 2;
 constexpr double kDot = 2;
 constexpr double kDotPitch = 5;
-constexpr double kPrinterRim = 6;  // of the printer beside the tape
+constexpr double kPrinterRim = 5;  // of the printer beside the tape
+constexpr double kPrinterCorner = 4;
 constexpr double kMouth = 3;
 constexpr int kPrinterAlpha = 120;
 
@@ -65,8 +66,17 @@ void StripSigns::drawBoundary(double along, double across) const {
 void StripSigns::drawPrinter(double along, double across, double length) const {
   QColor body = mColours.printer;
   body.setAlpha(kPrinterAlpha);
-  const double breadth = mBreadth + mBacking + 2 * kPrinterRim;
-  mCanvas.fill(along, across - kPrinterRim, length, breadth, body);
+  const double breadth = mBreadth + mBacking + kPrinterRim;
+  QPainter& painter = mCanvas.painter();
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(mColours.printerEdge, 1, Qt::DashLine));
+  painter.setBrush(body);
+  const double half = mCanvas.hair() / 2;
+  painter.drawRoundedRect(
+      mCanvas.rect(along, across - kPrinterRim, length, breadth).adjusted(half, half, -half, -half),
+      kPrinterCorner, kPrinterCorner);
+  painter.restore();
   mCanvas.fill(along, across - kPrinterRim, kMouth, breadth, mColours.printerEdge);
 }
 

@@ -15,6 +15,8 @@ constexpr double kSelvage = 4;  // from the fabric's edge to its stitches
 constexpr double kTear = 7;     // width of a tear
 constexpr double kTooth = 5;
 constexpr double kWave = 4;
+constexpr double kSignSize = 17;
+constexpr int kSignFont = 12;  // pixels
 
 // Lines from lower left to upper right; those beyond what is painted are left out.
 void drawDiagonals(QPainter& painter, const QRectF& area, double pitch, const QColor& colour) {
@@ -104,6 +106,25 @@ void StripTape::drawTear(const Stretch& stretch) const {
   painter.setPen(QPen(mColours.edge, 1));
   painter.drawPolyline(left);
   painter.drawPolyline(right);
+  painter.restore();
+  drawQuestion(middle, stretch.across + stretch.breadth / 2);
+}
+
+void StripTape::drawQuestion(double along, double across) const {
+  const QRectF place =
+      mCanvas.rect(along - kSignSize / 2, across - kSignSize / 2, kSignSize, kSignSize);
+  QPainter& painter = mCanvas.painter();
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(mColours.edge, 1));
+  painter.setBrush(mColours.face);
+  painter.drawEllipse(place);
+  QFont font = painter.font();
+  font.setPixelSize(kSignFont);
+  font.setBold(true);
+  painter.setFont(font);
+  painter.setPen(mColours.wasteText);
+  painter.drawText(place, Qt::AlignCenter, QStringLiteral("?"));
   painter.restore();
 }
 

@@ -37,6 +37,7 @@ class StripTape {
   void drawFabric(const Stretch& stretch) const;
   void drawHatching(const QRectF& area) const;
   void drawTear(const Stretch& stretch) const;
+  void drawQuestion(double along, double across) const;
 
   const StripCanvas& mCanvas;
   const StripColours& mColours;

@@ -11,7 +11,7 @@ namespace cutline {
 namespace {
 
 constexpr double kDimmedOpacity = 0.45;
-constexpr double kCaptionGap = 3;
+constexpr double kCaptionGap = 4;
 constexpr double kPillPadding = 6;
 
 }  // namespace

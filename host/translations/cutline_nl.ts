@@ -1160,11 +1160,11 @@
     </message>
     <message>
         <source>Print this label only</source>
-        <translation>Alleen dit etiket afdrukken</translation>
+        <translation>Alleen dit label afdrukken</translation>
     </message>
     <message>
         <source>Show all labels</source>
-        <translation>Alle etiketten tonen</translation>
+        <translation>Alle labels tonen</translation>
     </message>
     <message>
         <source>Show large</source>
