@@ -1312,4 +1312,151 @@
         <translation>„%1“, Zeile %2,</translation>
     </message>
 </context>
+<context>
+    <name>strip</name>
+    <message>
+        <source>1 label</source>
+        <translation>1 Etikett</translation>
+    </message>
+    <message>
+        <source>%1 labels</source>
+        <translation>%1 Etiketten</translation>
+    </message>
+    <message>
+        <source>1 piece</source>
+        <translation>1 Stück</translation>
+    </message>
+    <message>
+        <source>%1 pieces</source>
+        <translation>%1 Stücke</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished">%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>length not known</source>
+        <translation>Länge nicht bekannt</translation>
+    </message>
+    <message>
+        <source>%1 of the roll</source>
+        <translation>%1 der Rolle</translation>
+    </message>
+    <message>
+        <source>%1 of tape</source>
+        <translation>%1 Band</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>höchstens %1</translation>
+    </message>
+    <message>
+        <source>special tape, which is never cut</source>
+        <translation>Spezialband, das nie geschnitten wird</translation>
+    </message>
+    <message>
+        <source>cut at the end</source>
+        <translation>Schnitt am Ende</translation>
+    </message>
+    <message>
+        <source>roll not cut</source>
+        <translation>Rolle nicht geschnitten</translation>
+    </message>
+    <message>
+        <source>tape not cut</source>
+        <translation>Band nicht geschnitten</translation>
+    </message>
+    <message>
+        <source>cut after each label</source>
+        <translation>Schnitt nach jedem Etikett</translation>
+    </message>
+    <message>
+        <source>cut after each copy</source>
+        <translation>Schnitt nach jeder Kopie</translation>
+    </message>
+    <message>
+        <source>cut every %1</source>
+        <translation>Schnitt nach je %1</translation>
+    </message>
+    <message>
+        <source>half cut between</source>
+        <translation>Halbschnitt dazwischen</translation>
+    </message>
+    <message>
+        <source>half cut beside the label</source>
+        <translation>Halbschnitt neben dem Etikett</translation>
+    </message>
+    <message>
+        <source>the last label stays in the printer</source>
+        <translation>das letzte Etikett bleibt im Drucker</translation>
+    </message>
+    <message>
+        <source>with cut marks</source>
+        <translation>mit Schnittmarken</translation>
+    </message>
+    <message>
+        <source>blank space removed</source>
+        <translation>ohne Leerraum</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>spiegelverkehrt</translation>
+    </message>
+    <message>
+        <source>leader: %1, cut off</source>
+        <translation>Vorlauf: %1, abgeschnitten</translation>
+    </message>
+    <message>
+        <source>leader: %1, half cut behind it</source>
+        <translation>Vorlauf: %1, dahinter Halbschnitt</translation>
+    </message>
+    <message>
+        <source>leader: %1, not cut off</source>
+        <translation>Vorlauf: %1, nicht abgeschnitten</translation>
+    </message>
+    <message>
+        <source>cut off</source>
+        <translation>abgeschnitten</translation>
+    </message>
+    <message>
+        <source>half cut behind it, not cut off</source>
+        <translation>dahinter Halbschnitt, nicht abgeschnitten</translation>
+    </message>
+    <message>
+        <source>not cut off</source>
+        <translation>nicht abgeschnitten</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 mit %2</translation>
+    </message>
+    <message>
+        <source>%1; this driver says nothing of cutting</source>
+        <translation>%1; dieser Treiber sagt nichts zum Schneiden</translation>
+    </message>
+    <message>
+        <source>%1; the printer decides where to cut</source>
+        <translation>%1; wo geschnitten wird, entscheidet der Drucker</translation>
+    </message>
+    <message>
+        <source>no labels</source>
+        <translation>keine Etiketten</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message>
+        <source>feed behind the last label: %1</source>
+        <translation>Nachlauf hinter dem letzten Etikett: %1</translation>
+    </message>
+    <message>
+        <source>cut marks at both ends of each label: %1</source>
+        <translation>Schnittmarken an beiden Enden jedes Etiketts: %1</translation>
+    </message>
+</context>
 </TS>

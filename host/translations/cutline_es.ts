@@ -1312,4 +1312,151 @@
         <translation>«%1», línea %2,</translation>
     </message>
 </context>
+<context>
+    <name>strip</name>
+    <message>
+        <source>1 label</source>
+        <translation>1 etiqueta</translation>
+    </message>
+    <message>
+        <source>%1 labels</source>
+        <translation>%1 etiquetas</translation>
+    </message>
+    <message>
+        <source>1 piece</source>
+        <translation>1 pieza</translation>
+    </message>
+    <message>
+        <source>%1 pieces</source>
+        <translation>%1 piezas</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished">%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>length not known</source>
+        <translation>longitud desconocida</translation>
+    </message>
+    <message>
+        <source>%1 of the roll</source>
+        <translation>%1 del rollo</translation>
+    </message>
+    <message>
+        <source>%1 of tape</source>
+        <translation>%1 de cinta</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>como máximo %1</translation>
+    </message>
+    <message>
+        <source>special tape, which is never cut</source>
+        <translation>cinta especial, que nunca se corta</translation>
+    </message>
+    <message>
+        <source>cut at the end</source>
+        <translation>corte al final</translation>
+    </message>
+    <message>
+        <source>roll not cut</source>
+        <translation>rollo sin cortar</translation>
+    </message>
+    <message>
+        <source>tape not cut</source>
+        <translation>cinta sin cortar</translation>
+    </message>
+    <message>
+        <source>cut after each label</source>
+        <translation>corte tras cada etiqueta</translation>
+    </message>
+    <message>
+        <source>cut after each copy</source>
+        <translation>corte tras cada copia</translation>
+    </message>
+    <message>
+        <source>cut every %1</source>
+        <translation>corte cada %1</translation>
+    </message>
+    <message>
+        <source>half cut between</source>
+        <translation>medio corte entre ellas</translation>
+    </message>
+    <message>
+        <source>half cut beside the label</source>
+        <translation>medio corte junto a la etiqueta</translation>
+    </message>
+    <message>
+        <source>the last label stays in the printer</source>
+        <translation>la última etiqueta queda en la impresora</translation>
+    </message>
+    <message>
+        <source>with cut marks</source>
+        <translation>con marcas de corte</translation>
+    </message>
+    <message>
+        <source>blank space removed</source>
+        <translation>sin espacio en blanco</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>en espejo</translation>
+    </message>
+    <message>
+        <source>leader: %1, cut off</source>
+        <translation>avance inicial: %1, cortado</translation>
+    </message>
+    <message>
+        <source>leader: %1, half cut behind it</source>
+        <translation>avance inicial: %1, con medio corte detrás</translation>
+    </message>
+    <message>
+        <source>leader: %1, not cut off</source>
+        <translation>avance inicial: %1, sin cortar</translation>
+    </message>
+    <message>
+        <source>cut off</source>
+        <translation>cortado</translation>
+    </message>
+    <message>
+        <source>half cut behind it, not cut off</source>
+        <translation>con medio corte detrás, sin cortar</translation>
+    </message>
+    <message>
+        <source>not cut off</source>
+        <translation>sin cortar</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>%1; this driver says nothing of cutting</source>
+        <translation>%1; este controlador no dice nada del corte</translation>
+    </message>
+    <message>
+        <source>%1; the printer decides where to cut</source>
+        <translation>%1; la impresora decide dónde cortar</translation>
+    </message>
+    <message>
+        <source>no labels</source>
+        <translation>ninguna etiqueta</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message>
+        <source>feed behind the last label: %1</source>
+        <translation>avance tras la última etiqueta: %1</translation>
+    </message>
+    <message>
+        <source>cut marks at both ends of each label: %1</source>
+        <translation>marcas de corte en ambos extremos de cada etiqueta: %1</translation>
+    </message>
+</context>
 </TS>

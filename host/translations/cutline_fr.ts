@@ -1312,4 +1312,151 @@
         <translation>« %1 », ligne %2,</translation>
     </message>
 </context>
+<context>
+    <name>strip</name>
+    <message>
+        <source>1 label</source>
+        <translation>1 étiquette</translation>
+    </message>
+    <message>
+        <source>%1 labels</source>
+        <translation>%1 étiquettes</translation>
+    </message>
+    <message>
+        <source>1 piece</source>
+        <translation>1 morceau</translation>
+    </message>
+    <message>
+        <source>%1 pieces</source>
+        <translation>%1 morceaux</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished">%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>length not known</source>
+        <translation>longueur inconnue</translation>
+    </message>
+    <message>
+        <source>%1 of the roll</source>
+        <translation>%1 de rouleau</translation>
+    </message>
+    <message>
+        <source>%1 of tape</source>
+        <translation>%1 de ruban</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>au plus %1</translation>
+    </message>
+    <message>
+        <source>special tape, which is never cut</source>
+        <translation>ruban spécial, jamais coupé</translation>
+    </message>
+    <message>
+        <source>cut at the end</source>
+        <translation>coupe à la fin</translation>
+    </message>
+    <message>
+        <source>roll not cut</source>
+        <translation>rouleau non coupé</translation>
+    </message>
+    <message>
+        <source>tape not cut</source>
+        <translation>ruban non coupé</translation>
+    </message>
+    <message>
+        <source>cut after each label</source>
+        <translation>coupe après chaque étiquette</translation>
+    </message>
+    <message>
+        <source>cut after each copy</source>
+        <translation>coupe après chaque copie</translation>
+    </message>
+    <message>
+        <source>cut every %1</source>
+        <translation>coupe toutes les %1</translation>
+    </message>
+    <message>
+        <source>half cut between</source>
+        <translation>demi-coupe entre elles</translation>
+    </message>
+    <message>
+        <source>half cut beside the label</source>
+        <translation>demi-coupe au bord de l’étiquette</translation>
+    </message>
+    <message>
+        <source>the last label stays in the printer</source>
+        <translation>la dernière étiquette reste dans l’imprimante</translation>
+    </message>
+    <message>
+        <source>with cut marks</source>
+        <translation>avec repères de coupe</translation>
+    </message>
+    <message>
+        <source>blank space removed</source>
+        <translation>sans espace vide</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>en miroir</translation>
+    </message>
+    <message>
+        <source>leader: %1, cut off</source>
+        <translation>amorce : %1, coupée</translation>
+    </message>
+    <message>
+        <source>leader: %1, half cut behind it</source>
+        <translation>amorce : %1, suivie d’une demi-coupe</translation>
+    </message>
+    <message>
+        <source>leader: %1, not cut off</source>
+        <translation>amorce : %1, non coupée</translation>
+    </message>
+    <message>
+        <source>cut off</source>
+        <translation>coupé</translation>
+    </message>
+    <message>
+        <source>half cut behind it, not cut off</source>
+        <translation>suivi d’une demi-coupe, non coupé</translation>
+    </message>
+    <message>
+        <source>not cut off</source>
+        <translation>non coupé</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>%1; this driver says nothing of cutting</source>
+        <translation>%1 ; ce pilote ne dit rien de la coupe</translation>
+    </message>
+    <message>
+        <source>%1; the printer decides where to cut</source>
+        <translation>%1 ; l’imprimante décide où couper</translation>
+    </message>
+    <message>
+        <source>no labels</source>
+        <translation>aucune étiquette</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1 : %2</translation>
+    </message>
+    <message>
+        <source>feed behind the last label: %1</source>
+        <translation>avance après la dernière étiquette : %1</translation>
+    </message>
+    <message>
+        <source>cut marks at both ends of each label: %1</source>
+        <translation>repères de coupe aux deux bouts de chaque étiquette : %1</translation>
+    </message>
+</context>
 </TS>

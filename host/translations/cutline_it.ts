@@ -1312,4 +1312,151 @@
         <translation>«%1», riga %2,</translation>
     </message>
 </context>
+<context>
+    <name>strip</name>
+    <message>
+        <source>1 label</source>
+        <translation>1 etichetta</translation>
+    </message>
+    <message>
+        <source>%1 labels</source>
+        <translation>%1 etichette</translation>
+    </message>
+    <message>
+        <source>1 piece</source>
+        <translation>1 pezzo</translation>
+    </message>
+    <message>
+        <source>%1 pieces</source>
+        <translation>%1 pezzi</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished">%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>length not known</source>
+        <translation>lunghezza sconosciuta</translation>
+    </message>
+    <message>
+        <source>%1 of the roll</source>
+        <translation>%1 di rotolo</translation>
+    </message>
+    <message>
+        <source>%1 of tape</source>
+        <translation>%1 di nastro</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>al massimo %1</translation>
+    </message>
+    <message>
+        <source>special tape, which is never cut</source>
+        <translation>nastro speciale, che non viene mai tagliato</translation>
+    </message>
+    <message>
+        <source>cut at the end</source>
+        <translation>taglio alla fine</translation>
+    </message>
+    <message>
+        <source>roll not cut</source>
+        <translation>rotolo non tagliato</translation>
+    </message>
+    <message>
+        <source>tape not cut</source>
+        <translation>nastro non tagliato</translation>
+    </message>
+    <message>
+        <source>cut after each label</source>
+        <translation>taglio dopo ogni etichetta</translation>
+    </message>
+    <message>
+        <source>cut after each copy</source>
+        <translation>taglio dopo ogni copia</translation>
+    </message>
+    <message>
+        <source>cut every %1</source>
+        <translation>taglio ogni %1</translation>
+    </message>
+    <message>
+        <source>half cut between</source>
+        <translation>mezzo taglio tra di esse</translation>
+    </message>
+    <message>
+        <source>half cut beside the label</source>
+        <translation>mezzo taglio accanto all’etichetta</translation>
+    </message>
+    <message>
+        <source>the last label stays in the printer</source>
+        <translation>l’ultima etichetta resta nella stampante</translation>
+    </message>
+    <message>
+        <source>with cut marks</source>
+        <translation>con segni di taglio</translation>
+    </message>
+    <message>
+        <source>blank space removed</source>
+        <translation>senza spazio vuoto</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>speculare</translation>
+    </message>
+    <message>
+        <source>leader: %1, cut off</source>
+        <translation>nastro iniziale: %1, tagliato</translation>
+    </message>
+    <message>
+        <source>leader: %1, half cut behind it</source>
+        <translation>nastro iniziale: %1, seguito da un mezzo taglio</translation>
+    </message>
+    <message>
+        <source>leader: %1, not cut off</source>
+        <translation>nastro iniziale: %1, non tagliato</translation>
+    </message>
+    <message>
+        <source>cut off</source>
+        <translation>tagliato</translation>
+    </message>
+    <message>
+        <source>half cut behind it, not cut off</source>
+        <translation>seguito da un mezzo taglio, non tagliato</translation>
+    </message>
+    <message>
+        <source>not cut off</source>
+        <translation>non tagliato</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 da %2</translation>
+    </message>
+    <message>
+        <source>%1; this driver says nothing of cutting</source>
+        <translation>%1; questo driver non dice nulla del taglio</translation>
+    </message>
+    <message>
+        <source>%1; the printer decides where to cut</source>
+        <translation>%1; la stampante decide dove tagliare</translation>
+    </message>
+    <message>
+        <source>no labels</source>
+        <translation>nessuna etichetta</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message>
+        <source>feed behind the last label: %1</source>
+        <translation>avanzamento dopo l’ultima etichetta: %1</translation>
+    </message>
+    <message>
+        <source>cut marks at both ends of each label: %1</source>
+        <translation>segni di taglio ai due capi di ogni etichetta: %1</translation>
+    </message>
+</context>
 </TS>

@@ -1312,4 +1312,151 @@
         <translation>「%1」の%2行目</translation>
     </message>
 </context>
+<context>
+    <name>strip</name>
+    <message>
+        <source>1 label</source>
+        <translation>ラベル 1 枚</translation>
+    </message>
+    <message>
+        <source>%1 labels</source>
+        <translation>ラベル %1 枚</translation>
+    </message>
+    <message>
+        <source>1 piece</source>
+        <translation>1 片</translation>
+    </message>
+    <message>
+        <source>%1 pieces</source>
+        <translation>%1 片</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished">%1、%2</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>length not known</source>
+        <translation>長さは不明</translation>
+    </message>
+    <message>
+        <source>%1 of the roll</source>
+        <translation>ロール %1</translation>
+    </message>
+    <message>
+        <source>%1 of tape</source>
+        <translation>テープ %1</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>最大 %1</translation>
+    </message>
+    <message>
+        <source>special tape, which is never cut</source>
+        <translation>特殊テープ（カットしません）</translation>
+    </message>
+    <message>
+        <source>cut at the end</source>
+        <translation>最後にカット</translation>
+    </message>
+    <message>
+        <source>roll not cut</source>
+        <translation>ロールはカットしない</translation>
+    </message>
+    <message>
+        <source>tape not cut</source>
+        <translation>テープはカットしない</translation>
+    </message>
+    <message>
+        <source>cut after each label</source>
+        <translation>ラベルごとにカット</translation>
+    </message>
+    <message>
+        <source>cut after each copy</source>
+        <translation>1 部ごとにカット</translation>
+    </message>
+    <message>
+        <source>cut every %1</source>
+        <translation>%1 枚ごとにカット</translation>
+    </message>
+    <message>
+        <source>half cut between</source>
+        <translation>間をハーフカット</translation>
+    </message>
+    <message>
+        <source>half cut beside the label</source>
+        <translation>ラベルの脇をハーフカット</translation>
+    </message>
+    <message>
+        <source>the last label stays in the printer</source>
+        <translation>最後のラベルはプリンターに残る</translation>
+    </message>
+    <message>
+        <source>with cut marks</source>
+        <translation>カットマーク付き</translation>
+    </message>
+    <message>
+        <source>blank space removed</source>
+        <translation>余白なし</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>鏡像</translation>
+    </message>
+    <message>
+        <source>leader: %1, cut off</source>
+        <translation>先頭の余白：%1、切り離し</translation>
+    </message>
+    <message>
+        <source>leader: %1, half cut behind it</source>
+        <translation>先頭の余白：%1、直後にハーフカット</translation>
+    </message>
+    <message>
+        <source>leader: %1, not cut off</source>
+        <translation>先頭の余白：%1、切り離さない</translation>
+    </message>
+    <message>
+        <source>cut off</source>
+        <translation>切り離し</translation>
+    </message>
+    <message>
+        <source>half cut behind it, not cut off</source>
+        <translation>直後にハーフカット、切り離さない</translation>
+    </message>
+    <message>
+        <source>not cut off</source>
+        <translation>切り離さない</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1（各 %2）</translation>
+    </message>
+    <message>
+        <source>%1; this driver says nothing of cutting</source>
+        <translation>%1（このドライバーはカットについて何も示しません）</translation>
+    </message>
+    <message>
+        <source>%1; the printer decides where to cut</source>
+        <translation>%1（カット位置はプリンターが決めます）</translation>
+    </message>
+    <message>
+        <source>no labels</source>
+        <translation>ラベルなし</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message>
+        <source>feed behind the last label: %1</source>
+        <translation>最後のラベルの後の送り：%1</translation>
+    </message>
+    <message>
+        <source>cut marks at both ends of each label: %1</source>
+        <translation>各ラベルの両端のカットマーク：%1</translation>
+    </message>
+</context>
 </TS>

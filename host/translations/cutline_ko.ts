@@ -1312,4 +1312,151 @@
         <translation>&quot;%1&quot;의 %2번째 줄을</translation>
     </message>
 </context>
+<context>
+    <name>strip</name>
+    <message>
+        <source>1 label</source>
+        <translation>라벨 1장</translation>
+    </message>
+    <message>
+        <source>%1 labels</source>
+        <translation>라벨 %1장</translation>
+    </message>
+    <message>
+        <source>1 piece</source>
+        <translation>1조각</translation>
+    </message>
+    <message>
+        <source>%1 pieces</source>
+        <translation>%1조각</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished">%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1mm</translation>
+    </message>
+    <message>
+        <source>length not known</source>
+        <translation>길이를 알 수 없음</translation>
+    </message>
+    <message>
+        <source>%1 of the roll</source>
+        <translation>롤 %1</translation>
+    </message>
+    <message>
+        <source>%1 of tape</source>
+        <translation>테이프 %1</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>최대 %1</translation>
+    </message>
+    <message>
+        <source>special tape, which is never cut</source>
+        <translation>자르지 않는 특수 테이프</translation>
+    </message>
+    <message>
+        <source>cut at the end</source>
+        <translation>끝에서 절단</translation>
+    </message>
+    <message>
+        <source>roll not cut</source>
+        <translation>롤을 자르지 않음</translation>
+    </message>
+    <message>
+        <source>tape not cut</source>
+        <translation>테이프를 자르지 않음</translation>
+    </message>
+    <message>
+        <source>cut after each label</source>
+        <translation>라벨마다 절단</translation>
+    </message>
+    <message>
+        <source>cut after each copy</source>
+        <translation>사본마다 절단</translation>
+    </message>
+    <message>
+        <source>cut every %1</source>
+        <translation>%1장마다 절단</translation>
+    </message>
+    <message>
+        <source>half cut between</source>
+        <translation>사이에 하프 컷</translation>
+    </message>
+    <message>
+        <source>half cut beside the label</source>
+        <translation>라벨 옆에 하프 컷</translation>
+    </message>
+    <message>
+        <source>the last label stays in the printer</source>
+        <translation>마지막 라벨은 프린터에 남음</translation>
+    </message>
+    <message>
+        <source>with cut marks</source>
+        <translation>절단 표시 있음</translation>
+    </message>
+    <message>
+        <source>blank space removed</source>
+        <translation>여백 없음</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>거울상</translation>
+    </message>
+    <message>
+        <source>leader: %1, cut off</source>
+        <translation>앞 여백: %1, 잘라 냄</translation>
+    </message>
+    <message>
+        <source>leader: %1, half cut behind it</source>
+        <translation>앞 여백: %1, 뒤에 하프 컷</translation>
+    </message>
+    <message>
+        <source>leader: %1, not cut off</source>
+        <translation>앞 여백: %1, 자르지 않음</translation>
+    </message>
+    <message>
+        <source>cut off</source>
+        <translation>잘라 냄</translation>
+    </message>
+    <message>
+        <source>half cut behind it, not cut off</source>
+        <translation>뒤에 하프 컷, 자르지 않음</translation>
+    </message>
+    <message>
+        <source>not cut off</source>
+        <translation>자르지 않음</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1(각 %2)</translation>
+    </message>
+    <message>
+        <source>%1; this driver says nothing of cutting</source>
+        <translation>%1. 이 드라이버에는 절단 정보가 없음</translation>
+    </message>
+    <message>
+        <source>%1; the printer decides where to cut</source>
+        <translation>%1. 자르는 위치는 프린터가 정함</translation>
+    </message>
+    <message>
+        <source>no labels</source>
+        <translation>라벨 없음</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message>
+        <source>feed behind the last label: %1</source>
+        <translation>마지막 라벨 뒤 여백: %1</translation>
+    </message>
+    <message>
+        <source>cut marks at both ends of each label: %1</source>
+        <translation>각 라벨 양 끝의 절단 표시: %1</translation>
+    </message>
+</context>
 </TS>

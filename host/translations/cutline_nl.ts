@@ -1312,4 +1312,151 @@
         <translation>‘%1’, regel %2,</translation>
     </message>
 </context>
+<context>
+    <name>strip</name>
+    <message>
+        <source>1 label</source>
+        <translation>1 label</translation>
+    </message>
+    <message>
+        <source>%1 labels</source>
+        <translation>%1 labels</translation>
+    </message>
+    <message>
+        <source>1 piece</source>
+        <translation>1 stuk</translation>
+    </message>
+    <message>
+        <source>%1 pieces</source>
+        <translation>%1 stukken</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished">%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>length not known</source>
+        <translation>lengte niet bekend</translation>
+    </message>
+    <message>
+        <source>%1 of the roll</source>
+        <translation>%1 van de rol</translation>
+    </message>
+    <message>
+        <source>%1 of tape</source>
+        <translation>%1 tape</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>hoogstens %1</translation>
+    </message>
+    <message>
+        <source>special tape, which is never cut</source>
+        <translation>speciale tape, die nooit wordt gesneden</translation>
+    </message>
+    <message>
+        <source>cut at the end</source>
+        <translation>aan het einde gesneden</translation>
+    </message>
+    <message>
+        <source>roll not cut</source>
+        <translation>rol niet gesneden</translation>
+    </message>
+    <message>
+        <source>tape not cut</source>
+        <translation>tape niet gesneden</translation>
+    </message>
+    <message>
+        <source>cut after each label</source>
+        <translation>na elk label gesneden</translation>
+    </message>
+    <message>
+        <source>cut after each copy</source>
+        <translation>na elke kopie gesneden</translation>
+    </message>
+    <message>
+        <source>cut every %1</source>
+        <translation>na elke %1 gesneden</translation>
+    </message>
+    <message>
+        <source>half cut between</source>
+        <translation>daartussen half gesneden</translation>
+    </message>
+    <message>
+        <source>half cut beside the label</source>
+        <translation>half gesneden naast het label</translation>
+    </message>
+    <message>
+        <source>the last label stays in the printer</source>
+        <translation>het laatste label blijft in de printer</translation>
+    </message>
+    <message>
+        <source>with cut marks</source>
+        <translation>met snijmarkeringen</translation>
+    </message>
+    <message>
+        <source>blank space removed</source>
+        <translation>zonder witruimte</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>gespiegeld</translation>
+    </message>
+    <message>
+        <source>leader: %1, cut off</source>
+        <translation>aanloop: %1, afgesneden</translation>
+    </message>
+    <message>
+        <source>leader: %1, half cut behind it</source>
+        <translation>aanloop: %1, erachter half gesneden</translation>
+    </message>
+    <message>
+        <source>leader: %1, not cut off</source>
+        <translation>aanloop: %1, niet afgesneden</translation>
+    </message>
+    <message>
+        <source>cut off</source>
+        <translation>afgesneden</translation>
+    </message>
+    <message>
+        <source>half cut behind it, not cut off</source>
+        <translation>erachter half gesneden, niet afgesneden</translation>
+    </message>
+    <message>
+        <source>not cut off</source>
+        <translation>niet afgesneden</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 van %2</translation>
+    </message>
+    <message>
+        <source>%1; this driver says nothing of cutting</source>
+        <translation>%1; dit stuurprogramma zegt niets over snijden</translation>
+    </message>
+    <message>
+        <source>%1; the printer decides where to cut</source>
+        <translation>%1; de printer bepaalt waar wordt gesneden</translation>
+    </message>
+    <message>
+        <source>no labels</source>
+        <translation>geen labels</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message>
+        <source>feed behind the last label: %1</source>
+        <translation>uitloop na het laatste label: %1</translation>
+    </message>
+    <message>
+        <source>cut marks at both ends of each label: %1</source>
+        <translation>snijmarkeringen aan beide einden van elk label: %1</translation>
+    </message>
+</context>
 </TS>

@@ -1312,4 +1312,151 @@
         <translation>“%1”, linha %2,</translation>
     </message>
 </context>
+<context>
+    <name>strip</name>
+    <message>
+        <source>1 label</source>
+        <translation>1 etiqueta</translation>
+    </message>
+    <message>
+        <source>%1 labels</source>
+        <translation>%1 etiquetas</translation>
+    </message>
+    <message>
+        <source>1 piece</source>
+        <translation>1 pedaço</translation>
+    </message>
+    <message>
+        <source>%1 pieces</source>
+        <translation>%1 pedaços</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished">%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>length not known</source>
+        <translation>comprimento desconhecido</translation>
+    </message>
+    <message>
+        <source>%1 of the roll</source>
+        <translation>%1 do rolo</translation>
+    </message>
+    <message>
+        <source>%1 of tape</source>
+        <translation>%1 de fita</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>no máximo %1</translation>
+    </message>
+    <message>
+        <source>special tape, which is never cut</source>
+        <translation>fita especial, que nunca é cortada</translation>
+    </message>
+    <message>
+        <source>cut at the end</source>
+        <translation>corte no fim</translation>
+    </message>
+    <message>
+        <source>roll not cut</source>
+        <translation>rolo não cortado</translation>
+    </message>
+    <message>
+        <source>tape not cut</source>
+        <translation>fita não cortada</translation>
+    </message>
+    <message>
+        <source>cut after each label</source>
+        <translation>corte após cada etiqueta</translation>
+    </message>
+    <message>
+        <source>cut after each copy</source>
+        <translation>corte após cada cópia</translation>
+    </message>
+    <message>
+        <source>cut every %1</source>
+        <translation>corte a cada %1</translation>
+    </message>
+    <message>
+        <source>half cut between</source>
+        <translation>meio corte entre elas</translation>
+    </message>
+    <message>
+        <source>half cut beside the label</source>
+        <translation>meio corte junto da etiqueta</translation>
+    </message>
+    <message>
+        <source>the last label stays in the printer</source>
+        <translation>a última etiqueta fica na impressora</translation>
+    </message>
+    <message>
+        <source>with cut marks</source>
+        <translation>com marcas de corte</translation>
+    </message>
+    <message>
+        <source>blank space removed</source>
+        <translation>sem espaço em branco</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>em espelho</translation>
+    </message>
+    <message>
+        <source>leader: %1, cut off</source>
+        <translation>avanço inicial: %1, cortado</translation>
+    </message>
+    <message>
+        <source>leader: %1, half cut behind it</source>
+        <translation>avanço inicial: %1, com meio corte atrás</translation>
+    </message>
+    <message>
+        <source>leader: %1, not cut off</source>
+        <translation>avanço inicial: %1, não cortado</translation>
+    </message>
+    <message>
+        <source>cut off</source>
+        <translation>cortado</translation>
+    </message>
+    <message>
+        <source>half cut behind it, not cut off</source>
+        <translation>com meio corte atrás, não cortado</translation>
+    </message>
+    <message>
+        <source>not cut off</source>
+        <translation>não cortado</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>%1; this driver says nothing of cutting</source>
+        <translation>%1; este controlador não diz nada sobre o corte</translation>
+    </message>
+    <message>
+        <source>%1; the printer decides where to cut</source>
+        <translation>%1; a impressora decide onde cortar</translation>
+    </message>
+    <message>
+        <source>no labels</source>
+        <translation>nenhuma etiqueta</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message>
+        <source>feed behind the last label: %1</source>
+        <translation>avanço após a última etiqueta: %1</translation>
+    </message>
+    <message>
+        <source>cut marks at both ends of each label: %1</source>
+        <translation>marcas de corte nas duas pontas de cada etiqueta: %1</translation>
+    </message>
+</context>
 </TS>

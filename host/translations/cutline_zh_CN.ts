@@ -1312,4 +1312,151 @@
         <translation>“%1”第 %2 行</translation>
     </message>
 </context>
+<context>
+    <name>strip</name>
+    <message>
+        <source>1 label</source>
+        <translation>1 张标签</translation>
+    </message>
+    <message>
+        <source>%1 labels</source>
+        <translation>%1 张标签</translation>
+    </message>
+    <message>
+        <source>1 piece</source>
+        <translation>1 段</translation>
+    </message>
+    <message>
+        <source>%1 pieces</source>
+        <translation>%1 段</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished">%1，%2</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 毫米</translation>
+    </message>
+    <message>
+        <source>length not known</source>
+        <translation>长度未知</translation>
+    </message>
+    <message>
+        <source>%1 of the roll</source>
+        <translation>卷纸 %1</translation>
+    </message>
+    <message>
+        <source>%1 of tape</source>
+        <translation>标签带 %1</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>最多 %1</translation>
+    </message>
+    <message>
+        <source>special tape, which is never cut</source>
+        <translation>特殊标签带，从不裁切</translation>
+    </message>
+    <message>
+        <source>cut at the end</source>
+        <translation>在末尾裁切</translation>
+    </message>
+    <message>
+        <source>roll not cut</source>
+        <translation>卷纸不裁切</translation>
+    </message>
+    <message>
+        <source>tape not cut</source>
+        <translation>标签带不裁切</translation>
+    </message>
+    <message>
+        <source>cut after each label</source>
+        <translation>每张标签后裁切</translation>
+    </message>
+    <message>
+        <source>cut after each copy</source>
+        <translation>每份后裁切</translation>
+    </message>
+    <message>
+        <source>cut every %1</source>
+        <translation>每 %1 张裁切</translation>
+    </message>
+    <message>
+        <source>half cut between</source>
+        <translation>之间半切</translation>
+    </message>
+    <message>
+        <source>half cut beside the label</source>
+        <translation>标签旁半切</translation>
+    </message>
+    <message>
+        <source>the last label stays in the printer</source>
+        <translation>最后一张标签留在打印机中</translation>
+    </message>
+    <message>
+        <source>with cut marks</source>
+        <translation>带裁切标记</translation>
+    </message>
+    <message>
+        <source>blank space removed</source>
+        <translation>去除空白</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>镜像</translation>
+    </message>
+    <message>
+        <source>leader: %1, cut off</source>
+        <translation>前端空白：%1，切断</translation>
+    </message>
+    <message>
+        <source>leader: %1, half cut behind it</source>
+        <translation>前端空白：%1，其后半切</translation>
+    </message>
+    <message>
+        <source>leader: %1, not cut off</source>
+        <translation>前端空白：%1，不切断</translation>
+    </message>
+    <message>
+        <source>cut off</source>
+        <translation>切断</translation>
+    </message>
+    <message>
+        <source>half cut behind it, not cut off</source>
+        <translation>其后半切，不切断</translation>
+    </message>
+    <message>
+        <source>not cut off</source>
+        <translation>不切断</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1，每段 %2</translation>
+    </message>
+    <message>
+        <source>%1; this driver says nothing of cutting</source>
+        <translation>%1；此驱动程序未说明裁切</translation>
+    </message>
+    <message>
+        <source>%1; the printer decides where to cut</source>
+        <translation>%1；裁切位置由打印机决定</translation>
+    </message>
+    <message>
+        <source>no labels</source>
+        <translation>没有标签</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1：%2</translation>
+    </message>
+    <message>
+        <source>feed behind the last label: %1</source>
+        <translation>最后一张标签后的走带：%1</translation>
+    </message>
+    <message>
+        <source>cut marks at both ends of each label: %1</source>
+        <translation>每张标签两端的裁切标记：%1</translation>
+    </message>
+</context>
 </TS>

@@ -1312,4 +1312,151 @@
         <translation>「%1」第 %2 行</translation>
     </message>
 </context>
+<context>
+    <name>strip</name>
+    <message>
+        <source>1 label</source>
+        <translation>1 張標籤</translation>
+    </message>
+    <message>
+        <source>%1 labels</source>
+        <translation>%1 張標籤</translation>
+    </message>
+    <message>
+        <source>1 piece</source>
+        <translation>1 段</translation>
+    </message>
+    <message>
+        <source>%1 pieces</source>
+        <translation>%1 段</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished">%1，%2</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 公釐</translation>
+    </message>
+    <message>
+        <source>length not known</source>
+        <translation>長度不明</translation>
+    </message>
+    <message>
+        <source>%1 of the roll</source>
+        <translation>捲筒 %1</translation>
+    </message>
+    <message>
+        <source>%1 of tape</source>
+        <translation>標籤帶 %1</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>最多 %1</translation>
+    </message>
+    <message>
+        <source>special tape, which is never cut</source>
+        <translation>特殊標籤帶，從不裁切</translation>
+    </message>
+    <message>
+        <source>cut at the end</source>
+        <translation>在末尾裁切</translation>
+    </message>
+    <message>
+        <source>roll not cut</source>
+        <translation>捲筒不裁切</translation>
+    </message>
+    <message>
+        <source>tape not cut</source>
+        <translation>標籤帶不裁切</translation>
+    </message>
+    <message>
+        <source>cut after each label</source>
+        <translation>每張標籤後裁切</translation>
+    </message>
+    <message>
+        <source>cut after each copy</source>
+        <translation>每份後裁切</translation>
+    </message>
+    <message>
+        <source>cut every %1</source>
+        <translation>每 %1 張裁切</translation>
+    </message>
+    <message>
+        <source>half cut between</source>
+        <translation>之間半切</translation>
+    </message>
+    <message>
+        <source>half cut beside the label</source>
+        <translation>標籤旁半切</translation>
+    </message>
+    <message>
+        <source>the last label stays in the printer</source>
+        <translation>最後一張標籤留在印表機中</translation>
+    </message>
+    <message>
+        <source>with cut marks</source>
+        <translation>含裁切標記</translation>
+    </message>
+    <message>
+        <source>blank space removed</source>
+        <translation>移除空白</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>鏡像</translation>
+    </message>
+    <message>
+        <source>leader: %1, cut off</source>
+        <translation>前端空白：%1，切斷</translation>
+    </message>
+    <message>
+        <source>leader: %1, half cut behind it</source>
+        <translation>前端空白：%1，其後半切</translation>
+    </message>
+    <message>
+        <source>leader: %1, not cut off</source>
+        <translation>前端空白：%1，不切斷</translation>
+    </message>
+    <message>
+        <source>cut off</source>
+        <translation>切斷</translation>
+    </message>
+    <message>
+        <source>half cut behind it, not cut off</source>
+        <translation>其後半切，不切斷</translation>
+    </message>
+    <message>
+        <source>not cut off</source>
+        <translation>不切斷</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1，每段 %2</translation>
+    </message>
+    <message>
+        <source>%1; this driver says nothing of cutting</source>
+        <translation>%1；此驅動程式未說明裁切</translation>
+    </message>
+    <message>
+        <source>%1; the printer decides where to cut</source>
+        <translation>%1；裁切位置由印表機決定</translation>
+    </message>
+    <message>
+        <source>no labels</source>
+        <translation>沒有標籤</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1：%2</translation>
+    </message>
+    <message>
+        <source>feed behind the last label: %1</source>
+        <translation>最後一張標籤後的走帶：%1</translation>
+    </message>
+    <message>
+        <source>cut marks at both ends of each label: %1</source>
+        <translation>每張標籤兩端的裁切標記：%1</translation>
+    </message>
+</context>
 </TS>
