@@ -91,9 +91,10 @@ labels is said with -o:
   position=center|top|bottom|left|right|top-left|..., label-length=content,
   text-labels=paragraph|line, text-font=FAMILY, text-size=POINTS; raw sends a document as it is
 
-Exit status: 0 done, 1 error, 2 wrong usage, 3 cancelled. --print is done when the print
-server has taken the whole document; with --wait, when the job has ended and something came
-out: it is an error when the job was cancelled or given up, or ended without a page.
+Exit status: 0 done, 1 error, 2 wrong usage, 3 cancelled with nothing printed. --print is
+done when the print server has taken the whole document; with --wait, when the job has ended
+and something came out: it is an error when the job was cancelled or given up, or ended
+without a page.
 )";
 
 using Problem = std::optional<std::string>;

@@ -162,6 +162,7 @@ std::string PrintModel::pageRanges() const {
 Result<Done> PrintModel::setPageRanges(const std::string& text) {
   const Result<PageRanges> ranges = PageRanges::parse(text);
   if (!ranges) return ranges.error();
+  if (mAsked.pageRanges == ranges->text()) return Done{};
   mAsked.pageRanges = ranges->text();
   tell(ModelChange::job);
   return Done{};

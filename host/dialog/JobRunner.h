@@ -1,10 +1,9 @@
-// A job on its way: what sends and follows it, and what shows how far it is.
+// What sends a job and follows it until it has ended.
 #pragma once
 
 #include <QObject>
 #include <QString>
 #include <QTimer>
-#include <QWidget>
 #include <atomic>
 #include <functional>
 #include <memory>
@@ -14,10 +13,6 @@
 #include "cups/PrintJob.h"
 #include "host/dialog/Background.h"
 #include "host/dialog/PrintServer.h"
-
-class QLabel;
-class QProgressBar;
-class QPushButton;
 
 namespace cutline {
 
@@ -34,7 +29,8 @@ class JobRunner : public QObject {
   // One job at a time; printed, cancelled or failed ends it. What is composed is sent in the place
   // of the request's path; without anything that composes, that is.
   void start(const PrintRequest& request, Composing composing);
-  // Gives the job up: nothing more of it is sent, or the server is asked to cancel it.
+  // Gives the job up: nothing more of it is sent, or the server is asked to cancel it. A job that
+  // is out by then is printed all the same.
   void cancel();
 
   bool isRunning() const noexcept { return mIsRunning; }
@@ -43,11 +39,16 @@ class JobRunner : public QObject {
   int jobId() const noexcept { return mJobId; }  // 0 before that
 
  signals:
+  // Of the documents, before any selection.
+  void composed(int documentPages);
   void spooling(quint64 sent, quint64 total);
   void submitted(int jobId);
   void stateChanged(const cutline::JobStatus& status);
   void printed();
-  void cancelled();
+  // `pages` had come out by the server's count.
+  void cancelled(int pages);
+  // The job goes on all the same.
+  void cancelRefused(const QString& reason);
   void failed(const QString& reason);
 
  private:
@@ -57,6 +58,7 @@ class JobRunner : public QObject {
   void missStatus(const QString& reason);
   void endWith(const JobStatus& status);
   void askToCancel();
+  void takeRefusal(const Error& refusal, const Result<JobStatus>& status);
 
   std::shared_ptr<PrintServer> mServer;
   DestinationName mDestination;
@@ -67,32 +69,6 @@ class JobRunner : public QObject {
   int mMissed = 0;
   QTimer mTimer;
   Background mBackground;
-};
-
-// How far the job is, in place of the dialog's buttons.
-class JobProgress : public QWidget {
-  Q_OBJECT
-
- public:
-  explicit JobProgress(QWidget* parent = nullptr);
-
-  void showComposing();
-  void showSpooling(const QString& printer, quint64 sent, quint64 total);
-  void showState(int jobId, const JobStatus& status);
-  void showCancelling();
-
- signals:
-  void cancelRequested();
-  // The job goes on without the dialog.
-  void leaveRequested();
-
- private:
-  void showText(const QString& text);
-
-  QLabel* mText;
-  QProgressBar* mBar;
-  QPushButton* mCancel;
-  QPushButton* mLeave;
 };
 
 }  // namespace cutline

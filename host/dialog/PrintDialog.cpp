@@ -7,9 +7,11 @@
 
 #include "host/core/CommandLine.h"
 #include "host/core/CutRules.h"
+#include "host/dialog/ClickGuard.h"
 #include "host/dialog/DialogLanguage.h"
 #include "host/dialog/DocumentWatch.h"
 #include "host/dialog/JobForm.h"
+#include "host/dialog/JobProgress.h"
 #include "host/dialog/JobRunner.h"
 #include "host/dialog/LayoutForm.h"
 #include "host/dialog/MoreOptionsPanel.h"
@@ -70,7 +72,9 @@ PrintDialog::PrintDialog(PrintModel& model, std::shared_ptr<PrintServer> server,
       mPrint(new QPushButton(tr("Pr&int"), this)),
       mCancel(new QPushButton(tr("Cancel"), this)),
       mBottom(new QStackedWidget(this)),
-      mProgress(new JobProgress(this)) {
+      mProgress(new JobProgress(this)),
+      mOutcome(new JobOutcome(this)),
+      mGuard(new ClickGuard(mBottom)) {
   setAcceptDrops(true);
   showTitle();
   makeLayout();
@@ -119,6 +123,7 @@ void PrintDialog::modelDidChange(ModelChange what) {
     if (row.change == what) (this->*row.show)();
   }
   showStrip();
+  forgetOutcome();
   recompose();
 }
 

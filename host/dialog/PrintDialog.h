@@ -6,6 +6,7 @@
 
 #include <QDialog>
 #include <QTimer>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -21,8 +22,10 @@ class QStackedWidget;
 
 namespace cutline {
 
+class ClickGuard;
 class DocumentWatch;
 class JobForm;
+class JobOutcome;
 class JobProgress;
 class LayoutBar;
 class LayoutForm;
@@ -133,9 +136,16 @@ class PrintDialog : public QDialog, private PrintModelListener {
   void shrinkTo(int percent);
   QString refusal() const;
   void refreshPrintButton();
+  std::uint64_t labelsToPrint() const;
+  void showPrintTitle();
+  void forgetOutcome();
   void print();
   JobRunner::Composing jobComposing() const;
   void showJobRunning(bool isRunning);
+  void setJobLabels(std::uint64_t labels);
+  void notePrinted();
+  void takePrinted();
+  void takeCancelled(int pages);
   void finish(int exitStatus);
 
   PrintModel& mModel;
@@ -168,6 +178,9 @@ class PrintDialog : public QDialog, private PrintModelListener {
   QPushButton* mCancel;
   QStackedWidget* mBottom;
   JobProgress* mProgress;
+  JobOutcome* mOutcome;
+  ClickGuard* mGuard;            // of the row that mBottom shows
+  std::uint64_t mJobLabels = 0;  // of the job that was sent last; 0 where that is not known
 };
 
 }  // namespace cutline

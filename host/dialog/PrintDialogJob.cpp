@@ -10,9 +10,12 @@
 #include <QUrl>
 
 #include "host/core/CommandLine.h"
+#include "host/core/JobPlan.h"
+#include "host/dialog/ClickGuard.h"
 #include "host/dialog/DialogLanguage.h"
 #include "host/dialog/DocumentWatch.h"
 #include "host/dialog/JobForm.h"
+#include "host/dialog/JobProgress.h"
 #include "host/dialog/LayoutForm.h"
 #include "host/dialog/MoreOptionsPanel.h"
 #include "host/dialog/NoticeView.h"
@@ -91,6 +94,7 @@ void PrintDialog::loadDocument() {
 // What is on its way to the printer has been read already.
 void PrintDialog::reloadDocument() {
   if (mSource.paths.empty() || mSource.isRaw) return;
+  forgetOutcome();
   mDocument->setDocuments(mSource.paths, mSource.tools);
   recompose();
 }
@@ -111,6 +115,7 @@ void PrintDialog::openDocuments(std::vector<std::string> paths) {
   for (const NoticeTopic topic : {NoticeTopic::document, NoticeTopic::edges, NoticeTopic::paper}) {
     mNotices->clear(topic);
   }
+  forgetOutcome();
   loadDocument();
   showStrip();
   refreshPrintButton();
@@ -134,15 +139,18 @@ void PrintDialog::dropEvent(QDropEvent* event) {
 }
 
 void PrintDialog::connectJob() {
+  connect(mJob, &JobRunner::composed, this,
+          [this](int documentPages) { setJobLabels(planFor(mModel, documentPages).labels()); });
   connect(mJob, &JobRunner::spooling, this, [this](quint64 sent, quint64 total) {
     mProgress->showSpooling(toQString(mModel.destination().name.printer), sent, total);
   });
   connect(mJob, &JobRunner::stateChanged, this,
           [this](const JobStatus& status) { mProgress->showState(mJob->jobId(), status); });
-  connect(mJob, &JobRunner::printed, this, [this] { finish(kExitDone); });
-  connect(mJob, &JobRunner::cancelled, this, [this] {
-    showJobRunning(false);
-    mNotices->setNotice(NoticeTopic::refusal, tr("The job was cancelled."));
+  connect(mJob, &JobRunner::printed, this, &PrintDialog::takePrinted);
+  connect(mJob, &JobRunner::cancelled, this, &PrintDialog::takeCancelled);
+  connect(mJob, &JobRunner::cancelRefused, this, [this](const QString& reason) {
+    mProgress->endCancelling();
+    mNotices->setNotice(NoticeTopic::failure, reason);
   });
   connect(mJob, &JobRunner::failed, this, [this](const QString& reason) {
     showJobRunning(false);
@@ -169,6 +177,27 @@ void PrintDialog::refreshPrintButton() {
   mPrint->setToolTip(reason);
   tellAccessibleDescription(*mPrint, reason);
   mNotices->setNotice(NoticeTopic::refusal, reason);
+  showPrintTitle();
+}
+
+// 0 where it is not known: nothing is composed, or not all of it, or the document is sent unseen.
+std::uint64_t PrintDialog::labelsToPrint() const {
+  if (!mModel.isOpen() || mSource.isRaw || !mDocument->isOpen() || mDocument->hasFailed()) return 0;
+  const CompositionReport& report = mDocument->report();
+  return report.isPartial ? 0 : planFor(mModel, report.documentPages).labels();
+}
+
+void PrintDialog::showPrintTitle() {
+  const std::uint64_t labels = labelsToPrint();
+  const QString counted = labels == 1 ? tr("Pr&int 1 label") : tr("Pr&int %1 labels").arg(labels);
+  const QString fresh = labels == 0 ? tr("Pr&int") : counted;
+  mPrint->setText(mOutcome->isShown() ? tr("Pr&int again") : fresh);
+}
+
+// What is printed next is not what was printed.
+void PrintDialog::forgetOutcome() {
+  mOutcome->clear();
+  showPrintTitle();
 }
 
 void PrintDialog::print() {
@@ -179,11 +208,18 @@ void PrintDialog::print() {
   mNotices->setNotice(NoticeTopic::failure, options ? QString() : asLine(options.error().sentence));
   if (!options) return;
   mNotices->clear(NoticeTopic::refusal);
+  setJobLabels(0);
+  forgetOutcome();
   showJobRunning(true);
   const DestinationName& name = mModel.destination().name;
   mProgress->showComposing();
   const std::string document = toUtf8(fileNameOf(mSource.paths.front()));
   mJob->start({name, mSource.paths.front(), mSource.title, *options, document}, jobComposing());
+}
+
+void PrintDialog::setJobLabels(std::uint64_t labels) {
+  mJobLabels = labels;
+  mProgress->setLabels(labels);
 }
 
 // Nothing for a document that is sent as it is.
@@ -201,11 +237,33 @@ void PrintDialog::showJobRunning(bool isRunning) {
   mMoreOptions->setEnabled(!isRunning);
   mLayoutForm->setEnabled(!isRunning);
   mBottom->setCurrentIndex(isRunning ? 1 : 0);
+  mGuard->noteExchange();
   if (isRunning) {
     mStripPane->strip().setFocus();
   } else {
     mPrint->setFocus();
   }
+}
+
+void PrintDialog::notePrinted() {
+  mExitStatus = kExitDone;
+  mCancel->setText(tr("Close"));
+}
+
+void PrintDialog::takePrinted() {
+  notePrinted();
+  mOutcome->showPrinted(mJobLabels);
+  showPrintTitle();
+  showJobRunning(false);
+}
+
+// Labels that came out before are printed.
+void PrintDialog::takeCancelled(int pages) {
+  if (pages > 0) notePrinted();
+  showJobRunning(false);
+  mNotices->setNotice(NoticeTopic::refusal,
+                      pages > 0 ? tr("The job was cancelled; some of its labels are printed.")
+                                : tr("The job was cancelled."));
 }
 
 // A job that the server has goes on without the dialog; one that is being sent is given up first.

@@ -7,7 +7,7 @@
 #include <algorithm>
 
 #include "host/dialog/JobForm.h"
-#include "host/dialog/JobRunner.h"
+#include "host/dialog/JobProgress.h"
 #include "host/dialog/LayoutForm.h"
 #include "host/dialog/MoreOptionsPanel.h"
 #include "host/dialog/NoticeView.h"
@@ -113,11 +113,12 @@ QWidget* PrintDialog::makeButtons() {
   row->addWidget(mMoreButton);
   row->addWidget(mOpen);
   mOpen->setVisible(mSource.paths.empty());
-  row->addStretch(1);
+  row->addWidget(mOutcome, 1);
   row->addWidget(mCancel);
   row->addWidget(mPrint);
   mMoreButton->setCheckable(true);
   mPrint->setDefault(true);
+  mPrint->setObjectName(QStringLiteral("print"));  // its text changes
   const int width = std::max(mPrint->sizeHint().width(), mCancel->sizeHint().width());
   for (QPushButton* button : {mPrint, mCancel}) button->setMinimumWidth(width);
   return buttons;

@@ -653,6 +653,21 @@
     </message>
 </context>
 <context>
+    <name>cutline::JobOutcome</name>
+    <message>
+        <source>Printed.</source>
+        <translation>Gedruckt.</translation>
+    </message>
+    <message>
+        <source>Printed %1 labels.</source>
+        <translation>%1 Etiketten gedruckt.</translation>
+    </message>
+    <message>
+        <source>Printed 1 label.</source>
+        <translation>1 Etikett gedruckt.</translation>
+    </message>
+</context>
+<context>
     <name>cutline::JobProgress</name>
     <message>
         <source>Cancel &amp;job</source>
@@ -685,6 +700,10 @@
     <message>
         <source>Composing...</source>
         <translation>Wird zusammengestellt …</translation>
+    </message>
+    <message>
+        <source>Printing: label %1 of %2</source>
+        <translation>Druckt: Etikett %1 von %2</translation>
     </message>
 </context>
 <context>
@@ -1104,6 +1123,26 @@
     <message>
         <source>There is no document to print: open one, or drop it here.</source>
         <translation>Es gibt kein Dokument zu drucken: öffnen Sie eines, oder legen Sie es hier ab.</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int 1 label</source>
+        <translation>1 Etikett dr&amp;ucken</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int %1 labels</source>
+        <translation>%1 Etiketten dr&amp;ucken</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int again</source>
+        <translation>Nochmals dr&amp;ucken</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>The job was cancelled; some of its labels are printed.</source>
+        <translation>Der Auftrag wurde abgebrochen; einige seiner Etiketten sind gedruckt.</translation>
     </message>
 </context>
 <context>

@@ -653,6 +653,21 @@
     </message>
 </context>
 <context>
+    <name>cutline::JobOutcome</name>
+    <message>
+        <source>Printed.</source>
+        <translation>Impreso.</translation>
+    </message>
+    <message>
+        <source>Printed %1 labels.</source>
+        <translation>%1 etiquetas impresas.</translation>
+    </message>
+    <message>
+        <source>Printed 1 label.</source>
+        <translation>1 etiqueta impresa.</translation>
+    </message>
+</context>
+<context>
     <name>cutline::JobProgress</name>
     <message>
         <source>Cancel &amp;job</source>
@@ -685,6 +700,10 @@
     <message>
         <source>Composing...</source>
         <translation>Componiendo…</translation>
+    </message>
+    <message>
+        <source>Printing: label %1 of %2</source>
+        <translation>Imprimiendo: etiqueta %1 de %2</translation>
     </message>
 </context>
 <context>
@@ -1104,6 +1123,26 @@
     <message>
         <source>There is no document to print: open one, or drop it here.</source>
         <translation>No hay documento que imprimir: abra uno o arrástrelo aquí.</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int 1 label</source>
+        <translation>Imprimi&amp;r 1 etiqueta</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int %1 labels</source>
+        <translation>Imprimi&amp;r %1 etiquetas</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int again</source>
+        <translation>Imprimi&amp;r de nuevo</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>The job was cancelled; some of its labels are printed.</source>
+        <translation>Se ha cancelado el trabajo; algunas de sus etiquetas están impresas.</translation>
     </message>
 </context>
 <context>

@@ -653,6 +653,21 @@
     </message>
 </context>
 <context>
+    <name>cutline::JobOutcome</name>
+    <message>
+        <source>Printed.</source>
+        <translation>Imprimé.</translation>
+    </message>
+    <message>
+        <source>Printed %1 labels.</source>
+        <translation>%1 étiquettes imprimées.</translation>
+    </message>
+    <message>
+        <source>Printed 1 label.</source>
+        <translation>1 étiquette imprimée.</translation>
+    </message>
+</context>
+<context>
     <name>cutline::JobProgress</name>
     <message>
         <source>Cancel &amp;job</source>
@@ -685,6 +700,10 @@
     <message>
         <source>Composing...</source>
         <translation>Composition…</translation>
+    </message>
+    <message>
+        <source>Printing: label %1 of %2</source>
+        <translation>Impression : étiquette %1 sur %2</translation>
     </message>
 </context>
 <context>
@@ -1104,6 +1123,26 @@
     <message>
         <source>There is no document to print: open one, or drop it here.</source>
         <translation>Il n’y a pas de document à imprimer : ouvrez-en un ou déposez-le ici.</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int 1 label</source>
+        <translation>Impri&amp;mer 1 étiquette</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int %1 labels</source>
+        <translation>Impri&amp;mer %1 étiquettes</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int again</source>
+        <translation>Réimpri&amp;mer</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>The job was cancelled; some of its labels are printed.</source>
+        <translation>La tâche a été annulée ; certaines de ses étiquettes sont imprimées.</translation>
     </message>
 </context>
 <context>

@@ -653,6 +653,21 @@
     </message>
 </context>
 <context>
+    <name>cutline::JobOutcome</name>
+    <message>
+        <source>Printed.</source>
+        <translation>Stampato.</translation>
+    </message>
+    <message>
+        <source>Printed %1 labels.</source>
+        <translation>%1 etichette stampate.</translation>
+    </message>
+    <message>
+        <source>Printed 1 label.</source>
+        <translation>1 etichetta stampata.</translation>
+    </message>
+</context>
+<context>
     <name>cutline::JobProgress</name>
     <message>
         <source>Cancel &amp;job</source>
@@ -685,6 +700,10 @@
     <message>
         <source>Composing...</source>
         <translation>Composizione…</translation>
+    </message>
+    <message>
+        <source>Printing: label %1 of %2</source>
+        <translation>Stampa in corso: etichetta %1 di %2</translation>
     </message>
 </context>
 <context>
@@ -1104,6 +1123,26 @@
     <message>
         <source>There is no document to print: open one, or drop it here.</source>
         <translation>Non c’è un documento da stampare: aprirne uno o trascinarlo qui.</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int 1 label</source>
+        <translation>S&amp;tampa 1 etichetta</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int %1 labels</source>
+        <translation>S&amp;tampa %1 etichette</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int again</source>
+        <translation>S&amp;tampa di nuovo</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>The job was cancelled; some of its labels are printed.</source>
+        <translation>Il lavoro è stato annullato; alcune sue etichette sono stampate.</translation>
     </message>
 </context>
 <context>

@@ -653,6 +653,21 @@
     </message>
 </context>
 <context>
+    <name>cutline::JobOutcome</name>
+    <message>
+        <source>Printed.</source>
+        <translation>印刷しました。</translation>
+    </message>
+    <message>
+        <source>Printed %1 labels.</source>
+        <translation>ラベルを %1 枚印刷しました。</translation>
+    </message>
+    <message>
+        <source>Printed 1 label.</source>
+        <translation>ラベルを 1 枚印刷しました。</translation>
+    </message>
+</context>
+<context>
     <name>cutline::JobProgress</name>
     <message>
         <source>Cancel &amp;job</source>
@@ -685,6 +700,10 @@
     <message>
         <source>Composing...</source>
         <translation>レイアウトしています…</translation>
+    </message>
+    <message>
+        <source>Printing: label %1 of %2</source>
+        <translation>印刷中: ラベル %1/%2</translation>
     </message>
 </context>
 <context>
@@ -1104,6 +1123,26 @@
     <message>
         <source>There is no document to print: open one, or drop it here.</source>
         <translation>印刷する文書がありません: 文書を開くか、ここにドロップしてください。</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int 1 label</source>
+        <translation>ラベルを 1 枚印刷(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int %1 labels</source>
+        <translation>ラベルを %1 枚印刷(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int again</source>
+        <translation>もう一度印刷(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>The job was cancelled; some of its labels are printed.</source>
+        <translation>ジョブはキャンセルされました。一部のラベルは印刷済みです。</translation>
     </message>
 </context>
 <context>

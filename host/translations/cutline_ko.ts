@@ -653,6 +653,21 @@
     </message>
 </context>
 <context>
+    <name>cutline::JobOutcome</name>
+    <message>
+        <source>Printed.</source>
+        <translation>인쇄했습니다.</translation>
+    </message>
+    <message>
+        <source>Printed %1 labels.</source>
+        <translation>라벨 %1장을 인쇄했습니다.</translation>
+    </message>
+    <message>
+        <source>Printed 1 label.</source>
+        <translation>라벨 1장을 인쇄했습니다.</translation>
+    </message>
+</context>
+<context>
     <name>cutline::JobProgress</name>
     <message>
         <source>Cancel &amp;job</source>
@@ -685,6 +700,10 @@
     <message>
         <source>Composing...</source>
         <translation>배치하는 중…</translation>
+    </message>
+    <message>
+        <source>Printing: label %1 of %2</source>
+        <translation>인쇄 중: 라벨 %1/%2</translation>
     </message>
 </context>
 <context>
@@ -1104,6 +1123,26 @@
     <message>
         <source>There is no document to print: open one, or drop it here.</source>
         <translation>인쇄할 문서가 없습니다: 문서를 열거나 여기에 끌어 놓으십시오.</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int 1 label</source>
+        <translation>라벨 1장 인쇄(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int %1 labels</source>
+        <translation>라벨 %1장 인쇄(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int again</source>
+        <translation>다시 인쇄(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>The job was cancelled; some of its labels are printed.</source>
+        <translation>작업이 취소되었습니다. 일부 라벨은 인쇄되었습니다.</translation>
     </message>
 </context>
 <context>

@@ -653,6 +653,21 @@
     </message>
 </context>
 <context>
+    <name>cutline::JobOutcome</name>
+    <message>
+        <source>Printed.</source>
+        <translation>Afgedrukt.</translation>
+    </message>
+    <message>
+        <source>Printed %1 labels.</source>
+        <translation>%1 labels afgedrukt.</translation>
+    </message>
+    <message>
+        <source>Printed 1 label.</source>
+        <translation>1 label afgedrukt.</translation>
+    </message>
+</context>
+<context>
     <name>cutline::JobProgress</name>
     <message>
         <source>Cancel &amp;job</source>
@@ -685,6 +700,10 @@
     <message>
         <source>Composing...</source>
         <translation>Samenstellen…</translation>
+    </message>
+    <message>
+        <source>Printing: label %1 of %2</source>
+        <translation>Bezig met afdrukken: label %1 van %2</translation>
     </message>
 </context>
 <context>
@@ -1104,6 +1123,26 @@
     <message>
         <source>There is no document to print: open one, or drop it here.</source>
         <translation>Er is geen document om af te drukken: open er een of sleep het hierheen.</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int 1 label</source>
+        <translation>1 label af&amp;drukken</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int %1 labels</source>
+        <translation>%1 labels af&amp;drukken</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int again</source>
+        <translation>Opnieuw af&amp;drukken</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>The job was cancelled; some of its labels are printed.</source>
+        <translation>De taak is geannuleerd; een deel van de labels is afgedrukt.</translation>
     </message>
 </context>
 <context>

@@ -653,6 +653,21 @@
     </message>
 </context>
 <context>
+    <name>cutline::JobOutcome</name>
+    <message>
+        <source>Printed.</source>
+        <translation>Impresso.</translation>
+    </message>
+    <message>
+        <source>Printed %1 labels.</source>
+        <translation>%1 etiquetas impressas.</translation>
+    </message>
+    <message>
+        <source>Printed 1 label.</source>
+        <translation>1 etiqueta impressa.</translation>
+    </message>
+</context>
+<context>
     <name>cutline::JobProgress</name>
     <message>
         <source>Cancel &amp;job</source>
@@ -685,6 +700,10 @@
     <message>
         <source>Composing...</source>
         <translation>Compondo…</translation>
+    </message>
+    <message>
+        <source>Printing: label %1 of %2</source>
+        <translation>A imprimir: etiqueta %1 de %2</translation>
     </message>
 </context>
 <context>
@@ -1104,6 +1123,26 @@
     <message>
         <source>There is no document to print: open one, or drop it here.</source>
         <translation>Não há documento para imprimir: abra um ou solte-o aqui.</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int 1 label</source>
+        <translation>Imp&amp;rimir 1 etiqueta</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int %1 labels</source>
+        <translation>Imp&amp;rimir %1 etiquetas</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int again</source>
+        <translation>Imp&amp;rimir de novo</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>The job was cancelled; some of its labels are printed.</source>
+        <translation>O trabalho foi cancelado; algumas das suas etiquetas estão impressas.</translation>
     </message>
 </context>
 <context>

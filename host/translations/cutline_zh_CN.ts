@@ -653,6 +653,21 @@
     </message>
 </context>
 <context>
+    <name>cutline::JobOutcome</name>
+    <message>
+        <source>Printed.</source>
+        <translation>已打印。</translation>
+    </message>
+    <message>
+        <source>Printed %1 labels.</source>
+        <translation>已打印 %1 张标签。</translation>
+    </message>
+    <message>
+        <source>Printed 1 label.</source>
+        <translation>已打印 1 张标签。</translation>
+    </message>
+</context>
+<context>
     <name>cutline::JobProgress</name>
     <message>
         <source>Cancel &amp;job</source>
@@ -685,6 +700,10 @@
     <message>
         <source>Composing...</source>
         <translation>正在排版…</translation>
+    </message>
+    <message>
+        <source>Printing: label %1 of %2</source>
+        <translation>正在打印：标签 %1/%2</translation>
     </message>
 </context>
 <context>
@@ -1104,6 +1123,26 @@
     <message>
         <source>There is no document to print: open one, or drop it here.</source>
         <translation>没有要打印的文档：请打开一个，或拖到此处。</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int 1 label</source>
+        <translation>打印 1 张标签(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int %1 labels</source>
+        <translation>打印 %1 张标签(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int again</source>
+        <translation>再次打印(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>The job was cancelled; some of its labels are printed.</source>
+        <translation>任务已取消；部分标签已打印。</translation>
     </message>
 </context>
 <context>

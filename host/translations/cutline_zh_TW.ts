@@ -653,6 +653,21 @@
     </message>
 </context>
 <context>
+    <name>cutline::JobOutcome</name>
+    <message>
+        <source>Printed.</source>
+        <translation>已列印。</translation>
+    </message>
+    <message>
+        <source>Printed %1 labels.</source>
+        <translation>已列印 %1 張標籤。</translation>
+    </message>
+    <message>
+        <source>Printed 1 label.</source>
+        <translation>已列印 1 張標籤。</translation>
+    </message>
+</context>
+<context>
     <name>cutline::JobProgress</name>
     <message>
         <source>Cancel &amp;job</source>
@@ -685,6 +700,10 @@
     <message>
         <source>Composing...</source>
         <translation>正在排版…</translation>
+    </message>
+    <message>
+        <source>Printing: label %1 of %2</source>
+        <translation>正在列印：標籤 %1/%2</translation>
     </message>
 </context>
 <context>
@@ -1104,6 +1123,26 @@
     <message>
         <source>There is no document to print: open one, or drop it here.</source>
         <translation>沒有要列印的文件：請開啟一個，或拖曳到此處。</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int 1 label</source>
+        <translation>列印 1 張標籤(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int %1 labels</source>
+        <translation>列印 %1 張標籤(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int again</source>
+        <translation>再次列印(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>The job was cancelled; some of its labels are printed.</source>
+        <translation>工作已取消；部分標籤已列印。</translation>
     </message>
 </context>
 <context>

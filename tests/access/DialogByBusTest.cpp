@@ -30,12 +30,14 @@ TEST_F(DialogByBus, WhatTakesTheKeyboardHasAName) {
 TEST_F(DialogByBus, ThePreviewSaysWhichLabelItShows) {
   startDialog("roll62");
   const Accessible preview = control(ATSPI_ROLE_IMAGE, "Preview of the labels");
-  EXPECT_TRUE(waitUntil([&] { return preview.description().find("\nLabel 1 of 12 ") != std::string::npos; }))
-      << preview.description();
+  EXPECT_TRUE(waitUntil([&] {
+    return preview.description().find("\nLabel 1 of 12 ") != std::string::npos;
+  })) << preview.description();
   const EventLog described(kDescriptionChange);
   ASSERT_TRUE(button("Next label").press());
-  EXPECT_TRUE(waitUntil([&] { return preview.description().find("\nLabel 2 of 12 ") != std::string::npos; }))
-      << preview.description();
+  EXPECT_TRUE(waitUntil([&] {
+    return preview.description().find("\nLabel 2 of 12 ") != std::string::npos;
+  })) << preview.description();
   EXPECT_TRUE(waitUntil([&] { return described.sourcesWith(ATSPI_ROLE_IMAGE).size() == 1; }));
 }
 
@@ -43,7 +45,7 @@ TEST_F(DialogByBus, SpeaksTheUsersLanguage) {
   const ScopedEnvironment german(languageEnvironment({{"LANG", "de_DE.UTF-8"}}));
   startDialog("tape24");
   control(ATSPI_ROLE_IMAGE, "Automatischer Schnitt ein, ohne Halbschnitt, nicht spiegelverkehrt");
-  control(ATSPI_ROLE_PUSH_BUTTON, "Drucken");
+  control(ATSPI_ROLE_PUSH_BUTTON, "12 Etiketten drucken");
 }
 
 }  // namespace

@@ -6,7 +6,15 @@
 namespace cutline::test {
 namespace {
 
-class PrintingByBus : public ScreenReaderTest {};
+class PrintingByBus : public ScreenReaderTest {
+ protected:
+  void printAndClose(const char* print) {
+    ASSERT_TRUE(button(print).press());
+    EXPECT_TRUE(button("Print again").is(ATSPI_STATE_SHOWING));
+    ASSERT_TRUE(button("Close").press());
+    EXPECT_EQ(exitStatus(), kExitDone);
+  }
+};
 
 // The cut-every box stands ticked by the printer's default.
 TEST_F(PrintingByBus, HalfCutAndCutEveryThreeReachThePrinter) {
@@ -22,8 +30,7 @@ TEST_F(PrintingByBus, HalfCutAndCutEveryThreeReachThePrinter) {
   EXPECT_EQ(picture(), "Auto cut on, half cut between labels, not mirrored");
   EXPECT_EQ(summary("Half cut between labels"), "Yes");
   EXPECT_EQ(summary("Cut automatically after every"), "3 label(s)");
-  ASSERT_TRUE(button("Print").press());
-  EXPECT_EQ(exitStatus(), kExitDone);
+  printAndClose("Print 12 labels");
   const PrintedJob job = newJob();
   EXPECT_EQ(job.options().at("LxHalfCut"), "ON");
   EXPECT_EQ(job.options().at("LxCutLabel"), "3");
@@ -40,8 +47,7 @@ TEST_F(PrintingByBus, TheStepperSetsTheNumberToo) {
   ASSERT_TRUE(arrows.setValue(5));
   EXPECT_TRUE(waitUntil([&] { return count().text() == "5"; }));
   EXPECT_EQ(summary("Cut automatically after every"), "5 label(s)");
-  ASSERT_TRUE(button("Print").press());
-  EXPECT_EQ(exitStatus(), kExitDone);
+  printAndClose("Print 12 labels");
   EXPECT_EQ(newJob().options().at("LxCutLabel"), "5");
 }
 
@@ -49,8 +55,7 @@ TEST_F(PrintingByBus, CopiesAndPagesReachThePrinter) {
   startDialog("roll62");
   ASSERT_TRUE(control(ATSPI_ROLE_TEXT, "Pages").setText("2-3"));
   ASSERT_TRUE(control(ATSPI_ROLE_SPIN_BUTTON, "Copies").setValue(2));
-  ASSERT_TRUE(button("Print").press());
-  EXPECT_EQ(exitStatus(), kExitDone);
+  printAndClose("Print 4 labels");
   EXPECT_EQ(newJob().number("labels"), 4);
 }
 

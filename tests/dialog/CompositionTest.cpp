@@ -150,10 +150,10 @@ TEST_F(CompositionTest, WhatIsNoFileIsNotTaken) {
 TEST_F(CompositionTest, NothingIsTakenWhileAJobIsOnItsWay) {
   openQueue(samplePpd("tape-a"));
   composer().hold();
-  click(buttonWithText<QPushButton>("Pr&int"));
+  click(printButton());
   EXPECT_FALSE(drop({QUrl::fromLocalFile(QStringLiteral("/nowhere/first.pdf"))}));
   composer().letGo();
-  EXPECT_TRUE(waitForClose());
+  EXPECT_TRUE(waitForPrinted());
 }
 
 TEST_F(CompositionTest, WithoutADocumentOneCanBeOpenedOrDropped) {
@@ -161,10 +161,10 @@ TEST_F(CompositionTest, WithoutADocumentOneCanBeOpenedOrDropped) {
   openQueue(samplePpd("tape-a"));
   EXPECT_TRUE(shows(QStringLiteral("open one, or drop it here")));
   EXPECT_TRUE(buttonWithText<QPushButton>("&Open...")->isVisible());
-  EXPECT_FALSE(buttonWithText<QPushButton>("Pr&int")->isEnabled());
+  EXPECT_FALSE(printButton()->isEnabled());
   EXPECT_TRUE(drop({QUrl::fromLocalFile(QStringLiteral("/nowhere/first.pdf"))}));
   EXPECT_TRUE(waitUntil([this] { return strip().labelCount() == 3U; }));
-  EXPECT_TRUE(buttonWithText<QPushButton>("Pr&int")->isEnabled());
+  EXPECT_TRUE(printButton()->isEnabled());
   EXPECT_EQ(dialog().windowTitle(), QStringLiteral("Print first.pdf"));
 }
 
@@ -177,7 +177,7 @@ TEST_F(CompositionTest, AnotherDocumentMendsOneThatCannotBeRead) {
   EXPECT_TRUE(drop({QUrl::fromLocalFile(QStringLiteral("/nowhere/second.pdf"))}));
   EXPECT_TRUE(waitUntil([this] { return strip().labelCount() == 3U; }));
   EXPECT_TRUE(notices(NoticeTopic::document).isEmpty());
-  EXPECT_TRUE(buttonWithText<QPushButton>("Pr&int")->isEnabled());
+  EXPECT_TRUE(printButton()->isEnabled());
 }
 
 // A press on Enter or Space must not do it twice, and the button's row goes with it.

@@ -152,6 +152,19 @@ std::map<std::string, std::string> DialogTest::sent() const {
   return options;
 }
 
+QPushButton* DialogTest::printButton() {
+  return mDialog->findChild<QPushButton*>(QStringLiteral("print"));
+}
+
+bool DialogTest::waitForPrinted() {
+  return waitUntil([this] { return shows(QStringLiteral("Printed")); });
+}
+
+void DialogTest::waitForClicks() {
+  constexpr int kLongerThanADoubleClick = 600;
+  QTest::qWait(kLongerThanADoubleClick);
+}
+
 bool DialogTest::waitForClose() {
   return waitUntil([this] { return !mDialog->isVisible(); });
 }

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QPushButton>
 #include <QString>
 #include <QStringList>
 #include <QWidget>
@@ -70,6 +71,8 @@ class DialogTest : public testing::Test {
   Button* buttonWithText(const char* text) {
     return buttonWithText<Button>(QString::fromUtf8(text));
   }
+  // Its text tells how many labels there are.
+  QPushButton* printButton();
   // The panel's check box for a PPD option.
   QWidget* box(const std::string& keyword);
   void click(QWidget* widget);
@@ -82,6 +85,10 @@ class DialogTest : public testing::Test {
   bool shows(const QString& part) const;
   std::map<std::string, std::string> sent() const;
   bool waitForClose();
+  // The dialog says that the job is out.
+  bool waitForPrinted();
+  // Whatever was clicked before, a click counts again.
+  static void waitForClicks();
 
  private:
   void makeDialog(const PrinterChoice& choice, const AskedSettings& asked);

@@ -71,6 +71,12 @@ void FakePrintServer::refusePresets(const std::string& reason) {
   mPresetRefusal = reason;
 }
 
+void FakePrintServer::refuseCancelling(const std::string& reason, JobState state) {
+  const std::scoped_lock lock(mMutex);
+  mCancelRefusal = reason;
+  mStateAtRefusal = state;
+}
+
 Destination FakePrintServer::destination(const std::string& name) {
   return *find(DestinationName::parse(name));
 }
@@ -172,6 +178,10 @@ Result<JobStatus> FakePrintServer::status(const DestinationName& /*destination*/
 Result<Done> FakePrintServer::cancel(const DestinationName& /*destination*/, int /*jobId*/) {
   const std::scoped_lock lock(mMutex);
   ++mCancellations;
+  if (mCancelRefusal) {
+    mStatuses = {jobStatus(mStateAtRefusal)};
+    return Error{*mCancelRefusal};
+  }
   mIsCancelled = true;
   return Done{};
 }

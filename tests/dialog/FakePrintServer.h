@@ -36,6 +36,8 @@ class FakePrintServer final : public PrintServer {
   // The next submission stops half way until its progress is told to give up.
   void stallSubmission();
   void refusePresets(const std::string& reason);
+  // Cancelling is refused, and finds the job in this state.
+  void refuseCancelling(const std::string& reason, JobState state);
 
   Destination destination(const std::string& name);
   std::vector<PrintRequest> submissions();
@@ -64,6 +66,8 @@ class FakePrintServer final : public PrintServer {
   std::deque<JobStatus> mStatuses{jobStatus(JobState::completed)};
   std::optional<std::string> mRefusal;
   std::optional<std::string> mPresetRefusal;
+  std::optional<std::string> mCancelRefusal;
+  JobState mStateAtRefusal = JobState::completed;
   bool mIsStalling = false;
   bool mIsCancelled = false;
   std::vector<PrintRequest> mSubmissions;

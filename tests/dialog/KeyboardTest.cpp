@@ -134,7 +134,7 @@ TEST_P(KeyboardTest, TheTabKeyGoesFromThePrinterThroughThePanelToPrint) {
   EXPECT_LT(place("Paper"), place("Preview of the labels"));
   named<QWidget>("Printer")->setFocus();
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
-  EXPECT_EQ(QApplication::focusWidget(), buttonWithText<QPushButton>("Pr&int"));
+  EXPECT_EQ(QApplication::focusWidget(), printButton());
 }
 
 TEST_P(KeyboardTest, EveryControlHasAnAccessibleName) {

@@ -11,7 +11,7 @@
 #include <QTest>
 
 #include "host/dialog/DialogLanguage.h"
-#include "host/dialog/JobRunner.h"
+#include "host/dialog/JobProgress.h"
 #include "host/dialog/LayoutForm.h"
 #include "host/dialog/NoticeView.h"
 #include "host/dialog/PresetBar.h"
@@ -170,9 +170,17 @@ TEST_P(LanguagesTest, TheButtonThatSortsConflictsOutIsUsable) {
 TEST_P(LanguagesTest, TheProgressOfAJobIsUsable) {
   openQueue(samplePpd("tape-a"));
   server().setStatuses({jobStatus(JobState::pending)});
-  click(buttonWithText<QPushButton>(PrintDialog::tr("Pr&int")));
+  click(printButton());
   QPushButton* leave = buttonOf<JobProgress>(1);
-  ASSERT_TRUE(waitUntil([leave] { return leave->isVisible(); }));
+  ASSERT_TRUE(waitUntil([leave] { return leave->isEnabled(); }));
+  expectUsable(dialog());
+}
+
+TEST_P(LanguagesTest, TheDialogAfterAJobIsUsable) {
+  openQueue(samplePpd("tape-a"));
+  click(printButton());
+  ASSERT_TRUE(waitUntil([this] { return dialog().findChild<JobOutcome*>()->isShown(); }));
+  QTest::qWait(20);
   expectUsable(dialog());
 }
 

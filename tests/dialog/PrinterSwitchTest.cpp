@@ -60,11 +60,11 @@ TEST_F(PrinterSwitchTest, NothingIsPrintedWhileASwitchIsOnItsWay) {
   openWithRoll();
   server().holdOpening("roll");
   choose(printers(), "roll");
-  EXPECT_FALSE(buttonWithText<QPushButton>("Pr&int")->isEnabled());
+  EXPECT_FALSE(printButton()->isEnabled());
   EXPECT_TRUE(shows(QStringLiteral("Opening roll")));
   server().releaseOpening("roll");
   EXPECT_TRUE(waitUntil([this] { return isOpen("roll"); }));
-  EXPECT_TRUE(buttonWithText<QPushButton>("Pr&int")->isEnabled());
+  EXPECT_TRUE(printButton()->isEnabled());
 }
 
 TEST_F(PrinterSwitchTest, APrinterThatCannotBeOpenedLeavesTheOldOne) {
@@ -76,7 +76,7 @@ TEST_F(PrinterSwitchTest, APrinterThatCannotBeOpenedLeavesTheOldOne) {
   EXPECT_TRUE(waitUntil([this] { return shows(QStringLiteral("at-all.ppd")); }));
   EXPECT_TRUE(isOpen("tape"));
   EXPECT_EQ(printers()->currentData().toString(), QStringLiteral("tape"));
-  EXPECT_TRUE(buttonWithText<QPushButton>("Pr&int")->isEnabled());
+  EXPECT_TRUE(printButton()->isEnabled());
 }
 
 TEST_F(PrinterSwitchTest, AStoppedPrinterIsNamedBeforePrinting) {

@@ -15,7 +15,6 @@ namespace {
 
 class PrintingTest : public DialogTest {
  protected:
-  QPushButton* printButton() { return buttonWithText<QPushButton>("Pr&int"); }
   QString pathSent() { return QString::fromStdString(server().submissions().back().path); }
 };
 
@@ -24,7 +23,7 @@ TEST_F(PrintingTest, WhatIsShownIsWhatIsSent) {
   click(box("LxMirror"));
   const OptionList shown = model().jobOptions();
   click(printButton());
-  ASSERT_TRUE(waitForClose());
+  ASSERT_TRUE(waitForPrinted());
   ASSERT_EQ(server().submissions().size(), 1u);
   const PrintRequest request = server().submissions().front();
   EXPECT_EQ(request.options, shown);
@@ -32,12 +31,16 @@ TEST_F(PrintingTest, WhatIsShownIsWhatIsSent) {
   EXPECT_EQ(request.title, "labels");
 }
 
-TEST_F(PrintingTest, AFinishedJobEndsTheDialogWithSuccess) {
+TEST_F(PrintingTest, AFinishedJobIsNamedAndClosingIsASuccessThen) {
   openQueue(samplePpd("roll"));
   server().setStatuses({jobStatus(JobState::pending),
                         jobStatus(JobState::processing, "Printing label 1"),
                         jobStatus(JobState::completed)});
   click(printButton());
+  EXPECT_TRUE(waitUntil([this] { return shows(QStringLiteral("Printed 3 labels.")); }));
+  EXPECT_TRUE(dialog().isVisible());
+  waitForClicks();
+  click(buttonWithText<QPushButton>("Close"));
   EXPECT_TRUE(waitForClose());
   EXPECT_EQ(dialog().exitStatus(), kExitDone);
 }
@@ -45,7 +48,7 @@ TEST_F(PrintingTest, AFinishedJobEndsTheDialogWithSuccess) {
 TEST_F(PrintingTest, ReturnPrints) {
   openQueue(samplePpd("tape-a"));
   press(named<QWidget>("Copies"), Qt::Key_Return);
-  EXPECT_TRUE(waitForClose());
+  EXPECT_TRUE(waitForPrinted());
   EXPECT_EQ(server().submissions().size(), 1u);
 }
 
@@ -71,7 +74,7 @@ TEST_F(PrintingTest, TheStateOfTheJobIsShownWhileItPrints) {
   EXPECT_TRUE(waitUntil([this] { return shows(QStringLiteral("Printing label 7")); }));
   EXPECT_FALSE(box("LxHalfCut")->isEnabled());
   server().setStatuses({jobStatus(JobState::completed)});
-  EXPECT_TRUE(waitForClose());
+  EXPECT_TRUE(waitForPrinted());
 }
 
 TEST_F(PrintingTest, AJobThatIsSentCanBeCancelled) {
@@ -79,6 +82,7 @@ TEST_F(PrintingTest, AJobThatIsSentCanBeCancelled) {
   server().setStatuses({jobStatus(JobState::processing)});
   click(printButton());
   ASSERT_TRUE(waitUntil([this] { return shows(QStringLiteral("Job 17")); }));
+  waitForClicks();
   click(buttonWithText<QPushButton>("Cancel &job"));
   EXPECT_TRUE(waitUntil([this] { return shows(QStringLiteral("was cancelled")); }));
   EXPECT_EQ(server().cancellations(), 1);
@@ -92,6 +96,7 @@ TEST_F(PrintingTest, SpoolingShowsItsProgressAndCanBeGivenUp) {
   click(printButton());
   auto* bar = named<QProgressBar>("Progress of the job");
   EXPECT_TRUE(waitUntil([bar] { return bar->isVisible() && bar->value() == 50; }));
+  waitForClicks();
   click(buttonWithText<QPushButton>("Cancel &job"));
   EXPECT_TRUE(waitUntil([this] { return printButton()->isVisible(); }));
   EXPECT_TRUE(server().submissions().empty());
@@ -103,6 +108,7 @@ TEST_F(PrintingTest, AJobMayBeLeftToPrint) {
   server().setStatuses({jobStatus(JobState::pending)});
   click(printButton());
   ASSERT_TRUE(waitUntil([this] { return shows(QStringLiteral("Job 17")); }));
+  waitForClicks();
   click(buttonWithText<QPushButton>("Close and &let it print"));
   EXPECT_TRUE(waitForClose());
   EXPECT_EQ(dialog().exitStatus(), kExitDone);
@@ -133,8 +139,9 @@ TEST_F(PrintingTest, AnAbortedJobCanBePrintedAgain) {
   click(printButton());
   ASSERT_TRUE(waitUntil([this] { return shows(QStringLiteral("cutter jammed")); }));
   server().setStatuses({jobStatus(JobState::completed)});
+  waitForClicks();
   click(printButton());
-  EXPECT_TRUE(waitForClose());
+  EXPECT_TRUE(waitForPrinted());
   EXPECT_EQ(server().submissions().size(), 2u);
   EXPECT_EQ(dialog().exitStatus(), kExitDone);
 }
@@ -161,7 +168,7 @@ TEST_F(PrintingTest, WhatIsComposedForTheChosenPagesIsSent) {
   openQueue(samplePpd("tape-a"));
   ASSERT_TRUE(model().setPageRanges("2-3"));
   click(printButton());
-  ASSERT_TRUE(waitForClose());
+  ASSERT_TRUE(waitForPrinted());
   const CompositionRequest request = composer().requests().back();
   EXPECT_EQ(request.pages.ranges.text(), "2-3");
   EXPECT_EQ(request.label, model().label());
@@ -171,7 +178,7 @@ TEST_F(PrintingTest, WhatIsComposedForTheChosenPagesIsSent) {
 TEST_F(PrintingTest, TheComposedFileIsGoneOnceItIsSent) {
   openQueue(samplePpd("tape-a"));
   click(printButton());
-  ASSERT_TRUE(waitForClose());
+  ASSERT_TRUE(waitForPrinted());
   EXPECT_TRUE(waitUntil([this] { return !QFile::exists(pathSent()); }));
 }
 
@@ -180,6 +187,7 @@ TEST_F(PrintingTest, ComposingShowsAndCanBeGivenUp) {
   composer().hold();
   click(printButton());
   EXPECT_TRUE(waitUntil([this] { return shows(QStringLiteral("Composing")); }));
+  waitForClicks();
   click(buttonWithText<QPushButton>("Cancel &job"));
   EXPECT_TRUE(waitUntil([this] { return printButton()->isVisible(); }));
   EXPECT_EQ(composer().stopped(), 1);

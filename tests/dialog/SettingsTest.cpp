@@ -109,7 +109,7 @@ TEST_F(SettingsTest, AWrongPageRangeIsNotPrinted) {
   auto* pages = named<QLineEdit>("Pages");
   pages->setFocus();
   QTest::keyClicks(pages, "all of them");
-  click(buttonWithText<QPushButton>("Pr&int"));
+  click(printButton());
   QTest::qWait(50);
   EXPECT_TRUE(server().submissions().empty());
   EXPECT_TRUE(pages->hasFocus());
@@ -121,7 +121,7 @@ TEST_F(SettingsTest, PagesThatTheDocumentLacksAreNotPrinted) {
   auto* pages = named<QLineEdit>("Pages");
   pages->setFocus();
   QTest::keyClicks(pages, "2-4");
-  click(buttonWithText<QPushButton>("Pr&int"));
+  click(printButton());
   EXPECT_TRUE(shows(QStringLiteral("its last is page 3")));
   EXPECT_TRUE(server().submissions().empty());
   pages->selectAll();
@@ -165,7 +165,7 @@ TEST_F(SettingsTest, WhatIsSentAgainstARuleIsNamedAndPrintedAllTheSame) {
   const QStringList lines = notices->notices(NoticeTopic::deviations);
   ASSERT_EQ(lines.filter(words).size(), 1);
   EXPECT_TRUE(isSpokenAsAlert(*notices, lines.filter(words).front()));
-  click(buttonWithText<QPushButton>("Pr&int"));
+  click(printButton());
   ASSERT_TRUE(waitUntil([this] { return !server().submissions().empty(); }));
   EXPECT_EQ(valueIn(server().submissions().front().options, "LxAutoTapeCut"), "ON");
 }

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QStyle>
 #include <QStyleOptionButton>
@@ -159,6 +160,7 @@ QWidget* DialogOnServer::box(const std::string& keyword) {
 }
 
 void DialogOnServer::press(const char* text) {
+  waitForClicks();
   const auto buttons = mDialog->findChildren<QAbstractButton*>();
   const auto found = std::find_if(buttons.begin(), buttons.end(), [&](const QAbstractButton* each) {
     return each->isVisible() && each->text() == QLatin1String(text);
@@ -167,15 +169,21 @@ void DialogOnServer::press(const char* text) {
   click(*found);
 }
 
-bool DialogOnServer::canPrint() const {
-  const auto buttons = mDialog->findChildren<QAbstractButton*>();
-  return std::any_of(buttons.begin(), buttons.end(), [](const QAbstractButton* each) {
-    return each->text() == QLatin1String("Pr&int") && each->isEnabled();
-  });
+void DialogOnServer::waitForClicks() {
+  constexpr int kLongerThanADoubleClick = 600;
+  QTest::qWait(kLongerThanADoubleClick);
 }
 
+QPushButton* DialogOnServer::printButton() const {
+  return mDialog->findChild<QPushButton*>(QStringLiteral("print"));
+}
+
+bool DialogOnServer::canPrint() const { return printButton()->isEnabled(); }
+
 void DialogOnServer::print() {
-  press("Pr&int");
+  click(printButton());
+  ASSERT_TRUE(willShow(QStringLiteral("Printed")));
+  mDialog->close();
   ASSERT_TRUE(waitForClose());
 }
 

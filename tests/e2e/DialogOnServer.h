@@ -17,6 +17,7 @@
 #include "tests/support/qt/waiting.h"
 
 class QComboBox;
+class QPushButton;
 
 namespace cutline::test {
 
@@ -50,11 +51,15 @@ class DialogOnServer {
     ADD_FAILURE() << "no control is called " << accessibleName;
     return nullptr;
   }
-  // Clicks the button that says so; "&" marks its key.
+  // Clicks the button that says so, once the dialog takes clicks; "&" marks its key.
   void press(const char* text);
 
+  // Whatever was clicked before, a click counts again.
+  static void waitForClicks();
   bool canPrint() const;
-  // Clicks Print and waits until the dialog has gone.
+  // Its text tells how many labels there are.
+  QPushButton* printButton() const;
+  // Clicks Print, waits until the labels are out, and closes the dialog.
   void print();
   bool waitForClose();
 

@@ -41,9 +41,7 @@ Likeness likeness() {
   const QWidget& window = dialog.dialog();
   const auto* box = qobject_cast<QCheckBox*>(dialog.box("LxHalfCut"));
   Likeness likeness{window.size(), indicatorOf(*box, window), {}, {}, {}};
-  for (const QPushButton* button : window.findChildren<QPushButton*>())
-    if (button->text() == QStringLiteral("Pr&int"))
-      likeness.print = button->mapTo(&window, button->rect().center());
+  likeness.print = dialog.printButton()->mapTo(&window, dialog.printButton()->rect().center());
   const auto picture = [&] {
     return dialog.dialog().grab(likeness.box).toImage().convertToFormat(QImage::Format_RGB32);
   };
@@ -73,6 +71,11 @@ class OnDisplay : public EndToEndTest {
     return waitUntil(
         [&] { return mDisplay.picture().copy(place.translated(mWindow.topLeft())) == like; });
   }
+  // The one job that the dialog has sent, once it is out; the dialog stays.
+  PrintedJob printedJob() {
+    EXPECT_TRUE(waitUntil([this] { return server().printedJobs() != mBefore; }));
+    return newJob();
+  }
   int exitStatus() {
     if (!mProgram.waitForFinished(kPatience)) return -1;
     EXPECT_EQ(mProgram.exitStatus(), QProcess::NormalExit);
@@ -80,6 +83,7 @@ class OnDisplay : public EndToEndTest {
   }
 
  private:
+  std::set<int> mBefore = server().printedJobs();
   Display mDisplay;
   QProcess mProgram;
   QRect mWindow;
@@ -94,10 +98,21 @@ TEST_F(OnDisplay, AClickOnHalfCutAndOneOnPrintReachThePrinter) {
   display().movePointer(kAside);
   EXPECT_TRUE(willLook(like.box, like.ticked)) << "the box does not get its tick";
   display().click(window().topLeft() + like.print);
-  EXPECT_EQ(exitStatus(), kExitDone);
-  const PrintedJob job = newJob();
+  const PrintedJob job = printedJob();
   EXPECT_EQ(job.options().at("LxHalfCut"), "ON");
   EXPECT_EQ(job.number("labels"), kLabels);
+  display().press(kTitle, QStringLiteral("Escape"));
+  EXPECT_EQ(exitStatus(), kExitDone);
+}
+
+TEST_F(OnDisplay, ADoubleClickOnPrintIsOneJob) {
+  const Likeness like = likeness();
+  ASSERT_TRUE(willLook(like.box, like.unticked)) << "the dialog does not come up";
+  display().doubleClick(window().topLeft() + like.print);
+  EXPECT_EQ(printedJob().number("labels"), kLabels);
+  display().press(kTitle, QStringLiteral("Escape"));
+  EXPECT_EQ(exitStatus(), kExitDone);
+  EXPECT_TRUE(nothingNew());
 }
 
 TEST_F(OnDisplay, EscapeCancels) {

@@ -13,7 +13,7 @@ namespace cutline::test {
 namespace {
 
 constexpr int kPatience = 20000;
-constexpr char kScreen[] = "1280x900x24";
+constexpr char kScreen[] = "1600x1000x24";
 
 // The places of the numbers in the header of the X server's picture file.
 enum HeaderField { kHeaderSize = 0, kWidth = 4, kHeight = 5, kBytesPerLine = 12, kColors = 19 };
@@ -108,6 +108,12 @@ void Display::movePointer(const QPoint& place) const {
 void Display::click(const QPoint& place) const {
   tell(QStringList{QStringLiteral("mousemove")} + words(place) +
        QStringList{QStringLiteral("click"), QStringLiteral("1")});
+}
+
+void Display::doubleClick(const QPoint& place) const {
+  tell(QStringList{QStringLiteral("mousemove")} + words(place) +
+       QStringList{QStringLiteral("click"), QStringLiteral("--repeat"), QStringLiteral("2"),
+                   QStringLiteral("--delay"), QStringLiteral("80"), QStringLiteral("1")});
 }
 
 void Display::activate(const QString& title) const {

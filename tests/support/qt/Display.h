@@ -29,6 +29,7 @@ class Display {
   // Events of the X server's own, as from a mouse and a keyboard.
   void movePointer(const QPoint& place) const;
   void click(const QPoint& place) const;
+  void doubleClick(const QPoint& place) const;
   // The window of the title takes the keys from now on.
   void activate(const QString& title) const;
   // `key` is X's name of it. It goes to the window of the title.
