@@ -200,6 +200,13 @@ bool OpenPrinter::isRuled(const std::string& keyword) const {
   return mPanels->declares(keyword) || isCutKeyword(keyword);
 }
 
+OptionList OpenPrinter::shownChoices() const {
+  OptionList shown;
+  for (const auto& [keyword, choice] : mWanted.all())
+    shown.emplace_back(keyword, mWanted.shown(keyword));
+  return shown;
+}
+
 void OpenPrinter::wantMarked() {
   mWanted.clear();
   std::set<std::string> keywords = mPanels->keywords();

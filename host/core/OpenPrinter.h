@@ -59,6 +59,8 @@ class OpenPrinter final : private PanelHostOwner {
   void save();
 
   const WantedChoices& wanted() const noexcept { return mWanted; }
+  // Where the controls of what is wanted stand.
+  OptionList shownChoices() const;
   // What is sent otherwise than wanted, or against a rule, or unseen.
   std::vector<Deviation> deviations() const;
   // False for an option that no panel declared, or some choice of which its panel's controls do not

@@ -6,6 +6,7 @@
 #include "base/Numbers.h"
 #include "composition/PageRanges.h"
 #include "cups/CustomSize.h"
+#include "host/core/Collation.h"
 #include "host/core/ConflictResolution.h"
 #include "host/core/CutRules.h"
 #include "host/core/JobOptions.h"
@@ -168,6 +169,15 @@ Result<Done> PrintModel::setPageRanges(const std::string& text) {
   return Done{};
 }
 
+bool PrintModel::isCollated() const {
+  return mIsCollated ? *mIsCollated : collates(cutline::jobOptions(*mPrinter));
+}
+
+void PrintModel::setCollated(bool isCollated) {
+  mIsCollated = isCollated;
+  tell(ModelChange::job);
+}
+
 std::vector<SummaryLine> PrintModel::summary() const { return mPrinter->panels().summary(); }
 
 std::vector<Deviation> PrintModel::deviations() const {
@@ -191,6 +201,7 @@ Result<Done> PrintModel::resolveConflicts() {
 
 OptionList PrintModel::jobOptions() const {
   OptionList options = cutline::jobOptions(*mPrinter);
+  if (mIsCollated) setCollation(*mIsCollated, options);
   options.emplace_back("copies", std::to_string(copies()));
   if (!mAsked.isRaw()) return forLaidOutDocument(options);
   if (!pageRanges().empty()) options.emplace_back("page-ranges", pageRanges());
@@ -200,17 +211,24 @@ OptionList PrintModel::jobOptions() const {
 Result<OptionList> PrintModel::savePreset() {
   mPrinter->save();
   tell(ModelChange::options);
+  return keptOptions();
+}
+
+OptionList PrintModel::keptOptions() const {
   OptionList options = withoutLayout(presetOptions(*mPrinter));
   for (const auto& option : layoutOptions(jobLayout())) options.push_back(option);
+  if (mIsCollated) setCollation(*mIsCollated, options);
   options.emplace_back("copies", std::to_string(copies()));
   return options;
 }
 
 Result<Done> PrintModel::applyPreset(const OptionList& options) {
-  mAsked.options.clear();
-  const OptionList spelled = spelledFor(*ppdFile(), options);
+  std::erase_if(mAsked.options, [](const auto& option) { return option.first != "raw"; });
+  OptionList spelled = spelledFor(*ppdFile(), options);
   if (const std::optional<int> copies = copiesOf(spelled)) mAsked.copies = copies;
   mLayout.reset();
+  mIsCollated.reset();
+  spelled.insert(spelled.end(), mAsked.options.begin(), mAsked.options.end());
   mPrinter->restart(spelled);
   tell(ModelChange::job);
   tell(ModelChange::composition);
@@ -218,6 +236,31 @@ Result<Done> PrintModel::applyPreset(const OptionList& options) {
   tell(ModelChange::options);
   return Done{};
 }
+
+Settings PrintModel::settings() const {
+  Settings settings{keptOptions(), mPrinter->shownChoices(), pageRanges()};
+  std::sort(settings.options.begin(), settings.options.end());
+  return settings;
+}
+
+// A preset's paper turns automatic cutting off with HS media; who had insisted on it there did so
+// after choosing that.
+void PrintModel::restore(const Settings& settings) {
+  mAsked.pageRanges = settings.pageRanges;
+  applyPreset(settings.options);
+  const OptionList now = mPrinter->shownChoices();
+  OptionList others;
+  for (const auto& option : settings.shown) {
+    const bool isKnown = mPrinter->options().find(option.first) != nullptr;
+    const bool isShown = std::find(now.begin(), now.end(), option) != now.end();
+    if (isKnown && !isShown) others.push_back(option);
+  }
+  if (others.empty()) return;
+  mPrinter->chooseOptions(others);
+  tell(ModelChange::options);
+}
+
+void PrintModel::reset() { restore({{{"copies", "1"}}, {}, ""}); }
 
 Result<OptionList> PrintModel::prepareToPrint() {
   if (!hasQueue()) return Error{Phrase("host", "a PPD file alone cannot print; choose a printer")};

@@ -19,6 +19,7 @@
 #include "host/core/JobLayout.h"
 #include "host/core/PanelSource.h"
 #include "host/core/PrintValues.h"
+#include "host/core/SettingsHistory.h"
 #include "platform/ports/PrintDialogPanel.h"
 #include "platform/ports/Toolkit.h"
 
@@ -30,7 +31,7 @@ enum class ModelChange {
   printer,      // everything is new: panels, papers, generated options
   options,      // marks, summary, deviations, conflicts, generated options' marks
   paper,        // the current paper; `options` follows
-  job,          // copies or page ranges
+  job,          // copies, their order, or page ranges
   composition,  // how documents are laid onto labels
   layout,       // a panel's view has another size
 };
@@ -89,6 +90,10 @@ class PrintModel final : public ActionObserver {
   // "2", "1-4,7", "5-"; blanks allowed; empty for all pages. An error says what is wrong.
   Result<Done> setPageRanges(const std::string& text);
 
+  // With several copies the whole document comes once a copy, instead of each label as often.
+  bool isCollated() const;
+  void setCollated(bool isCollated);
+
   // How documents are laid onto labels: as asked for or saved, until it is set.
   JobLayout jobLayout() const;
   void setJobLayout(const JobLayout& layout);
@@ -130,6 +135,13 @@ class PrintModel final : public ActionObserver {
   // command line is replaced by it.
   Result<Done> applyPreset(const OptionList& options);
 
+  // What can be undone: the settings of the job as they are now. Restoring runs the sequence as a
+  // preset does; where the printer was switched in between, what it does not have is left out.
+  Settings settings() const;
+  void restore(const Settings& settings);
+  // The settings that the driver starts with, and one copy of all pages.
+  void reset();
+
   // Asks each panel whether it agrees, saves for the last time, and answers the options to send. A
   // refusal is an error that names the panel.
   Result<OptionList> prepareToPrint();
@@ -142,12 +154,14 @@ class PrintModel final : public ActionObserver {
 
  private:
   void tell(ModelChange what);
+  OptionList keptOptions() const;
   Result<Done> setCustomPaper(const std::string& name);
 
   PanelSource& mPanelSource;
   AskedSettings mAsked;
   PrintModelListener* mListener = nullptr;
   std::optional<JobLayout> mLayout;  // as set
+  std::optional<bool> mIsCollated;   // as set
   std::unique_ptr<OpenPrinter> mPrinter;
 };
 

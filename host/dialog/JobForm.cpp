@@ -1,5 +1,6 @@
 #include "host/dialog/JobForm.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -14,6 +15,12 @@
 #include "qt/accessibility.h"
 
 namespace cutline {
+namespace {
+
+constexpr int kGap = 16;
+
+}  // namespace
+
 JobForm::JobForm(QWidget* parent)
     : QWidget(parent),
       mCopiesCaption(new QLabel(tr("&Copies:"), this)),
@@ -22,6 +29,8 @@ JobForm::JobForm(QWidget* parent)
       mPages(new QLineEdit(this)),
       mProblem(new QWidget(this)),
       mProblemText(new QLabel(mProblem)),
+      mCollated(new QCheckBox(tr("Collate"), this)),
+      mReversed(new QCheckBox(tr("Last page first"), this)),
       mPaperCaption(new QLabel(tr("Pape&r:"), this)),
       mPapers(new QComboBox(this)) {
   mCopies->setRange(1, kMostCopies);
@@ -30,6 +39,9 @@ JobForm::JobForm(QWidget* parent)
   mPages->setPlaceholderText(tr("All, or such as 1-3,5"));
   mPages->setAccessibleName(tr("Pages"));
   mPagesCaption->setBuddy(mPages);
+  mCollated->setToolTip(
+      tr("The whole document once a copy, instead of each label as often as "
+         "there are copies"));
   mPapers->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   mPapers->setMinimumContentsLength(12);
   mPapers->setAccessibleName(tr("Paper"));
@@ -39,6 +51,8 @@ JobForm::JobForm(QWidget* parent)
   // Not textEdited, which in Qt 6.4.2 says nothing of what assistive technology types.
   connect(mPages, &QLineEdit::textChanged, this, &JobForm::pagesEdited);
   connect(mPages, &QLineEdit::editingFinished, this, [this] { emit pagesFinished(pages()); });
+  connect(mCollated, &QCheckBox::clicked, this, &JobForm::collationChosen);
+  connect(mReversed, &QCheckBox::clicked, this, &JobForm::reversalChosen);
   connect(mPapers, &QComboBox::activated, this,
           [this](int index) { emit paperChosen(mPapers->itemData(index).toString()); });
 }
@@ -59,8 +73,14 @@ void JobForm::layOut() {
   grid->addWidget(mPagesCaption, 0, 2);
   grid->addWidget(mPages, 0, 3);
   grid->addWidget(mProblem, 1, 1, 1, 3);
-  grid->addWidget(mPaperCaption, 2, 0);
-  grid->addWidget(mPapers, 2, 1, 1, 3);
+  auto* order = new QHBoxLayout;
+  order->setSpacing(kGap);
+  order->addWidget(mCollated);
+  order->addWidget(mReversed);
+  order->addStretch(1);
+  grid->addLayout(order, 2, 1, 1, 3);
+  grid->addWidget(mPaperCaption, 3, 0);
+  grid->addWidget(mPapers, 3, 1, 1, 3);
 }
 
 void JobForm::setPapers(const std::vector<PaperSize>& papers) {
@@ -85,6 +105,11 @@ void JobForm::setPages(const QString& ranges) {
   if (mPages->hasFocus() || mPages->text() == ranges) return;
   const QSignalBlocker blocker(mPages);
   mPages->setText(ranges);
+}
+
+void JobForm::setOrder(bool isCollated, bool isReversed) {
+  mCollated->setChecked(isCollated);
+  mReversed->setChecked(isReversed);
 }
 
 void JobForm::setPagesProblem(const QString& problem) {

@@ -1,4 +1,4 @@
-// Copies, pages and paper.
+// Copies, pages, their order, and paper.
 #pragma once
 
 #include <QWidget>
@@ -6,6 +6,7 @@
 
 #include "cups/PpdFile.h"
 
+class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -30,6 +31,7 @@ class JobForm : public QWidget {
   void setCurrentPaper(const QString& name, const QString& text);
   void setCopies(int copies);
   void setPages(const QString& ranges);
+  void setOrder(bool isCollated, bool isReversed);
   // What is wrong with the pages as typed; empty when nothing is.
   void setPagesProblem(const QString& problem);
   bool hasPagesProblem() const;
@@ -42,6 +44,8 @@ class JobForm : public QWidget {
   void pagesEdited(const QString& text);    // at each keystroke
   void pagesFinished(const QString& text);  // when the field is left, or Return is pressed
   void paperChosen(const QString& name);
+  void collationChosen(bool isCollated);
+  void reversalChosen(bool isReversed);
 
  private:
   void layOut();
@@ -52,6 +56,8 @@ class JobForm : public QWidget {
   QLineEdit* mPages;
   QWidget* mProblem;
   QLabel* mProblemText;
+  QCheckBox* mCollated;
+  QCheckBox* mReversed;
   QLabel* mPaperCaption;
   QComboBox* mPapers;
   int mPaperCount = 0;  // without the current one, where that is another

@@ -5,10 +5,12 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QSignalBlocker>
+#include <QVBoxLayout>
 #include <array>
 #include <optional>
 
 #include "qt/QtText.h"
+#include "qt/accessibility.h"
 
 namespace cutline {
 namespace {
@@ -50,22 +52,22 @@ QLabel* makeHeading(const std::string& text, QWidget* parent) {
 
 }  // namespace
 
-MoreOptionsPanel::MoreOptionsPanel(QWidget* parent) : QScrollArea(parent) {
-  setWidgetResizable(true);
-  setFrameShape(QFrame::StyledPanel);
-  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  setFocusPolicy(Qt::NoFocus);
+MoreOptionsPanel::MoreOptionsPanel(QWidget* parent)
+    : QWidget(parent), mColumn(new QVBoxLayout(this)) {
+  mColumn->setContentsMargins(0, 0, 0, 0);
+  setAccessibleRole(*this, QAccessible::Grouping);
   setAccessibleName(tr("More printer options"));
 }
 
 void MoreOptionsPanel::setGroups(const std::vector<GeneratedGroup>& groups) {
   mSetters.clear();
-  auto* page = new QWidget;
-  auto* form = new QFormLayout(page);
+  delete mPage;
+  mPage = new QWidget(this);
+  auto* form = new QFormLayout(mPage);
+  form->setContentsMargins(0, 0, 0, 0);
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   for (const GeneratedGroup& group : groups) addGroup(*form, group);
-  setWidget(page);
-  setMinimumWidth(page->minimumSizeHint().width() + 2 * frameWidth());
+  mColumn->addWidget(mPage);
   setMarks(groups);
 }
 

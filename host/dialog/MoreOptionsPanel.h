@@ -1,8 +1,8 @@
 // The PPD's options that no panel takes care of, group by group, as combo boxes and check boxes.
 #pragma once
 
-#include <QScrollArea>
 #include <QString>
+#include <QWidget>
 #include <functional>
 #include <map>
 #include <vector>
@@ -10,10 +10,11 @@
 #include "host/core/PrintValues.h"
 
 class QFormLayout;
+class QVBoxLayout;
 
 namespace cutline {
 
-class MoreOptionsPanel : public QScrollArea {
+class MoreOptionsPanel : public QWidget {
   Q_OBJECT
 
  public:
@@ -33,6 +34,8 @@ class MoreOptionsPanel : public QScrollArea {
   QWidget* makeCheckBox(const PpdOption& option);
   QWidget* makeComboBox(const PpdOption& option);
 
+  QVBoxLayout* mColumn;
+  QWidget* mPage = nullptr;                                                 // with the controls
   std::map<std::string, std::function<void(const std::string&)>> mSetters;  // by keyword
 };
 

@@ -100,13 +100,17 @@ constexpr std::array kSeverities = std::to_array<Severity>({
     Severity::warning,  // conflicts
     Severity::warning,  // edges
     Severity::info,     // paper
+    Severity::info,     // cutting
     Severity::info,     // deviations
 });
 
 Severity severityOf(NoticeTopic topic) { return kSeverities[static_cast<std::size_t>(topic)]; }
 
 bool readTheSame(const Notice& one, const Notice& other) {
-  return one.line == other.line && one.action == other.action && one.hint == other.hint;
+  return one.line == other.line &&
+         std::ranges::equal(one.remedies, other.remedies, [](const Remedy& a, const Remedy& b) {
+           return a.title == b.title && a.hint == b.hint;
+         });
 }
 
 void emptyLayout(QLayout& layout) {
@@ -182,24 +186,32 @@ QWidget* NoticeView::makeRow(NoticeTopic topic, std::size_t place) {
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(new StatusIcon(severityOf(topic), row), 0,
-                    notice.action.isEmpty() ? Qt::AlignTop : Qt::AlignVCenter);
+                    notice.remedies.empty() ? Qt::AlignTop : Qt::AlignVCenter);
   auto* text = new QLabel(notice.line, row);
   text->setTextFormat(Qt::PlainText);
   text->setWordWrap(true);
   layout->addWidget(text, 1);
-  if (notice.action.isEmpty()) return row;
-  auto* button = new QPushButton(notice.action, row);
-  button->setToolTip(notice.hint);
-  connect(button, &QPushButton::clicked, this, [this, topic, place] { act(topic, place); });
-  layout->addWidget(button, 0, Qt::AlignTop);
+  for (std::size_t remedy = 0; remedy < notice.remedies.size(); ++remedy) {
+    layout->addWidget(makeButton(topic, place, remedy, row), 0, Qt::AlignTop);
+  }
   return row;
 }
 
+QPushButton* NoticeView::makeButton(NoticeTopic topic, std::size_t place, std::size_t remedy,
+                                    QWidget* row) {
+  const Remedy& offered = mNotices[topic][place].remedies[remedy];
+  auto* button = new QPushButton(offered.title, row);
+  button->setToolTip(offered.hint);
+  connect(button, &QPushButton::clicked, this,
+          [this, topic, place, remedy] { act(topic, place, remedy); });
+  return button;
+}
+
 // What it does may replace the notices, and with them itself.
-void NoticeView::act(NoticeTopic topic, std::size_t place) {
+void NoticeView::act(NoticeTopic topic, std::size_t place, std::size_t remedy) {
   const std::vector<Notice>& notices = mNotices[topic];
-  if (place >= notices.size() || !notices[place].act) return;
-  const std::function<void()> action = notices[place].act;
+  if (place >= notices.size() || remedy >= notices[place].remedies.size()) return;
+  const std::function<void()> action = notices[place].remedies[remedy].act;
   action();
 }
 

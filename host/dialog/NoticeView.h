@@ -8,6 +8,7 @@
 #include <map>
 #include <vector>
 
+class QPushButton;
 class QVBoxLayout;
 
 namespace cutline {
@@ -41,17 +42,23 @@ enum class NoticeTopic {
   document,
   printer,
   conflicts,
-  edges,  // what of the labels will be cut off
-  paper,  // how document and paper go together
+  edges,    // what of the labels will be cut off
+  paper,    // how document and paper go together
+  cutting,  // what of the tape is cut otherwise than one may expect
   deviations
 };
 
-// A line, and what a button beside it does about it.
+// What can be done about it with one click.
+struct Remedy {
+  QString title;
+  QString hint;  // a few words more
+  std::function<void()> act;
+};
+
+// A line, with a button for each remedy beside it.
 struct Notice {
   QString line;
-  QString action = {};  // the button's title; empty for none
-  QString hint = {};    // what the button does, in a few words more
-  std::function<void()> act = {};
+  std::vector<Remedy> remedies = {};
 };
 
 // What the user should know before printing, one line each with a sign: failures, what the printer
@@ -82,7 +89,8 @@ class NoticeView : public QWidget {
  private:
   void rebuild();
   QWidget* makeRow(NoticeTopic topic, std::size_t place);
-  void act(NoticeTopic topic, std::size_t place);
+  QPushButton* makeButton(NoticeTopic topic, std::size_t place, std::size_t remedy, QWidget* row);
+  void act(NoticeTopic topic, std::size_t place, std::size_t remedy);
 
   std::map<NoticeTopic, std::vector<Notice>> mNotices;
   QVBoxLayout* mRows;

@@ -1,6 +1,5 @@
 #include "host/dialog/PanelViews.h"
 
-#include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -61,8 +60,7 @@ void PanelFrame::addPanel(const PanelEntry& panel) {
   if (!widget) return;
   mViews.push_back(panel.view);
   mColumn->addWidget(makeHeading(toQString(panel.name), this));
-  auto* box = new QFrame(this);
-  box->setFrameShape(QFrame::StyledPanel);
+  auto* box = new QWidget(this);
   setAccessibleRole(*box, QAccessible::Grouping);
   box->setAccessibleName(toQString(panel.name));
   auto* inside = new QVBoxLayout(box);

@@ -122,6 +122,8 @@ PresetBar::PresetBar(QWidget* parent)
   row->addWidget(mSave);
   row->addWidget(mRemove);
   connect(mPresets, &QComboBox::activated, this, [this](int index) {
+    setChanged(false);
+    mInForce = index;
     refreshButtons();
     emit presetChosen(mPresets->itemData(index).toString());
   });
@@ -134,8 +136,22 @@ void PresetBar::setPresets(const QStringList& names, const QString& current) {
   mPresets->clear();
   mPresets->addItem(ownSettings(), QString());
   for (const QString& name : names) mPresets->addItem(name, name);
-  mPresets->setCurrentIndex(qMax(0, mPresets->findData(current)));
+  mInForce = qMax(0, mPresets->findData(current));
+  mPresets->setCurrentIndex(mInForce);
+  refreshCurrent();
   refreshButtons();
+}
+
+void PresetBar::setChanged(bool isChanged) {
+  if (mIsChanged == isChanged) return;
+  mIsChanged = isChanged;
+  refreshCurrent();
+}
+
+void PresetBar::refreshCurrent() {
+  const QString name = mPresets->itemData(mInForce).toString();
+  const QString title = name.isEmpty() ? ownSettings() : name;
+  mPresets->setItemText(mInForce, mIsChanged ? tr("%1 (changed)").arg(title) : title);
 }
 
 QStringList PresetBar::presets() const {

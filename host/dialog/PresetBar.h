@@ -48,6 +48,8 @@ class PresetBar : public QWidget {
   // The names, and which one is in force; empty for the printer's own settings.
   void setPresets(const QStringList& names, const QString& current);
   QStringList presets() const;
+  // The settings are others than those of the preset in force.
+  void setChanged(bool isChanged);
 
  signals:
   void presetChosen(const QString& name);  // empty for the printer's own settings
@@ -58,11 +60,14 @@ class PresetBar : public QWidget {
   void askName();
   void askRemoval();
   void refreshButtons();
+  void refreshCurrent();
 
   QLabel* mCaption;
   QComboBox* mPresets;
   QPushButton* mSave;
   QPushButton* mRemove;
+  int mInForce = 0;
+  bool mIsChanged = false;
 };
 
 }  // namespace cutline

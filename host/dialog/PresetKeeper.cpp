@@ -54,7 +54,15 @@ DestinationName PresetKeeper::nameOf(const QString& preset) const {
 void PresetKeeper::showPrinter() {
   mBar.setEnabled(mModel.hasQueue());
   show(toQString(mModel.destination().name.instance.value_or("")));
+  takeAsChosen();
 }
+
+void PresetKeeper::takeAsChosen() {
+  mAsChosen = mModel.settings().options;
+  mBar.setChanged(false);
+}
+
+void PresetKeeper::modelDidChange() { mBar.setChanged(mModel.settings().options != mAsChosen); }
 
 void PresetKeeper::show(const QString& current) {
   mCurrent = current;
@@ -70,6 +78,7 @@ void PresetKeeper::show(const QString& current) {
 void PresetKeeper::choose(const QString& preset) {
   mCurrent = preset;
   if (const Destination* found = find(nameOf(preset))) mModel.applyPreset(found->savedOptions);
+  takeAsChosen();
 }
 
 void PresetKeeper::save(const QString& preset) {
@@ -90,6 +99,7 @@ void PresetKeeper::didSave(const QString& preset) {
   forget(saved.name);
   mDestinations.push_back(saved);
   show(preset);
+  takeAsChosen();
 }
 
 void PresetKeeper::didRemove(const QString& preset) {

@@ -29,10 +29,13 @@ class PresetKeeper : public QObject {
   const Destination* find(const DestinationName& name) const;
   // Offers the presets of the printer that is open now.
   void showPrinter();
+  // Tells whether the settings are still those of the preset in force.
+  void modelDidChange();
 
  private:
   DestinationName nameOf(const QString& preset) const;
   void show(const QString& current);
+  void takeAsChosen();
   void forget(const DestinationName& name);
   void choose(const QString& preset);
   void save(const QString& preset);
@@ -49,6 +52,7 @@ class PresetKeeper : public QObject {
   std::vector<DestinationName> mRemoved;
   QString mCurrent;  // the preset in force; empty for the printer's own settings
   OptionList mBeingSaved;
+  OptionList mAsChosen;  // the settings when the preset in force was chosen or saved
 };
 
 }  // namespace cutline

@@ -9,7 +9,10 @@
 #include "host/core/CutRules.h"
 #include "host/dialog/ClickGuard.h"
 #include "host/dialog/DialogLanguage.h"
+#include "host/dialog/Disclosure.h"
 #include "host/dialog/DocumentWatch.h"
+#include "host/dialog/HistoryBar.h"
+#include "host/dialog/Icons.h"
 #include "host/dialog/JobForm.h"
 #include "host/dialog/JobProgress.h"
 #include "host/dialog/JobRunner.h"
@@ -40,9 +43,7 @@ std::vector<Notice> conflictNotices(const std::vector<Sentence>& conflicts,
   std::vector<Notice> notices;
   for (const Sentence& each : conflicts) notices.push_back({translated(each)});
   if (notices.empty()) return notices;
-  notices.back().action = NoticeView::resolveTitle();
-  notices.back().hint = NoticeView::resolveHint();
-  notices.back().act = resolve;
+  notices.back().remedies = {{NoticeView::resolveTitle(), NoticeView::resolveHint(), resolve}};
   return notices;
 }
 
@@ -62,13 +63,15 @@ PrintDialog::PrintDialog(PrintModel& model, std::shared_ptr<PrintServer> server,
       mJobForm(new JobForm(mSettings)),
       mLayoutBar(new LayoutBar(mSettings)),
       mPanelFrame(new PanelFrame(mSettings)),
+      mSummaryButton(makeDisclosure(tr("Summary"), mSettings)),
       mSummary(new SummaryView(mSettings)),
-      mNotices(new NoticeView(mSettings)),
+      mNotices(new NoticeView(this)),
       mPresets(new PresetKeeper(model, *mServer, *mPresetBar, *mNotices, this)),
       mStripPane(new StripPane(this)),
-      mMoreOptions(new MoreOptionsPanel(this)),
-      mMoreButton(new QPushButton(tr("&More printer options"), this)),
-      mOpen(new QPushButton(tr("&Open..."), this)),
+      mMoreOptions(new MoreOptionsPanel(mSettings)),
+      mMoreButton(makeDisclosure(tr("&More printer options"), mSettings)),
+      mOpen(new QPushButton(icon(Glyph::open), tr("&Open..."), this)),
+      mHistory(new HistoryBar(model, this)),
       mPrint(new QPushButton(tr("Pr&int"), this)),
       mCancel(new QPushButton(tr("Cancel"), this)),
       mBottom(new QStackedWidget(this)),
@@ -99,11 +102,15 @@ void PrintDialog::connectSettings() {
   connect(mJobForm, &JobForm::copiesChosen, this, [this](int copies) { mModel.setCopies(copies); });
   connect(mJobForm, &JobForm::pagesEdited, this, &PrintDialog::editPages);
   connect(mJobForm, &JobForm::pagesFinished, this, &PrintDialog::finishPages);
+  connect(mJobForm, &JobForm::collationChosen, this,
+          [this](bool isCollated) { mModel.setCollated(isCollated); });
+  connect(mJobForm, &JobForm::reversalChosen, this, &PrintDialog::reverse);
   connect(mJobForm, &JobForm::paperChosen, this, &PrintDialog::choosePaper);
   connect(&mStripPane->strip(), &StripView::onlyThisWanted, this, &PrintDialog::printOnly);
   connect(mNotices, &NoticeView::rebuilt, this, &PrintDialog::setMnemonics);
   connect(mMoreOptions, &MoreOptionsPanel::optionChosen, this, &PrintDialog::chooseOption);
   connect(mMoreButton, &QPushButton::toggled, this, &PrintDialog::showMoreOptions);
+  connect(mSummaryButton, &QPushButton::toggled, mSummary, &QWidget::setVisible);
   connect(mPrint, &QPushButton::clicked, this, &PrintDialog::print);
   connect(mCancel, &QPushButton::clicked, this, &PrintDialog::reject);
 }
@@ -118,12 +125,15 @@ void PrintDialog::modelDidChange(ModelChange what) {
                                   {ModelChange::paper, &PrintDialog::showPaper},
                                   {ModelChange::job, &PrintDialog::showJob},
                                   {ModelChange::composition, &PrintDialog::showLayout},
+                                  {ModelChange::composition, &PrintDialog::showJob},
                                   {ModelChange::layout, &PrintDialog::fitToPanels}};
   for (const Row& row : kRows) {
     if (row.change == what) (this->*row.show)();
   }
   showStrip();
   forgetOutcome();
+  mPresets->modelDidChange();
+  mHistory->modelDidChange();
   recompose();
 }
 
@@ -136,6 +146,7 @@ void PrintDialog::showPrinter() {
     mPrinterBar->setPpdFile(toQString(destination.info));
   }
   mPresets->showPrinter();
+  mHistory->start();
   mPanelFrame->setPanels(mModel.panels());
   mJobForm->setPapers(mModel.papers());
   mMoreOptions->setGroups(mModel.generatedOptions());
@@ -169,6 +180,7 @@ void PrintDialog::showPaper() {
 void PrintDialog::showJob() {
   mJobForm->setCopies(mModel.copies());
   mJobForm->setPages(toQString(mModel.pageRanges()));
+  mJobForm->setOrder(mModel.isCollated(), mModel.jobLayout().isReversed);
 }
 
 void PrintDialog::fitToPanels() {
@@ -192,6 +204,12 @@ void PrintDialog::choosePaper(const QString& name) {
 void PrintDialog::chooseOption(const QString& keyword, const QString& choice) {
   const Result<Done> chosen = mModel.setOption(toUtf8(keyword), toUtf8(choice));
   mNotices->setNotice(NoticeTopic::failure, chosen ? QString() : asLine(chosen.error().sentence));
+}
+
+void PrintDialog::reverse(bool isReversed) {
+  JobLayout layout = mModel.jobLayout();
+  layout.isReversed = isReversed;
+  mModel.setJobLayout(layout);
 }
 
 // A half-typed range is no mistake yet.
@@ -225,8 +243,8 @@ void PrintDialog::showMoreOptions(bool shown) {
 // The panels first: their options are what the dialog is opened for.
 void PrintDialog::setMnemonics() {
   const QString reserved = mnemonicIn(NoticeView::resolveTitle());
-  for (QWidget* root : std::initializer_list<QWidget*>{mPanelFrame, mLayoutBar, mLayoutForm,
-                                                       mNotices, mMoreOptions}) {
+  for (QWidget* root : std::initializer_list<QWidget*>{
+           mPanelFrame, mLayoutBar, mLayoutForm, mNotices, mMoreOptions, mSettings, mHistory}) {
     if (root != nullptr) assignMnemonics(*this, *root, reserved);
   }
 }

@@ -24,6 +24,7 @@ namespace cutline {
 
 class ClickGuard;
 class DocumentWatch;
+class HistoryBar;
 class JobForm;
 class JobOutcome;
 class JobProgress;
@@ -95,8 +96,8 @@ class PrintDialog : public QDialog, private PrintModelListener {
   void fitToPanels();
 
   void makeLayout();
-  QWidget* makeLeftSide();
-  QWidget* makeRightSide();
+  QWidget* makeJobSide();
+  QWidget* makeCuttingSide();
   QWidget* makeButtons();
   void connectSettings();
   void connectDocument();
@@ -113,6 +114,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
   std::string namedPaper() const;
   void chooseLength(LengthRule rule, double points);
   void chooseOption(const QString& keyword, const QString& choice);
+  void reverse(bool isReversed);
   void editPages(const QString& text);
   void finishPages(const QString& text);
   void printOnly(unsigned page);
@@ -166,6 +168,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
   JobForm* mJobForm;
   LayoutBar* mLayoutBar;
   PanelFrame* mPanelFrame;
+  QPushButton* mSummaryButton;
   SummaryView* mSummary;
   NoticeView* mNotices;
   PresetKeeper* mPresets;
@@ -173,7 +176,8 @@ class PrintDialog : public QDialog, private PrintModelListener {
   LayoutForm* mLayoutForm = nullptr;  // until the dialog has been painted
   MoreOptionsPanel* mMoreOptions;
   QPushButton* mMoreButton;
-  QPushButton* mOpen;  // where the dialog was opened without a document
+  QPushButton* mOpen;
+  HistoryBar* mHistory;
   QPushButton* mPrint;
   QPushButton* mCancel;
   QStackedWidget* mBottom;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "host/dialog/DialogLanguage.h"
+#include "host/dialog/HistoryBar.h"
 #include "host/dialog/LabelNotices.h"
 #include "host/dialog/LayoutForm.h"
 #include "host/dialog/NoticeView.h"
@@ -88,7 +89,8 @@ void PrintDialog::takeComposition() {
   refreshPrintButton();
   if (!mDocument->isComplete()) return;
   showPaperNotices();
-  if (mModel.jobLayout().followsContent) mModel.takeContentLength(report.label.length);
+  if (!mModel.jobLayout().followsContent) return;
+  mHistory->leaveOut([&] { mModel.takeContentLength(report.label.length); });
 }
 
 void PrintDialog::failComposition(const QString& reason) {
@@ -112,9 +114,9 @@ void PrintDialog::showPaperNotices() {
   const PaperSize* better =
       isFree ? nullptr : betterPaper(report, mModel.papers(), mModel.currentPaper());
   if (better != nullptr) {
-    notices.push_back({tr("Fits better: %1").arg(toQString(better->text)), tr("Use it"),
-                       tr("Choose this paper"),
-                       [this, name = toQString(better->name)] { choosePaper(name); }});
+    notices.push_back({tr("Fits better: %1").arg(toQString(better->text)),
+                       {{tr("Use it"), tr("Choose this paper"),
+                         [this, name = toQString(better->name)] { choosePaper(name); }}}});
   }
   mNotices->setNotices(NoticeTopic::paper, std::move(notices));
 }
@@ -130,8 +132,9 @@ void PrintDialog::showEdgeNotice() {
                 .arg(loss->percent)
           : tr("Edges will be cut off on %1 labels: shrink to %2 %").arg(count).arg(loss->percent);
   mNotices->setNotices(NoticeTopic::edges,
-                       {{line, tr("Shrink"), tr("Make the documents small enough"),
-                         [this, percent = loss->percent] { shrinkTo(percent); }}});
+                       {{line,
+                         {{tr("Shrink"), tr("Make the documents small enough"),
+                           [this, percent = loss->percent] { shrinkTo(percent); }}}}});
 }
 
 void PrintDialog::shrinkTo(int percent) {

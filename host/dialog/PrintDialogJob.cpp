@@ -234,8 +234,7 @@ JobRunner::Composing PrintDialog::jobComposing() const {
 
 void PrintDialog::showJobRunning(bool isRunning) {
   mSettings->setEnabled(!isRunning);
-  mMoreOptions->setEnabled(!isRunning);
-  mLayoutForm->setEnabled(!isRunning);
+  mNotices->setEnabled(!isRunning);
   mBottom->setCurrentIndex(isRunning ? 1 : 0);
   mGuard->noteExchange();
   if (isRunning) {

@@ -6,6 +6,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "host/dialog/Disclosure.h"
+#include "host/dialog/HistoryBar.h"
 #include "host/dialog/JobForm.h"
 #include "host/dialog/JobProgress.h"
 #include "host/dialog/LayoutForm.h"
@@ -15,14 +17,14 @@
 #include "host/dialog/PresetBar.h"
 #include "host/dialog/PrintDialog.h"
 #include "host/dialog/PrinterBar.h"
+#include "host/dialog/SettingsPane.h"
 #include "host/dialog/StripPane.h"
 
 namespace cutline {
 namespace {
 
-constexpr int kGap = 12;
-constexpr int kPreviewShare = 3;
-constexpr int kMoreOptionsShare = 2;
+constexpr int kMargin = 16;
+constexpr int kGap = 8;
 
 void alignCaptions(const std::vector<QLabel*>& captions) {
   int width = 0;
@@ -62,61 +64,59 @@ void chainTabs(const std::vector<QWidget*>& roots) {
 
 void PrintDialog::makeLayout() {
   auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(kGap, kGap, kGap, kGap);
+  column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   column->setSpacing(kGap);
-  auto* sides = new QHBoxLayout;
-  sides->setSpacing(kGap);
-  sides->addWidget(makeLeftSide(), 1);
-  sides->addWidget(makeRightSide());
-  column->addLayout(sides, 1);
+  column->addWidget(mStripPane, 1);
+  column->addWidget(mNotices);
+  column->addWidget(new SettingsPane(mSettings, makeJobSide(), makeCuttingSide(), this));
   mBottom->addWidget(makeButtons());
   mBottom->addWidget(mProgress);
   mBottom->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   column->addWidget(mBottom);
 }
 
-QWidget* PrintDialog::makeLeftSide() {
-  auto* side = new QWidget(this);
+QWidget* PrintDialog::makeJobSide() {
+  auto* side = new QWidget(mSettings);
   auto* column = new QVBoxLayout(side);
   column->setContentsMargins(0, 0, 0, 0);
-  column->addWidget(mStripPane, kPreviewShare);
-  column->addWidget(mMoreOptions, kMoreOptionsShare);
-  mMoreOptions->hide();
-  return side;
-}
-
-QWidget* PrintDialog::makeRightSide() {
-  auto* column = new QVBoxLayout(mSettings);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->addWidget(mPrinterBar);
-  column->addWidget(mPresetBar);
-  column->addWidget(mJobForm);
-  column->addWidget(mLayoutBar);
-  column->addSpacing(kGap / 2);
-  column->addWidget(mPanelFrame);
-  column->addWidget(mSummary);
-  column->addSpacing(kGap / 2);
-  column->addWidget(mNotices);
+  column->setSpacing(kGap);
+  auto* printer = new Card(side);
+  for (QWidget* each : std::initializer_list<QWidget*>{mPrinterBar, mPresetBar}) printer->add(each);
+  auto* labels = new Card(side);
+  for (QWidget* each : std::initializer_list<QWidget*>{mJobForm, mLayoutBar}) labels->add(each);
+  auto* options = new Card(side);
+  for (QWidget* each : std::initializer_list<QWidget*>{mMoreButton, mMoreOptions})
+    options->add(each);
+  for (QWidget* each : {printer, labels, options}) column->addWidget(each);
   column->addStretch(1);
-  mSettings->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+  mMoreOptions->hide();
   std::vector<QLabel*> captions = mJobForm->captions();
   captions.insert(captions.end(),
                   {mPrinterBar->caption(), mPresetBar->caption(), mLayoutBar->caption()});
   alignCaptions(captions);
-  return mSettings;
+  return side;
+}
+
+QWidget* PrintDialog::makeCuttingSide() {
+  auto* card = new Card(mSettings);
+  for (QWidget* each : std::initializer_list<QWidget*>{mPanelFrame, mSummaryButton, mSummary}) {
+    card->add(each);
+  }
+  card->addStretch();
+  mSummary->hide();
+  return card;
 }
 
 QWidget* PrintDialog::makeButtons() {
   auto* buttons = new QWidget(this);
   auto* row = new QHBoxLayout(buttons);
   row->setContentsMargins(0, 0, 0, 0);
-  row->addWidget(mMoreButton);
+  row->setSpacing(kGap);
   row->addWidget(mOpen);
-  mOpen->setVisible(mSource.paths.empty());
+  row->addWidget(mHistory);
   row->addWidget(mOutcome, 1);
   row->addWidget(mCancel);
   row->addWidget(mPrint);
-  mMoreButton->setCheckable(true);
   mPrint->setDefault(true);
   mPrint->setObjectName(QStringLiteral("print"));  // its text changes
   const int width = std::max(mPrint->sizeHint().width(), mCancel->sizeHint().width());
@@ -125,16 +125,16 @@ QWidget* PrintDialog::makeButtons() {
 }
 
 void PrintDialog::setTabOrders() {
-  chainTabs({mPrinterBar, mPresetBar, mJobForm, mLayoutBar, mLayoutForm, mPanelFrame, mNotices,
-             mStripPane, mMoreOptions, mMoreButton, mOpen, mCancel, mPrint, mProgress});
+  chainTabs({mPrinterBar, mPresetBar, mJobForm, mLayoutBar, mLayoutForm, mMoreButton, mMoreOptions,
+             mPanelFrame, mSummaryButton, mNotices, mStripPane, mOpen, mHistory, mCancel, mPrint,
+             mProgress});
 }
 
 // Its many lists would hold the first picture of the dialog up, and are hidden in it.
 void PrintDialog::makeLayoutForm() {
   mLayoutForm = new LayoutForm(this);
   mLayoutForm->hide();
-  auto* column = static_cast<QVBoxLayout*>(mStripPane->parentWidget()->layout());
-  column->insertWidget(column->indexOf(mMoreOptions), mLayoutForm);
+  static_cast<Card*>(mLayoutBar->parentWidget())->add(mLayoutForm);
   connectLayoutForm();
   if (mModel.isOpen()) showLayout();
   setTabOrders();

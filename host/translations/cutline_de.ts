@@ -622,6 +622,29 @@
     </message>
 </context>
 <context>
+    <name>cutline::HistoryBar</name>
+    <message>
+        <source>Undo the last change of a setting</source>
+        <translation>Die letzte Änderung einer Einstellung rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Redo what was undone</source>
+        <translation>Das Rückgängiggemachte wiederholen</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Go back to the settings that the driver starts with</source>
+        <translation>Zu den Einstellungen zurückkehren, mit denen der Treiber beginnt</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>cutline::JobForm</name>
     <message>
         <source>&amp;Copies:</source>
@@ -650,6 +673,18 @@
     <message>
         <source>Paper</source>
         <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>Sortieren</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Letzte Seite zuerst</translation>
+    </message>
+    <message>
+        <source>The whole document once a copy, instead of each label as often as there are copies</source>
+        <translation>Je Exemplar das ganze Dokument, statt jedes Etikett so oft, wie es Exemplare gibt</translation>
     </message>
 </context>
 <context>
@@ -962,6 +997,10 @@
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (geändert)</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PresetNameDialog</name>
@@ -1143,6 +1182,10 @@
     <message>
         <source>The job was cancelled; some of its labels are printed.</source>
         <translation>Der Auftrag wurde abgebrochen; einige seiner Etiketten sind gedruckt.</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Zusammenfassung</translation>
     </message>
 </context>
 <context>

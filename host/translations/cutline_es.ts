@@ -622,6 +622,29 @@
     </message>
 </context>
 <context>
+    <name>cutline::HistoryBar</name>
+    <message>
+        <source>Undo the last change of a setting</source>
+        <translation>Deshacer el último cambio de un ajuste</translation>
+    </message>
+    <message>
+        <source>Redo what was undone</source>
+        <translation>Rehacer lo deshecho</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Restablecer</translation>
+    </message>
+    <message>
+        <source>Go back to the settings that the driver starts with</source>
+        <translation>Volver a los ajustes iniciales del controlador</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>cutline::JobForm</name>
     <message>
         <source>&amp;Copies:</source>
@@ -650,6 +673,18 @@
     <message>
         <source>Paper</source>
         <translation>Papel</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>Intercalar</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Última página primero</translation>
+    </message>
+    <message>
+        <source>The whole document once a copy, instead of each label as often as there are copies</source>
+        <translation>El documento entero una vez por copia, en lugar de cada etiqueta tantas veces como copias</translation>
     </message>
 </context>
 <context>
@@ -962,6 +997,10 @@
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (modificado)</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PresetNameDialog</name>
@@ -1143,6 +1182,10 @@
     <message>
         <source>The job was cancelled; some of its labels are printed.</source>
         <translation>Se ha cancelado el trabajo; algunas de sus etiquetas están impresas.</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Resumen</translation>
     </message>
 </context>
 <context>

@@ -622,6 +622,29 @@
     </message>
 </context>
 <context>
+    <name>cutline::HistoryBar</name>
+    <message>
+        <source>Undo the last change of a setting</source>
+        <translation>Annuler la dernière modification d’un réglage</translation>
+    </message>
+    <message>
+        <source>Redo what was undone</source>
+        <translation>Rétablir ce qui a été annulé</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Réinitialiser</translation>
+    </message>
+    <message>
+        <source>Go back to the settings that the driver starts with</source>
+        <translation>Revenir aux réglages de départ du pilote</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>cutline::JobForm</name>
     <message>
         <source>&amp;Copies:</source>
@@ -650,6 +673,18 @@
     <message>
         <source>Paper</source>
         <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>Assembler</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Dernière page en premier</translation>
+    </message>
+    <message>
+        <source>The whole document once a copy, instead of each label as often as there are copies</source>
+        <translation>Tout le document une fois par exemplaire, au lieu de chaque étiquette autant de fois qu’il y a d’exemplaires</translation>
     </message>
 </context>
 <context>
@@ -962,6 +997,10 @@
         <source>Cancel</source>
         <translation>Annuler</translation>
     </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (modifié)</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PresetNameDialog</name>
@@ -1143,6 +1182,10 @@
     <message>
         <source>The job was cancelled; some of its labels are printed.</source>
         <translation>La tâche a été annulée ; certaines de ses étiquettes sont imprimées.</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Résumé</translation>
     </message>
 </context>
 <context>

@@ -622,6 +622,29 @@
     </message>
 </context>
 <context>
+    <name>cutline::HistoryBar</name>
+    <message>
+        <source>Undo the last change of a setting</source>
+        <translation>Annulla l’ultima modifica di un’impostazione</translation>
+    </message>
+    <message>
+        <source>Redo what was undone</source>
+        <translation>Ripristina ciò che è stato annullato</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Ripristina</translation>
+    </message>
+    <message>
+        <source>Go back to the settings that the driver starts with</source>
+        <translation>Torna alle impostazioni iniziali del driver</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>cutline::JobForm</name>
     <message>
         <source>&amp;Copies:</source>
@@ -650,6 +673,18 @@
     <message>
         <source>Paper</source>
         <translation>Carta</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>Fascicola</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Prima l’ultima pagina</translation>
+    </message>
+    <message>
+        <source>The whole document once a copy, instead of each label as often as there are copies</source>
+        <translation>L’intero documento una volta per copia, invece di ogni etichetta tante volte quante sono le copie</translation>
     </message>
 </context>
 <context>
@@ -962,6 +997,10 @@
         <source>Cancel</source>
         <translation>Annulla</translation>
     </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (modificato)</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PresetNameDialog</name>
@@ -1143,6 +1182,10 @@
     <message>
         <source>The job was cancelled; some of its labels are printed.</source>
         <translation>Il lavoro è stato annullato; alcune sue etichette sono stampate.</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Riepilogo</translation>
     </message>
 </context>
 <context>

@@ -622,6 +622,29 @@
     </message>
 </context>
 <context>
+    <name>cutline::HistoryBar</name>
+    <message>
+        <source>Undo the last change of a setting</source>
+        <translation>設定の最後の変更を元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo what was undone</source>
+        <translation>元に戻した変更をやり直す</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>リセット</translation>
+    </message>
+    <message>
+        <source>Go back to the settings that the driver starts with</source>
+        <translation>ドライバーの初期設定に戻す</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+</context>
+<context>
     <name>cutline::JobForm</name>
     <message>
         <source>&amp;Copies:</source>
@@ -650,6 +673,18 @@
     <message>
         <source>Paper</source>
         <translation>用紙</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>部単位で印刷</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>最後のページから</translation>
+    </message>
+    <message>
+        <source>The whole document once a copy, instead of each label as often as there are copies</source>
+        <translation>ラベルを 1 枚ずつ部数分繰り返すのではなく、文書全体を部ごとに印刷します</translation>
     </message>
 </context>
 <context>
@@ -962,6 +997,10 @@
         <source>Cancel</source>
         <translation>キャンセル</translation>
     </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1（変更あり）</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PresetNameDialog</name>
@@ -1143,6 +1182,10 @@
     <message>
         <source>The job was cancelled; some of its labels are printed.</source>
         <translation>ジョブはキャンセルされました。一部のラベルは印刷済みです。</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>概要</translation>
     </message>
 </context>
 <context>

@@ -622,6 +622,29 @@
     </message>
 </context>
 <context>
+    <name>cutline::HistoryBar</name>
+    <message>
+        <source>Undo the last change of a setting</source>
+        <translation>마지막 설정 변경 실행 취소</translation>
+    </message>
+    <message>
+        <source>Redo what was undone</source>
+        <translation>취소한 변경 다시 실행</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>초기화</translation>
+    </message>
+    <message>
+        <source>Go back to the settings that the driver starts with</source>
+        <translation>드라이버의 초기 설정으로 되돌리기</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>cutline::JobForm</name>
     <message>
         <source>&amp;Copies:</source>
@@ -650,6 +673,18 @@
     <message>
         <source>Paper</source>
         <translation>용지</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>한 부씩 인쇄</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>마지막 페이지부터</translation>
+    </message>
+    <message>
+        <source>The whole document once a copy, instead of each label as often as there are copies</source>
+        <translation>라벨마다 매수만큼 반복하지 않고 문서 전체를 한 부씩 인쇄합니다</translation>
     </message>
 </context>
 <context>
@@ -962,6 +997,10 @@
         <source>Cancel</source>
         <translation>취소</translation>
     </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1(변경됨)</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PresetNameDialog</name>
@@ -1143,6 +1182,10 @@
     <message>
         <source>The job was cancelled; some of its labels are printed.</source>
         <translation>작업이 취소되었습니다. 일부 라벨은 인쇄되었습니다.</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>요약</translation>
     </message>
 </context>
 <context>

@@ -622,6 +622,29 @@
     </message>
 </context>
 <context>
+    <name>cutline::HistoryBar</name>
+    <message>
+        <source>Undo the last change of a setting</source>
+        <translation>De laatste wijziging van een instelling ongedaan maken</translation>
+    </message>
+    <message>
+        <source>Redo what was undone</source>
+        <translation>Het ongedaan gemaakte opnieuw uitvoeren</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Herstellen</translation>
+    </message>
+    <message>
+        <source>Go back to the settings that the driver starts with</source>
+        <translation>Terug naar de instellingen waarmee het stuurprogramma begint</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>cutline::JobForm</name>
     <message>
         <source>&amp;Copies:</source>
@@ -650,6 +673,18 @@
     <message>
         <source>Paper</source>
         <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>Sorteren</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Laatste pagina eerst</translation>
+    </message>
+    <message>
+        <source>The whole document once a copy, instead of each label as often as there are copies</source>
+        <translation>Het hele document één keer per exemplaar, in plaats van elk etiket zo vaak als er exemplaren zijn</translation>
     </message>
 </context>
 <context>
@@ -962,6 +997,10 @@
         <source>Cancel</source>
         <translation>Annuleren</translation>
     </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (gewijzigd)</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PresetNameDialog</name>
@@ -1143,6 +1182,10 @@
     <message>
         <source>The job was cancelled; some of its labels are printed.</source>
         <translation>De taak is geannuleerd; een deel van de labels is afgedrukt.</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Overzicht</translation>
     </message>
 </context>
 <context>

@@ -622,6 +622,29 @@
     </message>
 </context>
 <context>
+    <name>cutline::HistoryBar</name>
+    <message>
+        <source>Undo the last change of a setting</source>
+        <translation>復原上一次設定變更</translation>
+    </message>
+    <message>
+        <source>Redo what was undone</source>
+        <translation>重做已復原的變更</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>重設</translation>
+    </message>
+    <message>
+        <source>Go back to the settings that the driver starts with</source>
+        <translation>恢復驅動程式的初始設定</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+</context>
+<context>
     <name>cutline::JobForm</name>
     <message>
         <source>&amp;Copies:</source>
@@ -650,6 +673,18 @@
     <message>
         <source>Paper</source>
         <translation>紙張</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>逐份列印</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>從最後一頁開始</translation>
+    </message>
+    <message>
+        <source>The whole document once a copy, instead of each label as often as there are copies</source>
+        <translation>每份列印整份文件，而不是將每張標籤重複列印</translation>
     </message>
 </context>
 <context>
@@ -962,6 +997,10 @@
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1（已變更）</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PresetNameDialog</name>
@@ -1143,6 +1182,10 @@
     <message>
         <source>The job was cancelled; some of its labels are printed.</source>
         <translation>工作已取消；部分標籤已列印。</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>摘要</translation>
     </message>
 </context>
 <context>

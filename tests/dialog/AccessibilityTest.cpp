@@ -58,6 +58,7 @@ class AccessibilityTest : public DialogTest {
   void openAll(const std::string& ppd) {
     openQueue(samplePpd(ppd));
     click(buttonWithText<QPushButton>("&More printer options"));
+    click(named<QPushButton>("Summary"));
   }
 };
 

@@ -54,6 +54,7 @@ TEST_F(SettingsTest, AClickOnHalfCutReachesTheJob) {
 
 TEST_F(SettingsTest, TheSummaryFollowsAClick) {
   openQueue(samplePpd("tape-b"));
+  click(named<QPushButton>("Summary"));
   const QStringList before = shownTexts();
   click(box("LxHalfCut"));
   EXPECT_EQ(shownTexts().count(QStringLiteral("Yes")), before.count(QStringLiteral("Yes")) + 1);

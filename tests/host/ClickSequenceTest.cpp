@@ -1,6 +1,6 @@
 // A user at work: random clicks, counts, presets of the pop-up, other options, papers, and presets
-// kept and chosen, on printers of every make-up, always with the same seeds. After each the dialog
-// holds together.
+// kept and chosen, undo, on printers of every make-up, always with the same seeds. After each the
+// dialog holds together.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -47,9 +47,10 @@ class User {
 
   void act() {
     static constexpr void (User::*kActions[])() = {
-        &User::choosePaper,     &User::choosePreset, &User::choosePreset, &User::keepAndChoose,
-        &User::chooseInTheList, &User::typeCount,    &User::clickSomeBox, &User::clickSomeBox,
-        &User::clickSomeBox,    &User::clickSomeBox};
+        &User::choosePaper, &User::choosePreset, &User::choosePreset, &User::keepAndChoose,
+        &User::goBack,      &User::remember,     &User::remember,     &User::chooseInTheList,
+        &User::typeCount,   &User::clickSomeBox, &User::clickSomeBox, &User::clickSomeBox,
+        &User::clickSomeBox};
     (this->*kActions[below(std::size(kActions))])();
   }
 
@@ -168,7 +169,20 @@ class User {
     *mWishes = kept;
   }
 
+  void remember() { mSteps.emplace_back(mDialog.model().settings(), *mWishes); }
+
+  // Undo: everything is wanted as it was then, whatever was done since, and shown, marked and sent.
+  void goBack() {
+    if (mSteps.empty()) return;
+    const auto& [settings, wishes] = oneOf(mSteps);
+    mStory += " undo";
+    mDialog.model().restore(settings);
+    *mWishes = wishes;
+    EXPECT_EQ(mDialog.model().settings(), settings);
+  }
+
   std::mt19937 mRandom;
+  std::vector<std::pair<Settings, Wishes>> mSteps;
   Dialog mDialog;
   TestPrinter mPrinter;
   std::optional<Wishes> mWishes;

@@ -352,6 +352,54 @@ TEST_F(PrintModelTest, APresetRemembersHowDocumentsAreLaidOut) {
   EXPECT_EQ(other->jobLayout(), JobLayout());
 }
 
+TEST_F(PrintModelTest, RestoresEverythingThatCanBeSet) {
+  const auto model = open({{{"raw", "false"}}, {}, {}});
+  const Settings before = model->settings();
+  const OptionList sentBefore = model->jobOptions();
+  JobLayout layout = model->jobLayout();
+  layout.placing.scaling = Scaling::fill;
+  layout.isReversed = true;
+  model->setJobLayout(layout);
+  ASSERT_TRUE(model->setCopies(7));
+  ASSERT_TRUE(model->setPageRanges("2-3"));
+  model->setCollated(true);
+  const Settings after = model->settings();
+  EXPECT_NE(after, before);
+  model->restore(before);
+  EXPECT_EQ(model->copies(), 1);
+  EXPECT_EQ(model->pageRanges(), "");
+  EXPECT_FALSE(model->isCollated());
+  EXPECT_EQ(model->jobLayout(), JobLayout());
+  model->restore(after);
+  EXPECT_EQ(model->settings(), after);
+  EXPECT_EQ(model->copies(), 7);
+  EXPECT_EQ(model->pageRanges(), "2-3");
+  EXPECT_TRUE(model->isCollated());
+  EXPECT_EQ(model->jobLayout(), layout);
+  model->reset();
+  EXPECT_EQ(model->copies(), 1);
+  EXPECT_EQ(valueOf(model->jobOptions(), "print-scaling"), valueOf(sentBefore, "print-scaling"));
+}
+
+TEST_F(PrintModelTest, ARawDocumentStaysOneWhenAPresetIsChosen) {
+  const auto model = open({{{"raw", "true"}}, {}, {}});
+  ASSERT_TRUE(model->applyPreset({}));
+  EXPECT_EQ(valueOf(model->jobOptions(), "raw"), "true");
+}
+
+TEST_F(PrintModelTest, CollatesAsChosenWhateverWasSaved) {
+  const auto model =
+      open({}, {{"multiple-document-handling", "separate-documents-collated-copies"}});
+  EXPECT_TRUE(model->isCollated());
+  model->setCollated(false);
+  EXPECT_FALSE(model->isCollated());
+  EXPECT_EQ(valueOf(model->jobOptions(), "multiple-document-handling"),
+            "separate-documents-uncollated-copies");
+  EXPECT_EQ(valueOf(model->jobOptions(), "collate"), "false");
+  model->setCollated(true);
+  EXPECT_EQ(valueOf(model->jobOptions(), "collate"), "true");
+}
+
 TEST_F(PrintModelTest, ARawDocumentGoesWithEveryOptionThatItHad) {
   const auto model = open({{{"raw", "true"}, {"print-scaling", "fit"}}, {}, "1-2"});
   EXPECT_EQ(valueOf(model->jobOptions(), "raw"), "true");

@@ -1,0 +1,13 @@
+// The dialog's icons: strokes of one width in the colour of the text beside them, so that they are
+// sharp at every scale and fit light and dark.
+#pragma once
+
+#include <QIcon>
+
+namespace cutline {
+
+enum class Glyph { closed, opened, open, settings, undo, redo };
+
+QIcon icon(Glyph glyph);
+
+}  // namespace cutline

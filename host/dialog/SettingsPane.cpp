@@ -1,0 +1,96 @@
+#include "host/dialog/SettingsPane.h"
+
+#include <QBoxLayout>
+#include <QEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+#include "host/dialog/Appearance.h"
+
+namespace cutline {
+namespace {
+
+constexpr int kGap = 8;
+constexpr int kPadding = 12;
+constexpr double kRadius = 6;
+constexpr int kLeastHeight = 120;  // some rows to scroll in
+constexpr int kMostOfFirst = 720;  // a list any wider is not read any better
+
+struct CardColours {
+  QRgb ground;
+  QRgb edge;
+};
+constexpr CardColours kLight{0xfffbfbfa, 0xffdededb};
+constexpr CardColours kDark{0xff2d3135, 0xff3d4247};
+
+}  // namespace
+
+Card::Card(QWidget* parent) : QWidget(parent), mColumn(new QVBoxLayout(this)) {
+  mColumn->setContentsMargins(kPadding, kPadding, kPadding, kPadding);
+  mColumn->setSpacing(kGap);
+}
+
+void Card::add(QWidget* part) { mColumn->addWidget(part); }
+
+void Card::addStretch() { mColumn->addStretch(1); }
+
+void Card::paintEvent(QPaintEvent* /*event*/) {
+  const CardColours& colours = isDark(palette()) ? kDark : kLight;
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QColor(colours.edge));
+  painter.setBrush(QColor(colours.ground));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+}
+
+SettingsPane::SettingsPane(QWidget* content, QWidget* first, QWidget* second, QWidget* parent)
+    : QScrollArea(parent),
+      mFirst(first),
+      mSecond(second),
+      mColumns(new QBoxLayout(QBoxLayout::LeftToRight, content)) {
+  mColumns->setContentsMargins(0, 0, 0, 0);
+  mColumns->setSpacing(kGap);
+  mColumns->addWidget(first, 1);
+  mColumns->addWidget(second);
+  setWidget(content);
+  setWidgetResizable(true);
+  setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::NoFocus);
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+  content->installEventFilter(this);
+}
+
+QSize SettingsPane::sizeHint() const { return widget()->sizeHint(); }
+
+QSize SettingsPane::minimumSizeHint() const {
+  const int scrolled = verticalScrollBar()->sizeHint().width();
+  const int widest =
+      std::max(mFirst->minimumSizeHint().width(), mSecond->minimumSizeHint().width());
+  return {widest + scrolled, std::min(kLeastHeight, sizeHint().height())};
+}
+
+// A card that has grown or a panel of another printer changes what would fit.
+bool SettingsPane::eventFilter(QObject* watched, QEvent* event) {
+  const bool handled = QScrollArea::eventFilter(watched, event);
+  if (watched == widget() && event->type() == QEvent::LayoutRequest) {
+    arrange();
+    updateGeometry();
+  }
+  return handled;
+}
+
+void SettingsPane::resizeEvent(QResizeEvent* event) {
+  QScrollArea::resizeEvent(event);
+  arrange();
+}
+
+void SettingsPane::arrange() {
+  const int scrolled = verticalScrollBar()->sizeHint().width();
+  const int needed = mFirst->minimumSizeHint().width() + kGap + mSecond->sizeHint().width();
+  const bool isWide = width() >= needed + scrolled;
+  const auto direction = isWide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom;
+  mFirst->setMaximumWidth(isWide ? kMostOfFirst : QWIDGETSIZE_MAX);
+  if (mColumns->direction() != direction) mColumns->setDirection(direction);
+}
+
+}  // namespace cutline
