@@ -82,6 +82,8 @@ TEST_P(LookTest, TheLayoutFormFitsAndIsWhole) {
 TEST_P(LookTest, ThePreviewTakesTheSpaceThatIsLeft) {
   openQueue(samplePpd("tape-a"));
   auto* preview = named<QWidget>("Preview of the labels");
+  dialog().resize(dialog().sizeHint());  // all settings without scrolling
+  QTest::qWait(20);
   const QSize before = preview->size();
   const QSize growth(300, 200);
   dialog().resize(dialog().size() + growth);
