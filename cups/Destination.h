@@ -7,6 +7,7 @@
 
 #include "base/OptionList.h"
 #include "base/Sentence.h"
+#include "cups/DeviceFacts.h"
 
 namespace cutline {
 
@@ -31,6 +32,7 @@ struct Destination {
   bool acceptsJobs = true;
   std::vector<std::string> stateReasons;  // IPP printer-state-reasons without "none"
   OptionList savedOptions;  // the user's saved options for this destination or instance only
+  DeviceFacts device;       // what the printer itself says; only where it was asked
 
   // The state in plain words, such as "Ready" or "Paused - label roll is empty".
   Sentence stateText() const;

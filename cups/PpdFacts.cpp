@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <span>
+#include <sstream>
 #include <string_view>
 
 #include "cups/PpdFile.h"
@@ -24,7 +25,8 @@ std::string programIn(std::string_view line) {
 
 void add(std::vector<std::string>& programs, std::string_view line) {
   std::string program = programIn(line);
-  if (!program.empty() && program != kNoProgram) programs.push_back(std::move(program));
+  const bool isKnown = std::ranges::find(programs, program) != programs.end();
+  if (!isKnown && !program.empty() && program != kNoProgram) programs.push_back(std::move(program));
 }
 
 }  // namespace
@@ -39,6 +41,21 @@ std::vector<std::string> filterPrograms(const PpdFile& ppd) {
        found = ppdFindNextAttr(file, kWithBothTypes, nullptr))
     if (found->value != nullptr) add(programs, found->value);
   return programs;
+}
+
+// *cupsIPPFinishings 60/trim-after-pages: "*CutMedia EndOfPage"
+OptionList optionsForFinishing(const PpdFile& ppd, int finishing) {
+  const std::string number = std::to_string(finishing);
+  const ppd_attr_t* found = ppdFindAttr(ppd.get(), "cupsIPPFinishings", number.c_str());
+  OptionList options;
+  if (found == nullptr || found->value == nullptr) return options;
+  std::istringstream words(found->value);
+  std::string keyword;
+  std::string choice;
+  while (words >> keyword >> choice)
+    if (keyword.size() > 1 && keyword.front() == '*')
+      options.emplace_back(keyword.substr(1), choice);
+  return options;
 }
 
 bool printerMakesCopies(const PpdFile& ppd) { return ppd.get()->manual_copies == 0; }

@@ -22,6 +22,7 @@ struct PaperSize {
   double width = 0;
   double length = 0;
   double left = 0, bottom = 0, right = 0, top = 0;  // the printable area's edges, from lower left
+  bool isLoaded = false;  // the printer has it in; only where it was asked (PrintModel::papers)
 };
 
 // The sizes that a PPD takes beside its named ones, in points.

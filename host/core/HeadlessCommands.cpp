@@ -67,7 +67,7 @@ Result<Done> listPrinters(const CommandLine& line, PluginLoader& plugIns, const 
   for (const Destination& destination : *destinations) {
     streams.out << visible(destination.name.text())
                 << (destination.isDefault ? " (default): " : ": ");
-    describe(selectPrinter(line.server, destination), session, streams.out);
+    describe(findDriver(line.server, destination), session, streams.out);
   }
   return Done{};
 }

@@ -6,6 +6,7 @@
 
 #include "host/core/CutRules.h"
 #include "host/core/OpenPrinter.h"
+#include "host/core/PrinterStart.h"
 
 namespace cutline {
 
@@ -46,10 +47,17 @@ void addOthers(OptionList& options, const OpenPrinter& printer) {
   }
 }
 
+// The same again in IPP's numbers, for a PPD that has the options for it: they may say otherwise by
+// now.
+bool isSaidByOptions(const OpenPrinter& printer, const std::string& name) {
+  return name == "finishings" && printer.options().find(kCutMediaKeyword) != nullptr;
+}
+
 void addBesidePpd(OptionList& options, const OpenPrinter& printer) {
   for (const OptionList& layer : printer.layers())
     for (const auto& [name, value] : layer)
-      if (printer.options().find(name) == nullptr && !isSettledElsewhere(name))
+      if (printer.options().find(name) == nullptr && !isSettledElsewhere(name) &&
+          !isSaidByOptions(printer, name))
         set(options, name, value);
 }
 
@@ -59,6 +67,7 @@ OptionList jobOptions(const OpenPrinter& printer) {
   OptionList options;
   for (const std::string_view keyword : kCutKeywords)
     addMarked(options, printer, std::string(keyword));
+  addMarked(options, printer, kCutMediaKeyword);
   addMarked(options, printer, "PageSize");
   addOthers(options, printer);
   addBesidePpd(options, printer);

@@ -7,9 +7,9 @@ namespace cutline {
 
 class OpenPrinter;
 
-// Every cut option of the PPD, the paper, other options that differ from the PPD's default or that
-// somebody asked for, then what was asked for or saved beside the PPD (such as job-priority).
-// Copies and page ranges are not among them.
+// Every cut option of the PPD, CutMedia among them, the paper, other options that differ from the
+// PPD's default or that somebody asked for, then what was asked for or saved beside the PPD (such
+// as job-priority). Copies and page ranges are not among them.
 OptionList jobOptions(const OpenPrinter& printer);
 
 // What a preset keeps: what is sent now, so that other programs print with it as this one does, and

@@ -4,6 +4,7 @@
 
 #include "host/core/CutRules.h"
 #include "host/core/JobOptions.h"
+#include "host/core/PrinterStart.h"
 #include "platform/ports/Controls.h"
 #include "platform/ports/NotificationCenter.h"
 #include "platform/ports/Platform.h"
@@ -22,15 +23,22 @@ NotificationCenter& notificationCenter() {
 // The state of a box whose option has this choice: the first one is off.
 int stateFor(int position) { return position > 0 ? CheckBox::kOn : CheckBox::kOff; }
 
+std::vector<PaperSize> papersOf(const PrinterChoice& choice) {
+  std::vector<PaperSize> papers = choice.ppd->paperSizes();
+  markLoaded(papers, choice.destination.device);
+  return papers;
+}
+
 }  // namespace
 
 OpenPrinter::OpenPrinter(PrinterChoice choice, PanelSource& source, const OptionList& asked,
                          std::function<void()> layoutDidChange)
     : mChoice(std::move(choice)),
       mOptions(*mChoice.ppd),
-      mPapers(mChoice.ppd->paperSizes()),
+      mPapers(papersOf(mChoice)),
+      mStart(printerStart(*mChoice.ppd, mPapers, mChoice.destination.device)),
       mTicket(std::make_shared<PrintTicket>(mChoice.ppd, mChoice.destination.deviceURI)),
-      mLayers{withWishes(mChoice.destination.savedOptions), asked},
+      mLayers{mStart, withWishes(mChoice.destination.savedOptions), asked},
       mLayoutDidChange(std::move(layoutDidChange)),
       mWanted(*mChoice.ppd, mOptions) {
   const HostCall call(*this);
@@ -48,7 +56,7 @@ OpenPrinter::~OpenPrinter() {
 
 void OpenPrinter::restart(const OptionList& options) {
   const HostCall call(*this);
-  mLayers = {withWishes(options)};
+  mLayers = {mStart, withWishes(options)};
   run();
 }
 

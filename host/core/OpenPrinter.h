@@ -40,12 +40,13 @@ class OpenPrinter final : private PanelHostOwner {
   const OptionTable& options() const noexcept { return mOptions; }
   const PanelSet& panels() const noexcept { return *mPanels; }
   const std::vector<PaperSize>& papers() const noexcept { return mPapers; }
-  // What was saved for the destination, and what was asked for over it, in order.
+  // How the printer begins by itself, what was saved for the destination, and what was asked for
+  // over it, in order.
   const std::vector<OptionList>& layers() const noexcept { return mLayers; }
   // Somebody chose this option, so it is sent even at its default.
   bool wasAskedFor(const std::string& keyword) const { return mAskedFor.contains(keyword); }
 
-  // Starts again from the PPD's defaults and these options over them.
+  // Starts again as the printer begins by itself, with these options over it.
   void restart(const OptionList& options);
   // All of them take names that the PPD has.
   void choosePaper(const std::string& name);
@@ -107,6 +108,7 @@ class OpenPrinter final : private PanelHostOwner {
   PrinterChoice mChoice;
   OptionTable mOptions;
   std::vector<PaperSize> mPapers;
+  OptionList mStart;  // see PrinterStart.h
   std::shared_ptr<PrintTicket> mTicket;
   std::vector<OptionList> mLayers;
   std::set<std::string> mAskedFor;

@@ -25,10 +25,16 @@ Result<PrinterChoice> findPrinter(const CommandLine& commandLine) {
 
 }  // namespace
 
-Result<PrinterChoice> selectPrinter(const ServerOptions& server, const Destination& destination) {
+Result<PrinterChoice> findDriver(const ServerOptions& server, const Destination& destination) {
   const Result<std::shared_ptr<PpdFile>> ppd = PpdFile::fetch(server, destination.name.printer);
   if (!ppd) return ppd.error();
   return PrinterChoice{destination, *ppd};
+}
+
+Result<PrinterChoice> selectPrinter(const ServerOptions& server, const Destination& destination) {
+  Result<PrinterChoice> choice = findDriver(server, destination);
+  if (choice) choice->destination.device = askDevice(destination.deviceURI);
+  return choice;
 }
 
 Result<PrinterChoice> selectPrinter(const CommandLine& commandLine) {

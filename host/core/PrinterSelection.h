@@ -13,6 +13,8 @@ namespace cutline {
 Result<PrinterChoice> selectPrinter(const CommandLine& commandLine);
 
 // The PPD of a destination that is known already, such as one of listDestinations. May block.
+Result<PrinterChoice> findDriver(const ServerOptions& server, const Destination& destination);
+// The same, and what the printer says of itself where it can be asked.
 Result<PrinterChoice> selectPrinter(const ServerOptions& server, const Destination& destination);
 
 }  // namespace cutline

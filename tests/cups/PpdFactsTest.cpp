@@ -31,5 +31,15 @@ TEST(PpdFacts, SayWhoMakesCopies) {
   EXPECT_FALSE(printerMakesCopies(*ppdWith("*cupsManualCopies: True\n")));
 }
 
+TEST(PpdFacts, HaveTheOptionsOfAFinishing) {
+  const auto ppd = ppdWith(
+      "*cupsIPPFinishings 60/trim-after-pages: \"*CutMedia EndOfPage\"\n"
+      "*cupsIPPFinishings 20/staple: \"*One A *Two B odd\"\n");
+  EXPECT_EQ(optionsForFinishing(*ppd, 60), (OptionList{{"CutMedia", "EndOfPage"}}));
+  EXPECT_EQ(optionsForFinishing(*ppd, 20), (OptionList{{"One", "A"}, {"Two", "B"}}));
+  EXPECT_EQ(optionsForFinishing(*ppd, 3), OptionList());
+  EXPECT_EQ(optionsForFinishing(*ppd, 6), OptionList());
+}
+
 }  // namespace
 }  // namespace cutline
