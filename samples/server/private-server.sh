@@ -5,13 +5,15 @@ set -u
 
 usage() {
   cat <<'U'
-Usage: private-server.sh start DIR [--pace MS] [--printer FOLDER] [--ppds FOLDER] [NAME=PPD]...
+Usage: private-server.sh start DIR [--pace MS] [--printer FOLDER] [--ppds FOLDER] [--backend NAME]...
+                               [NAME=PPD]...
        private-server.sh env DIR
        private-server.sh wait-idle DIR [SECONDS]
        private-server.sh stop DIR
 
   start      makes the queues tape24 (the default), tapeb and roll62, and one for each NAME=PPD, and
-             starts the server. A label takes MS milliseconds at the printers (0).
+             starts the server. A label takes MS milliseconds at the printers (0). --backend
+             takes one of the system's along, such as ipp, for queues that are added later.
   env        prints the lines that turn a shell's printing commands to the server:
              eval "$(private-server.sh env DIR)"
   wait-idle  waits until no job is left, by default for 60 seconds at most; a job that
@@ -118,9 +120,12 @@ make_folders() {
   [ "$(id -u)" != 0 ] || chown lp:lp "$place/printed"
 }
 
-# The system's filters, our driver, and no backend but ours: nothing looks for devices.
+# The system's filters, our driver, and no backend but ours and those that were asked for: nothing looks for
+# devices.
+# make_programs PRINTER BACKEND...
 make_programs() {
   local printer=$1 programs=$place/programs name
+  shift
   for name in daemon notifier monitor cgi-bin; do
     [ ! -d "$SYSTEM_CUPS/$name" ] || ln -sfn "$SYSTEM_CUPS/$name" "$programs/$name"
   done
@@ -129,6 +134,9 @@ make_programs() {
   install -m 755 "$printer/rastertocutline" "$programs/filter/" || fail "cannot copy the driver from $printer"
   install -m 755 "$printer/cutline-strip" "$programs/backend/" ||
     fail "cannot copy the printer from $printer"
+  for name; do
+    ln -sf "$SYSTEM_CUPS/backend/$name" "$programs/backend/"
+  done
 }
 
 write_server_conf() {
@@ -231,13 +239,14 @@ launch() {
 }
 
 start() {
-  local pace=0 printer='' ppds='' queues=() prefix=${CUTLINE_PREFIX:-}
+  local pace=0 printer='' ppds='' queues=() backends=() prefix=${CUTLINE_PREFIX:-}
   while [ $# -gt 0 ]; do
     case $1 in
-    --pace | --printer | --ppds) [ $# -ge 2 ] || { usage >&2; exit 2; } ;;&
+    --pace | --printer | --ppds | --backend) [ $# -ge 2 ] || { usage >&2; exit 2; } ;;&
     --pace) pace=$2; shift ;;
     --printer) printer=$2; shift ;;
     --ppds) ppds=$2; shift ;;
+    --backend) backends+=("$2"); shift ;;
     ?*=?*) queues+=("$1") ;;
     *) usage >&2; exit 2 ;;
     esac
@@ -252,7 +261,7 @@ start() {
     ${prefix:+"$prefix/share/cutline/samples/ppd"} "$here/../ppd") || exit 1
   check_place
   make_folders
-  make_programs "$printer"
+  make_programs "$printer" ${backends[0]+"${backends[@]}"}
   write_server_conf
   : >"$place/etc/printers.conf" || exit 1
   add_queue tape24 "$ppds/tape-a.ppd" "$pace" Default

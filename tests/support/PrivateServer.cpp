@@ -38,6 +38,11 @@ void PrivateServer::enterEnvironment() const {
   for (const char* name : {"LPDEST", "PRINTER", "CUPS_USER", "CUPS_ENCRYPTION"}) unsetenv(name);
 }
 
+std::string PrivateServer::environment() const {
+  return "env -u LPDEST -u PRINTER -u CUPS_USER -u CUPS_ENCRYPTION CUPS_SERVER=" + quoted(mSocket) +
+         " HOME=" + quoted(mHome) + " CUPS_SERVERROOT=" + quoted(mRoot) + ' ';
+}
+
 bool PrivateServer::hasPrinted(int jobId) const {
   return std::filesystem::exists(printedFile(jobId, ".png"));
 }

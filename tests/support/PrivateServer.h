@@ -26,6 +26,8 @@ class PrivateServer {
   // Makes this process's libcups, and programs that it starts, clients of this server. Threads that
   // called libcups before keep what they had read.
   void enterEnvironment() const;
+  // The same for one program alone, as settings before its command line.
+  std::string environment() const;
   // The home folder of the server's clients.
   const std::string& home() const noexcept { return mHome; }
 
@@ -39,6 +41,8 @@ class PrivateServer {
   std::set<int> printedJobs() const;
 
   void stop();
+  // A folder of the server's own, which its drivers may enter and which goes with it.
+  std::string folder() const { return mFolder.path(); }
   // Waits until no job is left to do.
   void waitUntilIdle() const;
 
