@@ -89,6 +89,8 @@ const std::vector<PanelEntry>& PrintModel::panels() const noexcept {
   return mPrinter->panels().entries();
 }
 
+std::vector<CheckBox*> PrintModel::boxes() const { return mPrinter->panels().boxes(); }
+
 const std::vector<PaperSize>& PrintModel::papers() const noexcept { return mPrinter->papers(); }
 
 PaperSize PrintModel::currentPaper() const { return mPrinter->ppd().markedPaper(); }

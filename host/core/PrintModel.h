@@ -25,6 +25,7 @@
 
 namespace cutline {
 
+class CheckBox;
 class OpenPrinter;
 
 enum class ModelChange {
@@ -66,6 +67,8 @@ class PrintModel final : public ActionObserver {
   const std::shared_ptr<PpdFile>& ppdFile() const noexcept;  // only while open
 
   const std::vector<PanelEntry>& panels() const noexcept;
+  // The panels' check boxes that are not hidden and name a PPD option. Borrowed from their views.
+  std::vector<CheckBox*> boxes() const;
 
   const std::vector<PaperSize>& papers() const noexcept;
   PaperSize currentPaper() const;

@@ -1,13 +1,16 @@
 #include "host/dialog/PrintDialog.h"
 
 #include <QPushButton>
+#include <QShortcut>
 #include <QStackedWidget>
 #include <algorithm>
 #include <utility>
 
 #include "host/core/CommandLine.h"
 #include "host/core/CutRules.h"
+#include "host/dialog/ChoiceHints.h"
 #include "host/dialog/ClickGuard.h"
+#include "host/dialog/CuttingForm.h"
 #include "host/dialog/DialogLanguage.h"
 #include "host/dialog/Disclosure.h"
 #include "host/dialog/DocumentWatch.h"
@@ -63,6 +66,7 @@ PrintDialog::PrintDialog(PrintModel& model, std::shared_ptr<PrintServer> server,
       mJobForm(new JobForm(mSettings)),
       mLayoutBar(new LayoutBar(mSettings)),
       mPanelFrame(new PanelFrame(mSettings)),
+      mCuttingForm(new CuttingForm(mSettings)),
       mSummaryButton(makeDisclosure(tr("Summary"), mSettings)),
       mSummary(new SummaryView(mSettings)),
       mNotices(new NoticeView(this)),
@@ -72,6 +76,8 @@ PrintDialog::PrintDialog(PrintModel& model, std::shared_ptr<PrintServer> server,
       mMoreButton(makeDisclosure(tr("&More printer options"), mSettings)),
       mOpen(new QPushButton(icon(Glyph::open), tr("&Open..."), this)),
       mHistory(new HistoryBar(model, this)),
+      mHints(new ChoiceHints(
+          model, [this] { return presentPlan(); }, this)),
       mPrint(new QPushButton(tr("Pr&int"), this)),
       mCancel(new QPushButton(tr("Cancel"), this)),
       mBottom(new QStackedWidget(this)),
@@ -108,10 +114,14 @@ void PrintDialog::connectSettings() {
   connect(mJobForm, &JobForm::paperChosen, this, &PrintDialog::choosePaper);
   connect(&mStripPane->strip(), &StripView::onlyThisWanted, this, &PrintDialog::printOnly);
   connect(mNotices, &NoticeView::rebuilt, this, &PrintDialog::setMnemonics);
+  connect(mCuttingForm, &CuttingForm::cuttingChosen, this,
+          [this](const CutOffer& offer) { mModel.chooseCut(offer); });
   connect(mMoreOptions, &MoreOptionsPanel::optionChosen, this, &PrintDialog::chooseOption);
   connect(mMoreButton, &QPushButton::toggled, this, &PrintDialog::showMoreOptions);
   connect(mSummaryButton, &QPushButton::toggled, mSummary, &QWidget::setVisible);
   connect(mPrint, &QPushButton::clicked, this, &PrintDialog::print);
+  connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this,
+          &PrintDialog::showHelp);
   connect(mCancel, &QPushButton::clicked, this, &PrintDialog::reject);
 }
 
@@ -148,6 +158,7 @@ void PrintDialog::showPrinter() {
   mPresets->showPrinter();
   mHistory->start();
   mPanelFrame->setPanels(mModel.panels());
+  mHints->watchPanels();
   mJobForm->setPapers(mModel.papers());
   mMoreOptions->setGroups(mModel.generatedOptions());
   mMoreButton->setEnabled(!mModel.generatedOptions().empty());
@@ -163,10 +174,19 @@ void PrintDialog::showPrinter() {
 
 void PrintDialog::showOptions() {
   mSummary->setLines(mModel.summary());
+  showCuttingForm();
   mMoreOptions->setMarks(mModel.generatedOptions());
   mNotices->setNotices(NoticeTopic::conflicts,
                        conflictNotices(mModel.conflicts(), [this] { resolveConflicts(); }));
   mNotices->setNotices(NoticeTopic::deviations, sentencesOf(mModel.deviations()));
+}
+
+// Where a driver has words of cutting and no panel speaks for it.
+void PrintDialog::showCuttingForm() {
+  const CutMeanings meanings = mModel.cutMeanings();
+  mCuttingForm->setMeanings(meanings);
+  mCuttingForm->setVisible(!meanings.offers.empty());
+  mSummaryButton->setVisible(!mModel.summary().empty());
 }
 
 void PrintDialog::showPaper() {

@@ -23,6 +23,9 @@ class QStackedWidget;
 namespace cutline {
 
 class ClickGuard;
+class ChoiceHints;
+class CutPlan;
+class CuttingForm;
 class DocumentWatch;
 class HistoryBar;
 class JobForm;
@@ -89,6 +92,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
   void modelDidChange(ModelChange what) override;
   void showPrinter();
   void showOptions();
+  void showCuttingForm();
   void showPaper();
   void showJob();
   void showLayout();
@@ -117,6 +121,11 @@ class PrintDialog : public QDialog, private PrintModelListener {
   void reverse(bool isReversed);
   void editPages(const QString& text);
   void finishPages(const QString& text);
+  CutPlan presentPlan() const;
+  void showHelp();
+  void showCuttingNotices(const CutPlan* plan);
+  // False while somebody is asked whether so much is meant; print() follows the answer.
+  bool agreesToMuch();
   void printOnly(unsigned page);
   void showPagesProblem(const Result<Done>& checked);
   Result<Done> checkPages() const;
@@ -153,8 +162,9 @@ class PrintDialog : public QDialog, private PrintModelListener {
   PrintModel& mModel;
   PrintSource mSource;
   int mExitStatus;
-  std::string mNamedPaper;  // the last one that the printer names
-  int mShownPages = 0;      // of the documents
+  std::string mNamedPaper;          // the last one that the printer names
+  int mShownPages = 0;              // of the documents
+  std::uint64_t mAgreedLabels = 0;  // somebody was asked about so many
   QTimer mStateTimer;
 
   ServerClient* mServer;
@@ -168,6 +178,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
   JobForm* mJobForm;
   LayoutBar* mLayoutBar;
   PanelFrame* mPanelFrame;
+  CuttingForm* mCuttingForm;
   QPushButton* mSummaryButton;
   SummaryView* mSummary;
   NoticeView* mNotices;
@@ -178,6 +189,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
   QPushButton* mMoreButton;
   QPushButton* mOpen;
   HistoryBar* mHistory;
+  ChoiceHints* mHints;
   QPushButton* mPrint;
   QPushButton* mCancel;
   QStackedWidget* mBottom;

@@ -204,6 +204,7 @@ void PrintDialog::print() {
   finishPages(mJobForm->pages());
   if (mJobForm->hasPagesProblem()) return mJobForm->focusPages();
   if (!refusal().isEmpty() || mServer->isOpening() || mJob->isRunning()) return;
+  if (!agreesToMuch()) return;
   const Result<OptionList> options = mModel.prepareToPrint();
   mNotices->setNotice(NoticeTopic::failure, options ? QString() : asLine(options.error().sentence));
   if (!options) return;

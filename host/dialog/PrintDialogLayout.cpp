@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "host/dialog/CuttingForm.h"
 #include "host/dialog/Disclosure.h"
 #include "host/dialog/HistoryBar.h"
 #include "host/dialog/JobForm.h"
@@ -99,7 +100,8 @@ QWidget* PrintDialog::makeJobSide() {
 
 QWidget* PrintDialog::makeCuttingSide() {
   auto* card = new Card(mSettings);
-  for (QWidget* each : std::initializer_list<QWidget*>{mPanelFrame, mSummaryButton, mSummary}) {
+  for (QWidget* each :
+       std::initializer_list<QWidget*>{mPanelFrame, mCuttingForm, mSummaryButton, mSummary}) {
     card->add(each);
   }
   card->addStretch();
@@ -126,8 +128,8 @@ QWidget* PrintDialog::makeButtons() {
 
 void PrintDialog::setTabOrders() {
   chainTabs({mPrinterBar, mPresetBar, mJobForm, mLayoutBar, mLayoutForm, mMoreButton, mMoreOptions,
-             mPanelFrame, mSummaryButton, mNotices, mStripPane, mOpen, mHistory, mCancel, mPrint,
-             mProgress});
+             mPanelFrame, mCuttingForm, mSummaryButton, mNotices, mStripPane, mOpen, mHistory,
+             mCancel, mPrint, mProgress});
 }
 
 // Its many lists would hold the first picture of the dialog up, and are hidden in it.

@@ -1,9 +1,9 @@
 // Where a plan is worth a word before it is printed.
-#include "host/dialog/PlanNotices.h"
-
 #include <gtest/gtest.h>
 
 #include <numeric>
+
+#include "host/dialog/PlanNotices.h"
 
 namespace cutline {
 namespace {
