@@ -615,6 +615,112 @@
     </message>
 </context>
 <context>
+    <name>cutline::ChoiceHints</name>
+    <message>
+        <source>The printer cuts the tape off after every so many labels, and behind the last one.</source>
+        <translation>Der Drucker schneidet das Band nach jeweils so vielen Etiketten ab, und hinter dem letzten.</translation>
+    </message>
+    <message>
+        <source>The printer cuts the tape off behind the last label.</source>
+        <translation>Der Drucker schneidet das Band hinter dem letzten Etikett ab.</translation>
+    </message>
+    <message>
+        <source>The knife goes through the printed layer only: the labels stay together on their backing, and peel off one by one.</source>
+        <translation>Das Messer geht nur durch die bedruckte Schicht: Die Etiketten bleiben auf ihrem Träger zusammen und lassen sich einzeln abziehen.</translation>
+    </message>
+    <message>
+        <source>For tape that would harm the knife, such as fabric or heat-shrink tube: the printer never cuts it. Cut it with scissors.</source>
+        <translation>Für Band, das dem Messer schadet, wie Stoff oder Schrumpfschlauch: Der Drucker schneidet es nie. Schneiden Sie es mit der Schere.</translation>
+    </message>
+    <message>
+        <source>The last label stays in the printer, and the next job follows it without blank tape between them. Feed and cut at the printer after the last job.</source>
+        <translation>Das letzte Etikett bleibt im Drucker, und der nächste Auftrag folgt ihm ohne leeres Band dazwischen. Nach dem letzten Auftrag am Drucker vorschieben und schneiden.</translation>
+    </message>
+    <message>
+        <source>Prints mirrored, for labels that are read from behind or ironed on.</source>
+        <translation>Druckt gespiegelt, für Etiketten, die von hinten gelesen oder aufgebügelt werden.</translation>
+    </message>
+    <message>
+        <source>Leaves out the blank space before and behind the print: each label is as long as what is on it.</source>
+        <translation>Lässt den leeren Raum vor und hinter dem Druck weg: Jedes Etikett ist so lang wie das, was darauf steht.</translation>
+    </message>
+    <message>
+        <source>Prints a mark at the ends of each label, where to cut by hand.</source>
+        <translation>Druckt an den Enden jedes Etiketts eine Marke, wo von Hand zu schneiden ist.</translation>
+    </message>
+    <message>
+        <source>Saves %1 mm of tape.</source>
+        <translation>Spart %1 mm Band.</translation>
+    </message>
+    <message>
+        <source>Takes %1 mm more tape.</source>
+        <translation>Braucht %1 mm mehr Band.</translation>
+    </message>
+    <message>
+        <source>Would save %1 mm of tape.</source>
+        <translation>Würde %1 mm Band sparen.</translation>
+    </message>
+    <message>
+        <source>Would take %1 mm more tape.</source>
+        <translation>Würde %1 mm mehr Band brauchen.</translation>
+    </message>
+    <message>
+        <source>Pieces: %1 instead of %2.</source>
+        <translation>Stücke: %1 statt %2.</translation>
+    </message>
+    <message>
+        <source>Pieces: would be %1 instead of %2.</source>
+        <translation>Stücke: wären %1 statt %2.</translation>
+    </message>
+    <message>
+        <source>Special tape is never cut, so this cannot be chosen.</source>
+        <translation>Spezialband wird nie geschnitten, daher lässt sich dies nicht wählen.</translation>
+    </message>
+    <message>
+        <source>Labels of this size lie at fixed places, so this cannot be chosen.</source>
+        <translation>Etiketten dieser Größe liegen an festen Stellen, daher lässt sich dies nicht wählen.</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::CuttingForm</name>
+    <message>
+        <source>Never</source>
+        <translation>Nie</translation>
+    </message>
+    <message>
+        <source>After each label</source>
+        <translation>Nach jedem Etikett</translation>
+    </message>
+    <message>
+        <source>After every %1 labels</source>
+        <translation>Nach je %1 Etiketten</translation>
+    </message>
+    <message>
+        <source>After each copy</source>
+        <translation>Nach jedem Exemplar</translation>
+    </message>
+    <message>
+        <source>After the last label</source>
+        <translation>Nach dem letzten Etikett</translation>
+    </message>
+    <message>
+        <source>As the printer decides</source>
+        <translation>Wie der Drucker entscheidet</translation>
+    </message>
+    <message>
+        <source>Cutting</source>
+        <translation>Schneiden</translation>
+    </message>
+    <message>
+        <source>The driver&apos;s own choice</source>
+        <translation>Eigene Wahl des Treibers</translation>
+    </message>
+    <message>
+        <source>Cut:</source>
+        <translation>Schneiden:</translation>
+    </message>
+</context>
+<context>
     <name>cutline::DialogSession</name>
     <message>
         <source>Waiting for the print server...</source>
@@ -1187,6 +1293,42 @@
         <source>Summary</source>
         <translation>Zusammenfassung</translation>
     </message>
+    <message>
+        <source>The strip shows the whole job as it leaves the printer, with what the knife does to it; the line below says it in words.
+
+Point at a cut option, or press F1 on it, to read what it does and what it would change.
+
+Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a setting.</source>
+        <translation>Der Streifen zeigt den ganzen Auftrag, wie er aus dem Drucker kommt, mit allem, was das Messer tut; die Zeile darunter sagt es in Worten.
+
+Zeigen Sie auf eine Schneideoption, oder drücken Sie F1 darauf, um zu lesen, was sie tut und was sie ändern würde.
+
+Streifen: Plus und Minus zoomen, 0 passt ein, Eingabe zeigt ein Etikett groß. Strg+Z macht eine Einstellung rückgängig.</translation>
+    </message>
+    <message>
+        <source>The last piece has %1 of %2 labels.</source>
+        <translation>Das letzte Stück hat %1 von %2 Etiketten.</translation>
+    </message>
+    <message>
+        <source>Cut every %1</source>
+        <translation>Alle %1 schneiden</translation>
+    </message>
+    <message>
+        <source>All pieces are alike then</source>
+        <translation>Dann sind alle Stücke gleich</translation>
+    </message>
+    <message>
+        <source>Print %1 copies</source>
+        <translation>%1 Exemplare drucken</translation>
+    </message>
+    <message>
+        <source>Print all of this?</source>
+        <translation>All das drucken?</translation>
+    </message>
+    <message>
+        <source>&amp;Print %1 labels</source>
+        <translation>%1 Etiketten &amp;drucken</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1414,7 +1556,7 @@
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished">%1, %2</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1 mm</source>
@@ -1530,7 +1672,7 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>feed behind the last label: %1</source>

@@ -615,6 +615,112 @@
     </message>
 </context>
 <context>
+    <name>cutline::ChoiceHints</name>
+    <message>
+        <source>The printer cuts the tape off after every so many labels, and behind the last one.</source>
+        <translation>La impresora corta la cinta cada tantas etiquetas y después de la última.</translation>
+    </message>
+    <message>
+        <source>The printer cuts the tape off behind the last label.</source>
+        <translation>La impresora corta la cinta después de la última etiqueta.</translation>
+    </message>
+    <message>
+        <source>The knife goes through the printed layer only: the labels stay together on their backing, and peel off one by one.</source>
+        <translation>La cuchilla atraviesa solo la capa impresa: las etiquetas quedan juntas en su soporte y se despegan una a una.</translation>
+    </message>
+    <message>
+        <source>For tape that would harm the knife, such as fabric or heat-shrink tube: the printer never cuts it. Cut it with scissors.</source>
+        <translation>Para cinta que dañaría la cuchilla, como tela o tubo termorretráctil: la impresora nunca la corta. Córtela con tijeras.</translation>
+    </message>
+    <message>
+        <source>The last label stays in the printer, and the next job follows it without blank tape between them. Feed and cut at the printer after the last job.</source>
+        <translation>La última etiqueta se queda en la impresora y el trabajo siguiente la sigue sin cinta en blanco entre medias. Tras el último trabajo, avance y corte en la impresora.</translation>
+    </message>
+    <message>
+        <source>Prints mirrored, for labels that are read from behind or ironed on.</source>
+        <translation>Imprime en espejo, para etiquetas que se leen por detrás o se planchan.</translation>
+    </message>
+    <message>
+        <source>Leaves out the blank space before and behind the print: each label is as long as what is on it.</source>
+        <translation>Omite el espacio en blanco antes y después de lo impreso: cada etiqueta es tan larga como su contenido.</translation>
+    </message>
+    <message>
+        <source>Prints a mark at the ends of each label, where to cut by hand.</source>
+        <translation>Imprime una marca en los extremos de cada etiqueta, por donde cortar a mano.</translation>
+    </message>
+    <message>
+        <source>Saves %1 mm of tape.</source>
+        <translation>Ahorra %1 mm de cinta.</translation>
+    </message>
+    <message>
+        <source>Takes %1 mm more tape.</source>
+        <translation>Gasta %1 mm más de cinta.</translation>
+    </message>
+    <message>
+        <source>Would save %1 mm of tape.</source>
+        <translation>Ahorraría %1 mm de cinta.</translation>
+    </message>
+    <message>
+        <source>Would take %1 mm more tape.</source>
+        <translation>Gastaría %1 mm más de cinta.</translation>
+    </message>
+    <message>
+        <source>Pieces: %1 instead of %2.</source>
+        <translation>Trozos: %1 en lugar de %2.</translation>
+    </message>
+    <message>
+        <source>Pieces: would be %1 instead of %2.</source>
+        <translation>Trozos: serían %1 en lugar de %2.</translation>
+    </message>
+    <message>
+        <source>Special tape is never cut, so this cannot be chosen.</source>
+        <translation>La cinta especial nunca se corta, por eso no se puede elegir.</translation>
+    </message>
+    <message>
+        <source>Labels of this size lie at fixed places, so this cannot be chosen.</source>
+        <translation>Las etiquetas de este tamaño están en lugares fijos, por eso no se puede elegir.</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::CuttingForm</name>
+    <message>
+        <source>Never</source>
+        <translation>Nunca</translation>
+    </message>
+    <message>
+        <source>After each label</source>
+        <translation>Después de cada etiqueta</translation>
+    </message>
+    <message>
+        <source>After every %1 labels</source>
+        <translation>Cada %1 etiquetas</translation>
+    </message>
+    <message>
+        <source>After each copy</source>
+        <translation>Después de cada copia</translation>
+    </message>
+    <message>
+        <source>After the last label</source>
+        <translation>Después de la última etiqueta</translation>
+    </message>
+    <message>
+        <source>As the printer decides</source>
+        <translation>Según decida la impresora</translation>
+    </message>
+    <message>
+        <source>Cutting</source>
+        <translation>Corte</translation>
+    </message>
+    <message>
+        <source>The driver&apos;s own choice</source>
+        <translation>Elección del controlador</translation>
+    </message>
+    <message>
+        <source>Cut:</source>
+        <translation>Cortar:</translation>
+    </message>
+</context>
+<context>
     <name>cutline::DialogSession</name>
     <message>
         <source>Waiting for the print server...</source>
@@ -1187,6 +1293,42 @@
         <source>Summary</source>
         <translation>Resumen</translation>
     </message>
+    <message>
+        <source>The strip shows the whole job as it leaves the printer, with what the knife does to it; the line below says it in words.
+
+Point at a cut option, or press F1 on it, to read what it does and what it would change.
+
+Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a setting.</source>
+        <translation>La tira muestra el trabajo entero tal como sale de la impresora, con lo que hace la cuchilla; la línea de abajo lo dice con palabras.
+
+Señale una opción de corte, o pulse F1 sobre ella, para leer qué hace y qué cambiaría.
+
+Tira: más y menos para el zum, 0 para ajustar, Intro muestra una etiqueta en grande. Ctrl+Z deshace un ajuste.</translation>
+    </message>
+    <message>
+        <source>The last piece has %1 of %2 labels.</source>
+        <translation>El último trozo tiene %1 de %2 etiquetas.</translation>
+    </message>
+    <message>
+        <source>Cut every %1</source>
+        <translation>Cortar cada %1</translation>
+    </message>
+    <message>
+        <source>All pieces are alike then</source>
+        <translation>Así todos los trozos son iguales</translation>
+    </message>
+    <message>
+        <source>Print %1 copies</source>
+        <translation>Imprimir %1 copias</translation>
+    </message>
+    <message>
+        <source>Print all of this?</source>
+        <translation>¿Imprimir todo esto?</translation>
+    </message>
+    <message>
+        <source>&amp;Print %1 labels</source>
+        <translation>&amp;Imprimir %1 etiquetas</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1414,7 +1556,7 @@
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished">%1, %2</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1 mm</source>
@@ -1530,7 +1672,7 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>feed behind the last label: %1</source>

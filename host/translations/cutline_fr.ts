@@ -615,6 +615,112 @@
     </message>
 </context>
 <context>
+    <name>cutline::ChoiceHints</name>
+    <message>
+        <source>The printer cuts the tape off after every so many labels, and behind the last one.</source>
+        <translation>L’imprimante coupe le ruban après chaque série d’étiquettes, et après la dernière.</translation>
+    </message>
+    <message>
+        <source>The printer cuts the tape off behind the last label.</source>
+        <translation>L’imprimante coupe le ruban après la dernière étiquette.</translation>
+    </message>
+    <message>
+        <source>The knife goes through the printed layer only: the labels stay together on their backing, and peel off one by one.</source>
+        <translation>La lame ne traverse que la couche imprimée : les étiquettes restent ensemble sur leur support et se décollent une à une.</translation>
+    </message>
+    <message>
+        <source>For tape that would harm the knife, such as fabric or heat-shrink tube: the printer never cuts it. Cut it with scissors.</source>
+        <translation>Pour un ruban qui abîmerait la lame, comme le tissu ou la gaine thermorétractable : l’imprimante ne le coupe jamais. Coupez-le aux ciseaux.</translation>
+    </message>
+    <message>
+        <source>The last label stays in the printer, and the next job follows it without blank tape between them. Feed and cut at the printer after the last job.</source>
+        <translation>La dernière étiquette reste dans l’imprimante et la tâche suivante la suit sans ruban vierge entre les deux. Après la dernière tâche, faites avancer et coupez à l’imprimante.</translation>
+    </message>
+    <message>
+        <source>Prints mirrored, for labels that are read from behind or ironed on.</source>
+        <translation>Imprime en miroir, pour des étiquettes lues par derrière ou à repasser.</translation>
+    </message>
+    <message>
+        <source>Leaves out the blank space before and behind the print: each label is as long as what is on it.</source>
+        <translation>Supprime l’espace vide avant et après l’impression : chaque étiquette est aussi longue que son contenu.</translation>
+    </message>
+    <message>
+        <source>Prints a mark at the ends of each label, where to cut by hand.</source>
+        <translation>Imprime un repère aux extrémités de chaque étiquette, là où couper à la main.</translation>
+    </message>
+    <message>
+        <source>Saves %1 mm of tape.</source>
+        <translation>Économise %1 mm de ruban.</translation>
+    </message>
+    <message>
+        <source>Takes %1 mm more tape.</source>
+        <translation>Utilise %1 mm de ruban en plus.</translation>
+    </message>
+    <message>
+        <source>Would save %1 mm of tape.</source>
+        <translation>Économiserait %1 mm de ruban.</translation>
+    </message>
+    <message>
+        <source>Would take %1 mm more tape.</source>
+        <translation>Utiliserait %1 mm de ruban en plus.</translation>
+    </message>
+    <message>
+        <source>Pieces: %1 instead of %2.</source>
+        <translation>Morceaux : %1 au lieu de %2.</translation>
+    </message>
+    <message>
+        <source>Pieces: would be %1 instead of %2.</source>
+        <translation>Morceaux : seraient %1 au lieu de %2.</translation>
+    </message>
+    <message>
+        <source>Special tape is never cut, so this cannot be chosen.</source>
+        <translation>Le ruban spécial n’est jamais coupé : ce choix n’est pas possible.</translation>
+    </message>
+    <message>
+        <source>Labels of this size lie at fixed places, so this cannot be chosen.</source>
+        <translation>Les étiquettes de cette taille sont à des places fixes : ce choix n’est pas possible.</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::CuttingForm</name>
+    <message>
+        <source>Never</source>
+        <translation>Jamais</translation>
+    </message>
+    <message>
+        <source>After each label</source>
+        <translation>Après chaque étiquette</translation>
+    </message>
+    <message>
+        <source>After every %1 labels</source>
+        <translation>Toutes les %1 étiquettes</translation>
+    </message>
+    <message>
+        <source>After each copy</source>
+        <translation>Après chaque exemplaire</translation>
+    </message>
+    <message>
+        <source>After the last label</source>
+        <translation>Après la dernière étiquette</translation>
+    </message>
+    <message>
+        <source>As the printer decides</source>
+        <translation>Selon l’imprimante</translation>
+    </message>
+    <message>
+        <source>Cutting</source>
+        <translation>Coupe</translation>
+    </message>
+    <message>
+        <source>The driver&apos;s own choice</source>
+        <translation>Choix du pilote</translation>
+    </message>
+    <message>
+        <source>Cut:</source>
+        <translation>Couper :</translation>
+    </message>
+</context>
+<context>
     <name>cutline::DialogSession</name>
     <message>
         <source>Waiting for the print server...</source>
@@ -1187,6 +1293,42 @@
         <source>Summary</source>
         <translation>Résumé</translation>
     </message>
+    <message>
+        <source>The strip shows the whole job as it leaves the printer, with what the knife does to it; the line below says it in words.
+
+Point at a cut option, or press F1 on it, to read what it does and what it would change.
+
+Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a setting.</source>
+        <translation>La bande montre toute la tâche telle qu’elle sort de l’imprimante, avec ce que fait la lame ; la ligne dessous le dit en mots.
+
+Pointez une option de coupe, ou appuyez sur F1 dessus, pour lire ce qu’elle fait et ce qu’elle changerait.
+
+Bande : plus et moins pour le zoom, 0 pour ajuster, Entrée montre une étiquette en grand. Ctrl+Z annule un réglage.</translation>
+    </message>
+    <message>
+        <source>The last piece has %1 of %2 labels.</source>
+        <translation>Le dernier morceau a %1 étiquettes sur %2.</translation>
+    </message>
+    <message>
+        <source>Cut every %1</source>
+        <translation>Couper tous les %1</translation>
+    </message>
+    <message>
+        <source>All pieces are alike then</source>
+        <translation>Tous les morceaux sont alors pareils</translation>
+    </message>
+    <message>
+        <source>Print %1 copies</source>
+        <translation>Imprimer %1 exemplaires</translation>
+    </message>
+    <message>
+        <source>Print all of this?</source>
+        <translation>Imprimer tout cela ?</translation>
+    </message>
+    <message>
+        <source>&amp;Print %1 labels</source>
+        <translation>&amp;Imprimer %1 étiquettes</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1414,7 +1556,7 @@
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished">%1, %2</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1 mm</source>
@@ -1530,7 +1672,7 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1 : %2</translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>feed behind the last label: %1</source>

@@ -615,6 +615,112 @@
     </message>
 </context>
 <context>
+    <name>cutline::ChoiceHints</name>
+    <message>
+        <source>The printer cuts the tape off after every so many labels, and behind the last one.</source>
+        <translation>La stampante taglia il nastro ogni tante etichette e dopo l’ultima.</translation>
+    </message>
+    <message>
+        <source>The printer cuts the tape off behind the last label.</source>
+        <translation>La stampante taglia il nastro dopo l’ultima etichetta.</translation>
+    </message>
+    <message>
+        <source>The knife goes through the printed layer only: the labels stay together on their backing, and peel off one by one.</source>
+        <translation>La lama attraversa solo lo strato stampato: le etichette restano unite sul supporto e si staccano una per una.</translation>
+    </message>
+    <message>
+        <source>For tape that would harm the knife, such as fabric or heat-shrink tube: the printer never cuts it. Cut it with scissors.</source>
+        <translation>Per nastro che danneggerebbe la lama, come tessuto o guaina termorestringente: la stampante non lo taglia mai. Tagliarlo con le forbici.</translation>
+    </message>
+    <message>
+        <source>The last label stays in the printer, and the next job follows it without blank tape between them. Feed and cut at the printer after the last job.</source>
+        <translation>L’ultima etichetta resta nella stampante e il lavoro successivo la segue senza nastro vuoto in mezzo. Dopo l’ultimo lavoro, far avanzare e tagliare sulla stampante.</translation>
+    </message>
+    <message>
+        <source>Prints mirrored, for labels that are read from behind or ironed on.</source>
+        <translation>Stampa speculare, per etichette lette da dietro o da stirare.</translation>
+    </message>
+    <message>
+        <source>Leaves out the blank space before and behind the print: each label is as long as what is on it.</source>
+        <translation>Elimina lo spazio vuoto prima e dopo la stampa: ogni etichetta è lunga quanto il suo contenuto.</translation>
+    </message>
+    <message>
+        <source>Prints a mark at the ends of each label, where to cut by hand.</source>
+        <translation>Stampa un segno alle estremità di ogni etichetta, dove tagliare a mano.</translation>
+    </message>
+    <message>
+        <source>Saves %1 mm of tape.</source>
+        <translation>Risparmia %1 mm di nastro.</translation>
+    </message>
+    <message>
+        <source>Takes %1 mm more tape.</source>
+        <translation>Usa %1 mm di nastro in più.</translation>
+    </message>
+    <message>
+        <source>Would save %1 mm of tape.</source>
+        <translation>Farebbe risparmiare %1 mm di nastro.</translation>
+    </message>
+    <message>
+        <source>Would take %1 mm more tape.</source>
+        <translation>Userebbe %1 mm di nastro in più.</translation>
+    </message>
+    <message>
+        <source>Pieces: %1 instead of %2.</source>
+        <translation>Pezzi: %1 invece di %2.</translation>
+    </message>
+    <message>
+        <source>Pieces: would be %1 instead of %2.</source>
+        <translation>Pezzi: sarebbero %1 invece di %2.</translation>
+    </message>
+    <message>
+        <source>Special tape is never cut, so this cannot be chosen.</source>
+        <translation>Il nastro speciale non viene mai tagliato, perciò non si può scegliere.</translation>
+    </message>
+    <message>
+        <source>Labels of this size lie at fixed places, so this cannot be chosen.</source>
+        <translation>Le etichette di questa misura stanno in posizioni fisse, perciò non si può scegliere.</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::CuttingForm</name>
+    <message>
+        <source>Never</source>
+        <translation>Mai</translation>
+    </message>
+    <message>
+        <source>After each label</source>
+        <translation>Dopo ogni etichetta</translation>
+    </message>
+    <message>
+        <source>After every %1 labels</source>
+        <translation>Ogni %1 etichette</translation>
+    </message>
+    <message>
+        <source>After each copy</source>
+        <translation>Dopo ogni copia</translation>
+    </message>
+    <message>
+        <source>After the last label</source>
+        <translation>Dopo l’ultima etichetta</translation>
+    </message>
+    <message>
+        <source>As the printer decides</source>
+        <translation>Come decide la stampante</translation>
+    </message>
+    <message>
+        <source>Cutting</source>
+        <translation>Taglio</translation>
+    </message>
+    <message>
+        <source>The driver&apos;s own choice</source>
+        <translation>Scelta del driver</translation>
+    </message>
+    <message>
+        <source>Cut:</source>
+        <translation>Taglio:</translation>
+    </message>
+</context>
+<context>
     <name>cutline::DialogSession</name>
     <message>
         <source>Waiting for the print server...</source>
@@ -1187,6 +1293,42 @@
         <source>Summary</source>
         <translation>Riepilogo</translation>
     </message>
+    <message>
+        <source>The strip shows the whole job as it leaves the printer, with what the knife does to it; the line below says it in words.
+
+Point at a cut option, or press F1 on it, to read what it does and what it would change.
+
+Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a setting.</source>
+        <translation>La striscia mostra l’intero lavoro come esce dalla stampante, con ciò che fa la lama; la riga sotto lo dice a parole.
+
+Indicare un’opzione di taglio, o premere F1 su di essa, per leggere che cosa fa e che cosa cambierebbe.
+
+Striscia: più e meno per lo zoom, 0 per adattare, Invio mostra un’etichetta in grande. Ctrl+Z annulla un’impostazione.</translation>
+    </message>
+    <message>
+        <source>The last piece has %1 of %2 labels.</source>
+        <translation>L’ultimo pezzo ha %1 etichette su %2.</translation>
+    </message>
+    <message>
+        <source>Cut every %1</source>
+        <translation>Taglia ogni %1</translation>
+    </message>
+    <message>
+        <source>All pieces are alike then</source>
+        <translation>Così tutti i pezzi sono uguali</translation>
+    </message>
+    <message>
+        <source>Print %1 copies</source>
+        <translation>Stampa %1 copie</translation>
+    </message>
+    <message>
+        <source>Print all of this?</source>
+        <translation>Stampare tutto questo?</translation>
+    </message>
+    <message>
+        <source>&amp;Print %1 labels</source>
+        <translation>&amp;Stampa %1 etichette</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1414,7 +1556,7 @@
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished">%1, %2</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1 mm</source>
@@ -1530,7 +1672,7 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>feed behind the last label: %1</source>

@@ -615,6 +615,112 @@
     </message>
 </context>
 <context>
+    <name>cutline::ChoiceHints</name>
+    <message>
+        <source>The printer cuts the tape off after every so many labels, and behind the last one.</source>
+        <translation>指定した枚数ごとと、最後のラベルの後でテープを切り離します。</translation>
+    </message>
+    <message>
+        <source>The printer cuts the tape off behind the last label.</source>
+        <translation>最後のラベルの後でテープを切り離します。</translation>
+    </message>
+    <message>
+        <source>The knife goes through the printed layer only: the labels stay together on their backing, and peel off one by one.</source>
+        <translation>印刷面だけに切れ目を入れます。ラベルは台紙でつながったまま、1 枚ずつはがせます。</translation>
+    </message>
+    <message>
+        <source>For tape that would harm the knife, such as fabric or heat-shrink tube: the printer never cuts it. Cut it with scissors.</source>
+        <translation>布や熱収縮チューブなど、刃を傷めるテープ用です。プリンターは切りません。はさみで切ってください。</translation>
+    </message>
+    <message>
+        <source>The last label stays in the printer, and the next job follows it without blank tape between them. Feed and cut at the printer after the last job.</source>
+        <translation>最後のラベルはプリンター内に残り、次のジョブが余白なしで続きます。最後のジョブの後はプリンターで送ってカットしてください。</translation>
+    </message>
+    <message>
+        <source>Prints mirrored, for labels that are read from behind or ironed on.</source>
+        <translation>裏から読むラベルやアイロンで貼るラベルのために、左右反転して印刷します。</translation>
+    </message>
+    <message>
+        <source>Leaves out the blank space before and behind the print: each label is as long as what is on it.</source>
+        <translation>印刷の前後の余白を省き、各ラベルを内容の長さにします。</translation>
+    </message>
+    <message>
+        <source>Prints a mark at the ends of each label, where to cut by hand.</source>
+        <translation>手で切る位置の印を各ラベルの両端に印刷します。</translation>
+    </message>
+    <message>
+        <source>Saves %1 mm of tape.</source>
+        <translation>テープを %1 mm 節約します。</translation>
+    </message>
+    <message>
+        <source>Takes %1 mm more tape.</source>
+        <translation>テープを %1 mm 多く使います。</translation>
+    </message>
+    <message>
+        <source>Would save %1 mm of tape.</source>
+        <translation>選ぶとテープを %1 mm 節約できます。</translation>
+    </message>
+    <message>
+        <source>Would take %1 mm more tape.</source>
+        <translation>選ぶとテープを %1 mm 多く使います。</translation>
+    </message>
+    <message>
+        <source>Pieces: %1 instead of %2.</source>
+        <translation>切片: %2 ではなく %1。</translation>
+    </message>
+    <message>
+        <source>Pieces: would be %1 instead of %2.</source>
+        <translation>切片: 選ぶと %2 ではなく %1。</translation>
+    </message>
+    <message>
+        <source>Special tape is never cut, so this cannot be chosen.</source>
+        <translation>特殊テープは切らないため、選べません。</translation>
+    </message>
+    <message>
+        <source>Labels of this size lie at fixed places, so this cannot be chosen.</source>
+        <translation>このサイズのラベルは位置が決まっているため、選べません。</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::CuttingForm</name>
+    <message>
+        <source>Never</source>
+        <translation>カットしない</translation>
+    </message>
+    <message>
+        <source>After each label</source>
+        <translation>ラベルごと</translation>
+    </message>
+    <message>
+        <source>After every %1 labels</source>
+        <translation>ラベル %1 枚ごと</translation>
+    </message>
+    <message>
+        <source>After each copy</source>
+        <translation>部ごと</translation>
+    </message>
+    <message>
+        <source>After the last label</source>
+        <translation>最後のラベルの後</translation>
+    </message>
+    <message>
+        <source>As the printer decides</source>
+        <translation>プリンターに任せる</translation>
+    </message>
+    <message>
+        <source>Cutting</source>
+        <translation>カット</translation>
+    </message>
+    <message>
+        <source>The driver&apos;s own choice</source>
+        <translation>ドライバーの設定</translation>
+    </message>
+    <message>
+        <source>Cut:</source>
+        <translation>カット:</translation>
+    </message>
+</context>
+<context>
     <name>cutline::DialogSession</name>
     <message>
         <source>Waiting for the print server...</source>
@@ -1187,6 +1293,42 @@
         <source>Summary</source>
         <translation>概要</translation>
     </message>
+    <message>
+        <source>The strip shows the whole job as it leaves the printer, with what the knife does to it; the line below says it in words.
+
+Point at a cut option, or press F1 on it, to read what it does and what it would change.
+
+Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a setting.</source>
+        <translation>上の帯は、カットを含めてプリンターから出てくるとおりのジョブ全体です。下の行がそれを言葉で示します。
+
+カットの項目をポイントするか F1 を押すと、その働きと変化が表示されます。
+
+帯: プラスとマイナスで拡大縮小、0 で全体、Enter でラベルを大きく表示。Ctrl+Z で設定を元に戻します。</translation>
+    </message>
+    <message>
+        <source>The last piece has %1 of %2 labels.</source>
+        <translation>最後の切片のラベルは %2 枚中 %1 枚です。</translation>
+    </message>
+    <message>
+        <source>Cut every %1</source>
+        <translation>%1 枚ごとにカット</translation>
+    </message>
+    <message>
+        <source>All pieces are alike then</source>
+        <translation>すべての切片が同じになります</translation>
+    </message>
+    <message>
+        <source>Print %1 copies</source>
+        <translation>%1 部印刷</translation>
+    </message>
+    <message>
+        <source>Print all of this?</source>
+        <translation>これをすべて印刷しますか?</translation>
+    </message>
+    <message>
+        <source>&amp;Print %1 labels</source>
+        <translation>ラベルを %1 枚印刷(&amp;P)</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1414,7 +1556,7 @@
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished">%1、%2</translation>
+        <translation>%1、%2</translation>
     </message>
     <message>
         <source>%1 mm</source>
@@ -1530,7 +1672,7 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>feed behind the last label: %1</source>

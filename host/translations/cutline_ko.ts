@@ -615,6 +615,112 @@
     </message>
 </context>
 <context>
+    <name>cutline::ChoiceHints</name>
+    <message>
+        <source>The printer cuts the tape off after every so many labels, and behind the last one.</source>
+        <translation>지정한 장수마다, 그리고 마지막 라벨 뒤에서 테이프를 자릅니다.</translation>
+    </message>
+    <message>
+        <source>The printer cuts the tape off behind the last label.</source>
+        <translation>마지막 라벨 뒤에서 테이프를 자릅니다.</translation>
+    </message>
+    <message>
+        <source>The knife goes through the printed layer only: the labels stay together on their backing, and peel off one by one.</source>
+        <translation>인쇄된 층만 자릅니다. 라벨은 뒷면지에 붙은 채로 이어져 있고 한 장씩 떼어 낼 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>For tape that would harm the knife, such as fabric or heat-shrink tube: the printer never cuts it. Cut it with scissors.</source>
+        <translation>천이나 열 수축 튜브처럼 칼날을 상하게 하는 테이프용입니다. 프린터가 자르지 않으니 가위로 자르십시오.</translation>
+    </message>
+    <message>
+        <source>The last label stays in the printer, and the next job follows it without blank tape between them. Feed and cut at the printer after the last job.</source>
+        <translation>마지막 라벨은 프린터 안에 남고 다음 작업이 빈 테이프 없이 이어집니다. 마지막 작업 뒤에는 프린터에서 테이프를 내보내고 자르십시오.</translation>
+    </message>
+    <message>
+        <source>Prints mirrored, for labels that are read from behind or ironed on.</source>
+        <translation>뒤에서 읽거나 다리미로 붙이는 라벨을 위해 좌우를 뒤집어 인쇄합니다.</translation>
+    </message>
+    <message>
+        <source>Leaves out the blank space before and behind the print: each label is as long as what is on it.</source>
+        <translation>인쇄 앞뒤의 빈 공간을 없애 각 라벨을 내용 길이에 맞춥니다.</translation>
+    </message>
+    <message>
+        <source>Prints a mark at the ends of each label, where to cut by hand.</source>
+        <translation>손으로 자를 위치를 각 라벨의 양 끝에 표시합니다.</translation>
+    </message>
+    <message>
+        <source>Saves %1 mm of tape.</source>
+        <translation>테이프를 %1 mm 절약합니다.</translation>
+    </message>
+    <message>
+        <source>Takes %1 mm more tape.</source>
+        <translation>테이프를 %1 mm 더 사용합니다.</translation>
+    </message>
+    <message>
+        <source>Would save %1 mm of tape.</source>
+        <translation>선택하면 테이프를 %1 mm 절약합니다.</translation>
+    </message>
+    <message>
+        <source>Would take %1 mm more tape.</source>
+        <translation>선택하면 테이프를 %1 mm 더 사용합니다.</translation>
+    </message>
+    <message>
+        <source>Pieces: %1 instead of %2.</source>
+        <translation>조각: %2개 대신 %1개.</translation>
+    </message>
+    <message>
+        <source>Pieces: would be %1 instead of %2.</source>
+        <translation>조각: 선택하면 %2개 대신 %1개.</translation>
+    </message>
+    <message>
+        <source>Special tape is never cut, so this cannot be chosen.</source>
+        <translation>특수 테이프는 자르지 않으므로 선택할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Labels of this size lie at fixed places, so this cannot be chosen.</source>
+        <translation>이 크기의 라벨은 위치가 정해져 있어 선택할 수 없습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::CuttingForm</name>
+    <message>
+        <source>Never</source>
+        <translation>안 함</translation>
+    </message>
+    <message>
+        <source>After each label</source>
+        <translation>라벨마다</translation>
+    </message>
+    <message>
+        <source>After every %1 labels</source>
+        <translation>라벨 %1장마다</translation>
+    </message>
+    <message>
+        <source>After each copy</source>
+        <translation>한 부마다</translation>
+    </message>
+    <message>
+        <source>After the last label</source>
+        <translation>마지막 라벨 뒤</translation>
+    </message>
+    <message>
+        <source>As the printer decides</source>
+        <translation>프린터가 결정</translation>
+    </message>
+    <message>
+        <source>Cutting</source>
+        <translation>커팅</translation>
+    </message>
+    <message>
+        <source>The driver&apos;s own choice</source>
+        <translation>드라이버의 선택</translation>
+    </message>
+    <message>
+        <source>Cut:</source>
+        <translation>자르기:</translation>
+    </message>
+</context>
+<context>
     <name>cutline::DialogSession</name>
     <message>
         <source>Waiting for the print server...</source>
@@ -1187,6 +1293,42 @@
         <source>Summary</source>
         <translation>요약</translation>
     </message>
+    <message>
+        <source>The strip shows the whole job as it leaves the printer, with what the knife does to it; the line below says it in words.
+
+Point at a cut option, or press F1 on it, to read what it does and what it would change.
+
+Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a setting.</source>
+        <translation>위의 띠는 칼이 하는 일을 포함하여 프린터에서 나오는 그대로의 작업 전체를 보여 줍니다. 아래 줄은 그것을 말로 알려 줍니다.
+
+커팅 옵션을 가리키거나 F1을 누르면 그 기능과 달라지는 점을 읽을 수 있습니다.
+
+띠: 더하기와 빼기로 확대/축소, 0으로 맞춤, Enter로 라벨을 크게 표시. Ctrl+Z로 설정을 되돌립니다.</translation>
+    </message>
+    <message>
+        <source>The last piece has %1 of %2 labels.</source>
+        <translation>마지막 조각의 라벨은 %2장 중 %1장입니다.</translation>
+    </message>
+    <message>
+        <source>Cut every %1</source>
+        <translation>%1장마다 자르기</translation>
+    </message>
+    <message>
+        <source>All pieces are alike then</source>
+        <translation>그러면 모든 조각이 같아집니다</translation>
+    </message>
+    <message>
+        <source>Print %1 copies</source>
+        <translation>%1부 인쇄</translation>
+    </message>
+    <message>
+        <source>Print all of this?</source>
+        <translation>모두 인쇄하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>&amp;Print %1 labels</source>
+        <translation>라벨 %1장 인쇄(&amp;P)</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1414,7 +1556,7 @@
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished">%1, %2</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1 mm</source>
@@ -1530,7 +1672,7 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>feed behind the last label: %1</source>

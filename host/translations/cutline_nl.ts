@@ -615,6 +615,112 @@
     </message>
 </context>
 <context>
+    <name>cutline::ChoiceHints</name>
+    <message>
+        <source>The printer cuts the tape off after every so many labels, and behind the last one.</source>
+        <translation>De printer snijdt de tape telkens na zoveel etiketten af, en na het laatste.</translation>
+    </message>
+    <message>
+        <source>The printer cuts the tape off behind the last label.</source>
+        <translation>De printer snijdt de tape na het laatste etiket af.</translation>
+    </message>
+    <message>
+        <source>The knife goes through the printed layer only: the labels stay together on their backing, and peel off one by one.</source>
+        <translation>Het mes gaat alleen door de bedrukte laag: de etiketten blijven samen op de drager en zijn één voor één los te trekken.</translation>
+    </message>
+    <message>
+        <source>For tape that would harm the knife, such as fabric or heat-shrink tube: the printer never cuts it. Cut it with scissors.</source>
+        <translation>Voor tape die het mes zou beschadigen, zoals stof of krimpkous: de printer snijdt die nooit. Knip ze met een schaar.</translation>
+    </message>
+    <message>
+        <source>The last label stays in the printer, and the next job follows it without blank tape between them. Feed and cut at the printer after the last job.</source>
+        <translation>Het laatste etiket blijft in de printer en de volgende taak sluit erop aan, zonder lege tape ertussen. Voer na de laatste taak de tape bij de printer door en snij haar af.</translation>
+    </message>
+    <message>
+        <source>Prints mirrored, for labels that are read from behind or ironed on.</source>
+        <translation>Drukt gespiegeld af, voor etiketten die van achteren gelezen of opgestreken worden.</translation>
+    </message>
+    <message>
+        <source>Leaves out the blank space before and behind the print: each label is as long as what is on it.</source>
+        <translation>Laat de lege ruimte voor en achter de afdruk weg: elk etiket is zo lang als wat erop staat.</translation>
+    </message>
+    <message>
+        <source>Prints a mark at the ends of each label, where to cut by hand.</source>
+        <translation>Drukt aan de uiteinden van elk etiket een teken af waar met de hand te snijden.</translation>
+    </message>
+    <message>
+        <source>Saves %1 mm of tape.</source>
+        <translation>Bespaart %1 mm tape.</translation>
+    </message>
+    <message>
+        <source>Takes %1 mm more tape.</source>
+        <translation>Kost %1 mm meer tape.</translation>
+    </message>
+    <message>
+        <source>Would save %1 mm of tape.</source>
+        <translation>Zou %1 mm tape besparen.</translation>
+    </message>
+    <message>
+        <source>Would take %1 mm more tape.</source>
+        <translation>Zou %1 mm meer tape kosten.</translation>
+    </message>
+    <message>
+        <source>Pieces: %1 instead of %2.</source>
+        <translation>Stukken: %1 in plaats van %2.</translation>
+    </message>
+    <message>
+        <source>Pieces: would be %1 instead of %2.</source>
+        <translation>Stukken: zouden %1 zijn in plaats van %2.</translation>
+    </message>
+    <message>
+        <source>Special tape is never cut, so this cannot be chosen.</source>
+        <translation>Speciale tape wordt nooit gesneden, dus dit kan niet worden gekozen.</translation>
+    </message>
+    <message>
+        <source>Labels of this size lie at fixed places, so this cannot be chosen.</source>
+        <translation>Etiketten van dit formaat liggen op vaste plaatsen, dus dit kan niet worden gekozen.</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::CuttingForm</name>
+    <message>
+        <source>Never</source>
+        <translation>Nooit</translation>
+    </message>
+    <message>
+        <source>After each label</source>
+        <translation>Na elk etiket</translation>
+    </message>
+    <message>
+        <source>After every %1 labels</source>
+        <translation>Na elke %1 etiketten</translation>
+    </message>
+    <message>
+        <source>After each copy</source>
+        <translation>Na elk exemplaar</translation>
+    </message>
+    <message>
+        <source>After the last label</source>
+        <translation>Na het laatste etiket</translation>
+    </message>
+    <message>
+        <source>As the printer decides</source>
+        <translation>Zoals de printer beslist</translation>
+    </message>
+    <message>
+        <source>Cutting</source>
+        <translation>Snijden</translation>
+    </message>
+    <message>
+        <source>The driver&apos;s own choice</source>
+        <translation>Eigen keuze van het stuurprogramma</translation>
+    </message>
+    <message>
+        <source>Cut:</source>
+        <translation>Snijden:</translation>
+    </message>
+</context>
+<context>
     <name>cutline::DialogSession</name>
     <message>
         <source>Waiting for the print server...</source>
@@ -1187,6 +1293,42 @@
         <source>Summary</source>
         <translation>Overzicht</translation>
     </message>
+    <message>
+        <source>The strip shows the whole job as it leaves the printer, with what the knife does to it; the line below says it in words.
+
+Point at a cut option, or press F1 on it, to read what it does and what it would change.
+
+Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a setting.</source>
+        <translation>De strook toont de hele taak zoals ze uit de printer komt, met wat het mes doet; de regel eronder zegt het in woorden.
+
+Wijs een snijoptie aan, of druk er F1 op, om te lezen wat ze doet en wat ze zou veranderen.
+
+Strook: plus en min zoomen, 0 past in, Enter toont een etiket groot. Ctrl+Z maakt een instelling ongedaan.</translation>
+    </message>
+    <message>
+        <source>The last piece has %1 of %2 labels.</source>
+        <translation>Het laatste stuk heeft %1 van %2 etiketten.</translation>
+    </message>
+    <message>
+        <source>Cut every %1</source>
+        <translation>Elke %1 snijden</translation>
+    </message>
+    <message>
+        <source>All pieces are alike then</source>
+        <translation>Dan zijn alle stukken gelijk</translation>
+    </message>
+    <message>
+        <source>Print %1 copies</source>
+        <translation>%1 exemplaren afdrukken</translation>
+    </message>
+    <message>
+        <source>Print all of this?</source>
+        <translation>Dit allemaal afdrukken?</translation>
+    </message>
+    <message>
+        <source>&amp;Print %1 labels</source>
+        <translation>%1 etiketten &amp;afdrukken</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1414,7 +1556,7 @@
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished">%1, %2</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1 mm</source>
@@ -1530,7 +1672,7 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>feed behind the last label: %1</source>

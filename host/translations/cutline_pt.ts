@@ -615,6 +615,112 @@
     </message>
 </context>
 <context>
+    <name>cutline::ChoiceHints</name>
+    <message>
+        <source>The printer cuts the tape off after every so many labels, and behind the last one.</source>
+        <translation>A impressora corta a fita a cada tantas etiquetas e depois da última.</translation>
+    </message>
+    <message>
+        <source>The printer cuts the tape off behind the last label.</source>
+        <translation>A impressora corta a fita depois da última etiqueta.</translation>
+    </message>
+    <message>
+        <source>The knife goes through the printed layer only: the labels stay together on their backing, and peel off one by one.</source>
+        <translation>A lâmina atravessa só a camada impressa: as etiquetas ficam juntas no suporte e descolam-se uma a uma.</translation>
+    </message>
+    <message>
+        <source>For tape that would harm the knife, such as fabric or heat-shrink tube: the printer never cuts it. Cut it with scissors.</source>
+        <translation>Para fita que danificaria a lâmina, como tecido ou manga termorretrátil: a impressora nunca a corta. Corte-a com tesoura.</translation>
+    </message>
+    <message>
+        <source>The last label stays in the printer, and the next job follows it without blank tape between them. Feed and cut at the printer after the last job.</source>
+        <translation>A última etiqueta fica na impressora e o trabalho seguinte vem logo a seguir, sem fita em branco entre eles. Depois do último trabalho, avance e corte na impressora.</translation>
+    </message>
+    <message>
+        <source>Prints mirrored, for labels that are read from behind or ironed on.</source>
+        <translation>Imprime em espelho, para etiquetas lidas por trás ou aplicadas a ferro.</translation>
+    </message>
+    <message>
+        <source>Leaves out the blank space before and behind the print: each label is as long as what is on it.</source>
+        <translation>Retira o espaço em branco antes e depois da impressão: cada etiqueta é tão longa como o seu conteúdo.</translation>
+    </message>
+    <message>
+        <source>Prints a mark at the ends of each label, where to cut by hand.</source>
+        <translation>Imprime uma marca nas extremidades de cada etiqueta, onde cortar à mão.</translation>
+    </message>
+    <message>
+        <source>Saves %1 mm of tape.</source>
+        <translation>Poupa %1 mm de fita.</translation>
+    </message>
+    <message>
+        <source>Takes %1 mm more tape.</source>
+        <translation>Gasta mais %1 mm de fita.</translation>
+    </message>
+    <message>
+        <source>Would save %1 mm of tape.</source>
+        <translation>Pouparia %1 mm de fita.</translation>
+    </message>
+    <message>
+        <source>Would take %1 mm more tape.</source>
+        <translation>Gastaria mais %1 mm de fita.</translation>
+    </message>
+    <message>
+        <source>Pieces: %1 instead of %2.</source>
+        <translation>Pedaços: %1 em vez de %2.</translation>
+    </message>
+    <message>
+        <source>Pieces: would be %1 instead of %2.</source>
+        <translation>Pedaços: seriam %1 em vez de %2.</translation>
+    </message>
+    <message>
+        <source>Special tape is never cut, so this cannot be chosen.</source>
+        <translation>A fita especial nunca é cortada, por isso não se pode escolher.</translation>
+    </message>
+    <message>
+        <source>Labels of this size lie at fixed places, so this cannot be chosen.</source>
+        <translation>As etiquetas deste tamanho estão em lugares fixos, por isso não se pode escolher.</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::CuttingForm</name>
+    <message>
+        <source>Never</source>
+        <translation>Nunca</translation>
+    </message>
+    <message>
+        <source>After each label</source>
+        <translation>Depois de cada etiqueta</translation>
+    </message>
+    <message>
+        <source>After every %1 labels</source>
+        <translation>A cada %1 etiquetas</translation>
+    </message>
+    <message>
+        <source>After each copy</source>
+        <translation>Depois de cada cópia</translation>
+    </message>
+    <message>
+        <source>After the last label</source>
+        <translation>Depois da última etiqueta</translation>
+    </message>
+    <message>
+        <source>As the printer decides</source>
+        <translation>Conforme a impressora decidir</translation>
+    </message>
+    <message>
+        <source>Cutting</source>
+        <translation>Corte</translation>
+    </message>
+    <message>
+        <source>The driver&apos;s own choice</source>
+        <translation>Escolha do controlador</translation>
+    </message>
+    <message>
+        <source>Cut:</source>
+        <translation>Cortar:</translation>
+    </message>
+</context>
+<context>
     <name>cutline::DialogSession</name>
     <message>
         <source>Waiting for the print server...</source>
@@ -1187,6 +1293,42 @@
         <source>Summary</source>
         <translation>Resumo</translation>
     </message>
+    <message>
+        <source>The strip shows the whole job as it leaves the printer, with what the knife does to it; the line below says it in words.
+
+Point at a cut option, or press F1 on it, to read what it does and what it would change.
+
+Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a setting.</source>
+        <translation>A tira mostra o trabalho inteiro tal como sai da impressora, com o que a lâmina faz; a linha de baixo di-lo por palavras.
+
+Aponte para uma opção de corte, ou prima F1 sobre ela, para ler o que faz e o que mudaria.
+
+Tira: mais e menos para o zoom, 0 para ajustar, Enter mostra uma etiqueta em grande. Ctrl+Z desfaz uma definição.</translation>
+    </message>
+    <message>
+        <source>The last piece has %1 of %2 labels.</source>
+        <translation>O último pedaço tem %1 de %2 etiquetas.</translation>
+    </message>
+    <message>
+        <source>Cut every %1</source>
+        <translation>Cortar a cada %1</translation>
+    </message>
+    <message>
+        <source>All pieces are alike then</source>
+        <translation>Assim todos os pedaços são iguais</translation>
+    </message>
+    <message>
+        <source>Print %1 copies</source>
+        <translation>Imprimir %1 cópias</translation>
+    </message>
+    <message>
+        <source>Print all of this?</source>
+        <translation>Imprimir tudo isto?</translation>
+    </message>
+    <message>
+        <source>&amp;Print %1 labels</source>
+        <translation>&amp;Imprimir %1 etiquetas</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1414,7 +1556,7 @@
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished">%1, %2</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1 mm</source>
@@ -1530,7 +1672,7 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>feed behind the last label: %1</source>

@@ -615,6 +615,112 @@
     </message>
 </context>
 <context>
+    <name>cutline::ChoiceHints</name>
+    <message>
+        <source>The printer cuts the tape off after every so many labels, and behind the last one.</source>
+        <translation>打印机每隔指定数量的标签以及在最后一张之后切断标签带。</translation>
+    </message>
+    <message>
+        <source>The printer cuts the tape off behind the last label.</source>
+        <translation>打印机在最后一张标签之后切断标签带。</translation>
+    </message>
+    <message>
+        <source>The knife goes through the printed layer only: the labels stay together on their backing, and peel off one by one.</source>
+        <translation>刀只切开印刷层：标签仍连在底纸上，可逐张揭下。</translation>
+    </message>
+    <message>
+        <source>For tape that would harm the knife, such as fabric or heat-shrink tube: the printer never cuts it. Cut it with scissors.</source>
+        <translation>用于会损坏刀片的标签带，如布料或热缩管：打印机从不切断它。请用剪刀剪断。</translation>
+    </message>
+    <message>
+        <source>The last label stays in the printer, and the next job follows it without blank tape between them. Feed and cut at the printer after the last job.</source>
+        <translation>最后一张标签留在打印机内，下一个作业紧接其后，中间没有空白带。最后一个作业之后，请在打印机上走带并切断。</translation>
+    </message>
+    <message>
+        <source>Prints mirrored, for labels that are read from behind or ironed on.</source>
+        <translation>镜像打印，用于从背面阅读或熨烫的标签。</translation>
+    </message>
+    <message>
+        <source>Leaves out the blank space before and behind the print: each label is as long as what is on it.</source>
+        <translation>省去打印内容前后的空白：每张标签与其内容等长。</translation>
+    </message>
+    <message>
+        <source>Prints a mark at the ends of each label, where to cut by hand.</source>
+        <translation>在每张标签的两端打印手工裁切标记。</translation>
+    </message>
+    <message>
+        <source>Saves %1 mm of tape.</source>
+        <translation>节省 %1 mm 标签带。</translation>
+    </message>
+    <message>
+        <source>Takes %1 mm more tape.</source>
+        <translation>多用 %1 mm 标签带。</translation>
+    </message>
+    <message>
+        <source>Would save %1 mm of tape.</source>
+        <translation>选中可节省 %1 mm 标签带。</translation>
+    </message>
+    <message>
+        <source>Would take %1 mm more tape.</source>
+        <translation>选中会多用 %1 mm 标签带。</translation>
+    </message>
+    <message>
+        <source>Pieces: %1 instead of %2.</source>
+        <translation>段数：%1，而不是 %2。</translation>
+    </message>
+    <message>
+        <source>Pieces: would be %1 instead of %2.</source>
+        <translation>段数：选中后为 %1，而不是 %2。</translation>
+    </message>
+    <message>
+        <source>Special tape is never cut, so this cannot be chosen.</source>
+        <translation>特殊标签带从不切断，因此无法选择。</translation>
+    </message>
+    <message>
+        <source>Labels of this size lie at fixed places, so this cannot be chosen.</source>
+        <translation>此尺寸的标签位置固定，因此无法选择。</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::CuttingForm</name>
+    <message>
+        <source>Never</source>
+        <translation>从不</translation>
+    </message>
+    <message>
+        <source>After each label</source>
+        <translation>每张标签之后</translation>
+    </message>
+    <message>
+        <source>After every %1 labels</source>
+        <translation>每 %1 张标签之后</translation>
+    </message>
+    <message>
+        <source>After each copy</source>
+        <translation>每份之后</translation>
+    </message>
+    <message>
+        <source>After the last label</source>
+        <translation>最后一张标签之后</translation>
+    </message>
+    <message>
+        <source>As the printer decides</source>
+        <translation>由打印机决定</translation>
+    </message>
+    <message>
+        <source>Cutting</source>
+        <translation>裁切</translation>
+    </message>
+    <message>
+        <source>The driver&apos;s own choice</source>
+        <translation>驱动程序自行选择</translation>
+    </message>
+    <message>
+        <source>Cut:</source>
+        <translation>裁切：</translation>
+    </message>
+</context>
+<context>
     <name>cutline::DialogSession</name>
     <message>
         <source>Waiting for the print server...</source>
@@ -1187,6 +1293,42 @@
         <source>Summary</source>
         <translation>摘要</translation>
     </message>
+    <message>
+        <source>The strip shows the whole job as it leaves the printer, with what the knife does to it; the line below says it in words.
+
+Point at a cut option, or press F1 on it, to read what it does and what it would change.
+
+Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a setting.</source>
+        <translation>长条显示整个作业从打印机出来时的样子，包括刀的动作；下面一行用文字说明。
+
+指向某个裁切选项，或在其上按 F1，可查看其作用及会带来的变化。
+
+长条：加号和减号缩放，0 适合窗口，Enter 放大显示标签。Ctrl+Z 撤销设置。</translation>
+    </message>
+    <message>
+        <source>The last piece has %1 of %2 labels.</source>
+        <translation>最后一段只有 %1/%2 张标签。</translation>
+    </message>
+    <message>
+        <source>Cut every %1</source>
+        <translation>每 %1 张裁切</translation>
+    </message>
+    <message>
+        <source>All pieces are alike then</source>
+        <translation>这样每段都相同</translation>
+    </message>
+    <message>
+        <source>Print %1 copies</source>
+        <translation>打印 %1 份</translation>
+    </message>
+    <message>
+        <source>Print all of this?</source>
+        <translation>全部打印吗？</translation>
+    </message>
+    <message>
+        <source>&amp;Print %1 labels</source>
+        <translation>打印 %1 张标签(&amp;P)</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1414,7 +1556,7 @@
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished">%1，%2</translation>
+        <translation>%1，%2</translation>
     </message>
     <message>
         <source>%1 mm</source>
@@ -1530,7 +1672,7 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1：%2</translation>
+        <translation>%1：%2</translation>
     </message>
     <message>
         <source>feed behind the last label: %1</source>

@@ -615,6 +615,112 @@
     </message>
 </context>
 <context>
+    <name>cutline::ChoiceHints</name>
+    <message>
+        <source>The printer cuts the tape off after every so many labels, and behind the last one.</source>
+        <translation>印表機每隔指定張數的標籤以及在最後一張之後切斷標籤帶。</translation>
+    </message>
+    <message>
+        <source>The printer cuts the tape off behind the last label.</source>
+        <translation>印表機在最後一張標籤之後切斷標籤帶。</translation>
+    </message>
+    <message>
+        <source>The knife goes through the printed layer only: the labels stay together on their backing, and peel off one by one.</source>
+        <translation>刀只切開印刷層：標籤仍連在底紙上，可逐張撕下。</translation>
+    </message>
+    <message>
+        <source>For tape that would harm the knife, such as fabric or heat-shrink tube: the printer never cuts it. Cut it with scissors.</source>
+        <translation>用於會損壞刀片的標籤帶，如布料或熱縮管：印表機從不切斷它。請用剪刀剪斷。</translation>
+    </message>
+    <message>
+        <source>The last label stays in the printer, and the next job follows it without blank tape between them. Feed and cut at the printer after the last job.</source>
+        <translation>最後一張標籤留在印表機內，下一個工作緊接其後，中間沒有空白帶。最後一個工作之後，請在印表機上送帶並切斷。</translation>
+    </message>
+    <message>
+        <source>Prints mirrored, for labels that are read from behind or ironed on.</source>
+        <translation>鏡像列印，用於從背面閱讀或熨燙的標籤。</translation>
+    </message>
+    <message>
+        <source>Leaves out the blank space before and behind the print: each label is as long as what is on it.</source>
+        <translation>省去列印內容前後的空白：每張標籤與其內容等長。</translation>
+    </message>
+    <message>
+        <source>Prints a mark at the ends of each label, where to cut by hand.</source>
+        <translation>在每張標籤的兩端列印手工裁切標記。</translation>
+    </message>
+    <message>
+        <source>Saves %1 mm of tape.</source>
+        <translation>節省 %1 mm 標籤帶。</translation>
+    </message>
+    <message>
+        <source>Takes %1 mm more tape.</source>
+        <translation>多用 %1 mm 標籤帶。</translation>
+    </message>
+    <message>
+        <source>Would save %1 mm of tape.</source>
+        <translation>選取可節省 %1 mm 標籤帶。</translation>
+    </message>
+    <message>
+        <source>Would take %1 mm more tape.</source>
+        <translation>選取會多用 %1 mm 標籤帶。</translation>
+    </message>
+    <message>
+        <source>Pieces: %1 instead of %2.</source>
+        <translation>段數：%1，而不是 %2。</translation>
+    </message>
+    <message>
+        <source>Pieces: would be %1 instead of %2.</source>
+        <translation>段數：選取後為 %1，而不是 %2。</translation>
+    </message>
+    <message>
+        <source>Special tape is never cut, so this cannot be chosen.</source>
+        <translation>特殊標籤帶從不切斷，因此無法選擇。</translation>
+    </message>
+    <message>
+        <source>Labels of this size lie at fixed places, so this cannot be chosen.</source>
+        <translation>此尺寸的標籤位置固定，因此無法選擇。</translation>
+    </message>
+</context>
+<context>
+    <name>cutline::CuttingForm</name>
+    <message>
+        <source>Never</source>
+        <translation>從不</translation>
+    </message>
+    <message>
+        <source>After each label</source>
+        <translation>每張標籤之後</translation>
+    </message>
+    <message>
+        <source>After every %1 labels</source>
+        <translation>每 %1 張標籤之後</translation>
+    </message>
+    <message>
+        <source>After each copy</source>
+        <translation>每份之後</translation>
+    </message>
+    <message>
+        <source>After the last label</source>
+        <translation>最後一張標籤之後</translation>
+    </message>
+    <message>
+        <source>As the printer decides</source>
+        <translation>由印表機決定</translation>
+    </message>
+    <message>
+        <source>Cutting</source>
+        <translation>裁切</translation>
+    </message>
+    <message>
+        <source>The driver&apos;s own choice</source>
+        <translation>驅動程式自行選擇</translation>
+    </message>
+    <message>
+        <source>Cut:</source>
+        <translation>裁切：</translation>
+    </message>
+</context>
+<context>
     <name>cutline::DialogSession</name>
     <message>
         <source>Waiting for the print server...</source>
@@ -1187,6 +1293,42 @@
         <source>Summary</source>
         <translation>摘要</translation>
     </message>
+    <message>
+        <source>The strip shows the whole job as it leaves the printer, with what the knife does to it; the line below says it in words.
+
+Point at a cut option, or press F1 on it, to read what it does and what it would change.
+
+Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a setting.</source>
+        <translation>長條顯示整個工作從印表機出來時的樣子，包括刀的動作；下面一行用文字說明。
+
+指向某個裁切選項，或在其上按 F1，可查看其作用及會帶來的變化。
+
+長條：加號和減號縮放，0 適合視窗，Enter 放大顯示標籤。Ctrl+Z 復原設定。</translation>
+    </message>
+    <message>
+        <source>The last piece has %1 of %2 labels.</source>
+        <translation>最後一段只有 %1/%2 張標籤。</translation>
+    </message>
+    <message>
+        <source>Cut every %1</source>
+        <translation>每 %1 張裁切</translation>
+    </message>
+    <message>
+        <source>All pieces are alike then</source>
+        <translation>這樣每段都相同</translation>
+    </message>
+    <message>
+        <source>Print %1 copies</source>
+        <translation>列印 %1 份</translation>
+    </message>
+    <message>
+        <source>Print all of this?</source>
+        <translation>全部列印嗎？</translation>
+    </message>
+    <message>
+        <source>&amp;Print %1 labels</source>
+        <translation>列印 %1 張標籤(&amp;P)</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1414,7 +1556,7 @@
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished">%1，%2</translation>
+        <translation>%1，%2</translation>
     </message>
     <message>
         <source>%1 mm</source>
@@ -1530,7 +1672,7 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1：%2</translation>
+        <translation>%1：%2</translation>
     </message>
     <message>
         <source>feed behind the last label: %1</source>
