@@ -1,10 +1,12 @@
 #include "host/dialog/PanelViews.h"
 
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 #include <memory>
 
+#include "platform/ports/PopUpButton.h"
 #include "qt/QtText.h"
 #include "qt/QtToolkit.h"
 #include "qt/accessibility.h"
@@ -59,7 +61,7 @@ void PanelFrame::addPanel(const PanelEntry& panel) {
   QWidget* widget = QtToolkit::widgetOf(*panel.view);
   if (!widget) return;
   mViews.push_back(panel.view);
-  mColumn->addWidget(makeHeading(toQString(panel.name), this));
+  mColumn->addWidget(makeHeadingRow(panel));
   auto* box = new QWidget(this);
   setAccessibleRole(*box, QAccessible::Grouping);
   box->setAccessibleName(toQString(panel.name));
@@ -69,6 +71,28 @@ void PanelFrame::addPanel(const PanelEntry& panel) {
   mColumn->addWidget(box, 0, Qt::AlignLeft);
   widget->setVisible(!panel.view->isHidden());
   QtToolkit::orderTabs(*panel.view);
+}
+
+// A panel's pop-up has words for those who hear it alone; the heading has them for everybody, right
+// above it.
+QWidget* PanelFrame::makeHeadingRow(const PanelEntry& panel) {
+  auto* row = new QWidget(this);
+  auto* line = new QHBoxLayout(row);
+  line->setContentsMargins(0, 0, 0, 0);
+  line->setSpacing(0);
+  QLabel* const heading = makeHeading(toQString(panel.name), row);
+  line->addWidget(heading);
+  for (const std::shared_ptr<View>& each : panel.view->subviews()) {
+    if (dynamic_cast<PopUpButton*>(each.get()) == nullptr) continue;
+    heading->setMinimumWidth(static_cast<int>(each->frame().origin.x));
+    auto* caption =
+        new QLabel(SummaryView::tr("%1:").arg(toQString(each->accessibilityLabel())), row);
+    caption->setTextFormat(Qt::PlainText);
+    caption->setBuddy(QtToolkit::widgetOf(*each));
+    line->addWidget(caption);
+  }
+  line->addStretch(1);
+  return row;
 }
 
 void PanelFrame::sayThatThereAreNone() {

@@ -26,6 +26,7 @@ class PanelFrame : public QWidget {
 
  private:
   void addPanel(const PanelEntry& panel);
+  QWidget* makeHeadingRow(const PanelEntry& panel);
   void sayThatThereAreNone();
 
   QVBoxLayout* mColumn;
