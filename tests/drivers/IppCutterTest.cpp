@@ -65,6 +65,34 @@ TEST_F(IppCutter, IsToldWhatThePlanSays) {
   }
 }
 
+struct Meant {
+  CutMeaning meaning;
+  const char* finishings;
+  int fullCuts;  // -1: nobody here knows
+};
+constexpr Meant kMeant[] = {
+    {CutMeaning::never, "none", 0},
+    {CutMeaning::eachLabel, "trim-after-pages", 12},
+    {CutMeaning::atEnd, "trim-after-job", 1},
+    {CutMeaning::printerDecides, "trim", -1},
+};
+
+TEST_F(IppCutter, IsToldWhatIsMeant) {
+  // From a choice that is none of them, so that each has an assignment.
+  const std::vector<CutOffer> offers = offersOf("ippcutter", {{"CutMedia", "EndOfDoc"}});
+  ASSERT_EQ(offers.size(), std::size(kMeant));
+  for (std::size_t at = 0; at < offers.size(); ++at) {
+    EXPECT_EQ(offers[at].meaning, kMeant[at].meaning) << at;
+    // What is in force has none.
+    const OptionList assignment = offers[at].assignment.empty()
+                                      ? OptionList{{"CutMedia", "EndOfJob"}}
+                                      : offers[at].assignment;
+    const std::string words = wordsOf(assignment);
+    EXPECT_EQ(printed(words).finishings, kMeant[at].finishings) << words;
+    EXPECT_EQ(planFor("-d ippcutter" + words)["full_cuts"].toInt(-1), kMeant[at].fullCuts) << words;
+  }
+}
+
 // The print system sends the copies as so many pages, so the printer has no copy to cut behind.
 TEST_F(IppCutter, KnowsOfNoCopies) {
   for (const char* order : {"-o collate=true", "-o collate=false"}) {

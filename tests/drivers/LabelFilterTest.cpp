@@ -112,6 +112,26 @@ TEST_F(LabelFilter, DoesNotTellThePrinterTheInterval) {
   EXPECT_EQ(planFor("-d intervals")["full_cuts"].toInt(-1), 0);
 }
 
+std::vector<CutMeaning> meaningsOf(const std::vector<CutOffer>& offers) {
+  std::vector<CutMeaning> meanings;
+  for (const CutOffer& offer : offers) meanings.push_back(offer.meaning);
+  return meanings;
+}
+
+TEST_F(LabelFilter, IsOfferedWithWhatItCanDo) {
+  using enum CutMeaning;
+  const std::vector<CutOffer> modes = offersOf("modes");
+  ASSERT_EQ(meaningsOf(modes), (std::vector{never, eachLabel, printerDecides}));
+  EXPECT_EQ(countOf("^MMC", sent("modes", wordsOf(modes[1].assignment))), 12);
+  const std::vector<CutOffer> intervals = offersOf("intervals");
+  ASSERT_EQ(meaningsOf(intervals), (std::vector{never, printerDecides}));
+  EXPECT_EQ(countOf("\x1b!p2M", sent("intervals", wordsOf(intervals[1].assignment))), 1);
+  const std::vector<CutOffer> cutter = offersOf("cutter", {{"zePrintMode", "Tear"}});
+  ASSERT_EQ(meaningsOf(cutter), (std::vector{never, eachLabel, printerDecides}));
+  // Behind each label says more than behind each page with its copies.
+  EXPECT_EQ(wordsOf(cutter[1].assignment), " -o zePrintMode=Cutter");
+}
+
 TEST_F(LabelFilter, SaysItInWords) {
   EXPECT_TRUE(program("--plan -d modes " + labels())
                   .output.starts_with("12 labels; the printer decides where to cut\n"));

@@ -6,7 +6,9 @@
 #include <QJsonObject>
 #include <memory>
 #include <string>
+#include <vector>
 
+#include "host/core/CutMeanings.h"
 #include "tests/support/Command.h"
 #include "tests/support/PrivateServer.h"
 
@@ -24,6 +26,11 @@ class OtherDriversTest : public testing::Test {
   static CommandResult program(const std::string& words);
   // The object of `cutline --plan --json WORDS` for the sample's labels; empty where it fails.
   static QJsonObject planFor(const std::string& words);
+  // What the queue's driver can be asked to cut, with the installed words. `marks` are chosen
+  // first.
+  static std::vector<CutOffer> offersOf(const std::string& queue, const OptionList& marks = {});
+  // The assignment as words of the command line.
+  static std::string wordsOf(const OptionList& assignment);
   // Prints the sample's labels with these words and waits until they are out.
   static void print(const std::string& words);
 };
