@@ -98,6 +98,7 @@ void StripDrawing::drawBack(const Lane& lane) const {
 }
 
 void StripDrawing::drawSigns(const Lane& lane) const {
+  drawPrinter(lane);
   if (lane.first == 1) drawLeaderSigns(lane);
   const StripLayout::Range seen = mLayout.labelsIn(lane, mArea);
   for (std::uint64_t label = seen.first; label <= seen.last; ++label) drawJoin(lane, label);
@@ -134,9 +135,12 @@ void StripDrawing::drawEnd(const Lane& lane) const {
   if (mRules.atEnd() == Cut::Half) mSigns.drawHalfCut(end, lane.across);
   if (mRules.atEnd() == Cut::Full)
     mSigns.drawFullCut(end + line.feed() + line.gap() / 2, lane.across);
-  if (mContent.plan.end() != PieceRun::End::StaysInPrinter) return;
+}
+
+void StripDrawing::drawPrinter(const Lane& lane) const {
+  if (!isLast(lane.last) || mContent.plan.end() != PieceRun::End::StaysInPrinter) return;
   mSigns.drawPrinter(mLayout.along(lane, lane.last), lane.across,
-                     line.labelLength() + line.endLength());
+                     mLayout.line().labelLength() + mLayout.line().endLength());
 }
 
 // None where the places on the tape are not known.

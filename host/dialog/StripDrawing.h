@@ -34,6 +34,7 @@ class StripDrawing {
   void drawLeaderSigns(const Lane& lane) const;
   void drawJoin(const Lane& lane, std::uint64_t label) const;
   void drawEnd(const Lane& lane) const;
+  void drawPrinter(const Lane& lane) const;
 
   const StripCanvas& mCanvas;
   const StripContent& mContent;

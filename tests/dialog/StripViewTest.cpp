@@ -1,8 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QScrollBar>
 #include <QTest>
+#include <QWheelEvent>
+#include <algorithm>
 #include <cstdlib>
 
 #include "host/dialog/LabelAsSeen.h"
@@ -190,6 +194,145 @@ TEST_F(StripViewTest, WithoutADocumentAnEmptyLabelIsShown) {
   QTest::mouseClick(mStrip.viewport(), Qt::LeftButton, Qt::NoModifier, label.center().toPoint());
   QTest::keyClick(&mStrip, Qt::Key_PageDown);
   EXPECT_EQ(mStrip.currentLabel(), 1U);
+}
+
+// One lane after the other of a job that nobody could lay out label by label.
+StripContent hundredMillion() {
+  CutSettings settings = tapeSettings();
+  settings.cutsAutomatically = true;
+  StripContent content = jobOf(10'000, settings);
+  LabelRun run = content.plan.run();
+  run.copies = 10'000;
+  content.plan = CutPlan(settings, run);
+  return content;
+}
+
+TEST_F(StripViewTest, AHundredMillionLabelsAreScrolledThrough) {
+  constexpr std::uint64_t kAll = 100'000'000;
+  mStrip.setContent(hundredMillion());
+  ASSERT_EQ(mStrip.labelCount(), kAll);
+  QTest::keyClick(&mStrip, Qt::Key_End);
+  EXPECT_EQ(mStrip.currentLabel(), kAll);
+  EXPECT_EQ(mWanted.back().page, 9999);
+  const QRectF seen(mStrip.offset(), QSizeF(mStrip.viewport()->size()));
+  EXPECT_TRUE(seen.contains(mStrip.stripLayout()->label(kAll).center()));
+  const std::uint64_t middle = kAll / 2 + 1;
+  mStrip.setCurrentLabel(middle);
+  const QPointF place = mStrip.stripLayout()->label(middle).center() - mStrip.offset();
+  EXPECT_TRUE(mStrip.viewport()->rect().contains(place.toPoint()));
+  QTest::mouseClick(mStrip.viewport(), Qt::LeftButton, Qt::NoModifier, place.toPoint());
+  EXPECT_EQ(mStrip.currentLabel(), middle);
+  for (int i = 0; i < 20; ++i) mStrip.zoomIn();
+  QTest::keyClick(&mStrip, Qt::Key_End);
+  const QRectF close(mStrip.offset(), QSizeF(mStrip.viewport()->size()));
+  EXPECT_TRUE(close.intersects(mStrip.stripLayout()->label(kAll)));
+}
+
+// Copies of a page have one picture.
+TEST_F(StripViewTest, WantsThePictureOfCopiesOnce) {
+  mStrip.setContent(hundredMillion());
+  ASSERT_EQ(mWanted.size(), 1U);
+  EXPECT_EQ(mWanted.front().page, 0);
+}
+
+TEST_F(StripViewTest, TheSameJobAgainChangesNothing) {
+  mWanted.clear();
+  mStrip.setContent(jobOf(40));
+  EXPECT_TRUE(mWanted.empty());
+}
+
+TEST_F(StripViewTest, EnterShowsALabelLargeAndEscapeGoesBack) {
+  mStrip.setCurrentLabel(5);
+  const QPointF before = mStrip.offset();
+  const double height = mStrip.stripLayout()->breadth();
+  QTest::keyClick(&mStrip, Qt::Key_Return);
+  ASSERT_TRUE(mStrip.isLarge());
+  EXPECT_GT(mStrip.stripLayout()->breadth(), 1.5 * height);
+  const QRectF label = mStrip.stripLayout()->label(5).translated(-mStrip.offset());
+  EXPECT_TRUE(QRectF(mStrip.viewport()->rect()).contains(label));
+  QTest::keyClick(&mStrip, Qt::Key_Escape);
+  EXPECT_FALSE(mStrip.isLarge());
+  EXPECT_EQ(mStrip.offset(), before);
+  EXPECT_EQ(mStrip.stripLayout()->breadth(), height);
+}
+
+TEST_F(StripViewTest, ADoubleClickShowsALabelLargeAndAClickGoesBack) {
+  const auto placeOf = [this](std::uint64_t label) {
+    return (mStrip.stripLayout()->label(label).center() - mStrip.offset()).toPoint();
+  };
+  QTest::mouseDClick(mStrip.viewport(), Qt::LeftButton, Qt::NoModifier, placeOf(2));
+  QTest::mouseRelease(mStrip.viewport(), Qt::LeftButton, Qt::NoModifier, placeOf(2));
+  EXPECT_TRUE(mStrip.isLarge());
+  QTest::mouseClick(mStrip.viewport(), Qt::LeftButton, Qt::NoModifier, {250, 130});
+  EXPECT_FALSE(mStrip.isLarge());
+  // The second click of two that were meant to go back shows nothing large.
+  QTest::keyClick(&mStrip, Qt::Key_Return);
+  QTest::mouseClick(mStrip.viewport(), Qt::LeftButton, Qt::NoModifier, {250, 130});
+  QTest::mouseDClick(mStrip.viewport(), Qt::LeftButton, Qt::NoModifier, {250, 130});
+  EXPECT_FALSE(mStrip.isLarge());
+}
+
+TEST_F(StripViewTest, KeysStepThroughLargeLabels) {
+  QTest::keyClick(&mStrip, Qt::Key_Return);
+  QTest::keyClick(&mStrip, Qt::Key_PageDown);
+  EXPECT_TRUE(mStrip.isLarge());
+  const QRectF label = mStrip.stripLayout()->label(2).translated(-mStrip.offset());
+  EXPECT_TRUE(QRectF(mStrip.viewport()->rect()).contains(label));
+}
+
+QAction* actionOf(const QWidget& view, const char* text) {
+  for (const QMenu* menu : view.findChildren<QMenu*>()) {
+    for (QAction* action : menu->actions()) {
+      if (action->text() == QLatin1String(text)) return action;
+    }
+  }
+  return nullptr;
+}
+
+TEST_F(StripViewTest, TheMenuOfALabelAsksForThisOneAlone) {
+  unsigned wanted = 0;
+  QObject::connect(&mStrip, &StripView::onlyThisWanted, [&](unsigned page) { wanted = page; });
+  StripContent content = jobOf(12);
+  LabelRun run = content.plan.run();
+  std::reverse(run.pages.begin(), run.pages.end());
+  content.plan = CutPlan(tapeSettings(), run);
+  mStrip.setContent(content);
+  const QPoint place = (mStrip.stripLayout()->label(3).center() - mStrip.offset()).toPoint();
+  QContextMenuEvent click(QContextMenuEvent::Mouse, place, mStrip.mapToGlobal(place));
+  QApplication::sendEvent(mStrip.viewport(), &click);
+  EXPECT_EQ(mStrip.currentLabel(), 3U);
+  QAction* only = actionOf(mStrip, "Print this label only");
+  ASSERT_NE(only, nullptr);
+  only->trigger();
+  EXPECT_EQ(wanted, 10U);
+  QAction* large = actionOf(mStrip, "Show large");
+  ASSERT_NE(large, nullptr);
+  large->trigger();
+  EXPECT_TRUE(mStrip.isLarge());
+}
+
+TEST_F(StripViewTest, AWheelMovesLanesThatLieSideBySide) {
+  CutSettings settings;
+  settings.isRoll = true;
+  mStrip.setContent(jobOf(100, settings, {175.748, 82.205, 4, 4, 171, 78}));
+  ASSERT_GT(mStrip.horizontalScrollBar()->maximum(), 0);
+  ASSERT_EQ(mStrip.verticalScrollBar()->maximum(), 0);
+  const QPointF middle(200, 100);
+  QWheelEvent down(middle, mStrip.viewport()->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton,
+                   Qt::NoModifier, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(mStrip.viewport(), &down);
+  EXPECT_GT(mStrip.horizontalScrollBar()->value(), 0);
+}
+
+TEST_F(StripViewTest, AJobWithoutLabelsDoesNoHarm) {
+  StripContent content = jobOf(12);
+  content.plan = CutPlan(tapeSettings(), LabelRun{});
+  mStrip.setContent(content);
+  EXPECT_EQ(mStrip.labelCount(), 0U);
+  EXPECT_FALSE(grabbed().isNull());
+  QTest::keyClick(&mStrip, Qt::Key_End);
+  QTest::keyClick(&mStrip, Qt::Key_Return);
+  EXPECT_FALSE(mStrip.isLarge());
 }
 
 }  // namespace
