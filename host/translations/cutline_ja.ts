@@ -1672,7 +1672,7 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1: %2</translation>
+        <translation>%1：%2</translation>
     </message>
     <message>
         <source>feed behind the last label: %1</source>

@@ -260,6 +260,20 @@ TEST(PageCacheTest, AnOldPictureIsShownAndNotTheOneThatIsWanted) {
   EXPECT_FALSE(cache.image(0).isNull());
 }
 
+TEST(PageCacheTest, HasRoomForWhatIsSeenAndForgetsTheRest) {
+  PageCache cache;
+  QImage image(4, 4, QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::white);
+  cache.setRoom(100);
+  for (int page = 0; page < 120; ++page) cache.insert(page, 1, image);
+  EXPECT_TRUE(cache.has(119, 1));
+  EXPECT_TRUE(cache.has(20, 1));
+  EXPECT_FALSE(cache.has(19, 1));
+  cache.setRoom(0);
+  EXPECT_TRUE(cache.has(80, 1));
+  EXPECT_FALSE(cache.has(79, 1));
+}
+
 }  // namespace
 
 }  // namespace cutline

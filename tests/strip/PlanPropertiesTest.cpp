@@ -137,6 +137,20 @@ TEST_F(EachPlan, CutsBetweenLabelsWhereTheRulesSay) {
   });
 }
 
+TEST_F(EachPlan, KnowsHowManyCutsLieBeforeALabel) {
+  forMany([](const CutPlan& plan, const CutSettings&) {
+    std::uint64_t cuts = 0;
+    for (const StripEvent& event : eventsOf(plan)) {
+      if (event.kind == StripEventKind::FullCut && event.label > 0) ++cuts;
+      if (event.kind != StripEventKind::Label) continue;
+      EXPECT_EQ(plan.rules().fullCutsBefore(event.label), cuts) << event.label;
+    }
+    EXPECT_EQ(plan.labels() == 0, plan.pieceRuns().empty());
+    if (plan.labels() == 0) return;
+    EXPECT_EQ(plan.end(), plan.pieceRuns().back().end);
+  });
+}
+
 TEST_F(EachPlan, NeverLetsTheKnifeMeetSpecialTape) {
   forMany([](const CutPlan& plan, const CutSettings& asked) {
     if (!asked.isSpecialTape) return;
