@@ -7,14 +7,14 @@
 namespace cutline {
 namespace {
 
-constexpr double kMargin = 10;
-constexpr double kLaneGap = 8;
+constexpr double kMargin = 8;
+constexpr double kLaneGap = 4;
 constexpr double kKnives = 15;
 constexpr double kBacking = 5;
 constexpr double kMostScale = 2.6;
 // The least of a label, across a tape or the shorter way on a roll, that is not shown smaller by
 // itself.
-constexpr double kReadableTape = 56;
+constexpr double kReadableTape = 50;
 constexpr double kReadableRoll = 44;
 constexpr int kSteps = 40;  // to the scale that fits
 

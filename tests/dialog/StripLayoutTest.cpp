@@ -50,7 +50,7 @@ TEST(StripLayoutTest, TheWholeJobIsInSightWhereItStaysReadable) {
     const StripLayout layout = layoutOf(jobOf(pages));
     EXPECT_LE(layout.size().width(), kRoom.view.width()) << pages;
     EXPECT_LE(layout.size().height(), kRoom.view.height()) << pages;
-    EXPECT_GE(layout.breadth(), 56) << pages;
+    EXPECT_GE(layout.breadth(), 50) << pages;
   }
 }
 
@@ -65,7 +65,7 @@ TEST(StripLayoutTest, AJobIsShownAsLargeAsItFits) {
 
 TEST(StripLayoutTest, ALongJobStaysReadableAndIsScrolled) {
   const StripLayout layout = layoutOf(jobOf(300));
-  EXPECT_NEAR(layout.breadth(), 56, kNear);
+  EXPECT_NEAR(layout.breadth(), 50, kNear);
   EXPECT_LE(layout.size().width(), kRoom.view.width());
   EXPECT_GT(layout.size().height(), kRoom.view.height());
 }
