@@ -1,6 +1,7 @@
 // Which pages of a document are printed: page ranges as people type them and as IPP wants them.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,7 +31,7 @@ class PageRanges {
     int first;  // counted from 1
     int last;   // the largest number for an open end
   };
-  static bool parseRange(const std::string& text, Range& range);
+  static std::optional<Sentence> parseRange(const std::string& text, Range& range);
 
   std::string mText;
   std::vector<Range> mRanges;

@@ -31,9 +31,13 @@ struct Destination {
   PrinterState state = PrinterState::unknown;
   bool acceptsJobs = true;
   std::vector<std::string> stateReasons;  // IPP printer-state-reasons without "none"
-  OptionList savedOptions;  // the user's saved options for this destination or instance only
-  DeviceFacts device;       // what the printer itself says; only where it was asked
+  std::string stateMessage;  // the printer's own words or those of whoever paused it; may be empty
+  long stateSince = 0;       // seconds since 1970 that it is in this state; 0 when not told
+  OptionList savedOptions;   // the user's saved options for this destination or instance only
+  DeviceFacts device;        // what the printer itself says; only where it was asked
 
+  // Whether one of the reasons keeps it from printing until somebody does something.
+  bool needsAttention() const;
   // The state in plain words, such as "Ready" or "Paused - label roll is empty".
   Sentence stateText() const;
 };

@@ -60,6 +60,7 @@ Destination destinationOf(const cups_dest_t& dest) {
   destination.state = stateOf(numberIn<int>(valueOf(dest, "printer-state")).value_or(0));
   destination.acceptsJobs = valueOf(dest, "printer-is-accepting-jobs") != "false";
   destination.stateReasons = reasonsOf(partsBetweenCommas(valueOf(dest, "printer-state-reasons")));
+  destination.stateSince = numberIn<int>(valueOf(dest, "printer-state-change-time")).value_or(0);
   destination.savedOptions = savedOptionsFor(destination.name).value_or(OptionList{});
   return destination;
 }
@@ -138,9 +139,14 @@ Error unknownInstance(const DestinationName& name) {
 }
 
 IppMessage askedFor(http_t* http, const std::string& printer) {
-  constexpr std::array kWanted{"printer-name",  "printer-info",
-                               "device-uri",    "printer-is-accepting-jobs",
-                               "printer-state", "printer-state-reasons"};
+  constexpr std::array kWanted{"printer-name",
+                               "printer-info",
+                               "device-uri",
+                               "printer-state",
+                               "printer-state-reasons",
+                               "printer-is-accepting-jobs",
+                               "printer-state-message",
+                               "printer-state-change-time"};
   IppMessage request = newPrinterRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, printer);
   ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
                cupsUser());
@@ -164,6 +170,8 @@ std::optional<Destination> askForPrinter(http_t* http, const std::string& printe
   destination.state = stateOf(ippNumber(answer.get(), "printer-state", IPP_TAG_ENUM).value_or(0));
   destination.acceptsJobs = !accepts || ippGetBoolean(accepts, 0);
   destination.stateReasons = reasonsOf(ippKeywords(answer.get(), "printer-state-reasons"));
+  destination.stateMessage = ippText(answer.get(), "printer-state-message", IPP_TAG_TEXT);
+  destination.stateSince = ippNumber(answer.get(), "printer-state-change-time").value_or(0);
   destination.savedOptions = savedOptionsFor(destination.name).value_or(OptionList{});
   return destination;
 }
@@ -202,6 +210,10 @@ Result<Destination> findDestination(const ServerOptions& server,
   const auto connection = ServerConnection::open(server);
   if (!connection) return connection.error();
   return name ? findNamed(connection->get(), *name) : findDefault(connection->get());
+}
+
+bool serverAnswers(const ServerOptions& server) {
+  return static_cast<bool>(ServerConnection::open(server));
 }
 
 Result<Done> saveDestinationOptions(const DestinationName& name, const OptionList& options) {

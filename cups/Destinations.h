@@ -19,6 +19,9 @@ Result<std::vector<Destination>> listDestinations(const ServerOptions& server);
 Result<Destination> findDestination(const ServerOptions& server,
                                     const std::optional<DestinationName>& name);
 
+// Whether there is a print server at all, whatever it says. May block for a while.
+bool serverAnswers(const ServerOptions& server);
+
 // Saves the options as those of the destination or instance, as lpoptions does, in the user's file.
 // No server is asked.
 Result<Done> saveDestinationOptions(const DestinationName& name, const OptionList& options);

@@ -35,10 +35,11 @@ enum LongOption {
   kVersion
 };
 
-constexpr char kShortOptions[] = ":d:n:P:t:o:h:EU:";
+constexpr char kShortOptions[] = ":d:n:P:t:o:h:EU:q";
 constexpr option kLongOptions[] = {{"ppd", required_argument, nullptr, kPpd},
                                    {"print", no_argument, nullptr, kPrint},
                                    {"dry-run", required_argument, nullptr, kDryRun},
+                                   {"quiet", no_argument, nullptr, 'q'},
                                    {"wait", no_argument, nullptr, kWait},
                                    {"summary", no_argument, nullptr, kSummary},
                                    {"options", no_argument, nullptr, kOptions},
@@ -61,12 +62,13 @@ Print labels and tapes: shows a print dialog with the printer's cut options.
 
   -d PRINTER[/INSTANCE]  the printer, or a saved preset of it; your default printer when absent
   -n COPIES              number of copies
-  -P PAGES               pages to print, such as 1-4,7
+  -P PAGES               pages to print, such as 1-3,5
   -t TITLE               the job's title; the file's name when absent
   -o NAME=VALUE          an option of the printer or the job; may be given again
   -h HOST[:PORT]         the print server
   -E                     insist on an encrypted connection
   -U USER                the user that the job is sent as
+  -q, --quiet            say nothing but errors
 
   --ppd FILE             work on this PPD file instead of a printer; cannot print
   --print                print at once, without a window; FILE absent or - reads standard input
@@ -192,6 +194,8 @@ Problem apply(CommandLine& line, int option, const std::string& text) {
       return turnOn(line.server.encrypt);
     case 'U':
       return store(line.server.user, text);
+    case 'q':
+      return turnOn(line.isQuiet);
     case kPpd:
       return store(line.ppdPath, text);
     case kPrint:

@@ -46,6 +46,7 @@ struct CommandLine {
   int scale = 1;                               // --scale: pixels per point, 1 or 2
   bool dark = false;                           // --dark
   bool asJson = false;                         // --json: the plan for other programs
+  bool isQuiet = false;                        // -q: no notes, only errors
   bool waits = false;                          // --wait: until the job has ended
   bool marks = false;                          // --marks: times on standard output, then end
 };

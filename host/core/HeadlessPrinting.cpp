@@ -8,6 +8,7 @@
 #include <thread>
 
 #include "base/Visible.h"
+#include "cups/Destinations.h"
 #include "cups/DocumentFile.h"
 #include "cups/PrintJob.h"
 #include "host/core/Installation.h"
@@ -48,9 +49,13 @@ Result<Done> follow(const CommandLine& line, const DestinationName& name, int jo
     if (status && line.asked.isRaw()) status->pages.reset();
     return status;
   };
+  const auto trouble = [&]() -> std::string {
+    const auto printer = findDestination(line.server, DestinationName{name.printer, std::nullopt});
+    return printer && printer->needsAttention() ? printer->stateText().english() : "";
+  };
   return waitForEnd({jobName(name, job), ask,
                      [] { std::this_thread::sleep_for(kBetweenQuestions); },
-                     [&](const std::string& text) { session.note(text); }});
+                     [&](const std::string& text) { session.note(text); }, trouble});
 }
 
 Result<Done> send(const CommandLine& line, const std::string& path, HeadlessSession& session,
@@ -72,7 +77,8 @@ Result<Done> keepAs(const std::string& path, const ComposedDocument& composed) {
   std::filesystem::copy_file(composed.file->path(), path,
                              std::filesystem::copy_options::overwrite_existing, problem);
   if (!problem) return Done{};
-  return Error{path + ": the document cannot be written: " + problem.message()};
+  return Error{path + ": the document cannot be written (" + problem.message() +
+               "): name another file, or make its folder"};
 }
 
 }  // namespace

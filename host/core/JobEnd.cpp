@@ -25,6 +25,13 @@ bool isStuck(const JobStatus& status) {
   return status.state == JobState::pending && status.saysMoreThanItsState();
 }
 
+// The printer's own trouble tells more than that the job stands.
+std::string reasonToWait(const JobWatch& watch, const JobStatus& status) {
+  const std::string trouble = watch.trouble ? watch.trouble() : std::string();
+  if (!trouble.empty()) return trouble;
+  return isStuck(status) ? status.text().english() : std::string();
+}
+
 }  // namespace
 
 Result<Done> waitForEnd(const JobWatch& watch) {
@@ -37,8 +44,8 @@ Result<Done> waitForEnd(const JobWatch& watch) {
     if (!status) continue;
     missed = 0;
     if (status->isFinal()) return judge(watch, *status);
-    const std::string text = status->text().english();
-    if (!isStuck(*status) || text == noted) continue;
+    const std::string text = reasonToWait(watch, *status);
+    if (text.empty() || text == noted) continue;
     watch.note("the job " + watch.job + ": " + text);
     noted = text;
   }

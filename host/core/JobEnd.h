@@ -14,6 +14,8 @@ struct JobWatch {
   std::function<Result<JobStatus>()> ask;        // the job's state
   std::function<void()> pause;                   // between two questions
   std::function<void(const std::string&)> note;  // why the job waits; each reason once
+  // What the printer needs from somebody, in words; empty for nothing. May be null.
+  std::function<std::string()> trouble = {};
 };
 
 // Asks until the job has ended. An error when nothing came out: it was cancelled or given up, it

@@ -45,7 +45,9 @@ int showDialog(const CommandLine& line, PluginLoader& plugIns) {
 }
 
 int runWithoutWindow(const CommandLine& line, PluginLoader& plugIns) {
-  const Result<Done> done = runHeadlessCommand(line, plugIns, std::cout, std::cerr);
+  std::ostream nowhere(nullptr);
+  std::ostream& notes = line.isQuiet ? nowhere : std::cerr;
+  const Result<Done> done = runHeadlessCommand(line, plugIns, std::cout, notes);
   return done ? endOutput() : fail(done.error());
 }
 

@@ -1,6 +1,7 @@
 #include "host/dialog/Appearance.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -11,6 +12,7 @@ namespace cutline {
 namespace {
 
 constexpr double kRadius = 2;
+constexpr int kLongList = 16;
 
 bool needsOutline(QStyle::PrimitiveElement element, const QStyleOption& option) {
   if (!isDark(option.palette)) return false;
@@ -21,6 +23,13 @@ bool needsOutline(QStyle::PrimitiveElement element, const QStyleOption& option) 
 }  // namespace
 
 OutlinedStyle::OutlinedStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("fusion"))) {}
+
+int OutlinedStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                             QStyleHintReturn* answer) const {
+  const auto* list = qobject_cast<const QComboBox*>(widget);
+  if (hint == SH_ComboBox_Popup && list != nullptr && list->count() > kLongList) return 0;
+  return QProxyStyle::styleHint(hint, option, widget, answer);
+}
 
 void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                   QPainter* painter, const QWidget* widget) const {

@@ -28,6 +28,9 @@ class OutlinedStyle : public QProxyStyle {
 
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
+  // Long lists open with a scroll bar, where Fusion would cover the screen with them.
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* answer) const override;
 };
 
 }  // namespace cutline

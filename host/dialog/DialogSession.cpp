@@ -16,6 +16,7 @@
 #include "host/core/PluginLoader.h"
 #include "host/core/PrinterSelection.h"
 #include "host/dialog/DialogLanguage.h"
+#include "host/dialog/Remembered.h"
 #include "host/dialog/StartTimes.h"
 #include "qt/QtText.h"
 
@@ -33,10 +34,33 @@ std::optional<Error> problemOfDocuments(const std::vector<std::string>& paths) {
 
 bool namesPrinter(const CommandLine& line) { return line.ppdPath || line.destination; }
 
+// Somebody looks at the dialog, so whatever is wrong can be said in it.
+bool isForAPerson(const CommandLine& line) {
+  return line.command == Command::dialog && !line.marks;
+}
+
+// What the environment names is as good as what the command line names.
+bool isPrinterSaid(const CommandLine& line) {
+  return namesPrinter(line) || !qEnvironmentVariableIsEmpty("LPDEST") ||
+         !qEnvironmentVariableIsEmpty("PRINTER");
+}
+
+// The printer that was used last, while there is one of that name.
+std::optional<PrinterChoice> lastUsedPrinter(const CommandLine& line) {
+  if (!isForAPerson(line) || isPrinterSaid(line)) return std::nullopt;
+  CommandLine named = line;
+  named.destination = Remembered().lastPrinter();
+  if (!named.destination) return std::nullopt;
+  const Result<PrinterChoice> choice = selectPrinter(named);
+  return choice ? std::optional<PrinterChoice>(*choice) : std::nullopt;
+}
+
 }  // namespace
 
 Result<PrinterChoice> findFirstPrinter(const CommandLine& line) {
-  if (const std::optional<Error> problem = problemOfDocuments(line.files)) return *problem;
+  const std::optional<Error> problem = problemOfDocuments(line.files);
+  if (problem && !isForAPerson(line)) return *problem;
+  if (const auto last = lastUsedPrinter(line)) return *last;
   Result<PrinterChoice> choice = selectPrinter(line);
   if (choice || namesPrinter(line)) return choice;
   const Result<std::vector<Destination>> all = listDestinations(line.server);
@@ -96,8 +120,18 @@ PrintSource DialogSession::source() const {
 int DialogSession::run() {
   awaitPrinter();
   const int status = QApplication::exec();
+  if (isForAPerson(mLine)) remember(status);
   mDialog.reset();
   return status;
+}
+
+// What was printed was meant; a window that was looked at and closed says nothing of the printer.
+void DialogSession::remember(int status) const {
+  Remembered remembered;
+  if (!mDialog->isMaximized()) remembered.setWindowSize(mDialog->size());
+  if (status != kExitDone) return;
+  if (mModel.hasQueue()) remembered.setLastPrinter(mModel.destination().name);
+  for (const std::string& path : mDialog->documents()) remembered.addRecent(path);
 }
 
 void DialogSession::awaitPrinter() {
@@ -118,15 +152,24 @@ void DialogSession::takePrinter(const Result<PrinterChoice>& printer) {
   fail(printer.error());
 }
 
+// A person can choose another printer; nobody else can.
 void DialogSession::fail(const Error& error) {
   tell(error.message);
-  if (!mDialog->isVisible()) return QApplication::exit(kExitError);
+  if (!isForAPerson(mLine)) return QApplication::exit(kExitError);
+  mIsComplete = true;
+  mHasFailed = true;
   mDialog->showFailure(asLine(error.sentence));
+  show();
+  mDialog->startWatching();
 }
 
 void DialogSession::open(const PrinterChoice& printer) {
   mDialog->openPrinter(printer);
   for (const std::string& problem : mPlugIns.takeProblems()) tell(problem);
+  if (const std::optional<Error> problem = problemOfDocuments(mLine.files)) {
+    tell(problem->message);
+    mDialog->noteFailure();
+  }
   mIsComplete = true;
   if (mLine.command == Command::snapshot) {
     connect(mDialog.get(), &PrintDialog::becameSettled, this, &DialogSession::takeSnapshot,
@@ -140,6 +183,10 @@ void DialogSession::open(const PrinterChoice& printer) {
 void DialogSession::show() {
   if (mDialog->isVisible()) return;
   QSize size = kPreferredSize.expandedTo(mDialog->sizeHint());
+  if (isForAPerson(mLine)) {
+    const QSize last = Remembered().windowSize();
+    if (!last.isEmpty()) size = last.expandedTo(mDialog->minimumSizeHint());
+  }
   if (mLine.command != Command::snapshot) {
     const QSize room = mDialog->screen()->availableSize() - QSize(kScreenMargin, kScreenMargin);
     size = size.boundedTo(room);
@@ -158,6 +205,7 @@ bool DialogSession::eventFilter(QObject* watched, QEvent* event) {
 
 // Everything but the document has been drawn.
 void DialogSession::didPaintFirst() {
+  if (mHasFailed) return;
   if (mLine.marks) return measureDocument();
   mDialog->loadDocument();
   if (mLine.command == Command::dialog) mDialog->startWatching();

@@ -52,6 +52,7 @@ class DialogSession : public QObject {
   void measureDocument();
   void takeSnapshot();
   void fail(const Error& error);
+  void remember(int status) const;
   PrintSource source() const;
 
   const CommandLine& mLine;
@@ -63,6 +64,7 @@ class DialogSession : public QObject {
   PrintModel mModel;
   std::unique_ptr<PrintDialog> mDialog;
   bool mIsComplete = false;
+  bool mHasFailed = false;
   bool mHasPainted = false;
   Background mBackground;
 };

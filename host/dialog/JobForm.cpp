@@ -37,6 +37,7 @@ JobForm::JobForm(QWidget* parent)
   mCopies->setAccessibleName(tr("Copies"));
   mCopiesCaption->setBuddy(mCopies);
   mPages->setPlaceholderText(tr("All, or such as 1-3,5"));
+  mPages->setToolTip(tr("Which pages are printed, such as 1-3,5; all of them where it is empty"));
   mPages->setAccessibleName(tr("Pages"));
   mPagesCaption->setBuddy(mPages);
   mCollated->setToolTip(

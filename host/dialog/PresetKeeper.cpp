@@ -32,7 +32,7 @@ void PresetKeeper::setDestinations(std::vector<Destination> destinations) {
     forget(saved.name);
     mDestinations.push_back(saved);
   }
-  show(mCurrent);
+  if (mModel.isOpen()) show(mCurrent);
 }
 
 void PresetKeeper::forget(const DestinationName& name) {

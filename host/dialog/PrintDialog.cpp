@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "host/core/CommandLine.h"
 #include "host/core/CutRules.h"
 #include "host/dialog/ChoiceHints.h"
 #include "host/dialog/ClickGuard.h"
@@ -27,6 +26,7 @@
 #include "host/dialog/PresetKeeper.h"
 #include "host/dialog/PrinterBar.h"
 #include "host/dialog/StripPane.h"
+#include "host/dialog/WheelGuard.h"
 #include "host/dialog/mnemonics.h"
 #include "qt/QtText.h"
 #include "qt/accessibility.h"
@@ -84,6 +84,7 @@ PrintDialog::PrintDialog(PrintModel& model, std::shared_ptr<PrintServer> server,
       mProgress(new JobProgress(this)),
       mOutcome(new JobOutcome(this)),
       mGuard(new ClickGuard(mBottom)) {
+  new WheelGuard(this);
   setAcceptDrops(true);
   showTitle();
   makeLayout();

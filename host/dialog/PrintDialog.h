@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "host/core/CommandLine.h"
 #include "host/core/PrintModel.h"
 #include "host/dialog/DocumentPages.h"
 #include "host/dialog/JobRunner.h"
@@ -65,8 +66,15 @@ class PrintDialog : public QDialog, private PrintModelListener {
   // Until the first printer is open: nothing can be chosen.
   void showWaiting(const QString& text);
   void openPrinter(const PrinterChoice& choice);
-  // The first printer could not be opened; closing the dialog is an error then.
+  // The first printer could not be opened: the reason stands in the dialog, and another printer can
+  // be chosen. Closing the dialog is an error until one is open.
   void showFailure(const QString& reason);
+
+  // Something was wrong from the start; closing the dialog is an error until a job is out.
+  void noteFailure() { mExitStatus = kExitError; }
+
+  // What is in the dialog now.
+  const std::vector<std::string>& documents() const noexcept { return mSource.paths; }
 
   // Composes and draws the documents; becameSettled follows when nothing is left to draw.
   void loadDocument();
@@ -134,6 +142,10 @@ class PrintDialog : public QDialog, private PrintModelListener {
   void takePrinters(const std::vector<Destination>& destinations);
   void takeState(const Destination& destination);
   void openingFailed(const QString& reason);
+  void takeOpened(const PrinterChoice& choice);
+  void enableSettings(bool isEnabled);
+  void askServer();
+  void showStateProblem(const QString& words);
 
   void askForDocuments();
   void openDocuments(std::vector<std::string> paths);
@@ -166,6 +178,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
   int mShownPages = 0;              // of the documents
   std::uint64_t mAgreedLabels = 0;  // somebody was asked about so many
   QTimer mStateTimer;
+  int mTicks = 0;  // of that, without a printer
 
   ServerClient* mServer;
   DocumentLoader* mDocument;

@@ -1,11 +1,15 @@
 // The part of PrintDialog that has to do with the print server: which printers there are, which one
 // is open, how it is.
 #include <QPushButton>
+#include <initializer_list>
 
 #include "host/core/CommandLine.h"
 #include "host/dialog/DialogLanguage.h"
+#include "host/dialog/JobForm.h"
+#include "host/dialog/LayoutForm.h"
 #include "host/dialog/NoticeView.h"
 #include "host/dialog/PanelViews.h"
+#include "host/dialog/PresetBar.h"
 #include "host/dialog/PresetKeeper.h"
 #include "host/dialog/PrintDialog.h"
 #include "host/dialog/PrinterBar.h"
@@ -15,21 +19,38 @@
 namespace cutline {
 namespace {
 
-constexpr int kStateMilliseconds = 5000;
+constexpr int kStateMilliseconds = 1000;
+constexpr int kTicksBetweenLists = 10;
 
 }  // namespace
 
 void PrintDialog::connectServer() {
   connect(mServer, &ServerClient::printersListed, this, &PrintDialog::takePrinters);
   connect(mServer, &ServerClient::listingFailed, this,
-          [this](const QString& reason) { mNotices->setNotice(NoticeTopic::failure, reason); });
-  connect(mServer, &ServerClient::printerOpened, this, &PrintDialog::openPrinter);
+          [this](const QString& reason) { mNotices->setNotice(NoticeTopic::printer, reason); });
+  connect(mServer, &ServerClient::printerOpened, this, &PrintDialog::takeOpened);
   connect(mServer, &ServerClient::openingFailed, this, &PrintDialog::openingFailed);
   connect(mServer, &ServerClient::stateKnown, this, &PrintDialog::takeState);
-  mStateTimer.setInterval(kStateMilliseconds);
-  connect(&mStateTimer, &QTimer::timeout, this, [this] {
-    if (mModel.hasQueue()) mServer->askState(mModel.destination().name);
+  connect(mServer, &ServerClient::stateFailed, this, &PrintDialog::showStateProblem);
+  connect(mServer, &ServerClient::serverGone, this, [this] {
+    showStateProblem(
+        tr("The print server does not answer. Is the computer that has the printer "
+           "switched on and connected? Printing goes on when it answers again."));
   });
+  connect(mServer, &ServerClient::serverBack, mServer, &ServerClient::listPrinters);
+  mStateTimer.setInterval(kStateMilliseconds);
+  connect(&mStateTimer, &QTimer::timeout, this, &PrintDialog::askServer);
+}
+
+// Without a printer there is only the list to ask for, and it may never come.
+void PrintDialog::askServer() {
+  if (mModel.hasQueue()) return mServer->askState(mModel.destination().name);
+  if (++mTicks % kTicksBetweenLists == 0) mServer->listPrinters();
+}
+
+void PrintDialog::showStateProblem(const QString& words) {
+  mPrinterBar->setProblem(tr("No answer"));
+  mNotices->setNotice(NoticeTopic::printer, words);
 }
 
 void PrintDialog::showWaiting(const QString& text) {
@@ -41,29 +62,48 @@ void PrintDialog::showWaiting(const QString& text) {
   mStripPane->strip().setMessage(text);
 }
 
+// Another printer can be chosen, and nothing else.
 void PrintDialog::showFailure(const QString& reason) {
   mExitStatus = kExitError;
-  mNotices->setNotice(NoticeTopic::failure, reason);
-  mPrinterBar->setWaiting(tr("No printer"));
+  showWaiting(tr("No printer"));
   mStripPane->strip().setMessage({});
+  mNotices->setNotice(NoticeTopic::failure, reason);
+  mSettings->setEnabled(true);
+  enableSettings(false);
+}
+
+void PrintDialog::enableSettings(bool isEnabled) {
+  for (QWidget* each :
+       std::initializer_list<QWidget*>{mPresetBar, mJobForm, mLayoutBar, mPanelFrame, mSummary})
+    each->setEnabled(isEnabled);
+}
+
+// After a failure at the start the documents have not been looked at yet.
+void PrintDialog::takeOpened(const PrinterChoice& choice) {
+  const bool isFirst = !mModel.isOpen();
+  openPrinter(choice);
+  if (!isFirst) return;
+  mExitStatus = kExitCancelled;
+  loadDocument();
 }
 
 void PrintDialog::openPrinter(const PrinterChoice& choice) {
   setUpdatesEnabled(false);
   mSettings->setEnabled(true);
+  enableSettings(true);
   mPanelFrame->releasePanels();
   mModel.openPrinter(choice);
   setUpdatesEnabled(true);
 }
 
 void PrintDialog::openingFailed(const QString& reason) {
-  mPrinterBar->setCurrent(mModel.destination());
+  if (mModel.isOpen()) mPrinterBar->setCurrent(mModel.destination());
   mNotices->setNotice(NoticeTopic::failure, reason);
   refreshPrintButton();
 }
 
 void PrintDialog::startWatching() {
-  if (!mModel.hasQueue()) return;
+  if (mModel.isOpen() && !mModel.hasQueue()) return;
   mServer->listPrinters();
   mStateTimer.start();
 }
@@ -79,7 +119,7 @@ void PrintDialog::choosePrinter(const QString& name) {
 
 void PrintDialog::takePrinters(const std::vector<Destination>& destinations) {
   mPrinterBar->setPrinters(destinations);
-  mPrinterBar->setCurrent(mModel.destination());
+  if (mModel.isOpen()) mPrinterBar->select(mModel.destination());
   mPresets->setDestinations(destinations);
 }
 

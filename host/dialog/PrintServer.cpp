@@ -15,6 +15,8 @@ Result<std::vector<Destination>> CupsPrintServer::destinations() {
   return listDestinations(mOptions);
 }
 
+bool CupsPrintServer::answers() { return serverAnswers(mOptions); }
+
 Result<Destination> CupsPrintServer::find(const DestinationName& name) {
   return findDestination(mOptions, name);
 }
@@ -79,15 +81,27 @@ void ServerClient::takePrinter(int opening, const Result<PrinterChoice>& choice)
 }
 
 void ServerClient::askState(const DestinationName& name) {
-  if (std::exchange(mIsAskingState, true)) return;
+  if (std::exchange(mIsAskingState, true)) return noteAnswer(false);
   mBackground.start([this, server = mServer, name]() -> Background::Delivery {
-    return [this, destination = server->find(name)] { takeState(destination); };
+    const Result<Destination> destination = server->find(name);
+    const bool isGone = !destination && !server->answers();
+    return [this, destination, isGone] { takeState(destination, isGone); };
   });
 }
 
-void ServerClient::takeState(const Result<Destination>& destination) {
+void ServerClient::noteAnswer(bool isThere) {
+  if (mIsServerGone == !isThere) return;
+  mIsServerGone = !isThere;
+  if (isThere) return emit serverBack();
+  emit serverGone();
+}
+
+void ServerClient::takeState(const Result<Destination>& destination, bool isGone) {
   mIsAskingState = false;
-  if (destination) emit stateKnown(*destination);
+  noteAnswer(!isGone);
+  if (isGone) return;
+  if (!destination) return emit stateFailed(asLine(destination.error().sentence));
+  emit stateKnown(*destination);
 }
 
 void ServerClient::savePreset(const DestinationName& name, const OptionList& options) {

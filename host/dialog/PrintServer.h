@@ -25,6 +25,8 @@ class PrintServer {
   virtual ~PrintServer();
 
   virtual Result<std::vector<Destination>> destinations() = 0;
+  // Whether there is a server at all.
+  virtual bool answers() = 0;
   virtual Result<Destination> find(const DestinationName& name) = 0;
   // With the destination's PPD.
   virtual Result<PrinterChoice> open(const Destination& destination) = 0;
@@ -42,6 +44,7 @@ class CupsPrintServer final : public PrintServer {
   explicit CupsPrintServer(ServerOptions options) : mOptions(std::move(options)) {}
 
   Result<std::vector<Destination>> destinations() override;
+  bool answers() override;
   Result<Destination> find(const DestinationName& name) override;
   Result<PrinterChoice> open(const Destination& destination) override;
   Result<Done> saveInstance(const DestinationName& name, const OptionList& options) override;
@@ -67,7 +70,9 @@ class ServerClient : public QObject {
   // dropped.
   void openPrinter(const Destination& destination);
   bool isOpening() const noexcept { return mIsOpening; }
-  // stateKnown; nothing when the server does not answer, or is being asked already.
+  // stateKnown, or stateFailed where the server says that there is no such printer. Where it says
+  // nothing serverGone, also when it is still being asked from the last call; once, until it
+  // answers again, which is told by serverBack.
   void askState(const DestinationName& name);
   // presetSaved or presetFailed.
   void savePreset(const DestinationName& name, const OptionList& options);
@@ -80,6 +85,9 @@ class ServerClient : public QObject {
   void printerOpened(const cutline::PrinterChoice& choice);
   void openingFailed(const QString& reason);
   void stateKnown(const cutline::Destination& destination);
+  void stateFailed(const QString& reason);
+  void serverGone();
+  void serverBack();
   void presetSaved(const QString& instance);
   void presetRemoved(const QString& instance);
   void presetFailed(const QString& reason);
@@ -87,12 +95,14 @@ class ServerClient : public QObject {
  private:
   void takeList(const Result<std::vector<Destination>>& list);
   void takePrinter(int opening, const Result<PrinterChoice>& choice);
-  void takeState(const Result<Destination>& destination);
+  void takeState(const Result<Destination>& destination, bool isGone);
+  void noteAnswer(bool isThere);
 
   std::shared_ptr<PrintServer> mServer;
   int mOpenings = 0;
   bool mIsOpening = false;
   bool mIsAskingState = false;
+  bool mIsServerGone = false;
   Background mBackground;
 };
 

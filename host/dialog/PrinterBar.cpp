@@ -1,9 +1,12 @@
 #include "host/dialog/PrinterBar.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QStyledItemDelegate>
+#include <algorithm>
 
 #include "host/dialog/DialogLanguage.h"
 #include "qt/QtText.h"
@@ -13,6 +16,39 @@ namespace cutline {
 namespace {
 
 constexpr int kIconGap = 6;
+constexpr int kMostRows = 16;  // of the open list; it has a scroll bar for more
+constexpr int kStateRole = Qt::UserRole + 1;
+
+// The open list says the printer's state behind its name, which the closed one leaves out.
+class StateDelegate final : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->text += QStringLiteral(" \u00b7 ") + index.data(kStateRole).toString();
+  }
+};
+
+QIcon iconOf(Severity severity) {
+  StatusIcon sign(severity);
+  sign.resize(sign.sizeHint());
+  constexpr qreal kSharp = 2;
+  QPixmap picture(sign.size() * kSharp);
+  picture.setDevicePixelRatio(kSharp);
+  picture.fill(Qt::transparent);
+  sign.render(&picture, {}, {}, QWidget::DrawChildren);
+  return picture;
+}
+
+// What there is to choose from, in the order in which it is listed.
+std::vector<Destination> listable(std::vector<Destination> printers) {
+  std::erase_if(printers, [](const Destination& each) { return each.name.instance.has_value(); });
+  std::stable_partition(printers.begin(), printers.end(),
+                        [](const Destination& each) { return each.isDefault; });
+  return printers;
+}
 
 QString titleOf(const Destination& printer) {
   const QString name = toQString(printer.name.printer);
@@ -39,6 +75,9 @@ PrinterBar::PrinterBar(QWidget* parent)
   mPrinters->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   mPrinters->setMinimumContentsLength(12);
   mPrinters->setAccessibleName(tr("Printer"));
+  mPrinters->setPlaceholderText(tr("Choose a printer"));
+  mPrinters->setMaxVisibleItems(kMostRows);
+  mPrinters->setItemDelegate(new StateDelegate(mPrinters));
   mCaption->setBuddy(mPrinters);
   mState->setTextFormat(Qt::PlainText);
   mState->setWordWrap(true);
@@ -59,21 +98,39 @@ PrinterBar::PrinterBar(QWidget* parent)
 
 void PrinterBar::addPrinter(const Destination& printer) {
   mPrinters->addItem(titleOf(printer), toQString(printer.name.printer));
+  showStateOf(printer);
+}
+
+void PrinterBar::showStateOf(const Destination& printer) {
+  const int index = mPrinters->findData(toQString(printer.name.printer));
+  if (index < 0) return;
+  const QString state = translated(printer.stateText());
+  mPrinters->setItemData(index, state, kStateRole);
+  mPrinters->setItemData(index, titleOf(printer) + QStringLiteral(", ") + state,
+                         Qt::AccessibleTextRole);
+  mPrinters->setItemIcon(index, iconOf(severityOfState(printer)));
 }
 
 void PrinterBar::setPrinters(const std::vector<Destination>& printers) {
+  const std::vector<Destination> listed = listable(printers);
+  if (mPrinters->view()->isVisible()) {
+    for (const Destination& printer : listed) showStateOf(printer);
+    return;
+  }
   const QString current = mPrinters->currentData().toString();
   mPrinters->clear();
-  for (const Destination& printer : printers) {
-    if (!printer.name.instance) addPrinter(printer);
-  }
+  for (const Destination& printer : listed) addPrinter(printer);
   mPrinters->setCurrentIndex(mPrinters->findData(current));
 }
 
-void PrinterBar::setCurrent(const Destination& printer) {
+void PrinterBar::select(const Destination& printer) {
   const QString name = toQString(printer.name.printer);
   if (mPrinters->findData(name) < 0) addPrinter(printer);
   mPrinters->setCurrentIndex(mPrinters->findData(name));
+}
+
+void PrinterBar::setCurrent(const Destination& printer) {
+  select(printer);
   setState(printer);
 }
 
@@ -85,10 +142,13 @@ void PrinterBar::setPpdFile(const QString& name) {
 }
 
 void PrinterBar::setState(const Destination& printer) {
+  showStateOf(printer);
   showState(severityOfState(printer), translated(printer.stateText()));
 }
 
 void PrinterBar::setWaiting(const QString& text) { showState(Severity::info, text); }
+
+void PrinterBar::setProblem(const QString& text) { showState(Severity::error, text); }
 
 void PrinterBar::showState(Severity severity, const QString& text) {
   mIcon->setSeverity(severity);

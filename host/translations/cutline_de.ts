@@ -613,6 +613,46 @@
         <source>%1: the connection to the print server at &quot;%2&quot; was lost</source>
         <translation>%1: die Verbindung zum Druckserver auf „%2“ ist abgebrochen</translation>
     </message>
+    <message>
+        <source>label or tape is not fed</source>
+        <translation>Etikett oder Band wird nicht eingezogen</translation>
+    </message>
+    <message>
+        <source>another label or tape is in the printer</source>
+        <translation>im Drucker sind andere Etiketten oder ein anderes Band</translation>
+    </message>
+    <message>
+        <source>labels have to be taken out</source>
+        <translation>Etiketten müssen entnommen werden</translation>
+    </message>
+    <message>
+        <source>printer is starting</source>
+        <translation>Drucker startet</translation>
+    </message>
+    <message>
+        <source>printer is asleep</source>
+        <translation>Drucker schläft</translation>
+    </message>
+    <message>
+        <source>cutter&apos;s cover is open</source>
+        <translation>Abdeckung des Schneiders ist offen</translation>
+    </message>
+    <message>
+        <source>cutter is missing</source>
+        <translation>Schneider fehlt</translation>
+    </message>
+    <message>
+        <source>ink ribbon is missing</source>
+        <translation>Farbband fehlt</translation>
+    </message>
+    <message>
+        <source>container for used ink is full</source>
+        <translation>Behälter für verbrauchte Tinte ist voll</translation>
+    </message>
+    <message>
+        <source>Paused since %1</source>
+        <translation>Angehalten seit %1</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>
@@ -791,6 +831,10 @@
     <message>
         <source>The whole document once a copy, instead of each label as often as there are copies</source>
         <translation>Je Exemplar das ganze Dokument, statt jedes Etikett so oft, wie es Exemplare gibt</translation>
+    </message>
+    <message>
+        <source>Which pages are printed, such as 1-3,5; all of them where it is empty</source>
+        <translation>Welche Seiten gedruckt werden, etwa 1-3,5; alle, wenn das Feld leer ist</translation>
     </message>
 </context>
 <context>
@@ -1329,6 +1373,14 @@ Streifen: Plus und Minus zoomen, 0 passt ein, Eingabe zeigt ein Etikett groß. S
         <source>&amp;Print %1 labels</source>
         <translation>%1 Etiketten &amp;drucken</translation>
     </message>
+    <message>
+        <source>The print server does not answer. Is the computer that has the printer switched on and connected? Printing goes on when it answers again.</source>
+        <translation>Der Druckserver antwortet nicht. Ist der Computer mit dem Drucker eingeschaltet und verbunden? Sobald er wieder antwortet, kann gedruckt werden.</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>Keine Antwort</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1343,6 +1395,10 @@ Streifen: Plus und Minus zoomen, 0 passt ein, Eingabe zeigt ein Etikett groß. S
     <message>
         <source>PPD file, no printer</source>
         <translation>PPD-Datei, kein Drucker</translation>
+    </message>
+    <message>
+        <source>Choose a printer</source>
+        <translation>Drucker wählen</translation>
     </message>
 </context>
 <context>
@@ -1468,14 +1524,6 @@ Streifen: Plus und Minus zoomen, 0 passt ein, Eingabe zeigt ein Etikett groß. S
         <translation>unbekannte Option „%1“; gemeint ist vielleicht %2</translation>
     </message>
     <message>
-        <source>page range &quot;%1&quot;: %2; write pages like 1-4,7</source>
-        <translation>Seitenbereich „%1“: %2; schreiben Sie Seiten wie 1-4,7</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no page or range of pages</source>
-        <translation>„%1“ ist keine Seite und kein Seitenbereich</translation>
-    </message>
-    <message>
         <source>pages must be in ascending order</source>
         <translation>die Seiten müssen in aufsteigender Reihenfolge stehen</translation>
     </message>
@@ -1504,10 +1552,6 @@ Streifen: Plus und Minus zoomen, 0 passt ein, Eingabe zeigt ein Etikett groß. S
         <translation>%1: dieses Dokument gibt es nicht</translation>
     </message>
     <message>
-        <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
-        <translation>Seitenbereich „%1“: das Dokument hat keine Seite %2, seine letzte ist Seite %3</translation>
-    </message>
-    <message>
         <source>%1 has no value &quot;%2&quot;: its values are %3</source>
         <translation>%1 hat keinen Wert „%2“: möglich sind %3</translation>
     </message>
@@ -1534,6 +1578,38 @@ Streifen: Plus und Minus zoomen, 0 passt ein, Eingabe zeigt ein Etikett groß. S
     <message>
         <source>&quot;%1&quot;, line %2,</source>
         <translation>„%1“, Zeile %2,</translation>
+    </message>
+    <message>
+        <source>page range &quot;%1&quot;: %2</source>
+        <translation>Seitenbereich „%1“: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no page; write pages such as 1-3,5</source>
+        <translation>„%1“ ist keine Seite; schreiben Sie Seiten wie 1-3,5</translation>
+    </message>
+    <message>
+        <source>a page is missing beside a comma; write pages such as 1-3,5</source>
+        <translation>neben einem Komma fehlt eine Seite; schreiben Sie Seiten wie 1-3,5</translation>
+    </message>
+    <message>
+        <source>%1 has no first page: write 1%1</source>
+        <translation>%1 hat keine erste Seite: schreiben Sie 1%1</translation>
+    </message>
+    <message>
+        <source>pages are counted from 1</source>
+        <translation>Seiten werden ab 1 gezählt</translation>
+    </message>
+    <message>
+        <source>%1 runs backwards: write %2</source>
+        <translation>%1 läuft rückwärts: schreiben Sie %2</translation>
+    </message>
+    <message>
+        <source>the document has 1 page only</source>
+        <translation>das Dokument hat nur 1 Seite</translation>
+    </message>
+    <message>
+        <source>the document has %1 pages, and no page %2</source>
+        <translation>das Dokument hat %1 Seiten und keine Seite %2</translation>
     </message>
 </context>
 <context>

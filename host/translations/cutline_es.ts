@@ -613,6 +613,46 @@
         <source>%1: the connection to the print server at &quot;%2&quot; was lost</source>
         <translation>%1: se perdió la conexión con el servidor de impresión en «%2»</translation>
     </message>
+    <message>
+        <source>label or tape is not fed</source>
+        <translation>la etiqueta o la cinta no avanza</translation>
+    </message>
+    <message>
+        <source>another label or tape is in the printer</source>
+        <translation>la impresora tiene otras etiquetas u otra cinta</translation>
+    </message>
+    <message>
+        <source>labels have to be taken out</source>
+        <translation>hay que retirar las etiquetas</translation>
+    </message>
+    <message>
+        <source>printer is starting</source>
+        <translation>la impresora se está iniciando</translation>
+    </message>
+    <message>
+        <source>printer is asleep</source>
+        <translation>la impresora está en reposo</translation>
+    </message>
+    <message>
+        <source>cutter&apos;s cover is open</source>
+        <translation>la tapa del cortador está abierta</translation>
+    </message>
+    <message>
+        <source>cutter is missing</source>
+        <translation>falta el cortador</translation>
+    </message>
+    <message>
+        <source>ink ribbon is missing</source>
+        <translation>falta la cinta de tinta</translation>
+    </message>
+    <message>
+        <source>container for used ink is full</source>
+        <translation>el depósito de tinta usada está lleno</translation>
+    </message>
+    <message>
+        <source>Paused since %1</source>
+        <translation>En pausa desde %1</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>
@@ -791,6 +831,10 @@
     <message>
         <source>The whole document once a copy, instead of each label as often as there are copies</source>
         <translation>El documento entero una vez por copia, en lugar de cada etiqueta tantas veces como copias</translation>
+    </message>
+    <message>
+        <source>Which pages are printed, such as 1-3,5; all of them where it is empty</source>
+        <translation>Qué páginas se imprimen, como 1-3,5; todas si está vacío</translation>
     </message>
 </context>
 <context>
@@ -1329,6 +1373,14 @@ Tira: más y menos para el zum, 0 para ajustar, Intro muestra una etiqueta en gr
         <source>&amp;Print %1 labels</source>
         <translation>&amp;Imprimir %1 etiquetas</translation>
     </message>
+    <message>
+        <source>The print server does not answer. Is the computer that has the printer switched on and connected? Printing goes on when it answers again.</source>
+        <translation>El servidor de impresión no responde. ¿Está encendido y conectado el ordenador que tiene la impresora? Cuando vuelva a responder, se podrá imprimir.</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>Sin respuesta</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1343,6 +1395,10 @@ Tira: más y menos para el zum, 0 para ajustar, Intro muestra una etiqueta en gr
     <message>
         <source>PPD file, no printer</source>
         <translation>Archivo PPD, sin impresora</translation>
+    </message>
+    <message>
+        <source>Choose a printer</source>
+        <translation>Elija una impresora</translation>
     </message>
 </context>
 <context>
@@ -1468,14 +1524,6 @@ Tira: más y menos para el zum, 0 para ajustar, Intro muestra una etiqueta en gr
         <translation>opción desconocida «%1»; ¿es %2?</translation>
     </message>
     <message>
-        <source>page range &quot;%1&quot;: %2; write pages like 1-4,7</source>
-        <translation>intervalo de páginas «%1»: %2; escriba las páginas como 1-4,7</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no page or range of pages</source>
-        <translation>«%1» no es una página ni un intervalo de páginas</translation>
-    </message>
-    <message>
         <source>pages must be in ascending order</source>
         <translation>las páginas deben estar en orden ascendente</translation>
     </message>
@@ -1504,10 +1552,6 @@ Tira: más y menos para el zum, 0 para ajustar, Intro muestra una etiqueta en gr
         <translation>%1: ese documento no existe</translation>
     </message>
     <message>
-        <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
-        <translation>intervalo de páginas «%1»: el documento no tiene la página %2, la última es la página %3</translation>
-    </message>
-    <message>
         <source>%1 has no value &quot;%2&quot;: its values are %3</source>
         <translation>%1 no tiene el valor «%2»: sus valores son %3</translation>
     </message>
@@ -1534,6 +1578,38 @@ Tira: más y menos para el zum, 0 para ajustar, Intro muestra una etiqueta en gr
     <message>
         <source>&quot;%1&quot;, line %2,</source>
         <translation>«%1», línea %2,</translation>
+    </message>
+    <message>
+        <source>page range &quot;%1&quot;: %2</source>
+        <translation>intervalo de páginas «%1»: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no page; write pages such as 1-3,5</source>
+        <translation>«%1» no es una página; escriba las páginas como 1-3,5</translation>
+    </message>
+    <message>
+        <source>a page is missing beside a comma; write pages such as 1-3,5</source>
+        <translation>falta una página junto a una coma; escriba las páginas como 1-3,5</translation>
+    </message>
+    <message>
+        <source>%1 has no first page: write 1%1</source>
+        <translation>%1 no tiene primera página: escriba 1%1</translation>
+    </message>
+    <message>
+        <source>pages are counted from 1</source>
+        <translation>las páginas se cuentan desde 1</translation>
+    </message>
+    <message>
+        <source>%1 runs backwards: write %2</source>
+        <translation>%1 va hacia atrás: escriba %2</translation>
+    </message>
+    <message>
+        <source>the document has 1 page only</source>
+        <translation>el documento tiene solo 1 página</translation>
+    </message>
+    <message>
+        <source>the document has %1 pages, and no page %2</source>
+        <translation>el documento tiene %1 páginas y ninguna página %2</translation>
     </message>
 </context>
 <context>

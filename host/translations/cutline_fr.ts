@@ -613,6 +613,46 @@
         <source>%1: the connection to the print server at &quot;%2&quot; was lost</source>
         <translation>%1 : la connexion au serveur d’impression à « %2 » a été perdue</translation>
     </message>
+    <message>
+        <source>label or tape is not fed</source>
+        <translation>l’étiquette ou le ruban n’avance pas</translation>
+    </message>
+    <message>
+        <source>another label or tape is in the printer</source>
+        <translation>d’autres étiquettes ou un autre ruban sont dans l’imprimante</translation>
+    </message>
+    <message>
+        <source>labels have to be taken out</source>
+        <translation>il faut retirer les étiquettes</translation>
+    </message>
+    <message>
+        <source>printer is starting</source>
+        <translation>l’imprimante démarre</translation>
+    </message>
+    <message>
+        <source>printer is asleep</source>
+        <translation>l’imprimante est en veille</translation>
+    </message>
+    <message>
+        <source>cutter&apos;s cover is open</source>
+        <translation>le capot du massicot est ouvert</translation>
+    </message>
+    <message>
+        <source>cutter is missing</source>
+        <translation>le massicot manque</translation>
+    </message>
+    <message>
+        <source>ink ribbon is missing</source>
+        <translation>le ruban encreur manque</translation>
+    </message>
+    <message>
+        <source>container for used ink is full</source>
+        <translation>le bac d’encre usagée est plein</translation>
+    </message>
+    <message>
+        <source>Paused since %1</source>
+        <translation>En pause depuis %1</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>
@@ -791,6 +831,10 @@
     <message>
         <source>The whole document once a copy, instead of each label as often as there are copies</source>
         <translation>Tout le document une fois par exemplaire, au lieu de chaque étiquette autant de fois qu’il y a d’exemplaires</translation>
+    </message>
+    <message>
+        <source>Which pages are printed, such as 1-3,5; all of them where it is empty</source>
+        <translation>Les pages imprimées, par exemple 1-3,5 ; toutes si le champ est vide</translation>
     </message>
 </context>
 <context>
@@ -1329,6 +1373,14 @@ Bande : plus et moins pour le zoom, 0 pour ajuster, Entrée montre une étiquett
         <source>&amp;Print %1 labels</source>
         <translation>&amp;Imprimer %1 étiquettes</translation>
     </message>
+    <message>
+        <source>The print server does not answer. Is the computer that has the printer switched on and connected? Printing goes on when it answers again.</source>
+        <translation>Le serveur d’impression ne répond pas. L’ordinateur qui a l’imprimante est-il allumé et connecté ? L’impression reprendra dès qu’il répondra.</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>Pas de réponse</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1343,6 +1395,10 @@ Bande : plus et moins pour le zoom, 0 pour ajuster, Entrée montre une étiquett
     <message>
         <source>PPD file, no printer</source>
         <translation>Fichier PPD, pas d’imprimante</translation>
+    </message>
+    <message>
+        <source>Choose a printer</source>
+        <translation>Choisissez une imprimante</translation>
     </message>
 </context>
 <context>
@@ -1468,14 +1524,6 @@ Bande : plus et moins pour le zoom, 0 pour ajuster, Entrée montre une étiquett
         <translation>option inconnue « %1 » ; est-ce %2 ?</translation>
     </message>
     <message>
-        <source>page range &quot;%1&quot;: %2; write pages like 1-4,7</source>
-        <translation>plage de pages « %1 » : %2 ; écrivez les pages ainsi : 1-4,7</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no page or range of pages</source>
-        <translation>« %1 » n’est ni une page ni une plage de pages</translation>
-    </message>
-    <message>
         <source>pages must be in ascending order</source>
         <translation>les pages doivent être en ordre croissant</translation>
     </message>
@@ -1504,10 +1552,6 @@ Bande : plus et moins pour le zoom, 0 pour ajuster, Entrée montre une étiquett
         <translation>%1 : ce document n’existe pas</translation>
     </message>
     <message>
-        <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
-        <translation>plage de pages « %1 » : le document n’a pas de page %2, la dernière est la page %3</translation>
-    </message>
-    <message>
         <source>%1 has no value &quot;%2&quot;: its values are %3</source>
         <translation>%1 n’a pas de valeur « %2 » : ses valeurs sont %3</translation>
     </message>
@@ -1534,6 +1578,38 @@ Bande : plus et moins pour le zoom, 0 pour ajuster, Entrée montre une étiquett
     <message>
         <source>&quot;%1&quot;, line %2,</source>
         <translation>« %1 », ligne %2,</translation>
+    </message>
+    <message>
+        <source>page range &quot;%1&quot;: %2</source>
+        <translation>plage de pages « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no page; write pages such as 1-3,5</source>
+        <translation>« %1 » n’est pas une page ; écrivez les pages ainsi : 1-3,5</translation>
+    </message>
+    <message>
+        <source>a page is missing beside a comma; write pages such as 1-3,5</source>
+        <translation>il manque une page à côté d’une virgule ; écrivez les pages ainsi : 1-3,5</translation>
+    </message>
+    <message>
+        <source>%1 has no first page: write 1%1</source>
+        <translation>%1 n’a pas de première page : écrivez 1%1</translation>
+    </message>
+    <message>
+        <source>pages are counted from 1</source>
+        <translation>les pages se comptent à partir de 1</translation>
+    </message>
+    <message>
+        <source>%1 runs backwards: write %2</source>
+        <translation>%1 va à l’envers : écrivez %2</translation>
+    </message>
+    <message>
+        <source>the document has 1 page only</source>
+        <translation>le document n’a qu’une page</translation>
+    </message>
+    <message>
+        <source>the document has %1 pages, and no page %2</source>
+        <translation>le document a %1 pages, et pas de page %2</translation>
     </message>
 </context>
 <context>

@@ -613,6 +613,46 @@
         <source>%1: the connection to the print server at &quot;%2&quot; was lost</source>
         <translation>%1: la connessione al server di stampa su «%2» è andata persa</translation>
     </message>
+    <message>
+        <source>label or tape is not fed</source>
+        <translation>l’etichetta o il nastro non avanza</translation>
+    </message>
+    <message>
+        <source>another label or tape is in the printer</source>
+        <translation>nella stampante ci sono altre etichette o un altro nastro</translation>
+    </message>
+    <message>
+        <source>labels have to be taken out</source>
+        <translation>occorre togliere le etichette</translation>
+    </message>
+    <message>
+        <source>printer is starting</source>
+        <translation>la stampante si sta avviando</translation>
+    </message>
+    <message>
+        <source>printer is asleep</source>
+        <translation>la stampante è in standby</translation>
+    </message>
+    <message>
+        <source>cutter&apos;s cover is open</source>
+        <translation>il coperchio della taglierina è aperto</translation>
+    </message>
+    <message>
+        <source>cutter is missing</source>
+        <translation>manca la taglierina</translation>
+    </message>
+    <message>
+        <source>ink ribbon is missing</source>
+        <translation>manca il nastro inchiostrato</translation>
+    </message>
+    <message>
+        <source>container for used ink is full</source>
+        <translation>il contenitore dell’inchiostro usato è pieno</translation>
+    </message>
+    <message>
+        <source>Paused since %1</source>
+        <translation>In pausa dalle %1</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>
@@ -791,6 +831,10 @@
     <message>
         <source>The whole document once a copy, instead of each label as often as there are copies</source>
         <translation>L’intero documento una volta per copia, invece di ogni etichetta tante volte quante sono le copie</translation>
+    </message>
+    <message>
+        <source>Which pages are printed, such as 1-3,5; all of them where it is empty</source>
+        <translation>Quali pagine si stampano, come 1-3,5; tutte se è vuoto</translation>
     </message>
 </context>
 <context>
@@ -1329,6 +1373,14 @@ Striscia: più e meno per lo zoom, 0 per adattare, Invio mostra un’etichetta i
         <source>&amp;Print %1 labels</source>
         <translation>&amp;Stampa %1 etichette</translation>
     </message>
+    <message>
+        <source>The print server does not answer. Is the computer that has the printer switched on and connected? Printing goes on when it answers again.</source>
+        <translation>Il server di stampa non risponde. Il computer con la stampante è acceso e connesso? Si potrà stampare appena risponderà di nuovo.</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>Nessuna risposta</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1343,6 +1395,10 @@ Striscia: più e meno per lo zoom, 0 per adattare, Invio mostra un’etichetta i
     <message>
         <source>PPD file, no printer</source>
         <translation>File PPD, nessuna stampante</translation>
+    </message>
+    <message>
+        <source>Choose a printer</source>
+        <translation>Scegliere una stampante</translation>
     </message>
 </context>
 <context>
@@ -1468,14 +1524,6 @@ Striscia: più e meno per lo zoom, 0 per adattare, Invio mostra un’etichetta i
         <translation>opzione sconosciuta «%1»; forse %2?</translation>
     </message>
     <message>
-        <source>page range &quot;%1&quot;: %2; write pages like 1-4,7</source>
-        <translation>intervallo di pagine «%1»: %2; scrivere le pagine come 1-4,7</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no page or range of pages</source>
-        <translation>«%1» non è una pagina né un intervallo di pagine</translation>
-    </message>
-    <message>
         <source>pages must be in ascending order</source>
         <translation>le pagine devono essere in ordine crescente</translation>
     </message>
@@ -1504,10 +1552,6 @@ Striscia: più e meno per lo zoom, 0 per adattare, Invio mostra un’etichetta i
         <translation>%1: questo documento non esiste</translation>
     </message>
     <message>
-        <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
-        <translation>intervallo di pagine «%1»: il documento non ha la pagina %2, l’ultima è la pagina %3</translation>
-    </message>
-    <message>
         <source>%1 has no value &quot;%2&quot;: its values are %3</source>
         <translation>%1 non ha il valore «%2»: i valori sono %3</translation>
     </message>
@@ -1534,6 +1578,38 @@ Striscia: più e meno per lo zoom, 0 per adattare, Invio mostra un’etichetta i
     <message>
         <source>&quot;%1&quot;, line %2,</source>
         <translation>«%1», riga %2,</translation>
+    </message>
+    <message>
+        <source>page range &quot;%1&quot;: %2</source>
+        <translation>intervallo di pagine «%1»: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no page; write pages such as 1-3,5</source>
+        <translation>«%1» non è una pagina; scrivere le pagine come 1-3,5</translation>
+    </message>
+    <message>
+        <source>a page is missing beside a comma; write pages such as 1-3,5</source>
+        <translation>manca una pagina accanto a una virgola; scrivere le pagine come 1-3,5</translation>
+    </message>
+    <message>
+        <source>%1 has no first page: write 1%1</source>
+        <translation>%1 non ha una prima pagina: scrivere 1%1</translation>
+    </message>
+    <message>
+        <source>pages are counted from 1</source>
+        <translation>le pagine si contano da 1</translation>
+    </message>
+    <message>
+        <source>%1 runs backwards: write %2</source>
+        <translation>%1 va all’indietro: scrivere %2</translation>
+    </message>
+    <message>
+        <source>the document has 1 page only</source>
+        <translation>il documento ha solo 1 pagina</translation>
+    </message>
+    <message>
+        <source>the document has %1 pages, and no page %2</source>
+        <translation>il documento ha %1 pagine e nessuna pagina %2</translation>
     </message>
 </context>
 <context>

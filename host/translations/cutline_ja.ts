@@ -613,6 +613,46 @@
         <source>%1: the connection to the print server at &quot;%2&quot; was lost</source>
         <translation>%1: 「%2」のプリントサーバーとの接続が切れました</translation>
     </message>
+    <message>
+        <source>label or tape is not fed</source>
+        <translation>ラベルまたはテープが送られません</translation>
+    </message>
+    <message>
+        <source>another label or tape is in the printer</source>
+        <translation>別のラベルまたはテープが入っています</translation>
+    </message>
+    <message>
+        <source>labels have to be taken out</source>
+        <translation>ラベルを取り出してください</translation>
+    </message>
+    <message>
+        <source>printer is starting</source>
+        <translation>プリンターは起動中です</translation>
+    </message>
+    <message>
+        <source>printer is asleep</source>
+        <translation>プリンターはスリープ中です</translation>
+    </message>
+    <message>
+        <source>cutter&apos;s cover is open</source>
+        <translation>カッターのカバーが開いています</translation>
+    </message>
+    <message>
+        <source>cutter is missing</source>
+        <translation>カッターがありません</translation>
+    </message>
+    <message>
+        <source>ink ribbon is missing</source>
+        <translation>インクリボンがありません</translation>
+    </message>
+    <message>
+        <source>container for used ink is full</source>
+        <translation>廃インク容器がいっぱいです</translation>
+    </message>
+    <message>
+        <source>Paused since %1</source>
+        <translation>%1 から一時停止中</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>
@@ -791,6 +831,10 @@
     <message>
         <source>The whole document once a copy, instead of each label as often as there are copies</source>
         <translation>ラベルを 1 枚ずつ部数分繰り返すのではなく、文書全体を部ごとに印刷します</translation>
+    </message>
+    <message>
+        <source>Which pages are printed, such as 1-3,5; all of them where it is empty</source>
+        <translation>印刷するページ（例: 1-3,5）。空欄ならすべて</translation>
     </message>
 </context>
 <context>
@@ -1329,6 +1373,14 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
         <source>&amp;Print %1 labels</source>
         <translation>ラベルを %1 枚印刷(&amp;P)</translation>
     </message>
+    <message>
+        <source>The print server does not answer. Is the computer that has the printer switched on and connected? Printing goes on when it answers again.</source>
+        <translation>プリントサーバーが応答しません。プリンターのあるコンピューターの電源が入っていて、接続されていますか？応答が戻れば印刷できます。</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>応答なし</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1343,6 +1395,10 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
     <message>
         <source>PPD file, no printer</source>
         <translation>PPD ファイル、プリンターなし</translation>
+    </message>
+    <message>
+        <source>Choose a printer</source>
+        <translation>プリンターを選択</translation>
     </message>
 </context>
 <context>
@@ -1468,14 +1524,6 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
         <translation>不明なオプション「%1」: %2 のことですか?</translation>
     </message>
     <message>
-        <source>page range &quot;%1&quot;: %2; write pages like 1-4,7</source>
-        <translation>ページ範囲「%1」: %2。1-4,7 のように入力してください</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no page or range of pages</source>
-        <translation>「%1」はページでもページ範囲でもありません</translation>
-    </message>
-    <message>
         <source>pages must be in ascending order</source>
         <translation>ページは小さい順に指定してください</translation>
     </message>
@@ -1504,10 +1552,6 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
         <translation>%1: その文書はありません</translation>
     </message>
     <message>
-        <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
-        <translation>ページ範囲「%1」: 文書に %2 ページはありません。最後は %3 ページです</translation>
-    </message>
-    <message>
         <source>%1 has no value &quot;%2&quot;: its values are %3</source>
         <translation>%1 に値「%2」はありません: 使える値は %3 です</translation>
     </message>
@@ -1534,6 +1578,38 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
     <message>
         <source>&quot;%1&quot;, line %2,</source>
         <translation>「%1」の%2行目</translation>
+    </message>
+    <message>
+        <source>page range &quot;%1&quot;: %2</source>
+        <translation>ページ範囲「%1」: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no page; write pages such as 1-3,5</source>
+        <translation>「%1」はページではありません。1-3,5 のように入力してください</translation>
+    </message>
+    <message>
+        <source>a page is missing beside a comma; write pages such as 1-3,5</source>
+        <translation>コンマの横にページがありません。1-3,5 のように入力してください</translation>
+    </message>
+    <message>
+        <source>%1 has no first page: write 1%1</source>
+        <translation>%1 には最初のページがありません。1%1 と入力してください</translation>
+    </message>
+    <message>
+        <source>pages are counted from 1</source>
+        <translation>ページは 1 から数えます</translation>
+    </message>
+    <message>
+        <source>%1 runs backwards: write %2</source>
+        <translation>%1 は順序が逆です。%2 と入力してください</translation>
+    </message>
+    <message>
+        <source>the document has 1 page only</source>
+        <translation>文書は 1 ページだけです</translation>
+    </message>
+    <message>
+        <source>the document has %1 pages, and no page %2</source>
+        <translation>文書は %1 ページで、%2 ページ目はありません</translation>
     </message>
 </context>
 <context>

@@ -613,6 +613,46 @@
         <source>%1: the connection to the print server at &quot;%2&quot; was lost</source>
         <translation>%1: “%2”의 인쇄 서버와 연결이 끊겼습니다</translation>
     </message>
+    <message>
+        <source>label or tape is not fed</source>
+        <translation>라벨이나 테이프가 공급되지 않습니다</translation>
+    </message>
+    <message>
+        <source>another label or tape is in the printer</source>
+        <translation>다른 라벨이나 테이프가 들어 있습니다</translation>
+    </message>
+    <message>
+        <source>labels have to be taken out</source>
+        <translation>라벨을 꺼내야 합니다</translation>
+    </message>
+    <message>
+        <source>printer is starting</source>
+        <translation>프린터가 시작하는 중입니다</translation>
+    </message>
+    <message>
+        <source>printer is asleep</source>
+        <translation>프린터가 절전 상태입니다</translation>
+    </message>
+    <message>
+        <source>cutter&apos;s cover is open</source>
+        <translation>절단기 덮개가 열려 있습니다</translation>
+    </message>
+    <message>
+        <source>cutter is missing</source>
+        <translation>절단기가 없습니다</translation>
+    </message>
+    <message>
+        <source>ink ribbon is missing</source>
+        <translation>잉크 리본이 없습니다</translation>
+    </message>
+    <message>
+        <source>container for used ink is full</source>
+        <translation>폐잉크 통이 가득 찼습니다</translation>
+    </message>
+    <message>
+        <source>Paused since %1</source>
+        <translation>%1부터 일시 중지됨</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>
@@ -791,6 +831,10 @@
     <message>
         <source>The whole document once a copy, instead of each label as often as there are copies</source>
         <translation>라벨마다 매수만큼 반복하지 않고 문서 전체를 한 부씩 인쇄합니다</translation>
+    </message>
+    <message>
+        <source>Which pages are printed, such as 1-3,5; all of them where it is empty</source>
+        <translation>인쇄할 페이지(예: 1-3,5). 비워 두면 모두</translation>
     </message>
 </context>
 <context>
@@ -1329,6 +1373,14 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
         <source>&amp;Print %1 labels</source>
         <translation>라벨 %1장 인쇄(&amp;P)</translation>
     </message>
+    <message>
+        <source>The print server does not answer. Is the computer that has the printer switched on and connected? Printing goes on when it answers again.</source>
+        <translation>인쇄 서버가 응답하지 않습니다. 프린터가 있는 컴퓨터가 켜져 있고 연결되어 있습니까? 다시 응답하면 인쇄할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>응답 없음</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1343,6 +1395,10 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
     <message>
         <source>PPD file, no printer</source>
         <translation>PPD 파일, 프린터 없음</translation>
+    </message>
+    <message>
+        <source>Choose a printer</source>
+        <translation>프린터 선택</translation>
     </message>
 </context>
 <context>
@@ -1468,14 +1524,6 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
         <translation>알 수 없는 옵션 “%1”. %2입니까?</translation>
     </message>
     <message>
-        <source>page range &quot;%1&quot;: %2; write pages like 1-4,7</source>
-        <translation>페이지 범위 “%1”: %2. 페이지를 1-4,7과 같이 쓰십시오</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no page or range of pages</source>
-        <translation>“%1”은(는) 페이지나 페이지 범위가 아닙니다</translation>
-    </message>
-    <message>
         <source>pages must be in ascending order</source>
         <translation>페이지는 오름차순이어야 합니다</translation>
     </message>
@@ -1504,10 +1552,6 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
         <translation>%1: 그런 문서가 없습니다</translation>
     </message>
     <message>
-        <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
-        <translation>페이지 범위 “%1”: 문서에 %2페이지가 없습니다. 마지막은 %3페이지입니다</translation>
-    </message>
-    <message>
         <source>%1 has no value &quot;%2&quot;: its values are %3</source>
         <translation>%1에 값 “%2”이(가) 없습니다. 가능한 값은 %3입니다</translation>
     </message>
@@ -1534,6 +1578,38 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
     <message>
         <source>&quot;%1&quot;, line %2,</source>
         <translation>&quot;%1&quot;의 %2번째 줄을</translation>
+    </message>
+    <message>
+        <source>page range &quot;%1&quot;: %2</source>
+        <translation>페이지 범위 “%1”: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no page; write pages such as 1-3,5</source>
+        <translation>“%1”은(는) 페이지가 아닙니다. 1-3,5와 같이 쓰십시오</translation>
+    </message>
+    <message>
+        <source>a page is missing beside a comma; write pages such as 1-3,5</source>
+        <translation>쉼표 옆에 페이지가 없습니다. 1-3,5와 같이 쓰십시오</translation>
+    </message>
+    <message>
+        <source>%1 has no first page: write 1%1</source>
+        <translation>%1에 첫 페이지가 없습니다. 1%1과 같이 쓰십시오</translation>
+    </message>
+    <message>
+        <source>pages are counted from 1</source>
+        <translation>페이지는 1부터 셉니다</translation>
+    </message>
+    <message>
+        <source>%1 runs backwards: write %2</source>
+        <translation>%1은(는) 순서가 거꾸로입니다. %2(으)로 쓰십시오</translation>
+    </message>
+    <message>
+        <source>the document has 1 page only</source>
+        <translation>문서는 1페이지뿐입니다</translation>
+    </message>
+    <message>
+        <source>the document has %1 pages, and no page %2</source>
+        <translation>문서는 %1페이지이며 %2페이지는 없습니다</translation>
     </message>
 </context>
 <context>

@@ -613,6 +613,46 @@
         <source>%1: the connection to the print server at &quot;%2&quot; was lost</source>
         <translation>%1: de verbinding met de printserver op ‘%2’ is verbroken</translation>
     </message>
+    <message>
+        <source>label or tape is not fed</source>
+        <translation>label of tape wordt niet ingevoerd</translation>
+    </message>
+    <message>
+        <source>another label or tape is in the printer</source>
+        <translation>er zitten andere labels of een andere tape in de printer</translation>
+    </message>
+    <message>
+        <source>labels have to be taken out</source>
+        <translation>labels moeten worden weggenomen</translation>
+    </message>
+    <message>
+        <source>printer is starting</source>
+        <translation>printer start op</translation>
+    </message>
+    <message>
+        <source>printer is asleep</source>
+        <translation>printer slaapt</translation>
+    </message>
+    <message>
+        <source>cutter&apos;s cover is open</source>
+        <translation>klep van de snijder is open</translation>
+    </message>
+    <message>
+        <source>cutter is missing</source>
+        <translation>snijder ontbreekt</translation>
+    </message>
+    <message>
+        <source>ink ribbon is missing</source>
+        <translation>inktlint ontbreekt</translation>
+    </message>
+    <message>
+        <source>container for used ink is full</source>
+        <translation>het reservoir voor gebruikte inkt is vol</translation>
+    </message>
+    <message>
+        <source>Paused since %1</source>
+        <translation>Gepauzeerd sinds %1</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>
@@ -791,6 +831,10 @@
     <message>
         <source>The whole document once a copy, instead of each label as often as there are copies</source>
         <translation>Het hele document één keer per exemplaar, in plaats van elk etiket zo vaak als er exemplaren zijn</translation>
+    </message>
+    <message>
+        <source>Which pages are printed, such as 1-3,5; all of them where it is empty</source>
+        <translation>Welke pagina’s worden afgedrukt, zoals 1-3,5; alle als het leeg is</translation>
     </message>
 </context>
 <context>
@@ -1329,6 +1373,14 @@ Strook: plus en min zoomen, 0 past in, Enter toont een etiket groot. Ctrl+Z maak
         <source>&amp;Print %1 labels</source>
         <translation>%1 etiketten &amp;afdrukken</translation>
     </message>
+    <message>
+        <source>The print server does not answer. Is the computer that has the printer switched on and connected? Printing goes on when it answers again.</source>
+        <translation>De afdrukserver antwoordt niet. Staat de computer met de printer aan en is hij verbonden? Zodra hij weer antwoordt, kan er worden afgedrukt.</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>Geen antwoord</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1343,6 +1395,10 @@ Strook: plus en min zoomen, 0 past in, Enter toont een etiket groot. Ctrl+Z maak
     <message>
         <source>PPD file, no printer</source>
         <translation>PPD-bestand, geen printer</translation>
+    </message>
+    <message>
+        <source>Choose a printer</source>
+        <translation>Kies een printer</translation>
     </message>
 </context>
 <context>
@@ -1468,14 +1524,6 @@ Strook: plus en min zoomen, 0 past in, Enter toont een etiket groot. Ctrl+Z maak
         <translation>onbekende optie ‘%1’; is het %2?</translation>
     </message>
     <message>
-        <source>page range &quot;%1&quot;: %2; write pages like 1-4,7</source>
-        <translation>paginabereik ‘%1’: %2; schrijf pagina’s als 1-4,7</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no page or range of pages</source>
-        <translation>‘%1’ is geen pagina of paginabereik</translation>
-    </message>
-    <message>
         <source>pages must be in ascending order</source>
         <translation>de pagina’s moeten in oplopende volgorde staan</translation>
     </message>
@@ -1504,10 +1552,6 @@ Strook: plus en min zoomen, 0 past in, Enter toont een etiket groot. Ctrl+Z maak
         <translation>%1: dit document bestaat niet</translation>
     </message>
     <message>
-        <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
-        <translation>paginabereik ‘%1’: het document heeft geen pagina %2, de laatste is pagina %3</translation>
-    </message>
-    <message>
         <source>%1 has no value &quot;%2&quot;: its values are %3</source>
         <translation>%1 heeft geen waarde ‘%2’: mogelijk zijn %3</translation>
     </message>
@@ -1534,6 +1578,38 @@ Strook: plus en min zoomen, 0 past in, Enter toont een etiket groot. Ctrl+Z maak
     <message>
         <source>&quot;%1&quot;, line %2,</source>
         <translation>‘%1’, regel %2,</translation>
+    </message>
+    <message>
+        <source>page range &quot;%1&quot;: %2</source>
+        <translation>paginabereik ‘%1’: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no page; write pages such as 1-3,5</source>
+        <translation>‘%1’ is geen pagina; schrijf pagina’s als 1-3,5</translation>
+    </message>
+    <message>
+        <source>a page is missing beside a comma; write pages such as 1-3,5</source>
+        <translation>naast een komma ontbreekt een pagina; schrijf pagina’s als 1-3,5</translation>
+    </message>
+    <message>
+        <source>%1 has no first page: write 1%1</source>
+        <translation>%1 heeft geen eerste pagina: schrijf 1%1</translation>
+    </message>
+    <message>
+        <source>pages are counted from 1</source>
+        <translation>pagina’s worden vanaf 1 geteld</translation>
+    </message>
+    <message>
+        <source>%1 runs backwards: write %2</source>
+        <translation>%1 loopt achteruit: schrijf %2</translation>
+    </message>
+    <message>
+        <source>the document has 1 page only</source>
+        <translation>het document heeft maar 1 pagina</translation>
+    </message>
+    <message>
+        <source>the document has %1 pages, and no page %2</source>
+        <translation>het document heeft %1 pagina’s, en geen pagina %2</translation>
     </message>
 </context>
 <context>

@@ -613,6 +613,46 @@
         <source>%1: the connection to the print server at &quot;%2&quot; was lost</source>
         <translation>%1: a conexão com o servidor de impressão em “%2” foi perdida</translation>
     </message>
+    <message>
+        <source>label or tape is not fed</source>
+        <translation>a etiqueta ou a fita não avança</translation>
+    </message>
+    <message>
+        <source>another label or tape is in the printer</source>
+        <translation>a impressora tem outras etiquetas ou outra fita</translation>
+    </message>
+    <message>
+        <source>labels have to be taken out</source>
+        <translation>é preciso retirar as etiquetas</translation>
+    </message>
+    <message>
+        <source>printer is starting</source>
+        <translation>a impressora está a iniciar</translation>
+    </message>
+    <message>
+        <source>printer is asleep</source>
+        <translation>a impressora está em repouso</translation>
+    </message>
+    <message>
+        <source>cutter&apos;s cover is open</source>
+        <translation>a tampa do cortador está aberta</translation>
+    </message>
+    <message>
+        <source>cutter is missing</source>
+        <translation>falta o cortador</translation>
+    </message>
+    <message>
+        <source>ink ribbon is missing</source>
+        <translation>falta a fita de tinta</translation>
+    </message>
+    <message>
+        <source>container for used ink is full</source>
+        <translation>o depósito de tinta usada está cheio</translation>
+    </message>
+    <message>
+        <source>Paused since %1</source>
+        <translation>Em pausa desde %1</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>
@@ -791,6 +831,10 @@
     <message>
         <source>The whole document once a copy, instead of each label as often as there are copies</source>
         <translation>O documento inteiro uma vez por cópia, em vez de cada etiqueta tantas vezes quantas as cópias</translation>
+    </message>
+    <message>
+        <source>Which pages are printed, such as 1-3,5; all of them where it is empty</source>
+        <translation>Que páginas são impressas, como 1-3,5; todas se estiver vazio</translation>
     </message>
 </context>
 <context>
@@ -1329,6 +1373,14 @@ Tira: mais e menos para o zoom, 0 para ajustar, Enter mostra uma etiqueta em gra
         <source>&amp;Print %1 labels</source>
         <translation>&amp;Imprimir %1 etiquetas</translation>
     </message>
+    <message>
+        <source>The print server does not answer. Is the computer that has the printer switched on and connected? Printing goes on when it answers again.</source>
+        <translation>O servidor de impressão não responde. O computador que tem a impressora está ligado e com ligação? Assim que responder, pode imprimir de novo.</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>Sem resposta</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1343,6 +1395,10 @@ Tira: mais e menos para o zoom, 0 para ajustar, Enter mostra uma etiqueta em gra
     <message>
         <source>PPD file, no printer</source>
         <translation>Arquivo PPD, sem impressora</translation>
+    </message>
+    <message>
+        <source>Choose a printer</source>
+        <translation>Escolha uma impressora</translation>
     </message>
 </context>
 <context>
@@ -1468,14 +1524,6 @@ Tira: mais e menos para o zoom, 0 para ajustar, Enter mostra uma etiqueta em gra
         <translation>opção desconhecida “%1”; seria %2?</translation>
     </message>
     <message>
-        <source>page range &quot;%1&quot;: %2; write pages like 1-4,7</source>
-        <translation>intervalo de páginas “%1”: %2; escreva as páginas como 1-4,7</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no page or range of pages</source>
-        <translation>“%1” não é uma página nem um intervalo de páginas</translation>
-    </message>
-    <message>
         <source>pages must be in ascending order</source>
         <translation>as páginas devem estar em ordem crescente</translation>
     </message>
@@ -1504,10 +1552,6 @@ Tira: mais e menos para o zoom, 0 para ajustar, Enter mostra uma etiqueta em gra
         <translation>%1: este documento não existe</translation>
     </message>
     <message>
-        <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
-        <translation>intervalo de páginas “%1”: o documento não tem a página %2, a última é a página %3</translation>
-    </message>
-    <message>
         <source>%1 has no value &quot;%2&quot;: its values are %3</source>
         <translation>%1 não tem o valor “%2”: seus valores são %3</translation>
     </message>
@@ -1534,6 +1578,38 @@ Tira: mais e menos para o zoom, 0 para ajustar, Enter mostra uma etiqueta em gra
     <message>
         <source>&quot;%1&quot;, line %2,</source>
         <translation>“%1”, linha %2,</translation>
+    </message>
+    <message>
+        <source>page range &quot;%1&quot;: %2</source>
+        <translation>intervalo de páginas “%1”: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no page; write pages such as 1-3,5</source>
+        <translation>“%1” não é uma página; escreva as páginas como 1-3,5</translation>
+    </message>
+    <message>
+        <source>a page is missing beside a comma; write pages such as 1-3,5</source>
+        <translation>falta uma página ao lado de uma vírgula; escreva as páginas como 1-3,5</translation>
+    </message>
+    <message>
+        <source>%1 has no first page: write 1%1</source>
+        <translation>%1 não tem primeira página: escreva 1%1</translation>
+    </message>
+    <message>
+        <source>pages are counted from 1</source>
+        <translation>as páginas contam-se a partir de 1</translation>
+    </message>
+    <message>
+        <source>%1 runs backwards: write %2</source>
+        <translation>%1 está ao contrário: escreva %2</translation>
+    </message>
+    <message>
+        <source>the document has 1 page only</source>
+        <translation>o documento tem só 1 página</translation>
+    </message>
+    <message>
+        <source>the document has %1 pages, and no page %2</source>
+        <translation>o documento tem %1 páginas e nenhuma página %2</translation>
     </message>
 </context>
 <context>

@@ -613,6 +613,46 @@
         <source>%1: the connection to the print server at &quot;%2&quot; was lost</source>
         <translation>%1：与“%2”上打印服务器的连接已断开</translation>
     </message>
+    <message>
+        <source>label or tape is not fed</source>
+        <translation>标签或色带未送入</translation>
+    </message>
+    <message>
+        <source>another label or tape is in the printer</source>
+        <translation>打印机中装的是其他标签或色带</translation>
+    </message>
+    <message>
+        <source>labels have to be taken out</source>
+        <translation>需要取出标签</translation>
+    </message>
+    <message>
+        <source>printer is starting</source>
+        <translation>打印机正在启动</translation>
+    </message>
+    <message>
+        <source>printer is asleep</source>
+        <translation>打印机处于休眠状态</translation>
+    </message>
+    <message>
+        <source>cutter&apos;s cover is open</source>
+        <translation>切刀盖已打开</translation>
+    </message>
+    <message>
+        <source>cutter is missing</source>
+        <translation>缺少切刀</translation>
+    </message>
+    <message>
+        <source>ink ribbon is missing</source>
+        <translation>缺少碳带</translation>
+    </message>
+    <message>
+        <source>container for used ink is full</source>
+        <translation>废墨盒已满</translation>
+    </message>
+    <message>
+        <source>Paused since %1</source>
+        <translation>自 %1 起暂停</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>
@@ -791,6 +831,10 @@
     <message>
         <source>The whole document once a copy, instead of each label as often as there are copies</source>
         <translation>每份打印整个文档，而不是将每张标签重复打印</translation>
+    </message>
+    <message>
+        <source>Which pages are printed, such as 1-3,5; all of them where it is empty</source>
+        <translation>要打印的页面，例如 1-3,5；留空则全部打印</translation>
     </message>
 </context>
 <context>
@@ -1329,6 +1373,14 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
         <source>&amp;Print %1 labels</source>
         <translation>打印 %1 张标签(&amp;P)</translation>
     </message>
+    <message>
+        <source>The print server does not answer. Is the computer that has the printer switched on and connected? Printing goes on when it answers again.</source>
+        <translation>打印服务器没有应答。连接打印机的计算机是否已开机并联网？恢复应答后即可打印。</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>无应答</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1343,6 +1395,10 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
     <message>
         <source>PPD file, no printer</source>
         <translation>PPD 文件，没有打印机</translation>
+    </message>
+    <message>
+        <source>Choose a printer</source>
+        <translation>选择打印机</translation>
     </message>
 </context>
 <context>
@@ -1468,14 +1524,6 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
         <translation>未知选项“%1”；是不是 %2？</translation>
     </message>
     <message>
-        <source>page range &quot;%1&quot;: %2; write pages like 1-4,7</source>
-        <translation>页面范围“%1”：%2；请按 1-4,7 的形式书写</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no page or range of pages</source>
-        <translation>“%1”不是页码或页面范围</translation>
-    </message>
-    <message>
         <source>pages must be in ascending order</source>
         <translation>页码必须按升序排列</translation>
     </message>
@@ -1504,10 +1552,6 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
         <translation>%1：没有这个文档</translation>
     </message>
     <message>
-        <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
-        <translation>页面范围“%1”：文档没有第 %2 页，最后一页是第 %3 页</translation>
-    </message>
-    <message>
         <source>%1 has no value &quot;%2&quot;: its values are %3</source>
         <translation>%1 没有值“%2”：可用的值为 %3</translation>
     </message>
@@ -1534,6 +1578,38 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
     <message>
         <source>&quot;%1&quot;, line %2,</source>
         <translation>“%1”第 %2 行</translation>
+    </message>
+    <message>
+        <source>page range &quot;%1&quot;: %2</source>
+        <translation>页面范围“%1”：%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no page; write pages such as 1-3,5</source>
+        <translation>“%1”不是页码；请按 1-3,5 的形式书写</translation>
+    </message>
+    <message>
+        <source>a page is missing beside a comma; write pages such as 1-3,5</source>
+        <translation>逗号旁缺少页码；请按 1-3,5 的形式书写</translation>
+    </message>
+    <message>
+        <source>%1 has no first page: write 1%1</source>
+        <translation>%1 没有起始页：请写 1%1</translation>
+    </message>
+    <message>
+        <source>pages are counted from 1</source>
+        <translation>页码从 1 开始</translation>
+    </message>
+    <message>
+        <source>%1 runs backwards: write %2</source>
+        <translation>%1 顺序颠倒：请写 %2</translation>
+    </message>
+    <message>
+        <source>the document has 1 page only</source>
+        <translation>文档只有 1 页</translation>
+    </message>
+    <message>
+        <source>the document has %1 pages, and no page %2</source>
+        <translation>文档共 %1 页，没有第 %2 页</translation>
     </message>
 </context>
 <context>

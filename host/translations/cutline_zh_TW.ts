@@ -613,6 +613,46 @@
         <source>%1: the connection to the print server at &quot;%2&quot; was lost</source>
         <translation>%1：與「%2」上列印伺服器的連線已中斷</translation>
     </message>
+    <message>
+        <source>label or tape is not fed</source>
+        <translation>標籤或標籤帶未送入</translation>
+    </message>
+    <message>
+        <source>another label or tape is in the printer</source>
+        <translation>印表機中裝的是其他標籤或標籤帶</translation>
+    </message>
+    <message>
+        <source>labels have to be taken out</source>
+        <translation>需要取出標籤</translation>
+    </message>
+    <message>
+        <source>printer is starting</source>
+        <translation>印表機正在啟動</translation>
+    </message>
+    <message>
+        <source>printer is asleep</source>
+        <translation>印表機處於休眠狀態</translation>
+    </message>
+    <message>
+        <source>cutter&apos;s cover is open</source>
+        <translation>切刀蓋已打開</translation>
+    </message>
+    <message>
+        <source>cutter is missing</source>
+        <translation>缺少切刀</translation>
+    </message>
+    <message>
+        <source>ink ribbon is missing</source>
+        <translation>缺少碳帶</translation>
+    </message>
+    <message>
+        <source>container for used ink is full</source>
+        <translation>廢墨盒已滿</translation>
+    </message>
+    <message>
+        <source>Paused since %1</source>
+        <translation>自 %1 起暫停</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>
@@ -791,6 +831,10 @@
     <message>
         <source>The whole document once a copy, instead of each label as often as there are copies</source>
         <translation>每份列印整份文件，而不是將每張標籤重複列印</translation>
+    </message>
+    <message>
+        <source>Which pages are printed, such as 1-3,5; all of them where it is empty</source>
+        <translation>要列印的頁面，例如 1-3,5；留空則全部列印</translation>
     </message>
 </context>
 <context>
@@ -1329,6 +1373,14 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
         <source>&amp;Print %1 labels</source>
         <translation>列印 %1 張標籤(&amp;P)</translation>
     </message>
+    <message>
+        <source>The print server does not answer. Is the computer that has the printer switched on and connected? Printing goes on when it answers again.</source>
+        <translation>列印伺服器沒有回應。連接印表機的電腦是否已開機並連線？恢復回應後即可列印。</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>沒有回應</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1343,6 +1395,10 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
     <message>
         <source>PPD file, no printer</source>
         <translation>PPD 檔案，沒有印表機</translation>
+    </message>
+    <message>
+        <source>Choose a printer</source>
+        <translation>選擇印表機</translation>
     </message>
 </context>
 <context>
@@ -1468,14 +1524,6 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
         <translation>未知的選項「%1」；是不是 %2？</translation>
     </message>
     <message>
-        <source>page range &quot;%1&quot;: %2; write pages like 1-4,7</source>
-        <translation>頁面範圍「%1」：%2；請依 1-4,7 的形式書寫</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no page or range of pages</source>
-        <translation>「%1」不是頁碼或頁面範圍</translation>
-    </message>
-    <message>
         <source>pages must be in ascending order</source>
         <translation>頁碼必須依遞增順序排列</translation>
     </message>
@@ -1504,10 +1552,6 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
         <translation>%1：沒有這個文件</translation>
     </message>
     <message>
-        <source>page range &quot;%1&quot;: the document has no page %2, its last is page %3</source>
-        <translation>頁面範圍「%1」：文件沒有第 %2 頁，最後一頁是第 %3 頁</translation>
-    </message>
-    <message>
         <source>%1 has no value &quot;%2&quot;: its values are %3</source>
         <translation>%1 沒有值「%2」：可用的值為 %3</translation>
     </message>
@@ -1534,6 +1578,38 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
     <message>
         <source>&quot;%1&quot;, line %2,</source>
         <translation>「%1」第 %2 行</translation>
+    </message>
+    <message>
+        <source>page range &quot;%1&quot;: %2</source>
+        <translation>頁面範圍「%1」：%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no page; write pages such as 1-3,5</source>
+        <translation>「%1」不是頁碼；請依 1-3,5 的形式書寫</translation>
+    </message>
+    <message>
+        <source>a page is missing beside a comma; write pages such as 1-3,5</source>
+        <translation>逗號旁缺少頁碼；請依 1-3,5 的形式書寫</translation>
+    </message>
+    <message>
+        <source>%1 has no first page: write 1%1</source>
+        <translation>%1 沒有起始頁：請寫 1%1</translation>
+    </message>
+    <message>
+        <source>pages are counted from 1</source>
+        <translation>頁碼從 1 開始</translation>
+    </message>
+    <message>
+        <source>%1 runs backwards: write %2</source>
+        <translation>%1 順序顛倒：請寫 %2</translation>
+    </message>
+    <message>
+        <source>the document has 1 page only</source>
+        <translation>文件只有 1 頁</translation>
+    </message>
+    <message>
+        <source>the document has %1 pages, and no page %2</source>
+        <translation>文件共 %1 頁，沒有第 %2 頁</translation>
     </message>
 </context>
 <context>

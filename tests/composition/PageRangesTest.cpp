@@ -29,6 +29,18 @@ TEST(PageRanges, RefusesWhatIsNoRangeAndQuotesIt) {
   }
 }
 
+TEST(PageRanges, SaysWhatIsWrong) {
+  const auto problem = [](const char* text) { return PageRanges::parse(text).error().message; };
+  EXPECT_EQ(problem("1,5-3"), "page range \"1,5-3\": 5-3 runs backwards: write 3-5");
+  EXPECT_EQ(problem("0"), "page range \"0\": pages are counted from 1");
+  EXPECT_EQ(problem("1,,2"),
+            "page range \"1,,2\": a page is missing beside a comma; write pages such as 1-3,5");
+  EXPECT_EQ(problem("x"), "page range \"x\": \"x\" is no page; write pages such as 1-3,5");
+  EXPECT_EQ(problem("-3"), "page range \"-3\": -3 has no first page: write 1-3");
+  EXPECT_EQ(PageRanges::parse("2")->checkWithin(1).error().message,
+            "page range \"2\": the document has 1 page only");
+}
+
 TEST(PageRanges, RefusesPagesOutOfOrder) {
   for (const char* bad : {"4,1", "1-4,4", "1-4,2-3", "5-,7"})
     EXPECT_FALSE(PageRanges::parse(bad)) << bad;
@@ -69,7 +81,7 @@ TEST(PageRanges, EachPageThatIsNamedMustBeThere) {
   for (const char* beyond : {"13", "1-13", "1,20-30", "13-"})
     EXPECT_FALSE(PageRanges::parse(beyond)->checkWithin(12)) << beyond;
   EXPECT_EQ(PageRanges::parse("10-20")->checkWithin(12).error().message,
-            "page range \"10-20\": the document has no page 13, its last is page 12");
+            "page range \"10-20\": the document has 12 pages, and no page 13");
 }
 
 }  // namespace

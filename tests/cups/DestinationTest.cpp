@@ -43,6 +43,28 @@ TEST(Destination, ReasonsFollowTheStateWithoutTheirSeverity) {
             "Printing - connecting to the printer, labels or tape nearly used up");
 }
 
+TEST(Destination, UsualReasonsAreSaidInPlainWords) {
+  EXPECT_EQ(stateText(PrinterState::idle, {"marker-supply-missing-error"}),
+            "Not ready - ink ribbon is missing");
+  EXPECT_EQ(stateText(PrinterState::idle, {"cutter-open-warning"}),
+            "Not ready - cutter's cover is open");
+  EXPECT_EQ(stateText(PrinterState::idle, {"output-area-full-report"}),
+            "Not ready - labels have to be taken out");
+  EXPECT_EQ(stateText(PrinterState::idle, {"warming-up"}), "Ready - printer is starting");
+}
+
+TEST(Destination, APauseTellsSinceWhenAndWhy) {
+  Destination printer;
+  printer.state = PrinterState::stopped;
+  printer.stateReasons = {"paused"};
+  printer.stateMessage = "Ana changes the tape";
+  EXPECT_EQ(printer.stateText().english(), "Paused - Ana changes the tape");
+  printer.stateSince = 86400L * 365;
+  EXPECT_TRUE(printer.stateText().english().starts_with("Paused since 197"));
+  printer.stateMessage = "Paused";
+  EXPECT_EQ(printer.stateText().english().find(" - "), std::string::npos);
+}
+
 TEST(Destination, PausedIsNotSaidTwice) {
   EXPECT_EQ(stateText(PrinterState::stopped, {"paused"}), "Paused");
   EXPECT_EQ(stateText(PrinterState::stopped, {"paused", "cover-open-error"}),

@@ -4,14 +4,18 @@
 #include <QApplication>
 #include <QImage>
 #include <QLabel>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <algorithm>
+#include <filesystem>
 #include <future>
 
 #include "host/core/CommandLine.h"
 #include "host/core/Installation.h"
 #include "host/core/PluginLoader.h"
 #include "host/dialog/DialogSession.h"
+#include "host/dialog/Remembered.h"
 #include "tests/dialog/DialogTest.h"
 
 namespace cutline {
@@ -98,16 +102,39 @@ TEST_F(DialogSessionTest, ASnapshotThatCannotBeWrittenIsAnError) {
             "name another file\n");
 }
 
-TEST_F(DialogSessionTest, AMissingDocumentIsAnErrorBeforeAnythingIsShown) {
+TEST_F(DialogSessionTest, AMissingDocumentIsNamedInTheWindowAndIsAnError) {
   mLine.files = {"/nowhere/labels.pdf"};
+  closeWhen([] { return shows("/nowhere/labels.pdf"); });
   EXPECT_EQ(run(), kExitError);
   EXPECT_EQ(mErrors, "cutline: /nowhere/labels.pdf: there is no such document\n");
 }
 
-TEST_F(DialogSessionTest, AnUnreadablePpdIsAnErrorBeforeAnythingIsShown) {
+TEST_F(DialogSessionTest, AnUnreadablePpdIsNamedInTheWindowAndIsAnError) {
   mLine.ppdPath = "/nowhere/printer.ppd";
+  closeWhen([] { return shows("/nowhere/printer.ppd"); });
   EXPECT_EQ(run(), kExitError);
   EXPECT_NE(mErrors.find("/nowhere/printer.ppd"), std::string::npos);
+  EXPECT_EQ(std::count(mErrors.begin(), mErrors.end(), '\n'), 1);
+}
+
+TEST_F(DialogSessionTest, WhatIsWrongFromTheStartEndsASnapshot) {
+  mLine.command = Command::snapshot;
+  mLine.files = {"/nowhere/labels.pdf"};
+  EXPECT_EQ(run(), kExitError);
+}
+
+TEST_F(DialogSessionTest, TheWindowOpensAsLargeAsItWas) {
+  Remembered().setWindowSize({1400, 780});
+  QSize size;
+  when([] { return shownDialog() != nullptr; },
+       [&] {
+         size = shownDialog()->size();
+         shownDialog()->close();
+       });
+  run();
+  const QSize room = QApplication::primaryScreen()->availableSize();
+  EXPECT_EQ(size.height(), std::min(780, room.height() - 40));
+  std::filesystem::remove(Remembered::usualPath());
 }
 
 TEST_F(DialogSessionTest, ClosingTheDialogCancels) {

@@ -115,13 +115,38 @@ int FakePrintServer::cancellations() {
   return mCancellations;
 }
 
+void FakePrintServer::setGone(bool isGone, bool isSilent) {
+  const std::scoped_lock lock(mMutex);
+  mIsGone = isGone;
+  mIsSilent = isSilent;
+  mReleased.notify_all();
+}
+
+void FakePrintServer::addDestination(const Destination& destination) {
+  const std::scoped_lock lock(mMutex);
+  mDestinations.push_back(destination);
+}
+
+void FakePrintServer::removePrinter(const std::string& name) {
+  const std::scoped_lock lock(mMutex);
+  std::erase_if(mDestinations, [&](const auto& each) { return each.name.printer == name; });
+}
+
+bool FakePrintServer::answers() {
+  const std::scoped_lock lock(mMutex);
+  return !mIsGone;
+}
+
 Result<std::vector<Destination>> FakePrintServer::destinations() {
   const std::scoped_lock lock(mMutex);
+  if (mIsGone) return Error{"no print server answers"};
   return mDestinations;
 }
 
 Result<Destination> FakePrintServer::find(const DestinationName& name) {
-  const std::scoped_lock lock(mMutex);
+  std::unique_lock lock(mMutex);
+  mReleased.wait(lock, [this] { return !mIsSilent; });
+  if (mIsGone) return Error{"no print server answers"};
   const auto found =
       std::find_if(mDestinations.begin(), mDestinations.end(),
                    [&](const Destination& destination) { return destination.name == name; });

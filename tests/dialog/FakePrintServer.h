@@ -35,6 +35,10 @@ class FakePrintServer final : public PrintServer {
   void refuseSubmission(const std::string& reason);
   // The next submission stops half way until its progress is told to give up.
   void stallSubmission();
+  // Nobody answers, or not before it is back.
+  void setGone(bool isGone, bool isSilent = false);
+  void addDestination(const Destination& destination);
+  void removePrinter(const std::string& name);
   void refusePresets(const std::string& reason);
   // Cancelling is refused, and finds the job in this state.
   void refuseCancelling(const std::string& reason, JobState state);
@@ -49,6 +53,7 @@ class FakePrintServer final : public PrintServer {
   int cancellations();
 
   Result<std::vector<Destination>> destinations() override;
+  bool answers() override;
   Result<Destination> find(const DestinationName& name) override;
   Result<PrinterChoice> open(const Destination& destination) override;
   Result<Done> saveInstance(const DestinationName& name, const OptionList& options) override;
@@ -68,6 +73,8 @@ class FakePrintServer final : public PrintServer {
   std::optional<std::string> mPresetRefusal;
   std::optional<std::string> mCancelRefusal;
   JobState mStateAtRefusal = JobState::completed;
+  bool mIsGone = false;
+  bool mIsSilent = false;
   bool mIsStalling = false;
   bool mIsCancelled = false;
   std::vector<PrintRequest> mSubmissions;

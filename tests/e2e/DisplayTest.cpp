@@ -123,6 +123,21 @@ TEST_F(OnDisplay, EscapeCancels) {
   EXPECT_TRUE(nothingNew());
 }
 
+// The dialog comes up all the same, and another printer can be chosen in it.
+TEST_F(EndToEndTest, AnUnknownPrinterIsNamedInTheWindow) {
+  Display display;
+  QProcess program;
+  display.start(program, QString::fromStdString(built("bin/cutline")),
+                {QStringLiteral("-d"), QStringLiteral("nosuch"), QString::fromStdString(labels())});
+  EXPECT_FALSE(display.waitForWindow(kTitle).isEmpty());
+  display.press(kTitle, QStringLiteral("Escape"));
+  EXPECT_TRUE(program.waitForFinished(kPatience));
+  EXPECT_EQ(program.exitCode(), kExitError);
+  const QByteArray errors = program.readAllStandardError();
+  EXPECT_TRUE(errors.contains("nosuch")) << errors.toStdString();
+  EXPECT_EQ(errors.count('\n'), 1) << errors.toStdString();
+}
+
 }  // namespace
 
 }  // namespace cutline::test

@@ -59,21 +59,37 @@ class Failures : public EndToEndTest {
 };
 
 TEST_F(Failures, WithoutAServerEachCommandSaysSo) {
-  for (const char* command : {"--print ", "--options ", "--summary ", ""})
+  for (const char* command : {"--print ", "--options ", "--summary "})
     expectFailureOf(std::string(command) + "-d tape24 " + labels(), "no.sock",
                     "CUPS_SERVER=/nowhere/no.sock");
   expectFailureOf("--list", "no.sock", "CUPS_SERVER=/nowhere/no.sock");
 }
 
+TEST_F(Failures, AListThatNobodyCanReadIsAnError) {
+  const CommandResult program = run(quoted(built("bin/cutline")) + " --list >/dev/full");
+  EXPECT_EQ(program.status, kExitError);
+  EXPECT_NE(program.errors.find("standard output cannot be written"), std::string::npos);
+}
+
+TEST_F(Failures, TheServerThatGoesIsNamedWhileTheDialogIdles) {
+  PrivateServer ending;
+  CommandLine line = dialogOn("tape24");
+  line.server = ending.options();
+  DialogOnServer dialog(line, std::make_shared<CupsPrintServer>(line.server));
+  ASSERT_TRUE(dialog.willShow(QStringLiteral("Ready")));
+  ending.stop();
+  EXPECT_TRUE(dialog.willShow(QStringLiteral("The print server does not answer")));
+}
+
 TEST_F(Failures, AnUnknownPrinterIsNamed) {
-  for (const char* command : {"--print ", "--options ", "--snapshot /nowhere/a.png ", ""})
+  for (const char* command : {"--print ", "--options ", "--snapshot /nowhere/a.png "})
     expectFailureOf(std::string(command) + "-d nosuch " + labels(), "nosuch");
   EXPECT_TRUE(nothingNew());
 }
 
 TEST_F(Failures, AnUnknownChoiceIsNotPrinted) {
   expectFailureOf("--print -d tape24 -o LxHalfCut=MAYBE " + labels(), "MAYBE");
-  expectFailureOf("-d tape24 -o LxHalfCut=MAYBE " + labels(), "MAYBE");
+  expectFailureOf("--summary -d tape24 -o LxHalfCut=MAYBE " + labels(), "MAYBE");
   EXPECT_TRUE(nothingNew());
 }
 
@@ -104,14 +120,14 @@ TEST_F(Failures, PagesThatTheDocumentLacksAreNotSent) {
   const std::string jobs = outputOf("lpstat -W all");
   for (const char* pages : {"13", "1-13", "2,20-"}) {
     const std::string option = std::string("-P ") + pages + " ";
-    expectFailureOf("--print -d tape24 " + option + labels(), "its last is page 12");
+    expectFailureOf("--print -d tape24 " + option + labels(), "the document has 12 pages");
   }
   expectFailureOf("--print -d tape24 -P 2 " + built("share/cutline/samples/documents/label.png"),
-                  "its last is page 1");
+                  "the document has 1 page only");
   CommandLine line = dialogOn("tape24");
   line.asked.pageRanges = "13";
   DialogOnServer dialog(line);
-  EXPECT_TRUE(dialog.willShow(QStringLiteral("its last is page 12")));
+  EXPECT_TRUE(dialog.willShow(QStringLiteral("the document has 12 pages")));
   click(dialog.printButton());
   EXPECT_EQ(outputOf("lpstat -W all"), jobs);
   EXPECT_EQ(runProgram("--print -d tape24 -P 12- " + labels()).status, kExitDone);

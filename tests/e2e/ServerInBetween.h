@@ -11,6 +11,7 @@ namespace cutline::test {
 class ServerInBetween : public PrintServer {
  public:
   Result<std::vector<Destination>> destinations() override { return mServer.destinations(); }
+  bool answers() override { return mServer.answers(); }
   Result<Destination> find(const DestinationName& name) override { return mServer.find(name); }
   Result<PrinterChoice> open(const Destination& destination) override {
     return mServer.open(destination);

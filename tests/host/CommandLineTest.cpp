@@ -157,5 +157,14 @@ TEST(CommandLineTest, TheHelpNamesEveryOption) {
     EXPECT_NE(helpText().find(option), std::string::npos) << option;
 }
 
+TEST(CommandLine, QuietIsALetterOrAWord) {
+  for (const char* word : {"-q", "--quiet"}) {
+    const char* words[] = {"cutline", "--print", word};
+    const auto line = parseCommandLine(3, words);
+    ASSERT_TRUE(line);
+    EXPECT_TRUE(line->isQuiet);
+  }
+}
+
 }  // namespace
 }  // namespace cutline

@@ -21,7 +21,8 @@ struct Job {
                          return answer;
                        },
                        [this] { ++pauses; },
-                       [this](const std::string& text) { notes.push_back(text); }});
+                       [this](const std::string& text) { notes.push_back(text); },
+                       [this] { return trouble; }});
   }
   std::string error() {
     const Result<Done> end = wait();
@@ -30,6 +31,7 @@ struct Job {
 
   Answers answers;
   int pauses = 0;
+  std::string trouble;
   std::vector<std::string> notes;
 };
 
@@ -44,6 +46,14 @@ TEST(JobEnd, AJobThatPrintedIsDone) {
   EXPECT_EQ(job.error(), "");
   EXPECT_EQ(job.pauses, 2);
   EXPECT_TRUE(job.notes.empty());
+}
+
+TEST(JobEnd, WhatThePrinterNeedsIsToldOnce) {
+  Job job({status(JobState::processing, 0), status(JobState::processing, 0),
+           status(JobState::completed, 1)});
+  job.trouble = "Not ready - cover is open";
+  EXPECT_EQ(job.error(), "");
+  EXPECT_EQ(job.notes, std::vector<std::string>{"the job tape-7: Not ready - cover is open"});
 }
 
 TEST(JobEnd, AJobWhosePagesNobodyCountsIsDone) {
