@@ -31,6 +31,7 @@ enum LongOption {
   kList,
   kPluginDirectory,
   kMarks,
+  kOnce,
   kHelp,
   kVersion
 };
@@ -52,6 +53,7 @@ constexpr option kLongOptions[] = {{"ppd", required_argument, nullptr, kPpd},
                                    {"list", no_argument, nullptr, kList},
                                    {"plugin-dir", required_argument, nullptr, kPluginDirectory},
                                    {"marks", no_argument, nullptr, kMarks},
+                                   {"once", no_argument, nullptr, kOnce},
                                    {"help", no_argument, nullptr, kHelp},
                                    {"version", no_argument, nullptr, kVersion},
                                    {nullptr, 0, nullptr, 0}};
@@ -226,6 +228,8 @@ Problem apply(CommandLine& line, int option, const std::string& text) {
       return store(line.pluginDirectory, text);
     case kMarks:
       return turnOn(line.marks);
+    case kOnce:
+      return turnOn(line.isOnce);
     default:
       return "unknown option";
   }
@@ -233,6 +237,7 @@ Problem apply(CommandLine& line, int option, const std::string& text) {
 
 Problem checkTogether(const CommandLine& line) {
   if (line.waits && line.command != Command::print) return "--wait goes with --print only";
+  if (line.isOnce && line.command != Command::dialog) return "--once goes with the dialog only";
   if (line.asJson && line.command != Command::plan) return "--json goes with --plan only";
   const bool isUnseen = line.command == Command::print || line.command == Command::options;
   if (line.asked.isRaw() && !isUnseen) return "-o raw goes with --print only";

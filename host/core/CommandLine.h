@@ -49,6 +49,8 @@ struct CommandLine {
   bool isQuiet = false;                        // -q: no notes, only errors
   bool waits = false;                          // --wait: until the job has ended
   bool marks = false;                          // --marks: times on standard output, then end
+  // For programs that open the dialog on somebody's behalf; not in the help text.
+  bool isOnce = false;  // --once: the dialog closes when its job is out
 };
 
 // The error is about usage: one line without "cutline: ".

@@ -102,6 +102,7 @@ DialogSession::DialogSession(const DialogRequest& request, FirstPrinter printer)
       mModel(mPlugIns, mLine.asked) {
   mDialog = std::make_unique<PrintDialog>(mModel, std::make_shared<CupsPrintServer>(mLine.server),
                                           source());
+  if (mLine.isOnce) mDialog->closeAfterJob();
   mDialog->installEventFilter(this);
   connect(mDialog.get(), &QDialog::finished, this,
           [this] { QApplication::exit(mDialog->exitStatus()); });

@@ -73,6 +73,9 @@ class PrintDialog : public QDialog, private PrintModelListener {
   // Something was wrong from the start; closing the dialog is an error until a job is out.
   void noteFailure() { mExitStatus = kExitError; }
 
+  // The dialog closes by itself when a job is out, instead of staying to print again.
+  void closeAfterJob() { mClosesAfterJob = true; }
+
   // What is in the dialog now.
   const std::vector<std::string>& documents() const noexcept { return mSource.paths; }
 
@@ -174,6 +177,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
   PrintModel& mModel;
   PrintSource mSource;
   int mExitStatus;
+  bool mClosesAfterJob = false;
   std::string mNamedPaper;          // the last one that the printer names
   int mShownPages = 0;              // of the documents
   std::uint64_t mAgreedLabels = 0;  // somebody was asked about so many

@@ -251,6 +251,7 @@ void PrintDialog::notePrinted() {
 }
 
 void PrintDialog::takePrinted() {
+  if (mClosesAfterJob) return finish(kExitDone);
   notePrinted();
   mOutcome->showPrinted(mJobLabels);
   showPrintTitle();

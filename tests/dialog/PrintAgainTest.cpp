@@ -68,6 +68,23 @@ TEST_F(PrintAgainTest, WhatIsPrintedCanBePrintedAgain) {
   EXPECT_EQ(server().submissions().size(), 2u);
 }
 
+TEST_F(PrintAgainTest, AProgramThatAskedForOneJobGetsTheDialogClosedAfterIt) {
+  openQueue(samplePpd("tape-a"));
+  dialog().closeAfterJob();
+  click(printButton());
+  EXPECT_TRUE(waitForClose());
+  EXPECT_EQ(dialog().exitStatus(), kExitDone);
+  EXPECT_EQ(server().submissions().size(), 1u);
+}
+
+TEST_F(PrintAgainTest, ADialogForOneJobStaysWhereNothingCameOut) {
+  openQueue(samplePpd("tape-a"));
+  dialog().closeAfterJob();
+  cancelJob();
+  EXPECT_TRUE(waitUntil([this] { return shows(QStringLiteral("The job was cancelled.")); }));
+  EXPECT_TRUE(dialog().isVisible());
+}
+
 TEST_F(PrintAgainTest, AChangeIsPrintedAnew) {
   openQueue(samplePpd("tape-a"));
   printAll();

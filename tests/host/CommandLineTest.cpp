@@ -113,6 +113,7 @@ TEST(CommandLineTest, WrongUsageIsNamed) {
                                                        {"--wait"},
                                                        {"--wait", "--options"},
                                                        {"--json"},
+                                                       {"--once", "--print"},
                                                        {"--json", "--options"},
                                                        {"--plan", "--choices"},
                                                        {"--ppd"},
@@ -155,6 +156,12 @@ TEST(CommandLineTest, TheHelpNamesEveryOption) {
         "--summary", "--options", "--plan", "--json",       "--choices", "--snapshot",
         "--scale",   "--dark",    "--list", "--plugin-dir", "--help",    "--version"})
     EXPECT_NE(helpText().find(option), std::string::npos) << option;
+}
+
+TEST(CommandLine, OneJobIsForProgramsThatOpenTheDialog) {
+  EXPECT_FALSE(parse({"labels.pdf"})->isOnce);
+  EXPECT_TRUE(parse({"--once", "labels.pdf"})->isOnce);
+  EXPECT_EQ(helpText().find("--once"), std::string::npos);
 }
 
 TEST(CommandLine, QuietIsALetterOrAWord) {
