@@ -32,6 +32,9 @@ enum LongOption {
   kPluginDirectory,
   kMarks,
   kOnce,
+  kChoose,
+  kParent,
+  kWindowTitle,
   kHelp,
   kVersion
 };
@@ -54,6 +57,9 @@ constexpr option kLongOptions[] = {{"ppd", required_argument, nullptr, kPpd},
                                    {"plugin-dir", required_argument, nullptr, kPluginDirectory},
                                    {"marks", no_argument, nullptr, kMarks},
                                    {"once", no_argument, nullptr, kOnce},
+                                   {"choose", no_argument, nullptr, kChoose},
+                                   {"parent", required_argument, nullptr, kParent},
+                                   {"window-title", required_argument, nullptr, kWindowTitle},
                                    {"help", no_argument, nullptr, kHelp},
                                    {"version", no_argument, nullptr, kVersion},
                                    {nullptr, 0, nullptr, 0}};
@@ -230,14 +236,32 @@ Problem apply(CommandLine& line, int option, const std::string& text) {
       return turnOn(line.marks);
     case kOnce:
       return turnOn(line.isOnce);
+    case kChoose:
+      return turnOn(line.isChoosing);
+    case kParent:
+      return store(line.parentWindow, text);
+    case kWindowTitle:
+      return store(line.windowTitle, text);
     default:
       return "unknown option";
   }
 }
 
+// What programs say that open the dialog on somebody's behalf.
+Problem checkForPrograms(const CommandLine& line) {
+  const bool isDialog = line.command == Command::dialog;
+  if (line.isOnce && !isDialog) return "--once goes with the dialog only";
+  if (line.isChoosing && !isDialog) return "--choose goes with the dialog only";
+  if (line.parentWindow && !isDialog) return "--parent goes with the dialog only";
+  if (line.windowTitle && !isDialog) return "--window-title goes with the dialog only";
+  if (line.isChoosing && (line.isOnce || !line.files.empty()))
+    return "--choose takes no document and prints none";
+  return std::nullopt;
+}
+
 Problem checkTogether(const CommandLine& line) {
   if (line.waits && line.command != Command::print) return "--wait goes with --print only";
-  if (line.isOnce && line.command != Command::dialog) return "--once goes with the dialog only";
+  if (Problem problem = checkForPrograms(line)) return problem;
   if (line.asJson && line.command != Command::plan) return "--json goes with --plan only";
   const bool isUnseen = line.command == Command::print || line.command == Command::options;
   if (line.asked.isRaw() && !isUnseen) return "-o raw goes with --print only";

@@ -50,7 +50,11 @@ struct CommandLine {
   bool waits = false;                          // --wait: until the job has ended
   bool marks = false;                          // --marks: times on standard output, then end
   // For programs that open the dialog on somebody's behalf; not in the help text.
-  bool isOnce = false;  // --once: the dialog closes when its job is out
+  bool isOnce = false;      // --once: the dialog closes when its job is out
+  bool isChoosing = false;  // --choose: prints nothing; what was chosen goes to standard output
+  std::optional<std::string> parentWindow;  // --parent: the window that the dialog belongs to,
+                                            // as portals name it: "x11:" and its number in hex
+  std::optional<std::string> windowTitle;   // --window-title: in the place of the job's title
 };
 
 // The error is about usage: one line without "cutline: ".

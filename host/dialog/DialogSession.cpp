@@ -15,7 +15,9 @@
 #include "host/core/Installation.h"
 #include "host/core/PluginLoader.h"
 #include "host/core/PrinterSelection.h"
+#include "host/dialog/ChosenSettings.h"
 #include "host/dialog/DialogLanguage.h"
+#include "host/dialog/ParentWindow.h"
 #include "host/dialog/Remembered.h"
 #include "host/dialog/StartTimes.h"
 #include "qt/QtText.h"
@@ -103,6 +105,8 @@ DialogSession::DialogSession(const DialogRequest& request, FirstPrinter printer)
   mDialog = std::make_unique<PrintDialog>(mModel, std::make_shared<CupsPrintServer>(mLine.server),
                                           source());
   if (mLine.isOnce) mDialog->closeAfterJob();
+  if (mLine.isChoosing) mDialog->chooseOnly();
+  if (mLine.windowTitle) mDialog->setWindowTitle(toQString(*mLine.windowTitle));
   mDialog->installEventFilter(this);
   connect(mDialog.get(), &QDialog::finished, this,
           [this] { QApplication::exit(mDialog->exitStatus()); });
@@ -122,6 +126,8 @@ int DialogSession::run() {
   awaitPrinter();
   const int status = QApplication::exec();
   if (isForAPerson(mLine)) remember(status);
+  if (mLine.isChoosing && status == kExitDone)
+    std::cout << chosenSettings(mModel).toStdString() << std::endl;
   mDialog.reset();
   return status;
 }
@@ -193,6 +199,7 @@ void DialogSession::show() {
     size = size.boundedTo(room);
   }
   mDialog->resize(size);
+  if (mLine.parentWindow) setParentWindow(*mDialog, *mLine.parentWindow);
   mDialog->show();
 }
 

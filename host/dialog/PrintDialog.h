@@ -73,8 +73,13 @@ class PrintDialog : public QDialog, private PrintModelListener {
   // Something was wrong from the start; closing the dialog is an error until a job is out.
   void noteFailure() { mExitStatus = kExitError; }
 
-  // The dialog closes by itself when a job is out, instead of staying to print again.
-  void closeAfterJob() { mClosesAfterJob = true; }
+  // Another program has the dialog print its document: it closes by itself when the job is out,
+  // instead of staying to print again, and opens no other document.
+  void closeAfterJob();
+
+  // Printer and settings are chosen for a document that somebody else makes for them later: nothing
+  // is opened or printed, and the dialog closes as done when the user goes on.
+  void chooseOnly();
 
   // What is in the dialog now.
   const std::vector<std::string>& documents() const noexcept { return mSource.paths; }
@@ -166,6 +171,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
   void showPrintTitle();
   void forgetOutcome();
   void print();
+  void endChoosing();
   JobRunner::Composing jobComposing() const;
   void showJobRunning(bool isRunning);
   void setJobLabels(std::uint64_t labels);
@@ -178,6 +184,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
   PrintSource mSource;
   int mExitStatus;
   bool mClosesAfterJob = false;
+  bool mIsChoosing = false;         // and prints nothing
   std::string mNamedPaper;          // the last one that the printer names
   int mShownPages = 0;              // of the documents
   std::uint64_t mAgreedLabels = 0;  // somebody was asked about so many

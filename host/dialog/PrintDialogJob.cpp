@@ -76,7 +76,8 @@ void PrintDialog::loadDocument() {
   if (mLayoutForm == nullptr) makeLayoutForm();
   StripView& strip = mStripPane->strip();
   if (mSource.paths.empty()) {
-    strip.setMessage(tr("Open or drop a document"));
+    strip.setMessage(mIsChoosing ? tr("The labels are shown when you continue")
+                                 : tr("Open or drop a document"));
     QTimer::singleShot(0, this, &PrintDialog::becameSettled);
     return;
   }
@@ -166,6 +167,7 @@ void PrintDialog::connectJob() {
 QString PrintDialog::refusal() const {
   if (!mModel.isOpen()) return tr("No printer is open.");
   if (!mModel.hasQueue()) return tr("This is a PPD file, no printer: printing is switched off.");
+  if (mIsChoosing) return {};
   if (mSource.paths.empty()) return tr("There is no document to print: open one, or drop it here.");
   if (mDocument->hasFailed()) return tr("This document cannot be printed.");
   return {};
@@ -188,6 +190,7 @@ std::uint64_t PrintDialog::labelsToPrint() const {
 }
 
 void PrintDialog::showPrintTitle() {
+  if (mIsChoosing) return mPrint->setText(tr("Cont&inue"));
   const std::uint64_t labels = labelsToPrint();
   const QString counted = labels == 1 ? tr("Pr&int 1 label") : tr("Pr&int %1 labels").arg(labels);
   const QString fresh = labels == 0 ? tr("Pr&int") : counted;
@@ -204,6 +207,7 @@ void PrintDialog::print() {
   finishPages(mJobForm->pages());
   if (mJobForm->hasPagesProblem()) return mJobForm->focusPages();
   if (!refusal().isEmpty() || mServer->isOpening() || mJob->isRunning()) return;
+  if (mIsChoosing) return endChoosing();
   if (!agreesToMuch()) return;
   const Result<OptionList> options = mModel.prepareToPrint();
   mNotices->setNotice(NoticeTopic::failure, options ? QString() : asLine(options.error().sentence));

@@ -16,6 +16,8 @@ namespace {
 constexpr char kPrinter[] = "printer";
 constexpr char kSize[] = "size";
 constexpr char kRecent[] = "recent";
+// Of one process, such as standard input: its numbers are other files the next time.
+constexpr char kOpenFiles[] = "/proc/";
 constexpr std::size_t kMostRecent = 10;
 constexpr qint64 kLargestFile = 65536;
 constexpr int kLargestSide = 32767;  // of a window under X11
@@ -106,6 +108,7 @@ std::vector<std::string> Remembered::recentDocuments() const {
 }
 
 void Remembered::addRecent(const std::string& path) {
+  if (path.starts_with(kOpenFiles)) return;
   std::error_code problem;
   const std::string whole = std::filesystem::absolute(path, problem).lexically_normal();
   if (problem) return;

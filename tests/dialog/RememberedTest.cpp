@@ -50,6 +50,11 @@ TEST_F(RememberedTest, TenDocumentsAreKeptAndMissingOnesLeftOut) {
   EXPECT_EQ(again().recentDocuments().front(), mFolder.path() + "/d12");
 }
 
+TEST_F(RememberedTest, StandardInputIsNoDocumentToOpenAgain) {
+  again().addRecent("/proc/self/fd/0");
+  EXPECT_TRUE(again().recentDocuments().empty());
+}
+
 TEST_F(RememberedTest, ABrokenFileCountsAsEmpty) {
   std::filesystem::create_directories(std::filesystem::path(path()).parent_path());
   std::ofstream(path(), std::ios::binary)

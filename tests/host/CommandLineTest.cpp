@@ -114,6 +114,11 @@ TEST(CommandLineTest, WrongUsageIsNamed) {
                                                        {"--wait", "--options"},
                                                        {"--json"},
                                                        {"--once", "--print"},
+                                                       {"--choose", "--plan"},
+                                                       {"--choose", "labels.pdf"},
+                                                       {"--choose", "--once"},
+                                                       {"--parent", "x11:1", "--list"},
+                                                       {"--window-title", "a", "--options"},
                                                        {"--json", "--options"},
                                                        {"--plan", "--choices"},
                                                        {"--ppd"},
@@ -158,10 +163,16 @@ TEST(CommandLineTest, TheHelpNamesEveryOption) {
     EXPECT_NE(helpText().find(option), std::string::npos) << option;
 }
 
-TEST(CommandLine, OneJobIsForProgramsThatOpenTheDialog) {
+TEST(CommandLine, ProgramsThatOpenTheDialogHaveOptionsOfTheirOwn) {
   EXPECT_FALSE(parse({"labels.pdf"})->isOnce);
   EXPECT_TRUE(parse({"--once", "labels.pdf"})->isOnce);
-  EXPECT_EQ(helpText().find("--once"), std::string::npos);
+  const auto line = parse({"--choose", "--parent", "x11:2a", "--window-title", "Print"});
+  ASSERT_TRUE(line) << line.error().message;
+  EXPECT_TRUE(line->isChoosing);
+  EXPECT_EQ(line->parentWindow, "x11:2a");
+  EXPECT_EQ(line->windowTitle, "Print");
+  for (const char* option : {"--once", "--choose", "--parent", "--window-title"})
+    EXPECT_EQ(helpText().find(option), std::string::npos) << option;
 }
 
 TEST(CommandLine, QuietIsALetterOrAWord) {
