@@ -1381,6 +1381,14 @@ Streifen: Plus und Minus zoomen, 0 passt ein, Eingabe zeigt ein Etikett groß. S
         <source>No answer</source>
         <translation>Keine Antwort</translation>
     </message>
+    <message>
+        <source>The labels are shown when you continue</source>
+        <translation>Die Etiketten erscheinen, sobald Sie weitergehen</translation>
+    </message>
+    <message>
+        <source>Cont&amp;inue</source>
+        <translation>We&amp;iter</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>

@@ -1381,6 +1381,14 @@ Tira: más y menos para el zum, 0 para ajustar, Intro muestra una etiqueta en gr
         <source>No answer</source>
         <translation>Sin respuesta</translation>
     </message>
+    <message>
+        <source>The labels are shown when you continue</source>
+        <translation>Las etiquetas se muestran cuando continúe</translation>
+    </message>
+    <message>
+        <source>Cont&amp;inue</source>
+        <translation>Con&amp;tinuar</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>

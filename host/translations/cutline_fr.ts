@@ -1381,6 +1381,14 @@ Bande : plus et moins pour le zoom, 0 pour ajuster, Entrée montre une étiquett
         <source>No answer</source>
         <translation>Pas de réponse</translation>
     </message>
+    <message>
+        <source>The labels are shown when you continue</source>
+        <translation>Les étiquettes s’affichent quand vous continuez</translation>
+    </message>
+    <message>
+        <source>Cont&amp;inue</source>
+        <translation>Contin&amp;uer</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>

@@ -1381,6 +1381,14 @@ Striscia: più e meno per lo zoom, 0 per adattare, Invio mostra un’etichetta i
         <source>No answer</source>
         <translation>Nessuna risposta</translation>
     </message>
+    <message>
+        <source>The labels are shown when you continue</source>
+        <translation>Le etichette vengono mostrate quando si continua</translation>
+    </message>
+    <message>
+        <source>Cont&amp;inue</source>
+        <translation>C&amp;ontinua</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>

@@ -1381,6 +1381,14 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
         <source>No answer</source>
         <translation>応答なし</translation>
     </message>
+    <message>
+        <source>The labels are shown when you continue</source>
+        <translation>続けるとラベルが表示されます</translation>
+    </message>
+    <message>
+        <source>Cont&amp;inue</source>
+        <translation>続ける(&amp;P)</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>

@@ -1381,6 +1381,14 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
         <source>No answer</source>
         <translation>응답 없음</translation>
     </message>
+    <message>
+        <source>The labels are shown when you continue</source>
+        <translation>계속하면 라벨이 표시됩니다</translation>
+    </message>
+    <message>
+        <source>Cont&amp;inue</source>
+        <translation>계속(&amp;P)</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>

@@ -1381,6 +1381,14 @@ Strook: plus en min zoomen, 0 past in, Enter toont een etiket groot. Ctrl+Z maak
         <source>No answer</source>
         <translation>Geen antwoord</translation>
     </message>
+    <message>
+        <source>The labels are shown when you continue</source>
+        <translation>De labels verschijnen als u doorgaat</translation>
+    </message>
+    <message>
+        <source>Cont&amp;inue</source>
+        <translation>&amp;Doorgaan</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>

@@ -1381,6 +1381,14 @@ Tira: mais e menos para o zoom, 0 para ajustar, Enter mostra uma etiqueta em gra
         <source>No answer</source>
         <translation>Sem resposta</translation>
     </message>
+    <message>
+        <source>The labels are shown when you continue</source>
+        <translation>As etiquetas aparecem quando você continuar</translation>
+    </message>
+    <message>
+        <source>Cont&amp;inue</source>
+        <translation>Continua&amp;r</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>

@@ -1381,6 +1381,14 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
         <source>No answer</source>
         <translation>无应答</translation>
     </message>
+    <message>
+        <source>The labels are shown when you continue</source>
+        <translation>继续后将显示标签</translation>
+    </message>
+    <message>
+        <source>Cont&amp;inue</source>
+        <translation>继续(&amp;P)</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
