@@ -140,8 +140,8 @@ std::string timeText(std::time_t time) {
   if (!localtime_r(&time, &then) || !localtime_r(&now, &today)) return {};
   const bool isToday = then.tm_year == today.tm_year && then.tm_yday == today.tm_yday;
   std::array<char, 32> text{};
-  const char* form = isToday ? "%H:%M" : "%Y-%m-%d %H:%M";
-  return {text.data(), std::strftime(text.data(), text.size(), form, &then)};
+  std::strftime(text.data(), text.size(), "%Y-%m-%d %H:%M", &then);
+  return isToday ? text.data() + std::string_view("YYYY-MM-DD ").size() : text.data();
 }
 
 Sentence headText(const Destination& printer) {

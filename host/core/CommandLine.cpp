@@ -43,7 +43,6 @@ constexpr char kShortOptions[] = ":d:n:P:t:o:h:EU:q";
 constexpr option kLongOptions[] = {{"ppd", required_argument, nullptr, kPpd},
                                    {"print", no_argument, nullptr, kPrint},
                                    {"dry-run", required_argument, nullptr, kDryRun},
-                                   {"quiet", no_argument, nullptr, 'q'},
                                    {"wait", no_argument, nullptr, kWait},
                                    {"summary", no_argument, nullptr, kSummary},
                                    {"options", no_argument, nullptr, kOptions},
@@ -76,7 +75,7 @@ Print labels and tapes: shows a print dialog with the printer's cut options.
   -h HOST[:PORT]         the print server
   -E                     insist on an encrypted connection
   -U USER                the user that the job is sent as
-  -q, --quiet            say nothing but errors
+  -q                     say nothing but errors
 
   --ppd FILE             work on this PPD file instead of a printer; cannot print
   --print                print at once, without a window; FILE absent or - reads standard input

@@ -24,6 +24,11 @@ std::string Installation::translationDirectory() const {
   return mPrefix + "/share/cutline/translations";
 }
 
+std::string Installation::iconPath(int side) const {
+  const std::string length = std::to_string(side);
+  return mPrefix + "/share/icons/hicolor/" + length + 'x' + length + "/apps/cutline.png";
+}
+
 std::string Installation::cutWordsPath() const { return mPrefix + "/share/cutline/cut-words.txt"; }
 
 }  // namespace cutline

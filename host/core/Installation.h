@@ -18,6 +18,7 @@ class Installation {
   std::string plugInDirectory() const;                        // PREFIX/lib/cutline/plugins
   std::string sampleDirectory() const;                        // PREFIX/share/cutline/samples
   std::string translationDirectory() const;                   // PREFIX/share/cutline/translations
+  std::string iconPath(int side) const;                       // a PNG picture of so many dots
   std::string cutWordsPath() const;                           // PREFIX/share/cutline/cut-words.txt
 
  private:

@@ -75,6 +75,8 @@ std::unique_ptr<QApplication> makeApplication() {
   static char* argv[] = {name, nullptr};
   const DisplayErrors errors;
   applyStyle();
+  // The desktop knows window and icon by its own file of the program.
+  QGuiApplication::setDesktopFileName(QStringLiteral("cutline"));
   return std::make_unique<QApplication>(argc, argv);
 }
 

@@ -1,6 +1,7 @@
 #include "host/dialog/DialogSession.h"
 
 #include <QEvent>
+#include <QIcon>
 #include <QPixmap>
 #include <QScreen>
 #include <QTimer>
@@ -85,10 +86,18 @@ namespace {
 constexpr int kPatienceMilliseconds = 300;
 constexpr QSize kPreferredSize{1120, 720};
 constexpr int kScreenMargin = 40;
+constexpr int kIconSides[] = {16, 24, 32, 48, 128, 256};
 
 std::string jobTitle(const CommandLine& line) {
   if (line.title) return *line.title;
   return toUtf8(titleOf(line.files));
+}
+
+// As the desktop's theme has it, or else as it was installed beside the program.
+QIcon windowIcon(const Installation& installation) {
+  QIcon own;
+  for (const int side : kIconSides) own.addFile(toQString(installation.iconPath(side)));
+  return QIcon::fromTheme(QStringLiteral("cutline"), own);
 }
 
 void tell(const std::string& message) { std::cerr << "cutline: " << message << std::endl; }
@@ -110,6 +119,8 @@ DialogSession::DialogSession(const DialogRequest& request, FirstPrinter printer)
   mDialog->installEventFilter(this);
   connect(mDialog.get(), &QDialog::finished, this,
           [this] { QApplication::exit(mDialog->exitStatus()); });
+  if (isForAPerson(mLine))
+    connect(mDialog.get(), &PrintDialog::jobWentOut, this, &DialogSession::rememberJob);
   if (mLine.marks) printTime("constructed");
 }
 
@@ -125,20 +136,19 @@ PrintSource DialogSession::source() const {
 int DialogSession::run() {
   awaitPrinter();
   const int status = QApplication::exec();
-  if (isForAPerson(mLine)) remember(status);
   if (mLine.isChoosing && status == kExitDone)
     std::cout << chosenSettings(mModel).toStdString() << std::endl;
+  if (isForAPerson(mLine) && !mDialog->isMaximized()) Remembered().setWindowSize(mDialog->size());
   mDialog.reset();
   return status;
 }
 
 // What was printed was meant; a window that was looked at and closed says nothing of the printer.
-void DialogSession::remember(int status) const {
+void DialogSession::rememberJob() {
   Remembered remembered;
-  if (!mDialog->isMaximized()) remembered.setWindowSize(mDialog->size());
-  if (status != kExitDone) return;
-  if (mModel.hasQueue()) remembered.setLastPrinter(mModel.destination().name);
+  remembered.setLastPrinter(mModel.destination().name);
   for (const std::string& path : mDialog->documents()) remembered.addRecent(path);
+  mDialog->setRecentDocuments(remembered.recentDocuments());
 }
 
 void DialogSession::awaitPrinter() {
@@ -216,7 +226,10 @@ void DialogSession::didPaintFirst() {
   if (mHasFailed) return;
   if (mLine.marks) return measureDocument();
   mDialog->loadDocument();
-  if (mLine.command == Command::dialog) mDialog->startWatching();
+  if (mLine.command != Command::dialog) return;
+  mDialog->startWatching();
+  mDialog->setRecentDocuments(Remembered().recentDocuments());
+  QApplication::setWindowIcon(windowIcon(mInstallation));
 }
 
 // The measuring programs look on until the first label is there.

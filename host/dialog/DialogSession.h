@@ -52,7 +52,7 @@ class DialogSession : public QObject {
   void measureDocument();
   void takeSnapshot();
   void fail(const Error& error);
-  void remember(int status) const;
+  void rememberJob();
   PrintSource source() const;
 
   const CommandLine& mLine;

@@ -51,6 +51,8 @@ class DocumentLoader : public QObject {
   bool isOpen() const noexcept { return mDocument != nullptr; }
   // One of the documents is a text.
   bool hasText() const noexcept { return mHasText; }
+  // The latest request is not answered yet, or not completely.
+  bool isComposing() const noexcept { return mIsComposing; }
   // The answer to the latest request is complete.
   bool isComplete() const noexcept { return mIsComplete; }
   bool hasFailed() const noexcept { return mHasFailed; }

@@ -92,26 +92,29 @@ void JobProgress::showCancelling() {
 void JobProgress::endCancelling() { mCancel->setEnabled(true); }
 
 JobOutcome::JobOutcome(QWidget* parent)
-    : QWidget(parent), mIcon(new StatusIcon(Severity::good, this)), mText(new QLabel(this)) {
-  setAccessibleRole(*this, QAccessible::AlertMessage);
+    : QWidget(parent), mMessage(new QWidget(this)), mText(new QLabel(mMessage)) {
+  setAccessibleRole(*mMessage, QAccessible::AlertMessage);
   mText->setTextFormat(Qt::PlainText);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   row->addStretch(1);
-  row->addWidget(mIcon);
-  row->addWidget(mText);
+  row->addWidget(mMessage);
+  auto* message = new QHBoxLayout(mMessage);
+  message->setContentsMargins(0, 0, 0, 0);
+  message->addWidget(new StatusIcon(Severity::good, mMessage));
+  message->addWidget(mText);
   clear();
 }
 
 void JobOutcome::showPrinted(quint64 labels) {
   const QString several = labels == 0 ? tr("Printed.") : tr("Printed %1 labels.").arg(labels);
   mText->setText(labels == 1 ? tr("Printed 1 label.") : several);
-  for (QWidget* each : {mIcon, static_cast<QWidget*>(mText)}) each->show();
-  tellAccessibleName(*this, mText->text());
+  tellAccessibleName(*mMessage, mText->text());
+  mMessage->show();
 }
 
 void JobOutcome::clear() {
-  for (QWidget* each : {mIcon, static_cast<QWidget*>(mText)}) each->hide();
+  mMessage->hide();
   mText->clear();
 }
 

@@ -56,7 +56,7 @@ class JobOutcome : public QWidget {
   bool isShown() const;
 
  private:
-  QWidget* mIcon;
+  QWidget* mMessage;
   QLabel* mText;
 };
 

@@ -88,7 +88,6 @@ QWidget* PanelFrame::makeHeadingRow(const PanelEntry& panel) {
     auto* caption =
         new QLabel(SummaryView::tr("%1:").arg(toQString(each->accessibilityLabel())), row);
     caption->setTextFormat(Qt::PlainText);
-    caption->setBuddy(QtToolkit::widgetOf(*each));
     line->addWidget(caption);
   }
   line->addStretch(1);

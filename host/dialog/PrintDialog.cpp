@@ -14,13 +14,13 @@
 #include "host/dialog/Disclosure.h"
 #include "host/dialog/DocumentWatch.h"
 #include "host/dialog/HistoryBar.h"
-#include "host/dialog/Icons.h"
 #include "host/dialog/JobForm.h"
 #include "host/dialog/JobProgress.h"
 #include "host/dialog/JobRunner.h"
 #include "host/dialog/LayoutForm.h"
 #include "host/dialog/MoreOptionsPanel.h"
 #include "host/dialog/NoticeView.h"
+#include "host/dialog/OpenBar.h"
 #include "host/dialog/PanelViews.h"
 #include "host/dialog/PresetBar.h"
 #include "host/dialog/PresetKeeper.h"
@@ -74,7 +74,7 @@ PrintDialog::PrintDialog(PrintModel& model, std::shared_ptr<PrintServer> server,
       mStripPane(new StripPane(this)),
       mMoreOptions(new MoreOptionsPanel(mSettings)),
       mMoreButton(makeDisclosure(tr("&More printer options"), mSettings)),
-      mOpen(new QPushButton(icon(Glyph::open), tr("&Open..."), this)),
+      mOpen(new OpenBar(this)),
       mHistory(new HistoryBar(model, this)),
       mHints(new ChoiceHints(
           model, [this] { return presentPlan(); }, this)),

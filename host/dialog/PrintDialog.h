@@ -37,6 +37,7 @@ class LayoutForm;
 enum class LengthRule;
 class MoreOptionsPanel;
 class NoticeView;
+class OpenBar;
 class PanelFrame;
 class PresetBar;
 class PresetKeeper;
@@ -84,6 +85,9 @@ class PrintDialog : public QDialog, private PrintModelListener {
   // What is in the dialog now.
   const std::vector<std::string>& documents() const noexcept { return mSource.paths; }
 
+  // What can be opened again at a click, newest first.
+  void setRecentDocuments(const std::vector<std::string>& paths);
+
   // Composes and draws the documents; becameSettled follows when nothing is left to draw.
   void loadDocument();
   // Asks for the other printers, and from then on now and again for the printer's state.
@@ -96,6 +100,8 @@ class PrintDialog : public QDialog, private PrintModelListener {
   void becameSettled();
   // The first label that the document gave is on the screen.
   void labelShown();
+  // Labels were printed, or are, of what is in the dialog now.
+  void jobWentOut();
 
  public slots:
   void reject() override;
@@ -155,8 +161,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
   void askServer();
   void showStateProblem(const QString& words);
 
-  void askForDocuments();
-  void openDocuments(std::vector<std::string> paths);
+  void openDocuments(const std::vector<std::string>& paths);
   void reloadDocument();
   void showTitle();
   void recompose();
@@ -172,13 +177,16 @@ class PrintDialog : public QDialog, private PrintModelListener {
   void forgetOutcome();
   void print();
   void endChoosing();
+  void printWhenComposed();
+  bool stopWaiting();
+  bool isPrinting() const;
   JobRunner::Composing jobComposing() const;
   void showJobRunning(bool isRunning);
   void setJobLabels(std::uint64_t labels);
   void notePrinted();
   void takePrinted();
   void takeCancelled(int pages);
-  void finish(int exitStatus);
+  void leaveJob();
 
   PrintModel& mModel;
   PrintSource mSource;
@@ -187,6 +195,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
   bool mIsChoosing = false;         // and prints nothing
   std::string mNamedPaper;          // the last one that the printer names
   int mShownPages = 0;              // of the documents
+  bool mIsPrintWaiting = false;     // for the documents to be composed
   std::uint64_t mAgreedLabels = 0;  // somebody was asked about so many
   QTimer mStateTimer;
   int mTicks = 0;  // of that, without a printer
@@ -211,7 +220,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
   LayoutForm* mLayoutForm = nullptr;  // until the dialog has been painted
   MoreOptionsPanel* mMoreOptions;
   QPushButton* mMoreButton;
-  QPushButton* mOpen;
+  OpenBar* mOpen;
   HistoryBar* mHistory;
   ChoiceHints* mHints;
   QPushButton* mPrint;

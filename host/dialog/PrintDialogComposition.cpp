@@ -89,8 +89,9 @@ void PrintDialog::takeComposition() {
   refreshPrintButton();
   if (!mDocument->isComplete()) return;
   showPaperNotices();
-  if (!mModel.jobLayout().followsContent) return;
-  mHistory->leaveOut([&] { mModel.takeContentLength(report.label.length); });
+  if (mModel.jobLayout().followsContent)
+    mHistory->leaveOut([&] { mModel.takeContentLength(report.label.length); });
+  if (!mDocument->isComposing() && stopWaiting()) print();
 }
 
 void PrintDialog::failComposition(const QString& reason) {
@@ -100,6 +101,7 @@ void PrintDialog::failComposition(const QString& reason) {
   mNotices->clear(NoticeTopic::edges);
   mNotices->clear(NoticeTopic::paper);
   refreshPrintButton();
+  stopWaiting();
 }
 
 void PrintDialog::showPaperNotices() {

@@ -2,12 +2,12 @@
 // printed, sends it.
 #include <QDragEnterEvent>
 #include <QDropEvent>
-#include <QFileDialog>
 #include <QMimeData>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTimer>
 #include <QUrl>
+#include <utility>
 
 #include "host/core/CommandLine.h"
 #include "host/core/JobPlan.h"
@@ -19,6 +19,7 @@
 #include "host/dialog/LayoutForm.h"
 #include "host/dialog/MoreOptionsPanel.h"
 #include "host/dialog/NoticeView.h"
+#include "host/dialog/OpenBar.h"
 #include "host/dialog/PrintDialog.h"
 #include "host/dialog/StripPane.h"
 #include "qt/QtText.h"
@@ -29,12 +30,6 @@ namespace {
 
 QString fileNameOf(const std::string& path) {
   return toQString(path.substr(path.find_last_of('/') + 1));
-}
-
-std::vector<std::string> namesOf(const QStringList& files) {
-  std::vector<std::string> paths;
-  for (const QString& file : files) paths.push_back(toUtf8(file));
-  return paths;
 }
 
 std::vector<std::string> filesIn(const QMimeData& data) {
@@ -56,7 +51,7 @@ QString titleOf(const std::vector<std::string>& paths) {
 }
 
 void PrintDialog::connectDocument() {
-  connect(mOpen, &QPushButton::clicked, this, &PrintDialog::askForDocuments);
+  connect(mOpen, &OpenBar::documentsChosen, this, &PrintDialog::openDocuments);
   StripView& strip = mStripPane->strip();
   connect(&strip, &StripView::pagesWanted, mDocument, &DocumentLoader::request);
   connect(mDocument, &DocumentLoader::pageDrawn, &strip, &StripView::showPage);
@@ -100,18 +95,9 @@ void PrintDialog::reloadDocument() {
   recompose();
 }
 
-void PrintDialog::askForDocuments() {
-  auto* question = new QFileDialog(this, tr("Open"));
-  question->setAttribute(Qt::WA_DeleteOnClose);
-  question->setFileMode(QFileDialog::ExistingFiles);
-  connect(question, &QFileDialog::filesSelected, this,
-          [this](const QStringList& files) { openDocuments(namesOf(files)); });
-  question->open();
-}
-
-void PrintDialog::openDocuments(std::vector<std::string> paths) {
+void PrintDialog::openDocuments(const std::vector<std::string>& paths) {
   mSource.title = toUtf8(titleOf(paths));
-  mSource.paths = std::move(paths);
+  mSource.paths = paths;
   showTitle();
   for (const NoticeTopic topic : {NoticeTopic::document, NoticeTopic::edges, NoticeTopic::paper}) {
     mNotices->clear(topic);
@@ -122,21 +108,25 @@ void PrintDialog::openDocuments(std::vector<std::string> paths) {
   refreshPrintButton();
 }
 
+void PrintDialog::setRecentDocuments(const std::vector<std::string>& paths) {
+  mOpen->setRecent(paths);
+}
+
 void PrintDialog::showTitle() {
   setWindowTitle(mSource.title.empty() ? tr("Print")
                                        : tr("Print %1").arg(toQString(mSource.title)));
 }
 
 void PrintDialog::dragEnterEvent(QDragEnterEvent* event) {
-  const bool isFree = mModel.isOpen() && !mJob->isRunning();
+  const bool isFree = mModel.isOpen() && !isPrinting();
   if (isFree && !filesIn(*event->mimeData()).empty()) event->acceptProposedAction();
 }
 
 void PrintDialog::dropEvent(QDropEvent* event) {
-  std::vector<std::string> paths = filesIn(*event->mimeData());
+  const std::vector<std::string> paths = filesIn(*event->mimeData());
   if (paths.empty()) return;
   event->acceptProposedAction();
-  openDocuments(std::move(paths));
+  openDocuments(paths);
 }
 
 void PrintDialog::connectJob() {
@@ -158,10 +148,11 @@ void PrintDialog::connectJob() {
     mNotices->setNotice(NoticeTopic::failure, reason);
   });
   connect(mProgress, &JobProgress::cancelRequested, this, [this] {
+    if (stopWaiting()) return;
     mProgress->showCancelling();
     mJob->cancel();
   });
-  connect(mProgress, &JobProgress::leaveRequested, this, [this] { finish(kExitDone); });
+  connect(mProgress, &JobProgress::leaveRequested, this, &PrintDialog::leaveJob);
 }
 
 QString PrintDialog::refusal() const {
@@ -206,8 +197,9 @@ void PrintDialog::forgetOutcome() {
 void PrintDialog::print() {
   finishPages(mJobForm->pages());
   if (mJobForm->hasPagesProblem()) return mJobForm->focusPages();
-  if (!refusal().isEmpty() || mServer->isOpening() || mJob->isRunning()) return;
+  if (!refusal().isEmpty() || mServer->isOpening() || isPrinting()) return;
   if (mIsChoosing) return endChoosing();
+  if (!mSource.isRaw && mDocument->isComposing()) return printWhenComposed();
   if (!agreesToMuch()) return;
   const Result<OptionList> options = mModel.prepareToPrint();
   mNotices->setNotice(NoticeTopic::failure, options ? QString() : asLine(options.error().sentence));
@@ -226,6 +218,22 @@ void PrintDialog::setJobLabels(std::uint64_t labels) {
   mJobLabels = labels;
   mProgress->setLabels(labels);
 }
+
+// How much it is, and whether it has the pages, is known only then.
+void PrintDialog::printWhenComposed() {
+  mIsPrintWaiting = true;
+  mProgress->showComposing();
+  showJobRunning(true);
+}
+
+// False where nothing waited.
+bool PrintDialog::stopWaiting() {
+  if (!std::exchange(mIsPrintWaiting, false)) return false;
+  showJobRunning(false);
+  return true;
+}
+
+bool PrintDialog::isPrinting() const { return mIsPrintWaiting || mJob->isRunning(); }
 
 // Nothing for a document that is sent as it is.
 JobRunner::Composing PrintDialog::jobComposing() const {
@@ -252,10 +260,11 @@ void PrintDialog::showJobRunning(bool isRunning) {
 void PrintDialog::notePrinted() {
   mExitStatus = kExitDone;
   mCancel->setText(tr("Close"));
+  emit jobWentOut();
 }
 
 void PrintDialog::takePrinted() {
-  if (mClosesAfterJob) return finish(kExitDone);
+  if (mClosesAfterJob) return leaveJob();
   notePrinted();
   mOutcome->showPrinted(mJobLabels);
   showPrintTitle();
@@ -273,15 +282,16 @@ void PrintDialog::takeCancelled(int pages) {
 
 // A job that the server has goes on without the dialog; one that is being sent is given up first.
 void PrintDialog::reject() {
+  if (stopWaiting()) return;
   if (!mJob->isRunning()) return QDialog::reject();
-  if (mJob->isSubmitted()) return finish(kExitDone);
+  if (mJob->isSubmitted()) return leaveJob();
   mProgress->showCancelling();
   mJob->cancel();
 }
 
-void PrintDialog::finish(int exitStatus) {
-  mExitStatus = exitStatus;
-  done(exitStatus);
+void PrintDialog::leaveJob() {
+  notePrinted();
+  done(mExitStatus);
 }
 
 }  // namespace cutline

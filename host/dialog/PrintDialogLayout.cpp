@@ -14,6 +14,7 @@
 #include "host/dialog/LayoutForm.h"
 #include "host/dialog/MoreOptionsPanel.h"
 #include "host/dialog/NoticeView.h"
+#include "host/dialog/OpenBar.h"
 #include "host/dialog/PanelViews.h"
 #include "host/dialog/PresetBar.h"
 #include "host/dialog/PrintDialog.h"

@@ -8,6 +8,7 @@
 #include "host/dialog/JobForm.h"
 #include "host/dialog/LayoutForm.h"
 #include "host/dialog/NoticeView.h"
+#include "host/dialog/OpenBar.h"
 #include "host/dialog/PanelViews.h"
 #include "host/dialog/PresetBar.h"
 #include "host/dialog/PresetKeeper.h"

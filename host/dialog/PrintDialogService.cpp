@@ -29,7 +29,9 @@ void PrintDialog::chooseOnly() {
 void PrintDialog::endChoosing() {
   const Result<OptionList> agreed = mModel.prepareToPrint();
   mNotices->setNotice(NoticeTopic::failure, agreed ? QString() : asLine(agreed.error().sentence));
-  if (agreed) finish(kExitDone);
+  if (!agreed) return;
+  mExitStatus = kExitDone;
+  done(mExitStatus);
 }
 
 }  // namespace cutline

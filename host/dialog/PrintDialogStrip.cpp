@@ -24,7 +24,8 @@ const QString kCountKeyword = QStringLiteral("LxCutLabel");
 
 std::vector<unsigned> countsOf(const PpdFile& ppd) {
   std::vector<unsigned> counts;
-  const PpdOption* option = OptionTable(ppd).find(toUtf8(kCountKeyword));
+  const OptionTable table(ppd);
+  const PpdOption* option = table.find(toUtf8(kCountKeyword));
   if (option == nullptr) return counts;
   for (const OptionChoice& choice : option->choices)
     counts.push_back(numberIn<unsigned>(choice.name).value_or(0));

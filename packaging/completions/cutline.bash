@@ -78,7 +78,7 @@ _cutline() {
   -n | -P | -t | -h | -U) return ;;
   esac
   if [[ $current == -* && $before != --ppd && $before != --dry-run && $before != --snapshot ]]; then
-    mapfile -t COMPREPLY < <(compgen -W '-d -n -P -t -o -h -E -U -q --quiet --ppd --print --dry-run --wait
+    mapfile -t COMPREPLY < <(compgen -W '-d -n -P -t -o -h -E -U -q --ppd --print --dry-run --wait
       --summary --options --plan --json --choices --snapshot --scale --dark --list --plugin-dir
       --marks --help --version' -- "$current")
     return

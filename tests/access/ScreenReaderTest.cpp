@@ -65,6 +65,11 @@ std::string ScreenReaderTest::picture() const {
 }
 
 std::string ScreenReaderTest::summary(const std::string& title) const {
+  const Accessible disclosure = find(dialog(), ATSPI_ROLE_CHECK_BOX, "Summary");
+  if (!disclosure.is(ATSPI_STATE_CHECKED)) {
+    EXPECT_TRUE(disclosure.press());
+    EXPECT_TRUE(waitUntil([&] { return disclosure.is(ATSPI_STATE_CHECKED); }));
+  }
   const std::vector<Accessible> labels = find(dialog(), ATSPI_ROLE_PANEL, "Summary").children();
   for (std::size_t i = 0; i + 1 < labels.size(); ++i)
     if (labels[i].name() == title + ":") return labels[i + 1].name();

@@ -17,6 +17,7 @@ constexpr const char* kForeign[] = {"DISPLAY", "WAYLAND_DISPLAY", "AT_SPI_BUS_AD
 SessionBus::SessionBus() {
   for (const char* name : kForeign) qunsetenv(name);
   qputenv("XDG_RUNTIME_DIR", mRuntimeDirectory.path().toLocal8Bit());
+  qputenv("XDG_STATE_HOME", mRuntimeDirectory.filePath(QStringLiteral("state")).toLocal8Bit());
   endWithUs(mDaemon);
   mDaemon.setStandardErrorFile(QProcess::nullDevice());
   mDaemon.start(QStringLiteral("dbus-daemon"),

@@ -68,7 +68,7 @@ TEST_F(ChoiceHintsTest, ATipTellsMeaningAndEffect) {
 
 TEST_F(ChoiceHintsTest, ABoxThatCannotBeUsedSaysWhy) {
   openQueue(samplePpd("tape-a"));
-  clickPastAlert(box("LxSpecialTape"));
+  click(box("LxSpecialTape"));
   ASSERT_FALSE(box("LxHalfCut")->isEnabled());
   const QString tip = tipOf(box("LxHalfCut"));
   EXPECT_TRUE(tip.contains(QStringLiteral("Special tape is never cut"))) << tip.toStdString();
@@ -108,7 +108,7 @@ TEST_F(ChoiceHintsTest, MuchTapeIsAskedAboutOnce) {
   ASSERT_NE(question, nullptr);
   EXPECT_TRUE(question->informativeText().startsWith(QStringLiteral("300 labels")));
   EXPECT_TRUE(server().submissions().empty());
-  click(question->buttons().constLast());
+  click(question->defaultButton());
   EXPECT_TRUE(waitUntil([this] { return server().submissions().size() == 1; }));
 }
 

@@ -13,6 +13,7 @@ int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   const QTemporaryDir runtimeDirectory;
   qputenv("XDG_RUNTIME_DIR", runtimeDirectory.path().toLocal8Bit());
+  qputenv("XDG_STATE_HOME", runtimeDirectory.filePath(QStringLiteral("state")).toLocal8Bit());
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication application(argc, argv);
   QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));

@@ -13,6 +13,7 @@ int main(int argc, char** argv) {
   for (const char* name : {"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG"}) qunsetenv(name);
   const QTemporaryDir runtimeDirectory;
   qputenv("XDG_RUNTIME_DIR", runtimeDirectory.path().toLocal8Bit());
+  qputenv("XDG_STATE_HOME", runtimeDirectory.filePath(QStringLiteral("state")).toLocal8Bit());
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("FONTCONFIG_FILE", CUTLINE_SOURCE_DIR "/tests/languages/fonts.conf");
   testing::InitGoogleTest(&argc, argv);

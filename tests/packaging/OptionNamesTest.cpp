@@ -51,7 +51,8 @@ CommandResult inBash(const std::string& line) {
 }
 
 CommandResult inFish(const std::string& line) {
-  return run("PATH=" + built("bin") + ":$PATH HOME=/nonexistent fish -N -c " +
+  const TemporaryFolder home;  // it writes into it
+  return run("PATH=" + built("bin") + ":$PATH HOME=" + home.path() + " fish -N -c " +
              quoted("source " + source("packaging/completions/cutline.fish") + "; complete -C " +
                     quoted(line)));
 }

@@ -54,6 +54,8 @@ QProcessEnvironment Display::environment() const {
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.insert(QStringLiteral("DISPLAY"), mName);
   environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+  // Nothing is remembered from another display's programs.
+  environment.insert(QStringLiteral("XDG_STATE_HOME"), mFolder.filePath(QStringLiteral("state")));
   return environment;
 }
 
