@@ -11,8 +11,8 @@ std::unique_ptr<PrivateServer> theServer;
 
 }  // namespace
 
-int runAllTestsWithServer() {
-  theServer = std::make_unique<PrivateServer>();
+int runAllTestsWithServer(const std::string& arguments) {
+  theServer = std::make_unique<PrivateServer>(arguments);
   theServer->enterEnvironment();
   const int status = RUN_ALL_TESTS();
   theServer.reset();

@@ -16,8 +16,9 @@ namespace cutline::test {
 inline constexpr const char* kPrinters[] = {"tape24", "tapeb", "roll62"};
 
 // Runs the program's tests with a print server, whose client this process is from now on. libcups
-// reads the environment once a thread, so this comes before its first call. Answers main's status.
-int runAllTestsWithServer();
+// reads the environment once a thread, so this comes before its first call. `arguments` as for
+// PrivateServer. Answers main's status.
+int runAllTestsWithServer(const std::string& arguments = {});
 // That server.
 PrivateServer& server();
 // Twelve labels on as many pages.
