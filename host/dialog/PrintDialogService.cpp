@@ -6,6 +6,7 @@
 #include "host/dialog/DialogLanguage.h"
 #include "host/dialog/LayoutForm.h"
 #include "host/dialog/NoticeView.h"
+#include "host/dialog/OpenBar.h"
 #include "host/dialog/PrintDialog.h"
 
 namespace cutline {
