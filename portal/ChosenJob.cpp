@@ -39,10 +39,6 @@ ChosenJob::Paper paperIn(const QJsonObject& object) {
           length("bottom")};
 }
 
-QString orientationOf(const ChosenJob& job) {
-  return job.readsAlong ? QStringLiteral("landscape") : QStringLiteral("portrait");
-}
-
 void addOptions(const QMap<QString, QString>& options, QStringList& words) {
   for (auto each = options.begin(); each != options.end(); ++each)
     words << QStringLiteral("-o") << optionWord(each.key(), each.value());
@@ -59,7 +55,7 @@ std::optional<ChosenJob> ChosenJob::parse(const QByteArray& json) {
   job.copies = object.value(QStringLiteral("copies")).toInt();
   job.pages = object.value(QStringLiteral("pages")).toString();
   job.paper = paperIn(object.value(QStringLiteral("paper")).toObject());
-  job.readsAlong = object.value(QStringLiteral("reads_along")).toBool();
+  job.orientation = object.value(QStringLiteral("orientation")).toString();
   const bool isWhole = !job.printer.isEmpty() && job.copies > 0 && job.paper.width > 0;
   return isWhole ? std::optional(job) : std::nullopt;
 }
@@ -78,15 +74,12 @@ QVariantMap ChosenJob::settings(const QVariantMap& asked) const {
 }
 
 QVariantMap ChosenJob::pageSetup() const {
-  return {{QStringLiteral("PPDName"), paper.name},
-          {QStringLiteral("DisplayName"), paper.name},
-          {QStringLiteral("Width"), paper.width},
-          {QStringLiteral("Height"), paper.length},
-          {QStringLiteral("MarginTop"), paper.top},
-          {QStringLiteral("MarginBottom"), paper.bottom},
-          {QStringLiteral("MarginLeft"), paper.left},
-          {QStringLiteral("MarginRight"), paper.right},
-          {QStringLiteral("Orientation"), orientationOf(*this)}};
+  return {
+      {QStringLiteral("PPDName"), paper.name},     {QStringLiteral("DisplayName"), paper.name},
+      {QStringLiteral("Width"), paper.width},      {QStringLiteral("Height"), paper.length},
+      {QStringLiteral("MarginTop"), paper.top},    {QStringLiteral("MarginBottom"), paper.bottom},
+      {QStringLiteral("MarginLeft"), paper.left},  {QStringLiteral("MarginRight"), paper.right},
+      {QStringLiteral("Orientation"), orientation}};
 }
 
 QStringList ChosenJob::words() const {

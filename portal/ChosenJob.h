@@ -24,7 +24,7 @@ struct ChosenJob {
   int copies = 1;
   QString pages;  // "1-4,7"; empty for all
   Paper paper;
-  bool readsAlong = false;  // text runs along the paper's length
+  QString orientation;  // how text lies on it, as portals say
 
   // What the dialog says of it (host/dialog/ChosenSettings.h); nothing where it says no such thing.
   static std::optional<ChosenJob> parse(const QByteArray& json);

@@ -25,8 +25,13 @@ QJsonObject paperOf(const PaperSize& paper) {
           {QStringLiteral("bottom"), millimetres(paper.bottom)}};
 }
 
-// On a tape a reader holds the length level.
-bool readsAlong(const LabelPage& label) { return label.upright != 0 && label.length > label.width; }
+// On a tape a reader holds the length level. How far what is read is turned on the paper, as GTK
+// has it.
+const char* orientationOf(const LabelPage& label) {
+  constexpr int kQuarter = 90;
+  if (label.upright == 0 || label.length <= label.width) return "portrait";
+  return label.upright == kQuarter ? "landscape" : "reverse-landscape";
+}
 
 }  // namespace
 
@@ -41,13 +46,14 @@ QByteArray chosenSettings(PrintModel& model) {
     QJsonObject& place = ppd.hasOption(option.first) ? ofPrinter : ofJob;
     place.insert(toQString(option.first), toQString(option.second));
   }
-  return QJsonDocument({{QStringLiteral("printer"), toQString(model.destination().name.text())},
-                        {QStringLiteral("options"), ofPrinter},
-                        {QStringLiteral("job"), ofJob},
-                        {QStringLiteral("copies"), model.copies()},
-                        {QStringLiteral("pages"), toQString(model.pageRanges())},
-                        {QStringLiteral("paper"), paperOf(model.currentPaper())},
-                        {QStringLiteral("reads_along"), readsAlong(model.label())}})
+  return QJsonDocument(
+             {{QStringLiteral("printer"), toQString(model.destination().name.text())},
+              {QStringLiteral("options"), ofPrinter},
+              {QStringLiteral("job"), ofJob},
+              {QStringLiteral("copies"), model.copies()},
+              {QStringLiteral("pages"), toQString(model.pageRanges())},
+              {QStringLiteral("paper"), paperOf(model.currentPaper())},
+              {QStringLiteral("orientation"), QLatin1String(orientationOf(model.label()))}})
       .toJson(QJsonDocument::Compact);
 }
 

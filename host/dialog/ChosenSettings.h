@@ -14,7 +14,7 @@ class PrintModel;
 //   copies             a number
 //   pages              "1-4,7", or empty for all
 //   paper              an object: name, width, length, left, top, right, bottom (the margins)
-//   reads_along        whether its text is meant to run along the paper's length
+//   orientation        "portrait", "landscape" or "reverse-landscape": how its text lies on it
 // The names are options of this program, as `-o` takes them. The printer is open.
 QByteArray chosenSettings(PrintModel& model);
 

@@ -86,11 +86,14 @@ TEST_F(ServiceTest, ThePaperIsToldInMillimetres) {
 }
 
 TEST_F(ServiceTest, TextRunsAlongATapeAndAcrossARoll) {
+  const auto orientation = [this] {
+    return chosen().value(QStringLiteral("orientation")).toString().toStdString();
+  };
   choose("tape-a");
-  EXPECT_TRUE(chosen().value(QStringLiteral("reads_along")).toBool());
+  EXPECT_EQ(orientation(), "landscape");
   closeDialog();
   choose("roll");
-  EXPECT_FALSE(chosen().value(QStringLiteral("reads_along")).toBool());
+  EXPECT_EQ(orientation(), "portrait");
 }
 
 TEST_F(ServiceTest, ADialogForOneJobOpensNoOtherDocument) {

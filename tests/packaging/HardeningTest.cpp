@@ -25,7 +25,7 @@ std::string readelf(const std::string& options, const std::string& file) {
 // Below the build tree's folders that are installed.
 std::vector<std::string> installedCode() {
   std::vector<std::string> files;
-  for (const char* folder : {"bin", "lib/cutline"})
+  for (const char* folder : {"bin", "lib/cutline", "libexec"})
     for (const auto& entry : std::filesystem::recursive_directory_iterator(built(folder)))
       if (entry.is_regular_file() && contentsOf(entry.path()).starts_with(kElf))
         files.push_back(entry.path());

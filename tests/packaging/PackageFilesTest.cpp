@@ -30,7 +30,9 @@ bool covers(const std::string& pattern, const std::string& path) {
 
 TEST(PackageFiles, AreWhatIsInstalled) {
   const TemporaryFolder folder;
-  outputOf(CUTLINE_CMAKE " --install " CUTLINE_BUILD_DIR " --prefix " + folder / "usr");
+  for (const std::string which : {"", "--component portal "})
+    outputOf(CUTLINE_CMAKE " --install " CUTLINE_BUILD_DIR " " + which + "--prefix " +
+             folder / "usr");
   const std::vector<std::string> patterns = packagedPatterns();
   std::vector<int> uses(patterns.size());
   for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.path())) {
@@ -43,6 +45,22 @@ TEST(PackageFiles, AreWhatIsInstalled) {
   }
   for (std::size_t index = 0; index < patterns.size(); ++index)
     EXPECT_GT(uses[index], 0) << patterns[index] << " names nothing";
+}
+
+// Who wants our dialog in other programs asks for it.
+TEST(PackageFiles, OfThePortalAreNotForEverybody) {
+  const TemporaryFolder folder;
+  const std::string install = CUTLINE_CMAKE " --install " CUTLINE_BUILD_DIR " ";
+  outputOf(install + "--prefix " + folder / "all");
+  EXPECT_EQ(outputOf("find " + folder / "all" + " -name '*portal*'"), "");
+  outputOf(install + "--component portal --prefix " + folder / "portal");
+  const std::string program = folder / "portal/libexec/cutline-portal";
+  EXPECT_TRUE(std::filesystem::exists(program));
+  const std::string service = contentsOf(
+      folder / "portal/share/dbus-1/services/org.freedesktop.impl.portal.desktop.cutline.service");
+  EXPECT_NE(service.find("\nExec=" + program + '\n'), std::string::npos) << service;
+  EXPECT_EQ(contentsOf(folder / "portal/share/xdg-desktop-portal/portals/cutline.portal"),
+            contentsOf(source("packaging/portal/cutline.portal")));
 }
 
 TEST(PackageFiles, HaveTheProgramsVersion) {

@@ -11,7 +11,7 @@ namespace {
 constexpr char kJson[] = R"({"printer": "tape24/half", "copies": 3, "pages": "1-2",
   "options": {"LxHalfCut": "ON", "PageSize": "W24H50"}, "job": {"job-priority": "70"},
   "paper": {"name": "W24H50", "width": 24, "length": 50, "left": 1, "top": 2, "right": 1,
-            "bottom": 2}, "reads_along": true})";
+            "bottom": 2}, "orientation": "landscape"})";
 
 ChosenJob job() { return *ChosenJob::parse(kJson); }
 
