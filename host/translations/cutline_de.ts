@@ -1099,6 +1099,21 @@
     </message>
 </context>
 <context>
+    <name>cutline::OpenBar</name>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>Recent documents</source>
+        <translation>Zuletzt gedruckte Dokumente</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+</context>
+<context>
     <name>cutline::PanelFrame</name>
     <message>
         <source>This printer has no panel of its own. Its options are under &quot;More printer options&quot;.</source>
@@ -1258,10 +1273,6 @@
         <translation>Dieses Dokument kann nicht gedruckt werden.</translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
-        <translation>Ö&amp;ffnen …</translation>
-    </message>
-    <message>
         <source>The document has %1 pages; they are shrunk to %2 %</source>
         <translation>Das Dokument hat %1-Seiten; sie werden auf %2 % verkleinert</translation>
     </message>
@@ -1304,10 +1315,6 @@
     <message>
         <source>This document goes to the printer as it is, unseen</source>
         <translation>Dieses Dokument geht unverändert und ungesehen an den Drucker</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Öffnen</translation>
     </message>
     <message>
         <source>There is no document to print: open one, or drop it here.</source>

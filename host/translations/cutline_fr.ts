@@ -1099,6 +1099,21 @@
     </message>
 </context>
 <context>
+    <name>cutline::OpenBar</name>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Ouvrir…</translation>
+    </message>
+    <message>
+        <source>Recent documents</source>
+        <translation>Documents récents</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+</context>
+<context>
     <name>cutline::PanelFrame</name>
     <message>
         <source>This printer has no panel of its own. Its options are under &quot;More printer options&quot;.</source>
@@ -1258,10 +1273,6 @@
         <translation>Ce document ne peut pas être imprimé.</translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
-        <translation>&amp;Ouvrir…</translation>
-    </message>
-    <message>
         <source>The document has %1 pages; they are shrunk to %2 %</source>
         <translation>Le document a des pages %1 ; elles sont réduites à %2 %</translation>
     </message>
@@ -1304,10 +1315,6 @@
     <message>
         <source>This document goes to the printer as it is, unseen</source>
         <translation>Ce document va tel quel à l’imprimante, sans aperçu</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>There is no document to print: open one, or drop it here.</source>

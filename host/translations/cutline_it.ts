@@ -1099,6 +1099,21 @@
     </message>
 </context>
 <context>
+    <name>cutline::OpenBar</name>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Apr&amp;i…</translation>
+    </message>
+    <message>
+        <source>Recent documents</source>
+        <translation>Documenti recenti</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Apri</translation>
+    </message>
+</context>
+<context>
     <name>cutline::PanelFrame</name>
     <message>
         <source>This printer has no panel of its own. Its options are under &quot;More printer options&quot;.</source>
@@ -1258,10 +1273,6 @@
         <translation>Impossibile stampare questo documento.</translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
-        <translation>Apr&amp;i…</translation>
-    </message>
-    <message>
         <source>The document has %1 pages; they are shrunk to %2 %</source>
         <translation>Il documento ha pagine %1; vengono ridotte al %2%</translation>
     </message>
@@ -1304,10 +1315,6 @@
     <message>
         <source>This document goes to the printer as it is, unseen</source>
         <translation>Questo documento va alla stampante così com’è, senza anteprima</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Apri</translation>
     </message>
     <message>
         <source>There is no document to print: open one, or drop it here.</source>

@@ -1099,6 +1099,21 @@
     </message>
 </context>
 <context>
+    <name>cutline::OpenBar</name>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>開く(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>Recent documents</source>
+        <translation>最近使ったドキュメント</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+</context>
+<context>
     <name>cutline::PanelFrame</name>
     <message>
         <source>This printer has no panel of its own. Its options are under &quot;More printer options&quot;.</source>
@@ -1258,10 +1273,6 @@
         <translation>この文書は印刷できません。</translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
-        <translation>開く(&amp;O)…</translation>
-    </message>
-    <message>
         <source>The document has %1 pages; they are shrunk to %2 %</source>
         <translation>文書は %1 のページです。%2 % に縮小されます</translation>
     </message>
@@ -1304,10 +1315,6 @@
     <message>
         <source>This document goes to the printer as it is, unseen</source>
         <translation>この文書はプレビューなしで、そのままプリンターに送られます</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>開く</translation>
     </message>
     <message>
         <source>There is no document to print: open one, or drop it here.</source>

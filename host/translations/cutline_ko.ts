@@ -1099,6 +1099,21 @@
     </message>
 </context>
 <context>
+    <name>cutline::OpenBar</name>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>열기(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>Recent documents</source>
+        <translation>최근 문서</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>열기</translation>
+    </message>
+</context>
+<context>
     <name>cutline::PanelFrame</name>
     <message>
         <source>This printer has no panel of its own. Its options are under &quot;More printer options&quot;.</source>
@@ -1258,10 +1273,6 @@
         <translation>이 문서는 인쇄할 수 없습니다.</translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
-        <translation>열기(&amp;O)…</translation>
-    </message>
-    <message>
         <source>The document has %1 pages; they are shrunk to %2 %</source>
         <translation>문서의 페이지는 %1입니다. %2 %로 축소됩니다</translation>
     </message>
@@ -1304,10 +1315,6 @@
     <message>
         <source>This document goes to the printer as it is, unseen</source>
         <translation>이 문서는 미리 보기 없이 그대로 프린터로 보내집니다</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>열기</translation>
     </message>
     <message>
         <source>There is no document to print: open one, or drop it here.</source>

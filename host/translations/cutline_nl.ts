@@ -1099,6 +1099,21 @@
     </message>
 </context>
 <context>
+    <name>cutline::OpenBar</name>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Ope&amp;nen…</translation>
+    </message>
+    <message>
+        <source>Recent documents</source>
+        <translation>Recente documenten</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Openen</translation>
+    </message>
+</context>
+<context>
     <name>cutline::PanelFrame</name>
     <message>
         <source>This printer has no panel of its own. Its options are under &quot;More printer options&quot;.</source>
@@ -1258,10 +1273,6 @@
         <translation>Dit document kan niet worden afgedrukt.</translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
-        <translation>Ope&amp;nen…</translation>
-    </message>
-    <message>
         <source>The document has %1 pages; they are shrunk to %2 %</source>
         <translation>Het document heeft %1-pagina’s; ze worden verkleind tot %2%</translation>
     </message>
@@ -1304,10 +1315,6 @@
     <message>
         <source>This document goes to the printer as it is, unseen</source>
         <translation>Dit document gaat ongewijzigd en ongezien naar de printer</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Openen</translation>
     </message>
     <message>
         <source>There is no document to print: open one, or drop it here.</source>

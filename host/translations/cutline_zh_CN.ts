@@ -1099,6 +1099,21 @@
     </message>
 </context>
 <context>
+    <name>cutline::OpenBar</name>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>打开(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>Recent documents</source>
+        <translation>最近的文档</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+</context>
+<context>
     <name>cutline::PanelFrame</name>
     <message>
         <source>This printer has no panel of its own. Its options are under &quot;More printer options&quot;.</source>
@@ -1258,10 +1273,6 @@
         <translation>无法打印此文档。</translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
-        <translation>打开(&amp;O)…</translation>
-    </message>
-    <message>
         <source>The document has %1 pages; they are shrunk to %2 %</source>
         <translation>文档的页面为 %1；将缩小到 %2 %</translation>
     </message>
@@ -1304,10 +1315,6 @@
     <message>
         <source>This document goes to the printer as it is, unseen</source>
         <translation>此文档将原样送往打印机，不经预览</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>打开</translation>
     </message>
     <message>
         <source>There is no document to print: open one, or drop it here.</source>

@@ -164,7 +164,7 @@ TEST(CommandLineTest, TheHelpNamesEveryOption) {
     EXPECT_NE(helpText().find(option), std::string::npos) << option;
 }
 
-TEST(CommandLine, ProgramsThatOpenTheDialogHaveOptionsOfTheirOwn) {
+TEST(CommandLineTest, ProgramsThatOpenTheDialogHaveOptionsOfTheirOwn) {
   EXPECT_FALSE(parse({"labels.pdf"})->isOnce);
   EXPECT_TRUE(parse({"--once", "labels.pdf"})->isOnce);
   const auto line = parse({"--choose", "--parent", "x11:2a", "--window-title", "Print"});
