@@ -141,6 +141,15 @@ Result<JobStatus> jobStatus(const ServerOptions& server, const DestinationName& 
   return *status;
 }
 
+std::optional<JobState> jobState(const ServerOptions& server, int jobId) {
+  const auto connection = ServerConnection::open(server);
+  if (!connection) return std::nullopt;
+  const IppMessage answer =
+      answerTo(connection->get(), newJobRequest(IPP_OP_GET_JOB_ATTRIBUTES, jobId));
+  const auto status = answer ? statusOf(answer.get()) : std::nullopt;
+  return status ? std::optional(status->state) : std::nullopt;
+}
+
 std::string jobName(const DestinationName& destination, int jobId) {
   return destination.printer + '-' + std::to_string(jobId);
 }

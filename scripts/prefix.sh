@@ -62,6 +62,9 @@ cutline_name_program() {
     sed -i "s|^Exec=cutline|Exec=\"$prefix/bin/cutline\"|" "$file" || return 1
   done
   chmod 755 "$stage"/share/kio/servicemenus/*.desktop
+  for file in "$stage"/share/systemd/user/*.service "$stage"/etc/xdg/autostart/*.desktop; do
+    [ ! -f "$file" ] || sed -i -E "s|^(Exec(Start)?)=.*/lib/|\1=$prefix/lib/|" "$file" || return 1
+  done
 }
 
 # cutline_keep_defaults STAGE PREFIX: a desktop takes a program of the user's own before those of the

@@ -29,6 +29,8 @@ enum LongOption {
   kScale,
   kDark,
   kList,
+  kAskQueue,
+  kHeldJob,
   kPluginDirectory,
   kMarks,
   kOnce,
@@ -53,6 +55,8 @@ constexpr option kLongOptions[] = {{"ppd", required_argument, nullptr, kPpd},
                                    {"scale", required_argument, nullptr, kScale},
                                    {"dark", no_argument, nullptr, kDark},
                                    {"list", no_argument, nullptr, kList},
+                                   {"ask-queue", required_argument, nullptr, kAskQueue},
+                                   {"held-job", required_argument, nullptr, kHeldJob},
                                    {"plugin-dir", required_argument, nullptr, kPluginDirectory},
                                    {"marks", no_argument, nullptr, kMarks},
                                    {"once", no_argument, nullptr, kOnce},
@@ -90,6 +94,9 @@ Print labels and tapes: shows a print dialog with the printer's cut options.
   --scale 1|2            pixels per point of the dialog (with --snapshot)
   --dark                 light text on dark ground
   --list                 list the printers, their kind and their panels, and end
+  --ask-queue VERB       add or remove the ask queue of the printer named behind it, or list
+                         them all: on that queue every program's jobs wait for the dialog
+  --held-job JOB         the dialog for a job of yours that waits there
   --plugin-dir DIR       look for panels in this directory first
   --marks                print times of the start on standard output and end (for measuring)
   --help, --version      show this text, or the version, and end
@@ -110,9 +117,8 @@ using Problem = std::optional<std::string>;
 
 Problem setCommand(CommandLine& line, Command command) {
   if (line.command != Command::dialog && line.command != command)
-    return "--print, --dry-run, --summary, --options, --plan, --choices, --snapshot and --list "
-           "exclude "
-           "each other";
+    return "--print, --dry-run, --summary, --options, --plan, --choices, --snapshot, --list and "
+           "--ask-queue exclude each other";
   line.command = command;
   return std::nullopt;
 }
@@ -172,6 +178,20 @@ Problem setSnapshot(CommandLine& line, const std::string& path) {
   return setCommand(line, Command::snapshot);
 }
 
+Problem setAskQueue(CommandLine& line, const std::string& verb) {
+  if (verb != "add" && verb != "remove" && verb != "list")
+    return "--ask-queue takes add, remove or list";
+  line.askQueueVerb = verb;
+  return setCommand(line, Command::askQueue);
+}
+
+Problem setHeldJob(CommandLine& line, const std::string& text) {
+  line.heldJobId = numberIn<int>(text);
+  if (!line.heldJobId || *line.heldJobId < 1)
+    return "--held-job: \"" + text + "\" is no number of a job";
+  return std::nullopt;
+}
+
 template <typename Field>
 Problem store(Field& field, const std::string& text) {
   field = text;
@@ -229,6 +249,10 @@ Problem apply(CommandLine& line, int option, const std::string& text) {
       return turnOn(line.dark);
     case kList:
       return setCommand(line, Command::list);
+    case kAskQueue:
+      return setAskQueue(line, text);
+    case kHeldJob:
+      return setHeldJob(line, text);
     case kPluginDirectory:
       return store(line.pluginDirectory, text);
     case kMarks:
@@ -258,7 +282,26 @@ Problem checkForPrograms(const CommandLine& line) {
   return std::nullopt;
 }
 
+// The printer stands where documents do.
+Problem checkAskQueue(const CommandLine& line) {
+  if (line.command != Command::askQueue) return std::nullopt;
+  if (line.askQueueVerb == "list")
+    return line.files.empty() ? Problem() : "--ask-queue list takes nothing behind it";
+  if (line.files.size() == 1) return std::nullopt;
+  return "--ask-queue " + line.askQueueVerb + " takes the name of one printer";
+}
+
+Problem checkHeldJob(const CommandLine& line) {
+  if (!line.heldJobId) return std::nullopt;
+  const bool isOther = line.command != Command::dialog || line.ppdPath || line.destination;
+  if (isOther || !line.files.empty())
+    return "--held-job goes with no other command, printer or document";
+  return std::nullopt;
+}
+
 Problem checkTogether(const CommandLine& line) {
+  if (Problem problem = checkAskQueue(line)) return problem;
+  if (Problem problem = checkHeldJob(line)) return problem;
   if (line.waits && line.command != Command::print) return "--wait goes with --print only";
   if (Problem problem = checkForPrograms(line)) return problem;
   if (line.asJson && line.command != Command::plan) return "--json goes with --plan only";

@@ -1,12 +1,14 @@
 // The command line, read.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "base/Result.h"
 #include "cups/Destination.h"
+#include "cups/HeldJobs.h"
 #include "cups/ServerOptions.h"
 #include "host/core/PrintValues.h"
 
@@ -22,6 +24,7 @@ enum class Command {
   choices,
   snapshot,
   list,
+  askQueue,
   help,
   version
 };
@@ -43,6 +46,9 @@ struct CommandLine {
   std::optional<std::string> pluginDirectory;  // --plugin-dir
   std::string snapshotPath;                    // --snapshot
   std::string dryRunPath;                      // --dry-run
+  std::string askQueueVerb;                    // --ask-queue: add, remove or list
+  std::optional<int> heldJobId;                // --held-job
+  std::shared_ptr<const HeldJob> heldJob;      // that job, once it is in hand (HeldJobInHand.h)
   int scale = 1;                               // --scale: pixels per point, 1 or 2
   bool dark = false;                           // --dark
   bool asJson = false;                         // --json: the plan for other programs

@@ -5,6 +5,7 @@
 #include "base/Lists.h"
 #include "base/Visible.h"
 #include "cups/Destinations.h"
+#include "host/core/AskQueueCommand.h"
 #include "host/core/ChoicesCommand.h"
 #include "host/core/CutRules.h"
 #include "host/core/HeadlessPrinting.h"
@@ -79,7 +80,7 @@ struct Row {
 constexpr Row kCommands[] = {{Command::print, printDocuments}, {Command::dryRun, keepDocument},
                              {Command::summary, showSummary},  {Command::options, showOptions},
                              {Command::plan, showPlan},        {Command::choices, showChoices},
-                             {Command::list, listPrinters}};
+                             {Command::list, listPrinters},    {Command::askQueue, runAskQueue}};
 
 }  // namespace
 

@@ -12,6 +12,7 @@
 #include "host/core/CommandLine.h"
 #include "host/core/DialogModule.h"
 #include "host/core/HeadlessCommands.h"
+#include "host/core/HeldJobInHand.h"
 #include "host/core/Installation.h"
 #include "host/core/Module.h"
 #include "host/core/PluginLoader.h"
@@ -81,12 +82,22 @@ std::vector<std::string> plugInDirectories(const CommandLine& line) {
   return directories;
 }
 
+// The job's document lives as long as the dialog.
+int askAboutHeldJob(CommandLine& line) {
+  const auto inHand = HeldJobInHand::take(line);
+  if (!inHand) return fail(inHand.error());
+  if (*inHand == nullptr) return kExitDone;
+  PluginLoader plugIns(plugInDirectories(line));
+  return showDialog(line, plugIns);
+}
+
 int run(CommandLine line) {
   const bool elevated = getauxval(AT_SECURE) != 0;
   if (line.pluginDirectory && elevated)
     return fail({"--plugin-dir is refused while the program runs with more rights than its user"});
   const Result<std::shared_ptr<SpooledDocument>> spooled = spool(line);
   if (!spooled) return fail(spooled.error());
+  if (line.heldJobId) return askAboutHeldJob(line);
   PluginLoader plugIns(plugInDirectories(line));
   return needsWindow(line.command) ? showDialog(line, plugIns) : runWithoutWindow(line, plugIns);
 }

@@ -11,6 +11,7 @@
 #include <optional>
 #include <thread>
 
+#include "cups/AskQueue.h"
 #include "cups/Destinations.h"
 #include "host/core/CommandLine.h"
 #include "host/core/Installation.h"
@@ -18,6 +19,7 @@
 #include "host/core/PrinterSelection.h"
 #include "host/dialog/ChosenSettings.h"
 #include "host/dialog/DialogLanguage.h"
+#include "host/dialog/HeldJobPrintServer.h"
 #include "host/dialog/ParentWindow.h"
 #include "host/dialog/Remembered.h"
 #include "host/dialog/StartTimes.h"
@@ -58,13 +60,26 @@ std::optional<PrinterChoice> lastUsedPrinter(const CommandLine& line) {
   return choice ? std::optional<PrinterChoice>(*choice) : std::nullopt;
 }
 
+// An ask queue would bring the job back to the dialog, so its printer stands for it.
+Result<PrinterChoice> selectBehindAskQueue(const CommandLine& line) {
+  Result<PrinterChoice> choice = selectPrinter(line);
+  if (!choice || !mayBeAskQueue(choice->destination.name.printer)) return choice;
+  const Result<std::vector<AskQueue>> queues = askQueues(line.server);
+  if (!queues) return choice;
+  const auto found = std::ranges::find(*queues, choice->destination.name.printer, &AskQueue::name);
+  if (found == queues->end()) return choice;
+  CommandLine behind = line;
+  behind.destination = DestinationName{found->printer, std::nullopt};
+  return selectPrinter(behind);
+}
+
 }  // namespace
 
 Result<PrinterChoice> findFirstPrinter(const CommandLine& line) {
   const std::optional<Error> problem = problemOfDocuments(line.files);
   if (problem && !isForAPerson(line)) return *problem;
   if (const auto last = lastUsedPrinter(line)) return *last;
-  Result<PrinterChoice> choice = selectPrinter(line);
+  Result<PrinterChoice> choice = selectBehindAskQueue(line);
   if (choice || namesPrinter(line)) return choice;
   const Result<std::vector<Destination>> all = listDestinations(line.server);
   if (!all || all->empty()) return choice;
@@ -111,17 +126,36 @@ DialogSession::DialogSession(const DialogRequest& request, FirstPrinter printer)
       mPrinter(std::move(printer)),
       mPlatform(mToolkit),
       mModel(mPlugIns, mLine.asked) {
-  mDialog = std::make_unique<PrintDialog>(mModel, std::make_shared<CupsPrintServer>(mLine.server),
-                                          source());
+  const std::shared_ptr<PrintServer> asked = server();
+  mDialog = std::make_unique<PrintDialog>(mModel, asked, source());
   if (mLine.isOnce) mDialog->closeAfterJob();
   if (mLine.isChoosing) mDialog->chooseOnly();
   if (mLine.windowTitle) mDialog->setWindowTitle(toQString(*mLine.windowTitle));
   mDialog->installEventFilter(this);
-  connect(mDialog.get(), &QDialog::finished, this,
-          [this] { QApplication::exit(mDialog->exitStatus()); });
+  connect(mDialog.get(), &QDialog::finished, this, [this] {
+    giveUpHeldJob();
+    QApplication::exit(mDialog->exitStatus());
+  });
   if (isForAPerson(mLine))
     connect(mDialog.get(), &PrintDialog::jobWentOut, this, &DialogSession::rememberJob);
   if (mLine.marks) printTime("constructed");
+}
+
+DialogSession::~DialogSession() = default;
+
+std::shared_ptr<PrintServer> DialogSession::server() {
+  auto server = std::make_shared<CupsPrintServer>(mLine.server);
+  if (!mLine.heldJob) return server;
+  mHeldJob = std::make_shared<HeldJobPrintServer>(
+      server, std::make_shared<CupsHeldJobServer>(mLine.server), *mLine.heldJob);
+  return mHeldJob;
+}
+
+// Somebody closed the window about a job that waits, which says that it is not to be printed. A
+// program that is killed never gets here.
+void DialogSession::giveUpHeldJob() {
+  if (!mHeldJob) return;
+  if (const Result<Done> done = mHeldJob->giveUp(); !done) tell(done.error().message);
 }
 
 PrintSource DialogSession::source() const {
@@ -129,6 +163,7 @@ PrintSource DialogSession::source() const {
   source.paths = mLine.files;
   source.title = jobTitle(mLine);
   source.tools = documentToolsIn(mInstallation.helperDirectory());
+  if (mHeldJob) source.tools = mHeldJob->watched(std::move(source.tools));
   source.isRaw = mLine.asked.isRaw();
   return source;
 }
@@ -147,6 +182,7 @@ int DialogSession::run() {
 void DialogSession::rememberJob() {
   Remembered remembered;
   remembered.setLastPrinter(mModel.destination().name);
+  if (mHeldJob) return;  // its document has no place where it could be found again
   for (const std::string& path : mDialog->documents()) remembered.addRecent(path);
   mDialog->setRecentDocuments(remembered.recentDocuments());
 }

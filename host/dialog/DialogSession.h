@@ -19,6 +19,8 @@
 
 namespace cutline {
 
+class HeldJobPrintServer;
+
 // The printer that the dialog opens with, looked for on another thread while the toolkit is made.
 // Also says why there is none, and whether the document exists.
 using FirstPrinter = std::shared_future<Result<PrinterChoice>>;
@@ -37,6 +39,7 @@ class DialogSession : public QObject {
  public:
   // `application` lives as long as the session.
   DialogSession(const DialogRequest& request, FirstPrinter printer);
+  ~DialogSession() override;
 
   // The program's exit status.
   int run();
@@ -54,6 +57,8 @@ class DialogSession : public QObject {
   void fail(const Error& error);
   void rememberJob();
   PrintSource source() const;
+  std::shared_ptr<PrintServer> server();
+  void giveUpHeldJob();
 
   const CommandLine& mLine;
   PluginLoader& mPlugIns;
@@ -62,6 +67,7 @@ class DialogSession : public QObject {
   QtToolkit mToolkit;
   HostPlatform mPlatform;
   PrintModel mModel;
+  std::shared_ptr<HeldJobPrintServer> mHeldJob;  // null for a dialog of one's own documents
   std::unique_ptr<PrintDialog> mDialog;
   bool mIsComplete = false;
   bool mHasFailed = false;

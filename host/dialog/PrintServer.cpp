@@ -1,7 +1,9 @@
 #include "host/dialog/PrintServer.h"
 
+#include <algorithm>
 #include <utility>
 
+#include "cups/AskQueue.h"
 #include "cups/Destinations.h"
 #include "host/core/PrinterSelection.h"
 #include "host/dialog/DialogLanguage.h"
@@ -11,8 +13,15 @@ namespace cutline {
 
 PrintServer::~PrintServer() = default;
 
+// Ask queues are for programs that have no such dialog: from this one, a job would come back to it.
 Result<std::vector<Destination>> CupsPrintServer::destinations() {
-  return listDestinations(mOptions);
+  Result<std::vector<Destination>> all = listDestinations(mOptions);
+  const Result<std::vector<AskQueue>> queues = askQueues(mOptions);
+  if (!all || !queues) return all;
+  std::erase_if(*all, [&](const Destination& each) {
+    return std::ranges::find(*queues, each.name.printer, &AskQueue::name) != queues->end();
+  });
+  return all;
 }
 
 bool CupsPrintServer::answers() { return serverAnswers(mOptions); }

@@ -69,17 +69,25 @@ _cutline() {
   -d)
     mapfile -t COMPREPLY < <(compgen -W "$(_cutline_printers)" -- "$current")
     return ;;
+  --ask-queue)
+    mapfile -t COMPREPLY < <(compgen -W 'add remove list' -- "$current")
+    return ;;
+  add | remove)
+    if [[ ${COMP_WORDS[COMP_CWORD - 2]-} == --ask-queue ]]; then
+      mapfile -t COMPREPLY < <(compgen -W "$(_cutline_printers)" -- "$current")
+      return
+    fi ;;
   --scale)
     mapfile -t COMPREPLY < <(compgen -W '1 2' -- "$current")
     return ;;
   --plugin-dir)
     compopt -o dirnames 2>/dev/null
     return ;;
-  -n | -P | -t | -h | -U) return ;;
+  -n | -P | -t | -h | -U | --held-job) return ;;
   esac
   if [[ $current == -* && $before != --ppd && $before != --dry-run && $before != --snapshot ]]; then
     mapfile -t COMPREPLY < <(compgen -W '-d -n -P -t -o -h -E -U -q --ppd --print --dry-run --wait
-      --summary --options --plan --json --choices --snapshot --scale --dark --list --plugin-dir
+      --summary --options --plan --json --choices --snapshot --scale --dark --list --ask-queue --held-job --plugin-dir
       --marks --help --version' -- "$current")
     return
   fi

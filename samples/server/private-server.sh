@@ -6,19 +6,23 @@ set -u
 usage() {
   cat <<'U'
 Usage: private-server.sh start DIR [--pace MS] [--printer FOLDER] [--ppds FOLDER] [--backend NAME]...
-                               [NAME=PPD]...
+                               [--policy FILE] [NAME=PPD]...
        private-server.sh env DIR
        private-server.sh wait-idle DIR [SECONDS]
        private-server.sh stop DIR
+       private-server.sh restart DIR
 
   start      makes the queues tape24 (the default), tapeb and roll62, and one for each NAME=PPD, and
              starts the server. A label takes MS milliseconds at the printers (0). --backend
-             takes one of the system's along, such as ipp, for queues that are added later.
+             takes one of the system's along, such as ipp, for queues that are added later. --policy
+             takes who may do what from that server's configuration, such as
+             /usr/share/cups/cupsd.conf.default; else everybody may do everything.
   env        prints the lines that turn a shell's printing commands to the server:
              eval "$(private-server.sh env DIR)"
   wait-idle  waits until no job is left, by default for 60 seconds at most; a job that
              stopped on an error ends the waiting, too.
   stop       ends the server and everything that it runs. The folder stays.
+  restart    ends the server and starts it again, with its queues and jobs.
 
 Each job leaves DIR/printed/job-NUMBER.png and job-NUMBER.txt.
 
@@ -175,11 +179,23 @@ JobKillDelay 5
 MaxJobTime 300
 PreserveJobHistory Yes
 PreserveJobFiles No
-DefaultAuthType None
 <Location />
   Order allow,deny
   Allow localhost
 </Location>
+C
+  write_policy "$1" >>"$place/etc/cupsd.conf"
+}
+
+# write_policy FILE: the policy "default" of another server's configuration; an open one without a file.
+write_policy() {
+  if [ -n "$1" ]; then
+    echo 'DefaultAuthType Basic'
+    sed -n '/^<Policy default>/,/^<\/Policy>/p' "$1"
+    return
+  fi
+  cat <<C
+DefaultAuthType None
 <Policy default>
   JobPrivateAccess all
   JobPrivateValues none
@@ -239,14 +255,15 @@ launch() {
 }
 
 start() {
-  local pace=0 printer='' ppds='' queues=() backends=() prefix=${CUTLINE_PREFIX:-}
+  local pace=0 printer='' ppds='' policy='' queues=() backends=() prefix=${CUTLINE_PREFIX:-}
   while [ $# -gt 0 ]; do
     case $1 in
-    --pace | --printer | --ppds | --backend) [ $# -ge 2 ] || { usage >&2; exit 2; } ;;&
+    --pace | --printer | --ppds | --backend | --policy) [ $# -ge 2 ] || { usage >&2; exit 2; } ;;&
     --pace) pace=$2; shift ;;
     --printer) printer=$2; shift ;;
     --ppds) ppds=$2; shift ;;
     --backend) backends+=("$2"); shift ;;
+    --policy) policy=$2; shift ;;
     ?*=?*) queues+=("$1") ;;
     *) usage >&2; exit 2 ;;
     esac
@@ -262,7 +279,8 @@ start() {
   check_place
   make_folders
   make_programs "$printer" ${backends[0]+"${backends[@]}"}
-  write_server_conf
+  [ -z "$policy" ] || grep -q '^<Policy default>' "$policy" || fail "$policy has no policy \"default\""
+  write_server_conf "$policy"
   : >"$place/etc/printers.conf" || exit 1
   add_queue tape24 "$ppds/tape-a.ppd" "$pace" Default
   add_queue tapeb "$ppds/tape-b.ppd" "$pace"
@@ -331,6 +349,7 @@ case $command in
 start) start "$@" ;;
 env) print_env ;;
 stop) stop ;;
+restart) stop; launch ;;
 wait-idle) wait_idle "$@" ;;
 *) usage >&2; exit 2 ;;
 esac

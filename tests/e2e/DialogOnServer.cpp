@@ -23,6 +23,7 @@
 #include "host/core/Module.h"
 #include "host/core/PluginLoader.h"
 #include "host/core/PrinterSelection.h"
+#include "host/dialog/HeldJobPrintServer.h"
 #include "host/dialog/PanelViews.h"
 #include "platform/ports/Drawing.h"
 #include "tests/e2e/SampleOptions.h"
@@ -40,9 +41,12 @@ PrinterChoice opened(const CommandLine& line) {
   return *choice;
 }
 
-PrintSource sourceOf(const CommandLine& line) {
-  return {line.files, line.title.value_or("labels.pdf"),
-          documentToolsIn(Installation(built("")).helperDirectory())};
+PrintSource sourceOf(const CommandLine& line, PrintServer& print) {
+  PrintSource source{line.files, line.title.value_or("labels.pdf"),
+                     documentToolsIn(Installation(built("")).helperDirectory())};
+  if (const auto* held = dynamic_cast<HeldJobPrintServer*>(&print))
+    source.tools = held->watched(source.tools);
+  return source;
 }
 
 template <class Kind>
@@ -129,7 +133,7 @@ DialogOnServer::DialogOnServer(const std::string& printer) : DialogOnServer(dial
 DialogOnServer::DialogOnServer(const CommandLine& line, std::shared_ptr<PrintServer> print)
     : mPlatform(mToolkit), mModel(std::make_unique<PrintModel>(plugIns(), line.asked)) {
   if (!print) print = std::make_shared<CupsPrintServer>(line.server);
-  mDialog = std::make_unique<PrintDialog>(*mModel, print, sourceOf(line));
+  mDialog = std::make_unique<PrintDialog>(*mModel, print, sourceOf(line, *print));
   mDialog->openPrinter(opened(line));
   for (const std::string& problem : plugIns().takeProblems()) ADD_FAILURE() << problem;
   mDialog->resize(kPreferredSize.expandedTo(mDialog->sizeHint()));

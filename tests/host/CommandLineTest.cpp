@@ -183,5 +183,30 @@ TEST(CommandLineTest, QuietIsALetter) {
   EXPECT_TRUE(line->isQuiet);
 }
 
+TEST(CommandLineTest, AsksForAQueueByItsPrinter) {
+  const auto line = parse({"--ask-queue", "add", "tape24"});
+  ASSERT_TRUE(line) << line.error().message;
+  EXPECT_EQ(line->command, Command::askQueue);
+  EXPECT_EQ(line->askQueueVerb, "add");
+  EXPECT_EQ(line->files, std::vector<std::string>{"tape24"});
+  EXPECT_TRUE(parse({"--ask-queue", "list"}));
+  EXPECT_FALSE(parse({"--ask-queue", "list", "tape24"}));
+  EXPECT_FALSE(parse({"--ask-queue", "add"}));
+  EXPECT_FALSE(parse({"--ask-queue", "remove", "one", "two"}));
+  EXPECT_FALSE(parse({"--ask-queue", "rename", "tape24"}));
+}
+
+TEST(CommandLineTest, TakesAJobInTheDialogAlone) {
+  const auto line = parse({"--held-job", "12"});
+  ASSERT_TRUE(line) << line.error().message;
+  EXPECT_EQ(line->command, Command::dialog);
+  EXPECT_EQ(line->heldJobId, 12);
+  for (const char* wrong : {"0", "-1", "twelve", "12a", ""})
+    EXPECT_FALSE(parse({"--held-job", wrong})) << wrong;
+  EXPECT_FALSE(parse({"--held-job", "12", "labels.pdf"}));
+  EXPECT_FALSE(parse({"--held-job", "12", "-d", "tape24"}));
+  EXPECT_FALSE(parse({"--held-job", "12", "--print"}));
+}
+
 }  // namespace
 }  // namespace cutline

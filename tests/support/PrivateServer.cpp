@@ -73,6 +73,10 @@ void PrivateServer::stop() {
   outputOf(script("stop"));
 }
 
+void PrivateServer::restart() const {
+  outputOf(script("restart") + " >" + quoted(mFolder / "restart.log"));
+}
+
 void PrivateServer::waitUntilIdle() const { outputOf(script("wait-idle")); }
 
 std::string PrivateServer::script(const std::string& verb) const {

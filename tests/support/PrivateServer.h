@@ -41,6 +41,8 @@ class PrivateServer {
   std::set<int> printedJobs() const;
 
   void stop();
+  // With its queues and jobs.
+  void restart() const;
   // A folder of the server's own, which its drivers may enter and which goes with it.
   std::string folder() const { return mFolder.path(); }
   // Waits until no job is left to do.

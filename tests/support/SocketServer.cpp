@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <csignal>
+#include <limits>
 #include <stdexcept>
 
 namespace cutline::test {
@@ -99,20 +100,37 @@ void answerWith(int client, const std::string& bytes) {
   pass(client, bytes);
 }
 
-void relay(int client, const std::string& socket, std::size_t most) {
+namespace {
+
+void relayBoth(int client, const std::string& socket, std::size_t there, std::size_t back) {
   const FileDescriptor server = newSocket();
   const sockaddr_un address = addressOf(socket);
   if (::connect(server.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0)
     return;
   std::array<pollfd, 2> both{{{client, POLLIN, 0}, {server.get(), POLLIN, 0}}};
-  for (std::size_t left = most; left > 0 && ::poll(both.data(), both.size(), -1) > 0;) {
+  while (there > 0 && back > 0 && ::poll(both.data(), both.size(), -1) > 0) {
     if (both[0].revents != 0) {
-      const std::string bytes = receive(client, left);
+      const std::string bytes = receive(client, std::min(there, kBlock));
       if (!pass(server.get(), bytes)) return;
-      left -= bytes.size();
+      there -= bytes.size();
     }
-    if (both[1].revents != 0 && !pass(client, receive(server.get(), kBlock))) return;
+    if (both[1].revents == 0) continue;
+    const std::string bytes = receive(server.get(), std::min(back, kBlock));
+    if (!pass(client, bytes)) return;
+    back -= bytes.size();
   }
+}
+
+constexpr std::size_t kEndless = std::numeric_limits<std::size_t>::max();
+
+}  // namespace
+
+void relay(int client, const std::string& socket, std::size_t most) {
+  relayBoth(client, socket, most, kEndless);
+}
+
+void relayBack(int client, const std::string& socket, std::size_t most) {
+  relayBoth(client, socket, kEndless, most);
 }
 
 }  // namespace cutline::test

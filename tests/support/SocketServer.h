@@ -45,5 +45,7 @@ void answerWith(int client, const std::string& bytes);
 // Passes everything on to the server at a socket, but hangs up on both when the client has sent
 // this many bytes.
 void relay(int client, const std::string& socket, std::size_t most);
+// The same, but when the server has sent this many.
+void relayBack(int client, const std::string& socket, std::size_t most);
 
 }  // namespace cutline::test

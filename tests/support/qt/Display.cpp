@@ -29,14 +29,16 @@ QStringList words(const QPoint& place) {
 
 }  // namespace
 
-Display::Display() {
+Display::Display(Users users) {
   endWithUs(mServer);
   // Without -noreset it starts afresh, deaf for a moment, whenever its last client has gone.
-  mServer.start(QStringLiteral("Xvfb"),
-                {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                 QStringLiteral("0"), QLatin1String(kScreen), QStringLiteral("-dpi"),
-                 QStringLiteral("96"), QStringLiteral("-nolisten"), QStringLiteral("tcp"),
-                 QStringLiteral("-noreset"), QStringLiteral("-fbdir"), mFolder.path()});
+  QStringList words = {
+      QStringLiteral("-displayfd"), QStringLiteral("1"),         QStringLiteral("-screen"),
+      QStringLiteral("0"),          QLatin1String(kScreen),      QStringLiteral("-dpi"),
+      QStringLiteral("96"),         QStringLiteral("-nolisten"), QStringLiteral("tcp"),
+      QStringLiteral("-noreset"),   QStringLiteral("-fbdir"),    mFolder.path()};
+  if (users == Users::all) words << QStringLiteral("-ac");
+  mServer.start(QStringLiteral("Xvfb"), words);
   while (!mServer.canReadLine() && mServer.waitForReadyRead(kPatience)) {
   }
   const QString number = QString::fromLatin1(mServer.readLine()).trimmed();
@@ -72,6 +74,13 @@ QByteArray Display::tell(const QStringList& words) const {
   start(hands, QStringLiteral("xdotool"), words);
   hands.waitForFinished(kPatience);
   return hands.exitCode() == 0 ? hands.readAllStandardOutput() : QByteArray();
+}
+
+bool Display::hasWindow(const QString& title) const {
+  return !tell({QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"),
+                title})
+              .trimmed()
+              .isEmpty();
 }
 
 QRect Display::waitForWindow(const QString& title) const {

@@ -12,8 +12,10 @@ namespace cutline::test {
 
 class Display {
  public:
+  // Who may put windows there.
+  enum class Users { own, all };
   // Throws where the server does not start.
-  Display();
+  explicit Display(Users users = Users::own);
   ~Display();
   Display(const Display&) = delete;
   Display& operator=(const Display&) = delete;
@@ -21,6 +23,8 @@ class Display {
   // Starts a program of the build on this display.
   void start(QProcess& process, const QString& program, const QStringList& words) const;
 
+  // Whether there is such a window now.
+  bool hasWindow(const QString& title) const;
   // Waits for the window of this title; an empty rectangle when none comes.
   QRect waitForWindow(const QString& title) const;
   // What the screen shows now.
