@@ -14,10 +14,11 @@ namespace cutline {
 namespace {
 
 constexpr char kJobs[] = "/jobs/";
-constexpr Phrase kNotChanged("cups", "the job %1 cannot be changed");
 constexpr std::size_t kBlock = 65536;
 // Who one is may be asked for first.
 constexpr int kMostTries = 3;
+
+Phrase notChanged() { return Phrase("cups", "the job %1 cannot be changed"); }
 
 Error refusal(Phrase what, int jobId) { return serverError({what, {std::to_string(jobId)}}); }
 
@@ -103,7 +104,7 @@ Result<Done> setHeldJobOptions(const ServerOptions& server, int jobId, const Opt
     held.emplace_back("job-hold-until", "indefinite");
     encode(request, held);
   };
-  return take({IPP_OP_SET_JOB_ATTRIBUTES, kNotChanged, complete}, server, jobId);
+  return take({IPP_OP_SET_JOB_ATTRIBUTES, notChanged(), complete}, server, jobId);
 }
 
 Result<Done> markJob(const ServerOptions& server, int jobId, const std::string& name,
@@ -111,7 +112,7 @@ Result<Done> markJob(const ServerOptions& server, int jobId, const std::string& 
   const auto complete = [&](ipp_t* request) {
     ippAddString(request, IPP_TAG_JOB, IPP_TAG_NAME, name.c_str(), nullptr, value.c_str());
   };
-  return take({IPP_OP_SET_JOB_ATTRIBUTES, kNotChanged, complete}, server, jobId);
+  return take({IPP_OP_SET_JOB_ATTRIBUTES, notChanged(), complete}, server, jobId);
 }
 
 Result<Done> moveJob(const ServerOptions& server, int jobId, const std::string& printer) {

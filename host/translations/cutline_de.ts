@@ -653,6 +653,18 @@
         <source>Paused since %1</source>
         <translation>Angehalten seit %1</translation>
     </message>
+    <message>
+        <source>the job %1 cannot be changed</source>
+        <translation>der Auftrag %1 lässt sich nicht ändern</translation>
+    </message>
+    <message>
+        <source>the job %1 cannot be moved to its printer</source>
+        <translation>der Auftrag %1 lässt sich nicht an seinen Drucker weitergeben</translation>
+    </message>
+    <message>
+        <source>the job %1 cannot be released</source>
+        <translation>der Auftrag %1 lässt sich nicht freigeben</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

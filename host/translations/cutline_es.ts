@@ -653,6 +653,18 @@
         <source>Paused since %1</source>
         <translation>En pausa desde %1</translation>
     </message>
+    <message>
+        <source>the job %1 cannot be changed</source>
+        <translation>no se puede modificar el trabajo %1</translation>
+    </message>
+    <message>
+        <source>the job %1 cannot be moved to its printer</source>
+        <translation>no se puede pasar el trabajo %1 a su impresora</translation>
+    </message>
+    <message>
+        <source>the job %1 cannot be released</source>
+        <translation>no se puede liberar el trabajo %1</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

@@ -653,6 +653,18 @@
         <source>Paused since %1</source>
         <translation>En pause depuis %1</translation>
     </message>
+    <message>
+        <source>the job %1 cannot be changed</source>
+        <translation>la tâche %1 ne peut pas être modifiée</translation>
+    </message>
+    <message>
+        <source>the job %1 cannot be moved to its printer</source>
+        <translation>la tâche %1 ne peut pas être transmise à son imprimante</translation>
+    </message>
+    <message>
+        <source>the job %1 cannot be released</source>
+        <translation>la tâche %1 ne peut pas être libérée</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

@@ -653,6 +653,18 @@
         <source>Paused since %1</source>
         <translation>In pausa dalle %1</translation>
     </message>
+    <message>
+        <source>the job %1 cannot be changed</source>
+        <translation>non è possibile modificare il lavoro %1</translation>
+    </message>
+    <message>
+        <source>the job %1 cannot be moved to its printer</source>
+        <translation>non è possibile spostare il lavoro %1 sulla sua stampante</translation>
+    </message>
+    <message>
+        <source>the job %1 cannot be released</source>
+        <translation>non è possibile sbloccare il lavoro %1</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

@@ -653,6 +653,18 @@
         <source>Paused since %1</source>
         <translation>%1 から一時停止中</translation>
     </message>
+    <message>
+        <source>the job %1 cannot be changed</source>
+        <translation>ジョブ %1 を変更できません</translation>
+    </message>
+    <message>
+        <source>the job %1 cannot be moved to its printer</source>
+        <translation>ジョブ %1 をプリンターに移動できません</translation>
+    </message>
+    <message>
+        <source>the job %1 cannot be released</source>
+        <translation>ジョブ %1 の保留を解除できません</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

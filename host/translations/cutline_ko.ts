@@ -653,6 +653,18 @@
         <source>Paused since %1</source>
         <translation>%1부터 일시 중지됨</translation>
     </message>
+    <message>
+        <source>the job %1 cannot be changed</source>
+        <translation>작업 %1을(를) 변경할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>the job %1 cannot be moved to its printer</source>
+        <translation>작업 %1을(를) 해당 프린터로 옮길 수 없습니다</translation>
+    </message>
+    <message>
+        <source>the job %1 cannot be released</source>
+        <translation>작업 %1의 보류를 해제할 수 없습니다</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

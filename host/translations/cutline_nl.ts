@@ -653,6 +653,18 @@
         <source>Paused since %1</source>
         <translation>Gepauzeerd sinds %1</translation>
     </message>
+    <message>
+        <source>the job %1 cannot be changed</source>
+        <translation>taak %1 kan niet worden gewijzigd</translation>
+    </message>
+    <message>
+        <source>the job %1 cannot be moved to its printer</source>
+        <translation>taak %1 kan niet naar de printer worden verplaatst</translation>
+    </message>
+    <message>
+        <source>the job %1 cannot be released</source>
+        <translation>taak %1 kan niet worden vrijgegeven</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

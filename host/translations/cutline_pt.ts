@@ -653,6 +653,18 @@
         <source>Paused since %1</source>
         <translation>Em pausa desde %1</translation>
     </message>
+    <message>
+        <source>the job %1 cannot be changed</source>
+        <translation>não é possível alterar a tarefa %1</translation>
+    </message>
+    <message>
+        <source>the job %1 cannot be moved to its printer</source>
+        <translation>não é possível mover a tarefa %1 para a sua impressora</translation>
+    </message>
+    <message>
+        <source>the job %1 cannot be released</source>
+        <translation>não é possível libertar a tarefa %1</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

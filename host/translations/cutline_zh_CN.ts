@@ -653,6 +653,18 @@
         <source>Paused since %1</source>
         <translation>自 %1 起暂停</translation>
     </message>
+    <message>
+        <source>the job %1 cannot be changed</source>
+        <translation>无法更改作业 %1</translation>
+    </message>
+    <message>
+        <source>the job %1 cannot be moved to its printer</source>
+        <translation>无法将作业 %1 移到其打印机</translation>
+    </message>
+    <message>
+        <source>the job %1 cannot be released</source>
+        <translation>无法释放作业 %1</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

@@ -653,6 +653,18 @@
         <source>Paused since %1</source>
         <translation>自 %1 起暫停</translation>
     </message>
+    <message>
+        <source>the job %1 cannot be changed</source>
+        <translation>無法變更工作 %1</translation>
+    </message>
+    <message>
+        <source>the job %1 cannot be moved to its printer</source>
+        <translation>無法將工作 %1 移到其印表機</translation>
+    </message>
+    <message>
+        <source>the job %1 cannot be released</source>
+        <translation>無法釋放工作 %1</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>
