@@ -20,6 +20,7 @@
 #include "host/dialog/ChosenSettings.h"
 #include "host/dialog/DialogLanguage.h"
 #include "host/dialog/HeldJobPrintServer.h"
+#include "host/dialog/JobLeftBehind.h"
 #include "host/dialog/ParentWindow.h"
 #include "host/dialog/Remembered.h"
 #include "host/dialog/StartTimes.h"
@@ -126,8 +127,8 @@ DialogSession::DialogSession(const DialogRequest& request, FirstPrinter printer)
       mPrinter(std::move(printer)),
       mPlatform(mToolkit),
       mModel(mPlugIns, mLine.asked) {
-  const std::shared_ptr<PrintServer> asked = server();
-  mDialog = std::make_unique<PrintDialog>(mModel, asked, source());
+  mLeft = std::make_shared<JobLeftBehind>(server());
+  mDialog = std::make_unique<PrintDialog>(mModel, mLeft, source());
   if (mLine.isOnce) mDialog->closeAfterJob();
   if (mLine.isChoosing) mDialog->chooseOnly();
   if (mLine.windowTitle) mDialog->setWindowTitle(toQString(*mLine.windowTitle));
@@ -158,6 +159,12 @@ void DialogSession::giveUpHeldJob() {
   if (const Result<Done> done = mHeldJob->giveUp(); !done) tell(done.error().message);
 }
 
+// Nobody would see how it ends.
+void DialogSession::followJobLeftBehind() const {
+  if (const std::optional<LeftJob> job = mLeft->job(); job && isForAPerson(mLine))
+    followJob(mInstallation.helperDirectory(), *job, mLine.server.server);
+}
+
 PrintSource DialogSession::source() const {
   PrintSource source;
   source.paths = mLine.files;
@@ -175,6 +182,7 @@ int DialogSession::run() {
     std::cout << chosenSettings(mModel).toStdString() << std::endl;
   if (isForAPerson(mLine) && !mDialog->isMaximized()) Remembered().setWindowSize(mDialog->size());
   mDialog.reset();
+  followJobLeftBehind();
   return status;
 }
 

@@ -20,6 +20,7 @@
 namespace cutline {
 
 class HeldJobPrintServer;
+class JobLeftBehind;
 
 // The printer that the dialog opens with, looked for on another thread while the toolkit is made.
 // Also says why there is none, and whether the document exists.
@@ -59,6 +60,7 @@ class DialogSession : public QObject {
   PrintSource source() const;
   std::shared_ptr<PrintServer> server();
   void giveUpHeldJob();
+  void followJobLeftBehind() const;
 
   const CommandLine& mLine;
   PluginLoader& mPlugIns;
@@ -68,6 +70,7 @@ class DialogSession : public QObject {
   HostPlatform mPlatform;
   PrintModel mModel;
   std::shared_ptr<HeldJobPrintServer> mHeldJob;  // null for a dialog of one's own documents
+  std::shared_ptr<JobLeftBehind> mLeft;
   std::unique_ptr<PrintDialog> mDialog;
   bool mIsComplete = false;
   bool mHasFailed = false;

@@ -61,7 +61,7 @@ bool areOwnPages(const CompositionRequest& request, const CompositionReport& rep
 
 HeldJobPrintServer::HeldJobPrintServer(std::shared_ptr<PrintServer> server,
                                        std::shared_ptr<HeldJobServer> jobs, HeldJob job)
-    : mServer(std::move(server)), mJobs(std::move(jobs)), mJob(std::move(job)) {}
+    : ForwardingPrintServer(std::move(server)), mJobs(std::move(jobs)), mJob(std::move(job)) {}
 
 DocumentTools HeldJobPrintServer::watched(DocumentTools tools) const {
   tools.compose = [compose = std::move(tools.compose), last = mComposed](
@@ -101,7 +101,7 @@ Result<int> HeldJobPrintServer::let(const PrintRequest& request, const SpoolProg
 
 // Once it is spent, Print is for a job like any other.
 Result<int> HeldJobPrintServer::submit(const PrintRequest& request, const SpoolProgress& progress) {
-  if (mIsSpent) return mServer->submit(request, progress);
+  if (mIsSpent) return ForwardingPrintServer::submit(request, progress);
   Result<int> job = let(request, progress);
   if (job) mIsSpent = true;
   return job;

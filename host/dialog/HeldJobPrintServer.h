@@ -10,7 +10,7 @@
 #include "cups/HeldJobs.h"
 #include "host/core/HeldJobPrinting.h"
 #include "host/dialog/Composing.h"
-#include "host/dialog/PrintServer.h"
+#include "host/dialog/ForwardingPrintServer.h"
 
 namespace cutline {
 
@@ -18,7 +18,7 @@ namespace cutline {
 // done to them.
 bool areOwnPages(const CompositionRequest& request, const CompositionReport& report);
 
-class HeldJobPrintServer final : public PrintServer {
+class HeldJobPrintServer final : public ForwardingPrintServer {
  public:
   HeldJobPrintServer(std::shared_ptr<PrintServer> server, std::shared_ptr<HeldJobServer> jobs,
                      HeldJob job);
@@ -32,25 +32,7 @@ class HeldJobPrintServer final : public PrintServer {
   // Cancels the job where it still waits.
   Result<Done> giveUp();
 
-  Result<std::vector<Destination>> destinations() override { return mServer->destinations(); }
-  bool answers() override { return mServer->answers(); }
-  Result<Destination> find(const DestinationName& name) override { return mServer->find(name); }
-  Result<PrinterChoice> open(const Destination& destination) override {
-    return mServer->open(destination);
-  }
-  Result<Done> saveInstance(const DestinationName& name, const OptionList& options) override {
-    return mServer->saveInstance(name, options);
-  }
-  Result<Done> removeInstance(const DestinationName& name) override {
-    return mServer->removeInstance(name);
-  }
   Result<int> submit(const PrintRequest& request, const SpoolProgress& progress) override;
-  Result<JobStatus> status(const DestinationName& destination, int jobId) override {
-    return mServer->status(destination, jobId);
-  }
-  Result<Done> cancel(const DestinationName& destination, int jobId) override {
-    return mServer->cancel(destination, jobId);
-  }
 
  private:
   // What was composed last.
@@ -62,7 +44,6 @@ class HeldJobPrintServer final : public PrintServer {
   bool isJobItself(const PrintRequest& request) const;
   Result<int> let(const PrintRequest& request, const SpoolProgress& progress);
 
-  std::shared_ptr<PrintServer> mServer;
   std::shared_ptr<HeldJobServer> mJobs;
   HeldJob mJob;
   std::shared_ptr<Composed> mComposed = std::make_shared<Composed>();

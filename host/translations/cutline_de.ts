@@ -1638,6 +1638,14 @@ Streifen: Plus und Minus zoomen, 0 passt ein, Eingabe zeigt ein Etikett groß. S
         <source>the document has %1 pages, and no page %2</source>
         <translation>das Dokument hat %1 Seiten und keine Seite %2</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; was not printed</source>
+        <translation>„%1“ wurde nicht gedruckt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is still waiting to be printed</source>
+        <translation>„%1“ wartet noch auf den Druck</translation>
+    </message>
 </context>
 <context>
     <name>strip</name>

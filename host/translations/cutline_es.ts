@@ -1638,6 +1638,14 @@ Tira: más y menos para el zum, 0 para ajustar, Intro muestra una etiqueta en gr
         <source>the document has %1 pages, and no page %2</source>
         <translation>el documento tiene %1 páginas y ninguna página %2</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; was not printed</source>
+        <translation>«%1» no se ha imprimido</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is still waiting to be printed</source>
+        <translation>«%1» sigue a la espera de imprimirse</translation>
+    </message>
 </context>
 <context>
     <name>strip</name>

@@ -1638,6 +1638,14 @@ Bande : plus et moins pour le zoom, 0 pour ajuster, Entrée montre une étiquett
         <source>the document has %1 pages, and no page %2</source>
         <translation>le document a %1 pages, et pas de page %2</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; was not printed</source>
+        <translation>« %1 » n’a pas été imprimé</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is still waiting to be printed</source>
+        <translation>« %1 » attend toujours d’être imprimé</translation>
+    </message>
 </context>
 <context>
     <name>strip</name>

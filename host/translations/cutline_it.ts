@@ -1638,6 +1638,14 @@ Striscia: più e meno per lo zoom, 0 per adattare, Invio mostra un’etichetta i
         <source>the document has %1 pages, and no page %2</source>
         <translation>il documento ha %1 pagine e nessuna pagina %2</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; was not printed</source>
+        <translation>«%1» non è stato stampato</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is still waiting to be printed</source>
+        <translation>«%1» è ancora in attesa di stampa</translation>
+    </message>
 </context>
 <context>
     <name>strip</name>

@@ -1638,6 +1638,14 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
         <source>the document has %1 pages, and no page %2</source>
         <translation>文書は %1 ページで、%2 ページ目はありません</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; was not printed</source>
+        <translation>「%1」は印刷されませんでした</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is still waiting to be printed</source>
+        <translation>「%1」はまだ印刷待ちです</translation>
+    </message>
 </context>
 <context>
     <name>strip</name>

@@ -1638,6 +1638,14 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
         <source>the document has %1 pages, and no page %2</source>
         <translation>문서는 %1페이지이며 %2페이지는 없습니다</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; was not printed</source>
+        <translation>&quot;%1&quot;이(가) 인쇄되지 않았습니다</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is still waiting to be printed</source>
+        <translation>&quot;%1&quot;이(가) 아직 인쇄 대기 중입니다</translation>
+    </message>
 </context>
 <context>
     <name>strip</name>

@@ -655,15 +655,15 @@
     </message>
     <message>
         <source>the job %1 cannot be changed</source>
-        <translation>taak %1 kan niet worden gewijzigd</translation>
+        <translation>de taak %1 kan niet worden gewijzigd</translation>
     </message>
     <message>
         <source>the job %1 cannot be moved to its printer</source>
-        <translation>taak %1 kan niet naar de printer worden verplaatst</translation>
+        <translation>de taak %1 kan niet naar de printer worden verplaatst</translation>
     </message>
     <message>
         <source>the job %1 cannot be released</source>
-        <translation>taak %1 kan niet worden vrijgegeven</translation>
+        <translation>de taak %1 kan niet worden vrijgegeven</translation>
     </message>
 </context>
 <context>
@@ -1637,6 +1637,14 @@ Strook: plus en min zoomen, 0 past in, Enter toont een etiket groot. Ctrl+Z maak
     <message>
         <source>the document has %1 pages, and no page %2</source>
         <translation>het document heeft %1 pagina’s, en geen pagina %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not printed</source>
+        <translation>‘%1’ is niet afgedrukt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is still waiting to be printed</source>
+        <translation>‘%1’ wacht nog op afdrukken</translation>
     </message>
 </context>
 <context>

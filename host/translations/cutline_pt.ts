@@ -655,15 +655,15 @@
     </message>
     <message>
         <source>the job %1 cannot be changed</source>
-        <translation>não é possível alterar a tarefa %1</translation>
+        <translation>não é possível alterar o trabalho %1</translation>
     </message>
     <message>
         <source>the job %1 cannot be moved to its printer</source>
-        <translation>não é possível mover a tarefa %1 para a sua impressora</translation>
+        <translation>não é possível mover o trabalho %1 para a impressora dele</translation>
     </message>
     <message>
         <source>the job %1 cannot be released</source>
-        <translation>não é possível libertar a tarefa %1</translation>
+        <translation>não é possível liberar o trabalho %1</translation>
     </message>
 </context>
 <context>
@@ -1637,6 +1637,14 @@ Tira: mais e menos para o zoom, 0 para ajustar, Enter mostra uma etiqueta em gra
     <message>
         <source>the document has %1 pages, and no page %2</source>
         <translation>o documento tem %1 páginas e nenhuma página %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not printed</source>
+        <translation>“%1” não foi impresso</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is still waiting to be printed</source>
+        <translation>“%1” ainda aguarda impressão</translation>
     </message>
 </context>
 <context>

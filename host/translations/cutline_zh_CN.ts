@@ -655,15 +655,15 @@
     </message>
     <message>
         <source>the job %1 cannot be changed</source>
-        <translation>无法更改作业 %1</translation>
+        <translation>无法更改任务 %1</translation>
     </message>
     <message>
         <source>the job %1 cannot be moved to its printer</source>
-        <translation>无法将作业 %1 移到其打印机</translation>
+        <translation>无法将任务 %1 移到其打印机</translation>
     </message>
     <message>
         <source>the job %1 cannot be released</source>
-        <translation>无法释放作业 %1</translation>
+        <translation>无法释放任务 %1</translation>
     </message>
 </context>
 <context>
@@ -1637,6 +1637,14 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
     <message>
         <source>the document has %1 pages, and no page %2</source>
         <translation>文档共 %1 页，没有第 %2 页</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not printed</source>
+        <translation>“%1”未打印</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is still waiting to be printed</source>
+        <translation>“%1”仍在等待打印</translation>
     </message>
 </context>
 <context>

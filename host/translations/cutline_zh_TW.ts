@@ -1638,6 +1638,14 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
         <source>the document has %1 pages, and no page %2</source>
         <translation>文件共 %1 頁，沒有第 %2 頁</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; was not printed</source>
+        <translation>「%1」未列印</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is still waiting to be printed</source>
+        <translation>「%1」仍在等待列印</translation>
+    </message>
 </context>
 <context>
     <name>strip</name>
