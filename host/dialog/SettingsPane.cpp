@@ -60,7 +60,10 @@ SettingsPane::SettingsPane(QWidget* content, QWidget* first, QWidget* second, QW
   content->installEventFilter(this);
 }
 
-QSize SettingsPane::sizeHint() const { return widget()->sizeHint(); }
+// With room for a scroll bar there is none.
+QSize SettingsPane::sizeHint() const {
+  return widget()->sizeHint() + QSize(verticalScrollBar()->sizeHint().width(), 0);
+}
 
 QSize SettingsPane::minimumSizeHint() const {
   const int scrolled = verticalScrollBar()->sizeHint().width();

@@ -58,8 +58,9 @@ void StripView::LabelPainter::paintLabel(std::uint64_t label) const {
   const double half = mCanvas.hair() / 2;
   mPainter.drawRect(snapped(QRectF(whole.topLeft() + area.topLeft() * scale, area.size() * scale))
                         .adjusted(half, half, -half, -half));
-  QImage picture = mView.mCache.image(mView.pageOf(label));
-  if (!picture.isNull() && mView.mContent->hasDocument) {
+  // Without labels there is the printer's own, empty.
+  QImage picture = mView.labelCount() > 0 ? mView.mCache.image(mView.pageOf(label)) : QImage();
+  if (!picture.isNull()) {
     if (mView.mIsDimmed) mPainter.setOpacity(kDimmedOpacity);
     if (mView.mContent->plan.rules().settings().mirrors) picture = picture.mirrored(true, false);
     mPainter.setClipRect(snapped(whole));

@@ -75,10 +75,16 @@ TEST_F(HistoryTest, UndoDoesNotWaitForAPause) {
 }
 
 TEST_F(HistoryTest, AnotherPrinterBeginsAnew) {
+  server().addPrinter("other", samplePpd("tape-b"));
   openQueue(samplePpd("tape-a"));
+  dialog().startWatching();
+  auto* const printers = named<QComboBox>("Printer");
+  ASSERT_TRUE(waitUntil([&] { return printers->findData(QStringLiteral("other")) >= 0; }));
   click(box("LxHalfCut"));
   ASSERT_TRUE(waitUntil([this] { return undo()->isEnabled(); }));
-  openQueue(samplePpd("tape-b"));
+  printers->setFocus();
+  press(printers, printers->findData(QStringLiteral("other")) == 0 ? Qt::Key_Home : Qt::Key_End);
+  ASSERT_TRUE(waitUntil([this] { return model().destination().name.printer == "other"; }));
   EXPECT_FALSE(undo()->isEnabled());
 }
 

@@ -8,6 +8,7 @@
 #include <QTest>
 #include <QVBoxLayout>
 #include <QWheelEvent>
+#include <QtTest/qtestspontaneevent.h>
 
 #include "host/dialog/WheelGuard.h"
 #include "tests/dialog/DialogTest.h"
@@ -20,7 +21,9 @@ void turnWheel(QWidget& widget) {
   const QPointF place = widget.rect().center();
   QWheelEvent turn(place, widget.mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
                    Qt::NoScrollPhase, /*inverted=*/false);
-  QApplication::sendEvent(&widget, &turn);
+  // Qt passes only what comes from the window system on to the parents.
+  QSpontaneKeyEvent::setSpontaneous(&turn);
+  qApp->notify(&widget, &turn);
 }
 
 class WheelGuardTest : public testing::Test {
