@@ -63,7 +63,7 @@ cutline_name_program() {
   done
   chmod 755 "$stage"/share/kio/servicemenus/*.desktop
   for file in "$stage"/share/systemd/user/*.service "$stage"/etc/xdg/autostart/*.desktop; do
-    [ ! -f "$file" ] || sed -i -E "s|^(Exec(Start)?)=.*/lib/|\1=$prefix/lib/|" "$file" || return 1
+    [ ! -f "$file" ] || sed -i -E "s|^(Exec(Start)?=\").*/lib/|\1$prefix/lib/|" "$file" || return 1
   done
 }
 

@@ -49,6 +49,14 @@ OptionList withMedia(const HeldJob& job, OptionList options) {
   return options;
 }
 
+// The same with a name for people in the place of another one.
+Sentence renamed(const Sentence& sentence, const std::string& from, const std::string& to) {
+  if (!sentence.phrase()) return sentence.verbatim() == from ? Sentence(to) : sentence;
+  std::vector<Sentence> arguments;
+  for (const Sentence& each : sentence.arguments()) arguments.push_back(renamed(each, from, to));
+  return {*sentence.phrase(), std::move(arguments)};
+}
+
 }  // namespace
 
 bool areOwnPages(const CompositionRequest& request, const CompositionReport& report) {
@@ -64,14 +72,16 @@ HeldJobPrintServer::HeldJobPrintServer(std::shared_ptr<PrintServer> server,
     : ForwardingPrintServer(std::move(server)), mJobs(std::move(jobs)), mJob(std::move(job)) {}
 
 DocumentTools HeldJobPrintServer::watched(DocumentTools tools) const {
-  tools.compose = [compose = std::move(tools.compose), last = mComposed](
+  tools.compose = [compose = std::move(tools.compose), last = mComposed, title = mJob.title](
                       const std::vector<std::string>& paths, const CompositionRequest& request,
                       std::stop_token stop) {
     Result<ComposedDocument> composed = compose(paths, request, std::move(stop));
     const std::lock_guard lock(last->mutex);
     last->path = composed && composed->file ? composed->file->path() : std::string();
     last->isOwn = composed && areOwnPages(request, composed->report);
-    return composed;
+    // The file has no name that would tell anybody anything.
+    if (composed || paths.empty()) return composed;
+    return Result<ComposedDocument>(Error(renamed(composed.error().sentence, paths[0], title)));
   };
   return tools;
 }

@@ -81,7 +81,7 @@ void PrintDialog::loadDocument() {
     QTimer::singleShot(0, this, &PrintDialog::becameSettled);
     return;
   }
-  strip.setMessage(tr("Opening %1...").arg(titleOf(mSource.paths)));
+  strip.setMessage(tr("Opening %1...").arg(toQString(mSource.title)));
   mWatch->watch(mSource.paths);
   mDocument->setDocuments(mSource.paths, mSource.tools);
   recompose();

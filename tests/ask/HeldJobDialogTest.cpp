@@ -46,6 +46,11 @@ class HeldJobDialog : public testing::Test {
   void printAndAsk(const std::string& paper, int copies) {
     outputOf("QT_QPA_PLATFORM=offscreen " + installed() + "/bin/printing_program " + kQueue +
              " Shelves " + std::to_string(copies) + ' ' + paper + " One Two");
+    takeLast();
+    ASSERT_TRUE(
+        waitUntil([&] { return strip().labelCount() == 2U * static_cast<unsigned>(copies); }));
+  }
+  void takeLast() {
     mLine.heldJobId = heldJobs({})->back().id;
     auto inHand = HeldJobInHand::take(mLine);
     ASSERT_TRUE(inHand) << inHand.error().message;
@@ -55,8 +60,6 @@ class HeldJobDialog : public testing::Test {
         std::make_shared<CupsPrintServer>(ServerOptions()),
         std::make_shared<CupsHeldJobServer>(ServerOptions()), *mLine.heldJob);
     mDialog = std::make_unique<DialogOnServer>(mLine, mServer);
-    ASSERT_TRUE(
-        waitUntil([&] { return strip().labelCount() == 2U * static_cast<unsigned>(copies); }));
   }
   StripView& strip() { return *mDialog->dialog().findChild<StripView*>(); }
   int held() const { return *mLine.heldJobId; }
@@ -128,6 +131,15 @@ TEST_F(HeldJobDialog, PrintsInPlaceOfTheJobWhereItsPaperWasChanged) {
   mDialog->print();
   EXPECT_EQ(jobState({}, held()), JobState::canceled);
   EXPECT_EQ(printed(held() + 1).options().at("PageSize"), "W24H100");
+}
+
+TEST_F(HeldJobDialog, NamesADamagedDocumentByItsTitle) {
+  const TemporaryFolder folder;
+  outputOf("lp -d " + std::string(kQueue) + " -t Shelves " +
+           folder.write("damaged.pdf", "%PDF-1.4\nand no more"));
+  takeLast();
+  EXPECT_TRUE(mDialog->willShow(QStringLiteral("the document \"Shelves\"")));
+  EXPECT_FALSE(mDialog->canPrint());
 }
 
 TEST_F(HeldJobDialog, IsOneAtATime) {

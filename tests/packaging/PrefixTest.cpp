@@ -102,6 +102,18 @@ TEST_F(Prefix, IsWhereMenusFindTheProgram) {
               "[Desktop Entry]\nExec=\"/home/a/.local/bin/cutline\" %F\n");
 }
 
+TEST_F(Prefix, IsWhereSessionsFindTheService) {
+  stage.write("share/systemd/user/cutline-ask.service",
+              "[Service]\nExecStart=\"/stage/lib/cutline/cutline-ask\"\nExecReload=/bin/kill\n");
+  stage.write("etc/xdg/autostart/cutline-ask.desktop", "Exec=\"/stage/lib/cutline/cutline-ask\"\n");
+  ASSERT_EQ(call("cutline_name_program " + quoted(stage.path()) + " '/home/a b/.local'").status, 0);
+  EXPECT_EQ(contentsOf(stage / "share/systemd/user/cutline-ask.service"),
+            "[Service]\nExecStart=\"/home/a b/.local/lib/cutline/cutline-ask\"\n"
+            "ExecReload=/bin/kill\n");
+  EXPECT_EQ(contentsOf(stage / "etc/xdg/autostart/cutline-ask.desktop"),
+            "Exec=\"/home/a b/.local/lib/cutline/cutline-ask\"\n");
+}
+
 // Of a desktop that opens one kind of the two.
 TEST_F(Prefix, KeepsWhatOpensDocumentsToday) {
   stage.write("share/applications/cutline.desktop", "MimeType=image/png;text/plain;\n");
