@@ -26,17 +26,17 @@ QMap<QString, QString> textsIn(const QJsonObject& object) {
   return texts;
 }
 
-ChosenJob::Paper paperIn(const QJsonObject& object) {
+ChosenJob::Page pageIn(const QJsonObject& object) {
   const auto length = [&object](const char* name) {
     return object.value(QLatin1String(name)).toDouble();
   };
   return {object.value(QStringLiteral("name")).toString(),
           length("width"),
           length("length"),
-          length("left"),
           length("top"),
           length("right"),
-          length("bottom")};
+          length("bottom"),
+          length("left")};
 }
 
 void addOptions(const QMap<QString, QString>& options, QStringList& words) {
@@ -54,9 +54,8 @@ std::optional<ChosenJob> ChosenJob::parse(const QByteArray& json) {
   job.others = textsIn(object.value(QStringLiteral("job")).toObject());
   job.copies = object.value(QStringLiteral("copies")).toInt();
   job.pages = object.value(QStringLiteral("pages")).toString();
-  job.paper = paperIn(object.value(QStringLiteral("paper")).toObject());
-  job.orientation = object.value(QStringLiteral("orientation")).toString();
-  const bool isWhole = !job.printer.isEmpty() && job.copies > 0 && job.paper.width > 0;
+  job.page = pageIn(object.value(QStringLiteral("page")).toObject());
+  const bool isWhole = !job.printer.isEmpty() && job.copies > 0 && job.page.width > 0;
   return isWhole ? std::optional(job) : std::nullopt;
 }
 
@@ -74,12 +73,15 @@ QVariantMap ChosenJob::settings(const QVariantMap& asked) const {
 }
 
 QVariantMap ChosenJob::pageSetup() const {
-  return {
-      {QStringLiteral("PPDName"), paper.name},     {QStringLiteral("DisplayName"), paper.name},
-      {QStringLiteral("Width"), paper.width},      {QStringLiteral("Height"), paper.length},
-      {QStringLiteral("MarginTop"), paper.top},    {QStringLiteral("MarginBottom"), paper.bottom},
-      {QStringLiteral("MarginLeft"), paper.left},  {QStringLiteral("MarginRight"), paper.right},
-      {QStringLiteral("Orientation"), orientation}};
+  return {{QStringLiteral("Name"), page.name},
+          {QStringLiteral("DisplayName"), page.name},
+          {QStringLiteral("Width"), page.width},
+          {QStringLiteral("Height"), page.length},
+          {QStringLiteral("MarginTop"), page.top},
+          {QStringLiteral("MarginRight"), page.right},
+          {QStringLiteral("MarginBottom"), page.bottom},
+          {QStringLiteral("MarginLeft"), page.left},
+          {QStringLiteral("Orientation"), QStringLiteral("portrait")}};
 }
 
 QStringList ChosenJob::words() const {

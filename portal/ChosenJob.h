@@ -12,10 +12,11 @@
 namespace cutline::portal {
 
 struct ChosenJob {
-  struct Paper {
+  // In millimetres, as it is read.
+  struct Page {
     QString name;
-    double width = 0, length = 0;  // millimetres, as the printer has it
-    double left = 0, top = 0, right = 0, bottom = 0;
+    double width = 0, length = 0;
+    double top = 0, right = 0, bottom = 0, left = 0;
   };
 
   QString printer;                 // PRINTER[/PRESET]
@@ -23,8 +24,7 @@ struct ChosenJob {
   QMap<QString, QString> others;   // of the print system
   int copies = 1;
   QString pages;  // "1-4,7"; empty for all
-  Paper paper;
-  QString orientation;  // how text lies on it, as portals say
+  Page page;
 
   // What the dialog says of it (host/dialog/ChosenSettings.h); nothing where it says no such thing.
   static std::optional<ChosenJob> parse(const QByteArray& json);
@@ -32,7 +32,7 @@ struct ChosenJob {
   // The settings that the application asked for with the chosen ones in their place. Copies, pages
   // and their order are ours to apply: to the application it is one copy of all pages.
   QVariantMap settings(const QVariantMap& asked) const;
-  // A paper by its measures; a name of ours would be read as another one's.
+  // By its measures, and upright: what programs make of the other way differs.
   QVariantMap pageSetup() const;
 
   // The same as words of a command line.

@@ -2,6 +2,7 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <array>
 
 #include "host/core/JobOptions.h"
 #include "host/core/OptionTable.h"
@@ -15,22 +16,34 @@ constexpr double kMillimetresPerPoint = 25.4 / 72;
 
 double millimetres(double points) { return points * kMillimetresPerPoint; }
 
-QJsonObject paperOf(const PaperSize& paper) {
-  return {{QStringLiteral("name"), toQString(paper.name)},
-          {QStringLiteral("width"), millimetres(paper.width)},
-          {QStringLiteral("length"), millimetres(paper.length)},
-          {QStringLiteral("left"), millimetres(paper.left)},
-          {QStringLiteral("top"), millimetres(paper.length - paper.top)},
-          {QStringLiteral("right"), millimetres(paper.width - paper.right)},
-          {QStringLiteral("bottom"), millimetres(paper.bottom)}};
+// Lengths in points; the margins in the order of a clock, from the top.
+struct Page {
+  double width, length;
+  std::array<double, 4> margins;
+};
+
+// What a reader holds lies turned on a tape. Applications turn pages each their own way, so they
+// get them as they are read, and are turned with their documents.
+Page pageAsRead(const LabelPage& label) {
+  constexpr int kQuarter = 90;
+  const double top = label.length - label.top;
+  const double right = label.width - label.right;
+  if (label.upright == 0 || label.length <= label.width)
+    return {label.width, label.length, {top, right, label.bottom, label.left}};
+  if (label.upright == kQuarter)
+    return {label.length, label.width, {right, label.bottom, label.left, top}};
+  return {label.length, label.width, {label.left, top, right, label.bottom}};
 }
 
-// On a tape a reader holds the length level. How far what is read is turned on the paper, as GTK
-// has it.
-const char* orientationOf(const LabelPage& label) {
-  constexpr int kQuarter = 90;
-  if (label.upright == 0 || label.length <= label.width) return "portrait";
-  return label.upright == kQuarter ? "landscape" : "reverse-landscape";
+QJsonObject pageOf(const PrintModel& model) {
+  const Page page = pageAsRead(model.label());
+  return {{QStringLiteral("name"), toQString(model.currentPaper().name)},
+          {QStringLiteral("width"), millimetres(page.width)},
+          {QStringLiteral("length"), millimetres(page.length)},
+          {QStringLiteral("top"), millimetres(page.margins[0])},
+          {QStringLiteral("right"), millimetres(page.margins[1])},
+          {QStringLiteral("bottom"), millimetres(page.margins[2])},
+          {QStringLiteral("left"), millimetres(page.margins[3])}};
 }
 
 }  // namespace
@@ -46,14 +59,12 @@ QByteArray chosenSettings(PrintModel& model) {
     QJsonObject& place = ppd.hasOption(option.first) ? ofPrinter : ofJob;
     place.insert(toQString(option.first), toQString(option.second));
   }
-  return QJsonDocument(
-             {{QStringLiteral("printer"), toQString(model.destination().name.text())},
-              {QStringLiteral("options"), ofPrinter},
-              {QStringLiteral("job"), ofJob},
-              {QStringLiteral("copies"), model.copies()},
-              {QStringLiteral("pages"), toQString(model.pageRanges())},
-              {QStringLiteral("paper"), paperOf(model.currentPaper())},
-              {QStringLiteral("orientation"), QLatin1String(orientationOf(model.label()))}})
+  return QJsonDocument({{QStringLiteral("printer"), toQString(model.destination().name.text())},
+                        {QStringLiteral("options"), ofPrinter},
+                        {QStringLiteral("job"), ofJob},
+                        {QStringLiteral("copies"), model.copies()},
+                        {QStringLiteral("pages"), toQString(model.pageRanges())},
+                        {QStringLiteral("page"), pageOf(model)}})
       .toJson(QJsonDocument::Compact);
 }
 

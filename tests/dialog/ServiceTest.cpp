@@ -73,27 +73,24 @@ TEST_F(ServiceTest, WhatARuleKeepsFromPrintingIsToldAsItWasWanted) {
   EXPECT_EQ(part("options").value(QStringLiteral("LxHalfCut")).toString(), QStringLiteral("ON"));
 }
 
-TEST_F(ServiceTest, ThePaperIsToldInMillimetres) {
+// W24H50 has margins of 1 mm beside the tape's edges, and of 2 mm before and behind a label.
+TEST_F(ServiceTest, ATapesPageIsToldAsItIsRead) {
   choose("tape-a", {{{"PageSize", "W24H50"}}, {}, {}});
-  const QJsonObject paper = part("paper");
-  EXPECT_EQ(paper.value(QStringLiteral("name")).toString(), QStringLiteral("W24H50"));
-  EXPECT_NEAR(paper.value(QStringLiteral("width")).toDouble(), 24, 0.1);
-  EXPECT_NEAR(paper.value(QStringLiteral("length")).toDouble(), 50, 0.1);
-  for (const char* margin : {"left", "right"})
-    EXPECT_NEAR(paper.value(QLatin1String(margin)).toDouble(), 1, 0.1) << margin;
-  for (const char* margin : {"top", "bottom"})
-    EXPECT_NEAR(paper.value(QLatin1String(margin)).toDouble(), 2, 0.1) << margin;
+  const QJsonObject page = part("page");
+  EXPECT_EQ(page.value(QStringLiteral("name")).toString(), QStringLiteral("W24H50"));
+  const std::map<const char*, double> lengths = {{"width", 50}, {"length", 24}, {"left", 2},
+                                                 {"right", 2},  {"top", 1},     {"bottom", 1}};
+  for (const auto& [name, millimetres] : lengths)
+    EXPECT_NEAR(page.value(QLatin1String(name)).toDouble(), millimetres, 0.1) << name;
 }
 
-TEST_F(ServiceTest, TextRunsAlongATapeAndAcrossARoll) {
-  const auto orientation = [this] {
-    return chosen().value(QStringLiteral("orientation")).toString().toStdString();
-  };
-  choose("tape-a");
-  EXPECT_EQ(orientation(), "landscape");
-  closeDialog();
+TEST_F(ServiceTest, ARollsPageIsToldAsThePaperIs) {
   choose("roll");
-  EXPECT_EQ(orientation(), "portrait");
+  const PaperSize paper = model().currentPaper();
+  const QJsonObject page = part("page");
+  EXPECT_NEAR(page.value(QStringLiteral("width")).toDouble(), paper.width * 25.4 / 72, 0.1);
+  EXPECT_NEAR(page.value(QStringLiteral("length")).toDouble(), paper.length * 25.4 / 72, 0.1);
+  EXPECT_NEAR(page.value(QStringLiteral("bottom")).toDouble(), paper.bottom * 25.4 / 72, 0.1);
 }
 
 TEST_F(ServiceTest, ADialogForOneJobOpensNoOtherDocument) {

@@ -8,8 +8,10 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusUnixFileDescriptor>
+#include <filesystem>
 
 #include "tests/portal/PortalTest.h"
+#include "tests/support/TemporaryFolder.h"
 #include "tests/support/qt/waiting.h"
 
 namespace cutline::test {
@@ -50,10 +52,10 @@ class PortalBackend : public PortalTest {
     return QDBusObjectPath(QStringLiteral("/org/example/request/%1").arg(++number));
   }
   Call prepare(const QDBusObjectPath& handle, const QString& appId,
-               const QVariantMap& settings = {}) {
+               const QVariantMap& settings = {}, const QVariantMap& pageSetup = {}) {
     return {QStringLiteral("PreparePrint"),
             {QVariant::fromValue(handle), appId, QString(), QStringLiteral("Print"), settings,
-             QVariantMap(), QVariantMap()}};
+             pageSetup, QVariantMap()}};
   }
   Call print(const QDBusObjectPath& handle, const QString& appId, const QVariantMap& options = {},
              const std::string& path = labels()) {
@@ -93,6 +95,40 @@ TEST_F(PortalBackend, ATokenIsForItsApplicationAndForOneJob) {
   EXPECT_EQ(newJob().number("labels"), kLabels);
   EXPECT_EQ(print(newHandle(), app, with(mine)).response(), 2);
   EXPECT_TRUE(nothingNew());
+}
+
+class PortalBackendAtOffice : public PortalBackend {
+ protected:
+  PortalBackendAtOffice() {
+    std::filesystem::create_directories(server().home() + "/.cups");
+    writeFile(server().home() + "/.cups/lpoptions", "Default office\n");
+  }
+};
+
+TEST_F(PortalBackendAtOffice, WhoseDefaultPrinterIsNotForLabelsGetsTheOtherDialog) {
+  Call chosen = prepare(newHandle(), {});
+  EXPECT_EQ(chosen.response(), 0);
+  EXPECT_EQ(otherDialog().calls.size(), 1U);
+  EXPECT_TRUE(dialogs().empty());
+  EXPECT_EQ(print(newHandle(), {}).response(), 0);
+  ASSERT_EQ(otherDialog().calls.size(), 2U);
+  EXPECT_EQ(otherDialog().calls.back().document, "%PDF-");
+  EXPECT_EQ(otherDialog().calls.back().token, 0U);
+}
+
+TEST_F(PortalBackendAtOffice, ALabelPrinterCanBeNamed) {
+  Call chosen = prepare(newHandle(), {}, {{QStringLiteral("printer"), QStringLiteral("roll62")}});
+  press(dialogWith("Continue"), "Cancel");
+  EXPECT_EQ(chosen.response(), 1);
+  EXPECT_TRUE(otherDialog().calls.empty());
+}
+
+TEST_F(PortalBackendAtOffice, APageAsSmallAsALabelIsForALabelPrinter) {
+  Call chosen = prepare(newHandle(), {}, {},
+                        {{QStringLiteral("Width"), 62.0}, {QStringLiteral("Height"), 29.0}});
+  press(dialogWith("Continue"), "Continue");
+  EXPECT_EQ(chosen.response(), 0);
+  EXPECT_TRUE(otherDialog().calls.empty());
 }
 
 TEST_F(PortalBackend, ClosedByThePortalTheDialogGoes) {

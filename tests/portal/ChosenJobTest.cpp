@@ -10,8 +10,8 @@ namespace {
 
 constexpr char kJson[] = R"({"printer": "tape24/half", "copies": 3, "pages": "1-2",
   "options": {"LxHalfCut": "ON", "PageSize": "W24H50"}, "job": {"job-priority": "70"},
-  "paper": {"name": "W24H50", "width": 24, "length": 50, "left": 1, "top": 2, "right": 1,
-            "bottom": 2}, "orientation": "landscape"})";
+  "page": {"name": "W24H50", "width": 50, "length": 24, "top": 1, "right": 2, "bottom": 1,
+           "left": 2}})";
 
 ChosenJob job() { return *ChosenJob::parse(kJson); }
 
@@ -21,8 +21,8 @@ QString setting(const char* key, const QVariantMap& asked = {}) {
 
 TEST(ChosenJob, AnythingElseIsNone) {
   for (const char* wrong : {"", "{}", "[]", "nonsense", R"({"printer": "tape24"})",
-                            R"({"printer": "", "copies": 1, "paper": {"width": 3}})",
-                            R"({"printer": "a", "copies": 0, "paper": {"width": 3}})"})
+                            R"({"printer": "", "copies": 1, "page": {"width": 3}})",
+                            R"({"printer": "a", "copies": 0, "page": {"width": 3}})"})
     EXPECT_FALSE(ChosenJob::parse(wrong)) << wrong;
 }
 
@@ -53,15 +53,14 @@ TEST(ChosenJob, OtherSettingsOfTheApplicationStay) {
   EXPECT_EQ(setting("paper-format", {{"paper-format", "iso_a4"}}), QString());
 }
 
-TEST(ChosenJob, ThePageIsThePaperThatTextRunsAlong) {
+TEST(ChosenJob, ThePageIsUprightAndOfItsMeasures) {
   const QVariantMap page = job().pageSetup();
-  EXPECT_EQ(page.value(QStringLiteral("Width")).toDouble(), 24);
-  EXPECT_EQ(page.value(QStringLiteral("Height")).toDouble(), 50);
-  EXPECT_EQ(page.value(QStringLiteral("MarginTop")).toDouble(), 2);
-  EXPECT_EQ(page.value(QStringLiteral("MarginLeft")).toDouble(), 1);
-  EXPECT_EQ(page.value(QStringLiteral("PPDName")).toString(), QStringLiteral("W24H50"));
-  EXPECT_EQ(page.value(QStringLiteral("Orientation")).toString(), QStringLiteral("landscape"));
-  EXPECT_FALSE(page.contains(QStringLiteral("Name")));
+  EXPECT_EQ(page.value(QStringLiteral("Width")).toDouble(), 50);
+  EXPECT_EQ(page.value(QStringLiteral("Height")).toDouble(), 24);
+  EXPECT_EQ(page.value(QStringLiteral("MarginTop")).toDouble(), 1);
+  EXPECT_EQ(page.value(QStringLiteral("MarginRight")).toDouble(), 2);
+  EXPECT_EQ(page.value(QStringLiteral("Name")).toString(), QStringLiteral("W24H50"));
+  EXPECT_EQ(page.value(QStringLiteral("Orientation")).toString(), QStringLiteral("portrait"));
 }
 
 // The words as the program reads them.

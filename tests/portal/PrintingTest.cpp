@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "tests/portal/PortalTest.h"
+#include "tests/support/PngPicture.h"
 #include "tests/support/qt/waiting.h"
 
 namespace cutline::test {
@@ -9,6 +10,21 @@ namespace {
 
 using testing::Contains;
 using testing::Pair;
+
+// The first label is read upright along the tape.
+bool isDottedTopLeft(const PrintedJob& job) {
+  const PngPicture strip(job.picturePath());
+  const printer::Place label = job.firstLabel();
+  const auto inkInCorner = [&](bool isRight, bool isLow) {
+    constexpr unsigned kPart = 5;
+    const auto width = label.width / kPart;
+    const auto height = label.height / kPart;
+    return strip.inkIn({label.x + (isRight ? label.width - width : 0),
+                        label.y + (isLow ? label.height - height : 0), width, height});
+  };
+  return inkInCorner(false, false) > 0 && inkInCorner(true, false) == 0 &&
+         inkInCorner(false, true) == 0 && inkInCorner(true, true) == 0;
+}
 
 class PortalPrinting : public PortalTest, public testing::WithParamInterface<int> {
  protected:
@@ -47,18 +63,29 @@ TEST_P(PortalPrinting, WhatWasChosenIsSeenToldAndPrintedOnce) {
   EXPECT_EQ(job.number("labels"), 6);
   EXPECT_EQ(job.number("half-cuts"), 6);
   EXPECT_EQ(job.printedLabels(), 6);
+  EXPECT_TRUE(isDottedTopLeft(job));
 }
 
 TEST_P(PortalPrinting, TheApplicationsSettingsComeIn) {
-  Application application(
-      GetParam(), {"--settings", "printer=tapeb", "--settings", "cups-LxHalfCut=ON", "--settings",
-                   "n-copies=3", "--settings", "cups-LxSuch=ON"});
+  Application application(GetParam(), {"--settings", "printer=tapeb", "--settings",
+                                       "output-basename=Shelf", "--settings", "cups-LxHalfCut=ON",
+                                       "--settings", "n-copies=3", "--settings", "cups-LxSuch=ON"});
   const Accessible first = dialogWith("Continue");
   EXPECT_TRUE(halfCut(first).is(ATSPI_STATE_CHECKED));
   EXPECT_EQ(copies(first).value(), 3);
   press(first, "Continue");
   EXPECT_THAT(application.report().settings, Contains(Pair("printer", "tapeb")));
-  press(dialogWith("Print 9 labels"), "Cancel");
+  press(dialogWith("Print 9 labels"), "Print 9 labels");
+  EXPECT_TRUE(waitForDialogs(0));
+  const PrintedJob job = newJob();
+  EXPECT_EQ(job.fact("title"), "Shelf");
+  EXPECT_EQ(job.number("labels"), 9);
+}
+
+TEST_P(PortalPrinting, CancelledOnTheStripNothingIsPrinted) {
+  const Application application(GetParam());
+  press(dialogWith("Continue"), "Continue");
+  press(dialogWith("Print 3 labels"), "Cancel");
   EXPECT_TRUE(waitForDialogs(0));
   EXPECT_TRUE(nothingNew());
 }
