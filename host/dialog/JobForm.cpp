@@ -18,6 +18,7 @@ namespace cutline {
 namespace {
 
 constexpr int kGap = 16;
+constexpr int kFieldMargins = 16;  // of a field, around its text
 
 }  // namespace
 
@@ -38,6 +39,8 @@ JobForm::JobForm(QWidget* parent)
   mCopiesCaption->setBuddy(mCopies);
   mPages->setPlaceholderText(tr("All, or such as 1-3,5"));
   mPages->setToolTip(tr("Which pages are printed, such as 1-3,5; all of them where it is empty"));
+  mPages->setMinimumWidth(mPages->fontMetrics().horizontalAdvance(mPages->placeholderText()) +
+                          kFieldMargins);
   mPages->setAccessibleName(tr("Pages"));
   mPagesCaption->setBuddy(mPages);
   mCollated->setToolTip(

@@ -19,7 +19,7 @@ constexpr int kIconGap = 6;
 constexpr int kMostRows = 16;  // of the open list; it has a scroll bar for more
 constexpr int kStateRole = Qt::UserRole + 1;
 
-// The open list says the printer's state behind its name, which the closed one leaves out.
+// The open list says each printer's state; the closed one has a line for it below.
 class StateDelegate final : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -28,6 +28,10 @@ class StateDelegate final : public QStyledItemDelegate {
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
     option->text += QStringLiteral(" \u00b7 ") + index.data(kStateRole).toString();
+    option->icon = index.data(kPrinterIconRole).value<QIcon>();
+    option->features |= QStyleOptionViewItem::HasDecoration;
+    const int side = option->fontMetrics.height();
+    option->decorationSize = {side, side};
   }
 };
 
@@ -108,7 +112,7 @@ void PrinterBar::showStateOf(const Destination& printer) {
   mPrinters->setItemData(index, state, kStateRole);
   mPrinters->setItemData(index, titleOf(printer) + QStringLiteral(", ") + state,
                          Qt::AccessibleTextRole);
-  mPrinters->setItemIcon(index, iconOf(severityOfState(printer)));
+  mPrinters->setItemData(index, iconOf(severityOfState(printer)), kPrinterIconRole);
 }
 
 void PrinterBar::setPrinters(const std::vector<Destination>& printers) {

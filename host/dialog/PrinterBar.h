@@ -15,6 +15,9 @@ namespace cutline {
 // How serious a printer's state is for somebody who wants to print now.
 Severity severityOfState(const Destination& destination);
 
+// Of an entry in the list of printers: the sign of its state.
+inline constexpr int kPrinterIconRole = Qt::UserRole + 2;
+
 class PrinterBar : public QWidget {
   Q_OBJECT
 

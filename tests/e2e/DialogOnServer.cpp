@@ -134,6 +134,7 @@ DialogOnServer::DialogOnServer(const CommandLine& line, std::shared_ptr<PrintSer
     : mPlatform(mToolkit), mModel(std::make_unique<PrintModel>(plugIns(), line.asked)) {
   if (!print) print = std::make_shared<CupsPrintServer>(line.server);
   mDialog = std::make_unique<PrintDialog>(*mModel, print, sourceOf(line, *print));
+  QApplication::processEvents();  // as while the program waits for its printer
   mDialog->openPrinter(opened(line));
   for (const std::string& problem : plugIns().takeProblems()) ADD_FAILURE() << problem;
   mDialog->resize(kPreferredSize.expandedTo(mDialog->sizeHint()));
