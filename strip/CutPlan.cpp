@@ -52,9 +52,7 @@ CutPlan::CutPlan(const CutSettings& asked, LabelRun run)
 
 bool CutPlan::knowsCuts() const { return mRules.settings().authority == CutAuthority::Settings; }
 
-std::uint64_t CutPlan::fullCutsBetweenLabels() const {
-  return mRules.fullCutsBefore(labels());
-}
+std::uint64_t CutPlan::fullCutsBetweenLabels() const { return mRules.fullCutsBefore(labels()); }
 
 std::uint64_t CutPlan::halfCutsBetweenLabels() const {
   if (!mRules.settings().halfCuts || labels() == 0) return 0;

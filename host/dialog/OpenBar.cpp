@@ -17,7 +17,8 @@ constexpr int kGap = 2;
 
 std::string nameOf(const std::string& path) { return path.substr(path.find_last_of('/') + 1); }
 
-// The file's name, and its folder where another one is called the same. An ampersand is no mnemonic.
+// The file's name, and its folder where another one is called the same. An ampersand is no
+// mnemonic.
 QString titleIn(const std::vector<std::string>& paths, const std::string& path) {
   const auto isNamesake = [&](const std::string& each) { return nameOf(each) == nameOf(path); };
   const bool isAlone = std::ranges::count_if(paths, isNamesake) == 1;

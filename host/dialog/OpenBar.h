@@ -1,4 +1,5 @@
-// Where documents are opened: with the desktop's file dialog, or one of those that were printed last.
+// Where documents are opened: with the desktop's file dialog, or one of those that were printed
+// last.
 #pragma once
 
 #include <QWidget>

@@ -1,12 +1,11 @@
 // Documents are opened anew at a click.
-#include "host/dialog/OpenBar.h"
-
 #include <gtest/gtest.h>
 
 #include <QMenu>
 #include <QSignalSpy>
 #include <QToolButton>
 
+#include "host/dialog/OpenBar.h"
 #include "qt/QtText.h"
 #include "tests/dialog/DialogTest.h"
 
@@ -54,9 +53,8 @@ TEST_F(RecentTest, AnEntryIsOpenedInThePlaceOfTheDocuments) {
   openQueue(samplePpd("tape-a"));
   dialog().setRecentDocuments({"/nowhere/shelf.png", "/nowhere/labels.pdf"});
   dialog().findChild<OpenBar*>()->findChild<QToolButton*>()->menu()->actions().front()->trigger();
-  EXPECT_TRUE(waitUntil([this] {
-    return composer().paths() == std::vector<std::string>{"/nowhere/shelf.png"};
-  }));
+  EXPECT_TRUE(waitUntil(
+      [this] { return composer().paths() == std::vector<std::string>{"/nowhere/shelf.png"}; }));
   EXPECT_EQ(dialog().documents(), std::vector<std::string>{"/nowhere/shelf.png"});
   EXPECT_EQ(dialog().windowTitle(), QStringLiteral("Print shelf.png"));
 }

@@ -1,3 +1,4 @@
+#include <QtTest/qtestspontaneevent.h>
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -8,7 +9,6 @@
 #include <QTest>
 #include <QVBoxLayout>
 #include <QWheelEvent>
-#include <QtTest/qtestspontaneevent.h>
 
 #include "host/dialog/WheelGuard.h"
 #include "tests/dialog/DialogTest.h"

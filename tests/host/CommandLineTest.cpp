@@ -156,11 +156,10 @@ TEST(CommandLineTest, AMinusStandsForStandardInput) {
 
 TEST(CommandLineTest, TheHelpNamesEveryOption) {
   for (const char* option :
-       {"-d",        "-n",        "-P",     "-t",           "-o",        "-h",
-        "-E",        "-U",        "--ppd",  "--print",      "--wait",    "--dry-run",
-        "--summary", "--options", "--plan", "--json",       "--choices", "--snapshot",
-        "--scale",   "--dark",    "--list", "--plugin-dir", "--help",    "--version",
-        "-q"})
+       {"-d",           "-n",     "-P",        "-t",         "-o",        "-h",        "-E",
+        "-U",           "--ppd",  "--print",   "--wait",     "--dry-run", "--summary", "--options",
+        "--plan",       "--json", "--choices", "--snapshot", "--scale",   "--dark",    "--list",
+        "--plugin-dir", "--help", "--version", "-q"})
     EXPECT_NE(helpText().find(option), std::string::npos) << option;
 }
 
