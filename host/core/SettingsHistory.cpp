@@ -10,7 +10,8 @@ constexpr std::size_t kMostSteps = 200;
 }  // namespace
 
 void SettingsHistory::start(Settings now) {
-  mSteps.assign(1, std::move(now));
+  mSteps.clear();
+  mSteps.push_back(std::move(now));
   mNow = 0;
 }
 
