@@ -267,11 +267,10 @@ bool DialogSession::eventFilter(QObject* watched, QEvent* event) {
 
 // Everything but the document has been drawn.
 void DialogSession::didPaintFirst() {
-  if (mHasFailed) return;
   if (mLine.marks) return measureDocument();
-  mDialog->loadDocument();
+  if (!mHasFailed) mDialog->loadDocument();
   if (mLine.command != Command::dialog) return;
-  mDialog->startWatching();
+  if (!mHasFailed) mDialog->startWatching();
   mDialog->setRecentDocuments(Remembered().recentDocuments());
   QApplication::setWindowIcon(windowIcon(mInstallation));
 }

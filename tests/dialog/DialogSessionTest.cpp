@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QToolButton>
 #include <algorithm>
 #include <filesystem>
 #include <future>
@@ -15,6 +16,7 @@
 #include "host/core/Installation.h"
 #include "host/core/PluginLoader.h"
 #include "host/dialog/DialogSession.h"
+#include "host/dialog/OpenBar.h"
 #include "host/dialog/Remembered.h"
 #include "tests/dialog/DialogTest.h"
 
@@ -115,6 +117,18 @@ TEST_F(DialogSessionTest, AnUnreadablePpdIsNamedInTheWindowAndIsAnError) {
   EXPECT_EQ(run(), kExitError);
   EXPECT_NE(mErrors.find("/nowhere/printer.ppd"), std::string::npos);
   EXPECT_EQ(std::count(mErrors.begin(), mErrors.end(), '\n'), 1);
+}
+
+// Another printer can be chosen then, and a document for it.
+TEST_F(DialogSessionTest, AfterAFailureAtTheStartRecentDocumentsAreThere) {
+  Remembered().addRecent(mLine.files.front());
+  mLine.ppdPath = "/nowhere/printer.ppd";
+  closeWhen([] {
+    const PrintDialog* dialog = shownDialog();
+    return dialog && dialog->findChild<OpenBar*>()->findChild<QToolButton*>()->isVisible();
+  });
+  EXPECT_EQ(run(), kExitError);
+  std::filesystem::remove(Remembered::usualPath());
 }
 
 TEST_F(DialogSessionTest, WhatIsWrongFromTheStartEndsASnapshot) {
