@@ -26,33 +26,37 @@ void chevronDown(QPainterPath& path) {
   path.lineTo(12.5, 6);
 }
 
-void folder(QPainterPath& path) {
-  path.moveTo(2, 13);
-  path.lineTo(2, 3.5);
-  path.lineTo(6.2, 3.5);
-  path.lineTo(7.7, 5.3);
-  path.lineTo(13.2, 5.3);
-  path.lineTo(13.2, 7.3);
-  path.moveTo(2, 13);
-  path.lineTo(4.4, 7.3);
-  path.lineTo(15, 7.3);
-  path.lineTo(12.6, 13);
-  path.closeSubpath();
+void mirrored(QPainterPath& path, void (*draw)(QPainterPath&)) {
+  QPainterPath other;
+  draw(other);
+  path.addPath(QTransform(-1, 0, 0, 1, kSide, 0).map(other));
 }
 
-void sliders(QPainterPath& path) {
-  struct Slider {
-    double y;
-    double knob;
-  };
-  constexpr double kKnob = 1.8;
-  for (const Slider& each : {Slider{4, 10.5}, {8, 5}, {12, 9}}) {
-    path.moveTo(2, each.y);
-    path.lineTo(each.knob - kKnob, each.y);
-    path.addEllipse(QPointF(each.knob, each.y), kKnob, kKnob);
-    path.moveTo(each.knob + kKnob, each.y);
-    path.lineTo(14, each.y);
-  }
+void chevronLeft(QPainterPath& path) { mirrored(path, chevronRight); }
+
+void minus(QPainterPath& path) {
+  path.moveTo(3.5, 8);
+  path.lineTo(12.5, 8);
+}
+
+void plus(QPainterPath& path) {
+  minus(path);
+  path.moveTo(8, 3.5);
+  path.lineTo(8, 12.5);
+}
+
+void folder(QPainterPath& path) {
+  path.moveTo(1, 13);
+  path.lineTo(1, 3.5);
+  path.lineTo(5.2, 3.5);
+  path.lineTo(6.7, 5.3);
+  path.lineTo(12.2, 5.3);
+  path.lineTo(12.2, 7.3);
+  path.moveTo(1, 13);
+  path.lineTo(3.4, 7.3);
+  path.lineTo(14, 7.3);
+  path.lineTo(11.6, 13);
+  path.closeSubpath();
 }
 
 void turnBack(QPainterPath& path) {
@@ -65,14 +69,43 @@ void turnBack(QPainterPath& path) {
   path.lineTo(6, 13.4);
 }
 
-void turnForth(QPainterPath& path) {
-  QPainterPath back;
-  turnBack(back);
-  path.addPath(QTransform(-1, 0, 0, 1, kSide, 0).map(back));
+void turnForth(QPainterPath& path) { mirrored(path, turnBack); }
+
+void disk(QPainterPath& path) {
+  path.moveTo(2.5, 2.5);
+  path.lineTo(11, 2.5);
+  path.lineTo(13.5, 5);
+  path.lineTo(13.5, 13.5);
+  path.lineTo(2.5, 13.5);
+  path.closeSubpath();
+  path.addRect(5, 2.5, 5, 3.5);
+  path.moveTo(5, 13.5);
+  path.lineTo(5, 9);
+  path.lineTo(11, 9);
+  path.lineTo(11, 13.5);
 }
 
-constexpr std::array<void (*)(QPainterPath&), 6> kGlyphs = {chevronRight, chevronDown, folder,
-                                                            sliders,      turnBack,    turnForth};
+void bin(QPainterPath& path) {
+  path.moveTo(2.5, 4.2);
+  path.lineTo(13.5, 4.2);
+  path.moveTo(6, 4);
+  path.lineTo(6, 2.2);
+  path.lineTo(10, 2.2);
+  path.lineTo(10, 4);
+  path.moveTo(4, 4.5);
+  path.lineTo(4.6, 13.8);
+  path.lineTo(11.4, 13.8);
+  path.lineTo(12, 4.5);
+  for (const double x : {6.7, 9.3}) {
+    path.moveTo(x, 7);
+    path.lineTo(x, 11.3);
+  }
+}
+
+// In the order of Glyph.
+constexpr std::array<void (*)(QPainterPath&), 11> kGlyphs = {
+    chevronRight, chevronDown, folder,       turnBack, turnForth, disk,
+    bin,          chevronLeft, chevronRight, minus,    plus};
 
 class GlyphEngine : public QIconEngine {
  public:

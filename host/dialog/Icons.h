@@ -6,7 +6,7 @@
 
 namespace cutline {
 
-enum class Glyph { closed, opened, open, settings, undo, redo };
+enum class Glyph { closed, opened, open, undo, redo, save, remove, previous, next, fewer, more };
 
 QIcon icon(Glyph glyph);
 

@@ -17,7 +17,7 @@
 namespace cutline {
 namespace {
 
-constexpr int kGap = 16;
+constexpr int kGap = 12;
 constexpr int kFieldMargins = 16;  // of a field, around its text
 
 }  // namespace
@@ -71,20 +71,19 @@ void JobForm::layOut() {
   mProblem->hide();
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(0, 0, 0, 0);
-  grid->setColumnStretch(3, 1);
+  grid->setColumnStretch(1, 1);
+  auto* copies = new QHBoxLayout;
+  copies->setSpacing(kGap);
+  copies->addWidget(mCopies);
+  copies->addWidget(mCollated, 1);
   grid->addWidget(mCopiesCaption, 0, 0);
-  grid->addWidget(mCopies, 0, 1);
-  grid->addWidget(mPagesCaption, 0, 2);
-  grid->addWidget(mPages, 0, 3);
-  grid->addWidget(mProblem, 1, 1, 1, 3);
-  auto* order = new QHBoxLayout;
-  order->setSpacing(kGap);
-  order->addWidget(mCollated);
-  order->addWidget(mReversed);
-  order->addStretch(1);
-  grid->addLayout(order, 2, 1, 1, 3);
-  grid->addWidget(mPaperCaption, 3, 0);
-  grid->addWidget(mPapers, 3, 1, 1, 3);
+  grid->addLayout(copies, 0, 1);
+  grid->addWidget(mPagesCaption, 1, 0);
+  grid->addWidget(mPages, 1, 1);
+  grid->addWidget(mProblem, 2, 1);
+  grid->addWidget(mReversed, 3, 1);
+  grid->addWidget(mPaperCaption, 4, 0);
+  grid->addWidget(mPapers, 4, 1);
 }
 
 void JobForm::setPapers(const std::vector<PaperSize>& papers) {

@@ -23,7 +23,7 @@ class JobForm : public QWidget {
   explicit JobForm(QWidget* parent = nullptr);
 
   // The captions that stand in the first column.
-  std::vector<QLabel*> captions() const { return {mCopiesCaption, mPaperCaption}; }
+  std::vector<QLabel*> captions() const { return {mCopiesCaption, mPagesCaption, mPaperCaption}; }
 
   // Setting reports nothing.
   void setPapers(const std::vector<PaperSize>& papers);

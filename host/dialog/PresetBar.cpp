@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "host/dialog/Icons.h"
+
 namespace cutline {
 
 namespace {
@@ -90,6 +92,7 @@ void PresetNameDialog::check() {
 namespace {
 
 constexpr int kLeastLetters = 12;
+constexpr int kLeastWidth = 120;  // where there is no room for more of a name
 
 // How many of the letters that a combo box counts in are as wide as the text.
 int lettersFor(const QComboBox& combo, const QString& text) {
@@ -105,16 +108,13 @@ PresetBar::PresetBar(QWidget* parent)
     : QWidget(parent),
       mCaption(new QLabel(tr("Pr&eset:"), this)),
       mPresets(new QComboBox(this)),
-      mSave(new QPushButton(tr("&Save..."), this)),
-      mRemove(new QPushButton(tr("&Delete"), this)) {
+      mSave(makeButton(Glyph::save, tr("Save these settings as a preset"))),
+      mRemove(makeButton(Glyph::remove, tr("Delete the chosen preset"))) {
   mPresets->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   mPresets->setMinimumContentsLength(qMax(kLeastLetters, lettersFor(*mPresets, ownSettings())));
+  mPresets->setMinimumWidth(kLeastWidth);
   mPresets->setAccessibleName(tr("Preset"));
   mCaption->setBuddy(mPresets);
-  mSave->setAccessibleName(tr("Save these settings as a preset"));
-  mSave->setToolTip(tr("Save these settings as a preset"));
-  mRemove->setAccessibleName(tr("Delete the chosen preset"));
-  mRemove->setToolTip(tr("Delete the chosen preset"));
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(mCaption);
@@ -130,6 +130,15 @@ PresetBar::PresetBar(QWidget* parent)
   connect(mSave, &QPushButton::clicked, this, &PresetBar::askName);
   connect(mRemove, &QPushButton::clicked, this, &PresetBar::askRemoval);
   setPresets({}, {});
+}
+
+// Seldom used, so that the words give way to the preset's name.
+QPushButton* PresetBar::makeButton(Glyph glyph, const QString& name) {
+  auto* button = new QPushButton(icon(glyph), {}, this);
+  button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  button->setAccessibleName(name);
+  button->setToolTip(name);
+  return button;
 }
 
 void PresetBar::setPresets(const QStringList& names, const QString& current) {

@@ -13,6 +13,8 @@ class QPushButton;
 
 namespace cutline {
 
+enum class Glyph;
+
 // What is wrong with a name for a preset; empty when it can be used. The print system keeps
 // instances in a text file whose words end at blanks, and names them PRINTER/INSTANCE.
 QString problemOfPresetName(const QString& name);
@@ -57,6 +59,7 @@ class PresetBar : public QWidget {
   void removalRequested(const QString& name);
 
  private:
+  QPushButton* makeButton(Glyph glyph, const QString& name);
   void askName();
   void askRemoval();
   void refreshButtons();

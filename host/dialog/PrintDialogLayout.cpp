@@ -89,8 +89,9 @@ QWidget* PrintDialog::makeJobSide() {
   auto* options = new Card(side);
   for (QWidget* each : std::initializer_list<QWidget*>{mMoreButton, mMoreOptions})
     options->add(each);
-  for (QWidget* each : {printer, labels, options}) column->addWidget(each);
-  column->addStretch(1);
+  options->addStretch();
+  for (QWidget* each : {printer, labels}) column->addWidget(each);
+  column->addWidget(options, 1);  // down to where the cutting ends beside it
   mMoreOptions->hide();
   std::vector<QLabel*> captions = mJobForm->captions();
   captions.insert(captions.end(),

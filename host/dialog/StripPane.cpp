@@ -5,6 +5,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "host/dialog/Icons.h"
+
 namespace cutline {
 namespace {
 
@@ -18,13 +20,17 @@ StripPane::StripPane(QWidget* parent)
     : QWidget(parent),
       mStrip(new StripView(this)),
       mSentence(new QLabel(this)),
-      mPrevious(
-          makeButton(QStringLiteral("\u2039"), tr("Previous label"), &StripPane::showPrevious)),
+      mPrevious(makeButton(tr("Previous label"), &StripPane::showPrevious)),
       mPosition(new QLabel(this)),
-      mNext(makeButton(QStringLiteral("\u203a"), tr("Next label"), &StripPane::showNext)),
-      mZoomOut(makeButton(QStringLiteral("\u2212"), tr("Zoom out"), &StripPane::zoomOut)),
-      mFit(makeButton(tr("Fit"), tr("Fit the job into the view"), &StripPane::zoomToFit)),
-      mZoomIn(makeButton(QStringLiteral("+"), tr("Zoom in"), &StripPane::zoomIn)) {
+      mNext(makeButton(tr("Next label"), &StripPane::showNext)),
+      mZoomOut(makeButton(tr("Zoom out"), &StripPane::zoomOut)),
+      mFit(makeButton(tr("Fit the job into the view"), &StripPane::zoomToFit)),
+      mZoomIn(makeButton(tr("Zoom in"), &StripPane::zoomIn)) {
+  mPrevious->setIcon(icon(Glyph::previous));
+  mNext->setIcon(icon(Glyph::next));
+  mZoomOut->setIcon(icon(Glyph::fewer));
+  mFit->setText(tr("Fit"));
+  mZoomIn->setIcon(icon(Glyph::more));
   makeLayout();
   connect(mStrip, &StripView::currentLabelChanged, this, &StripPane::refresh);
   connect(mStrip, &StripView::zoomChanged, this, &StripPane::refresh);
@@ -52,10 +58,8 @@ void StripPane::makeLayout() {
   mPosition->setForegroundRole(QPalette::PlaceholderText);
 }
 
-QToolButton* StripPane::makeButton(const QString& text, const QString& name,
-                                   void (StripPane::*step)()) {
+QToolButton* StripPane::makeButton(const QString& name, void (StripPane::*step)()) {
   auto* button = new QToolButton(this);
-  button->setText(text);
   button->setToolTip(name);
   button->setAccessibleName(name);
   button->setFocusPolicy(Qt::StrongFocus);

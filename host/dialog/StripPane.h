@@ -23,7 +23,7 @@ class StripPane : public QWidget {
   void setJob(const StripContent& content, const QString& sentence, const QString& paper);
 
  private:
-  QToolButton* makeButton(const QString& text, const QString& name, void (StripPane::*step)());
+  QToolButton* makeButton(const QString& name, void (StripPane::*step)());
   void makeLayout();
   void refresh();
   QString position() const;

@@ -26,7 +26,7 @@ constexpr int kKeyStep = 40;
 constexpr double kMostBarSteps = 1 << 30;
 constexpr double kCaptionAir = 6;
 constexpr double kPillAir = 16;
-constexpr QSize kPreferredSize{760, 220};
+constexpr QSize kPreferredSize{760, 150};
 constexpr QSize kLeastSize{280, 150};
 
 struct ZoomKey {

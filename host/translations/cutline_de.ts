@@ -1139,10 +1139,6 @@
         <translation>&amp;Vorgabe:</translation>
     </message>
     <message>
-        <source>&amp;Save...</source>
-        <translation>&amp;Speichern …</translation>
-    </message>
-    <message>
         <source>&amp;Delete</source>
         <translation>&amp;Löschen</translation>
     </message>

@@ -1139,10 +1139,6 @@
         <translation>Prea&amp;juste:</translation>
     </message>
     <message>
-        <source>&amp;Save...</source>
-        <translation>&amp;Guardar…</translation>
-    </message>
-    <message>
         <source>&amp;Delete</source>
         <translation>&amp;Eliminar</translation>
     </message>

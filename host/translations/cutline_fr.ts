@@ -1139,10 +1139,6 @@
         <translation>&amp;Préréglage :</translation>
     </message>
     <message>
-        <source>&amp;Save...</source>
-        <translation>&amp;Enregistrer…</translation>
-    </message>
-    <message>
         <source>&amp;Delete</source>
         <translation>&amp;Supprimer</translation>
     </message>

@@ -1139,10 +1139,6 @@
         <translation>&amp;Preimpostazione:</translation>
     </message>
     <message>
-        <source>&amp;Save...</source>
-        <translation>Sal&amp;va…</translation>
-    </message>
-    <message>
         <source>&amp;Delete</source>
         <translation>&amp;Elimina</translation>
     </message>

@@ -1139,10 +1139,6 @@
         <translation>プリセット(&amp;E):</translation>
     </message>
     <message>
-        <source>&amp;Save...</source>
-        <translation>保存(&amp;S)…</translation>
-    </message>
-    <message>
         <source>&amp;Delete</source>
         <translation>削除(&amp;D)</translation>
     </message>

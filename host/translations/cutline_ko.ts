@@ -1139,10 +1139,6 @@
         <translation>사전 설정(&amp;E):</translation>
     </message>
     <message>
-        <source>&amp;Save...</source>
-        <translation>저장(&amp;S)…</translation>
-    </message>
-    <message>
         <source>&amp;Delete</source>
         <translation>삭제(&amp;D)</translation>
     </message>

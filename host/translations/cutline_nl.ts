@@ -1139,10 +1139,6 @@
         <translation>&amp;Voorinstelling:</translation>
     </message>
     <message>
-        <source>&amp;Save...</source>
-        <translation>&amp;Opslaan…</translation>
-    </message>
-    <message>
         <source>&amp;Delete</source>
         <translation>Ver&amp;wijderen</translation>
     </message>

@@ -1139,10 +1139,6 @@
         <translation>Pre&amp;definição:</translation>
     </message>
     <message>
-        <source>&amp;Save...</source>
-        <translation>&amp;Salvar…</translation>
-    </message>
-    <message>
         <source>&amp;Delete</source>
         <translation>&amp;Excluir</translation>
     </message>

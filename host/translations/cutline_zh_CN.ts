@@ -1139,10 +1139,6 @@
         <translation>预设(&amp;E)：</translation>
     </message>
     <message>
-        <source>&amp;Save...</source>
-        <translation>保存(&amp;S)…</translation>
-    </message>
-    <message>
         <source>&amp;Delete</source>
         <translation>删除(&amp;D)</translation>
     </message>

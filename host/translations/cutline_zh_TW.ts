@@ -1139,10 +1139,6 @@
         <translation>預設組合(&amp;E)：</translation>
     </message>
     <message>
-        <source>&amp;Save...</source>
-        <translation>儲存(&amp;S)…</translation>
-    </message>
-    <message>
         <source>&amp;Delete</source>
         <translation>刪除(&amp;D)</translation>
     </message>

@@ -14,6 +14,7 @@
 #include "host/dialog/JobProgress.h"
 #include "host/dialog/LayoutForm.h"
 #include "host/dialog/NoticeView.h"
+#include "host/dialog/PanelViews.h"
 #include "host/dialog/PresetBar.h"
 #include "platform/lib/Languages.h"
 #include "tests/dialog/DialogTest.h"
@@ -226,6 +227,40 @@ INSTANTIATE_TEST_SUITE_P(AllOfThem, LanguagesTest,
                            return std::string(std::get<0>(test.param)) + "_" +
                                   std::to_string(std::get<1>(test.param));
                          });
+
+// What cutting needs is beside the printer, and in sight without scrolling.
+class LittleRoomTest : public DialogTest, public testing::WithParamInterface<const char*> {
+ protected:
+  LittleRoomTest() : mLanguage(GetParam()), mFont(9) {}
+  ~LittleRoomTest() override { closeDialog(); }
+
+  void expectCuttingInSight(const QSize& window) {
+    openQueue(samplePpd("tape-a"));
+    dialog().resize(window);
+    QTest::qWait(20);
+    ASSERT_EQ(dialog().size(), window);
+    const auto& panel = *dialog().findChild<PanelFrame*>();
+    EXPECT_EQ(panel.visibleRegion().boundingRect(), panel.rect());
+    const auto& presets = *dialog().findChild<PresetBar*>();
+    EXPECT_EQ(presets.visibleRegion().boundingRect(), presets.rect());
+    expectNothingCutOff(dialog());
+  }
+
+ private:
+  UsersLanguage mLanguage;
+  FontSize mFont;
+};
+
+TEST_P(LittleRoomTest, HasTheCutPanelWhole) { expectCuttingInSight({984, 660}); }
+
+INSTANTIATE_TEST_SUITE_P(AllOfThem, LittleRoomTest, testing::ValuesIn(kDialogLanguages),
+                         [](const auto& test) { return std::string(test.param); });
+
+class LeastRoomTest : public LittleRoomTest {};
+
+TEST_P(LeastRoomTest, HasTheCutPanelBesideThePrinter) { expectCuttingInSight({920, 660}); }
+
+INSTANTIATE_TEST_SUITE_P(English, LeastRoomTest, testing::Values("en"));
 
 }  // namespace
 

@@ -122,7 +122,7 @@ TEST_F(PrinterSwitchTest, InstancesAreNoPrintersOfTheirOwn) {
 TEST_F(PrinterSwitchTest, ASavedPresetIsAnInstanceWithEveryCutOption) {
   openQueue(samplePpd("tape-a"));
   click(box("LxHalfCut"));
-  click(buttonWithText<QPushButton>("&Save..."));
+  click(named<QPushButton>("Save these settings as a preset"));
   auto* ask = dialog().findChild<PresetNameDialog*>();
   ASSERT_NE(ask, nullptr);
   auto* name = ask->findChild<QLineEdit*>();
@@ -146,7 +146,7 @@ TEST_F(PrinterSwitchTest, APresetOfTheSameLettersIsReplacedUnderItsOwnName) {
   openQueue(samplePpd("tape-a"));
   dialog().startWatching();
   ASSERT_TRUE(waitUntil([this] { return presets()->count() == 2; }));
-  click(buttonWithText<QPushButton>("&Save..."));
+  click(named<QPushButton>("Save these settings as a preset"));
   auto* name = dialog().findChild<PresetNameDialog*>()->findChild<QLineEdit*>();
   QTest::keyClicks(name, "shelf");
   EXPECT_TRUE(shows(QStringLiteral("Replaces the preset \"Shelf\": capitals do not count.")));
@@ -159,7 +159,7 @@ TEST_F(PrinterSwitchTest, APresetOfTheSameLettersIsReplacedUnderItsOwnName) {
 TEST_F(PrinterSwitchTest, APresetThatCannotBeSavedIsNamed) {
   openQueue(samplePpd("tape-a"));
   server().refusePresets("lpoptions: no write permission");
-  click(buttonWithText<QPushButton>("&Save..."));
+  click(named<QPushButton>("Save these settings as a preset"));
   auto* name = dialog().findChild<PresetNameDialog*>()->findChild<QLineEdit*>();
   QTest::keyClicks(name, "shipping");
   QTest::keyClick(name, Qt::Key_Return);

@@ -31,7 +31,7 @@ class Presets : public EndToEndTest {
   }
 
   static void save(DialogOnServer& dialog, const QString& name) {
-    dialog.press("&Save...");
+    click(dialog.named<QPushButton>("Save these settings as a preset"));
     const auto* question = dialog.dialog().findChild<PresetNameDialog*>();
     ASSERT_NE(question, nullptr);
     type(question->findChild<QLineEdit*>(), name);
