@@ -30,6 +30,10 @@ constexpr std::array kUnseen = std::to_array<Range>({
     {0xe0000, 0xe0fff},
 });
 
+bool isControl(std::int32_t character) {
+  return character < ' ' || (character >= 0x7f && character <= 0x9f);
+}
+
 bool isUnseen(std::int32_t character) {
   return std::ranges::any_of(kUnseen, [&](const Range& range) {
     return character >= range.first && character <= range.last;
@@ -72,6 +76,14 @@ std::string visible(std::string_view text) {
       shown += bytes;
   }
   return shown;
+}
+
+bool isPlainLine(std::string_view text) {
+  while (!text.empty()) {
+    const std::int32_t character = takeCharacter(text);
+    if (character < 0 || isControl(character)) return false;
+  }
+  return true;
 }
 
 std::string shortened(std::string_view text, std::size_t most) {

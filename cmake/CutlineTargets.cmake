@@ -20,6 +20,10 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/${CUTLINE_LIB_DIR})
 set(CMAKE_BUILD_WITH_INSTALL_RPATH ON)
 
 option(CUTLINE_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+option(CUTLINE_FUZZ "Build the fuzzers, too; takes clang, and the sanitizers with it" OFF)
+if(CUTLINE_FUZZ)
+  set(CUTLINE_SANITIZE ON)
+endif()
 
 set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
 
@@ -39,6 +43,14 @@ if(CUTLINE_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined
                       -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
+endif()
+
+if(CUTLINE_FUZZ)
+  set(CMAKE_CXX_FLAGS_RELEASE "-O1 -gline-tables-only")
+  add_compile_options(-fsanitize=fuzzer-no-link)
+  # clang 14 cannot take one of qpdf's headers.
+  add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-DJSON_HH>
+                      $<$<COMPILE_LANGUAGE:CXX>:-include${CMAKE_SOURCE_DIR}/tests/fuzz/QpdfJson.h>)
 endif()
 
 # cutline_exports(TARGET MAP): what the map doesn't name stays inside.

@@ -1,7 +1,10 @@
 #include "cups/PrintJob.h"
 
+#include <algorithm>
+#include <optional>
 #include <vector>
 
+#include "base/Visible.h"
 #include "cups/CupsOptions.h"
 #include "cups/DocumentFile.h"
 #include "cups/IppMessage.h"
@@ -93,21 +96,36 @@ Error takenBack(const ServerOptions& server, const PrintRequest& request, int jo
                   {error.sentence, id});
 }
 
+// Presets, drivers and other programs can say anything.
+std::optional<Error> whyNotSendable(const OptionList& options) {
+  const auto bad = std::ranges::find_if_not(options, [](const auto& option) {
+    return isPlainLine(option.first) && isPlainLine(option.second);
+  });
+  if (bad == options.end()) return std::nullopt;
+  return Sentence(Phrase("cups", "the option %1 has control characters; nothing was printed"),
+                  {bad->first});
+}
+
+// The names of files are bytes of any kind.
+std::string sendable(const std::string& name) { return isPlainLine(name) ? name : visible(name); }
+
 }  // namespace
 
 Result<int> submitJob(const ServerOptions& server, const PrintRequest& request,
                       const SpoolProgress& progress) {
+  if (auto why = whyNotSendable(request.options)) return *std::move(why);
   auto document = DocumentFile::open(request.path);
   if (!document) return document.error();
-  if (!request.documentName.empty()) document->name = request.documentName;
+  document->name = sendable(request.documentName.empty() ? document->name : request.documentName);
   if (progress && !progress(0, document->size)) return givenUp();
   auto connection = ServerConnection::open(server);
   if (!connection) return connection.error();
 
   const char* printer = request.destination.printer.c_str();
   const CupsOptions options(request.options);
-  const int jobId = cupsCreateJob(connection->get(), printer, request.title.c_str(), options.size(),
-                                  options.data());
+  const std::string title = sendable(request.title);
+  const int jobId =
+      cupsCreateJob(connection->get(), printer, title.c_str(), options.size(), options.data());
   connection->takeTime();
   if (jobId == 0)
     return serverError({Phrase("cups", "\"%1\" takes no job"), {request.destination.text()}});

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/Numbers.h"
+#include "base/Visible.h"
 #include "composition/PageRanges.h"
 #include "cups/CupsOptions.h"
 #include "host/core/OptionSpelling.h"
@@ -203,7 +204,17 @@ Problem turnOn(bool& flag) {
   return std::nullopt;
 }
 
+// What goes to a server or into its logs.
+Problem checkPlain(int option, const std::string& text) {
+  constexpr std::string_view kSent = "dtohU";
+  if (option >= kPpd || kSent.find(static_cast<char>(option)) == kSent.npos) return std::nullopt;
+  if (isPlainLine(text)) return std::nullopt;
+  return std::string("-") + static_cast<char>(option) + " \"" + text +
+         "\" has control characters or is no UTF-8";
+}
+
 Problem apply(CommandLine& line, int option, const std::string& text) {
+  if (Problem problem = checkPlain(option, text)) return problem;
   switch (option) {
     case 'd':
       return setDestination(line, text);

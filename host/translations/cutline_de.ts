@@ -665,6 +665,10 @@
         <source>the job %1 cannot be released</source>
         <translation>der Auftrag %1 lässt sich nicht freigeben</translation>
     </message>
+    <message>
+        <source>the option %1 has control characters; nothing was printed</source>
+        <translation>Die Option %1 enthält Steuerzeichen; nichts wurde gedruckt</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

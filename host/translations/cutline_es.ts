@@ -665,6 +665,10 @@
         <source>the job %1 cannot be released</source>
         <translation>no se puede liberar el trabajo %1</translation>
     </message>
+    <message>
+        <source>the option %1 has control characters; nothing was printed</source>
+        <translation>La opción %1 contiene caracteres de control; no se imprimió nada</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

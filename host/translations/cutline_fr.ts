@@ -665,6 +665,10 @@
         <source>the job %1 cannot be released</source>
         <translation>la tâche %1 ne peut pas être libérée</translation>
     </message>
+    <message>
+        <source>the option %1 has control characters; nothing was printed</source>
+        <translation>L’option %1 contient des caractères de contrôle ; rien n’a été imprimé</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

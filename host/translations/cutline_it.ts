@@ -665,6 +665,10 @@
         <source>the job %1 cannot be released</source>
         <translation>non è possibile sbloccare il lavoro %1</translation>
     </message>
+    <message>
+        <source>the option %1 has control characters; nothing was printed</source>
+        <translation>L’opzione %1 contiene caratteri di controllo; non è stato stampato nulla</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

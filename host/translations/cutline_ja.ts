@@ -665,6 +665,10 @@
         <source>the job %1 cannot be released</source>
         <translation>ジョブ %1 の保留を解除できません</translation>
     </message>
+    <message>
+        <source>the option %1 has control characters; nothing was printed</source>
+        <translation>オプション %1 に制御文字が含まれています。何も印刷されませんでした</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

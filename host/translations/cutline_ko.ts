@@ -665,6 +665,10 @@
         <source>the job %1 cannot be released</source>
         <translation>작업 %1의 보류를 해제할 수 없습니다</translation>
     </message>
+    <message>
+        <source>the option %1 has control characters; nothing was printed</source>
+        <translation>옵션 %1에 제어 문자가 있습니다. 아무것도 인쇄되지 않았습니다</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

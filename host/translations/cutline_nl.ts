@@ -665,6 +665,10 @@
         <source>the job %1 cannot be released</source>
         <translation>de taak %1 kan niet worden vrijgegeven</translation>
     </message>
+    <message>
+        <source>the option %1 has control characters; nothing was printed</source>
+        <translation>De optie %1 bevat besturingstekens; er is niets afgedrukt</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

@@ -665,6 +665,10 @@
         <source>the job %1 cannot be released</source>
         <translation>não é possível liberar o trabalho %1</translation>
     </message>
+    <message>
+        <source>the option %1 has control characters; nothing was printed</source>
+        <translation>A opção %1 tem caracteres de controlo; nada foi impresso</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

@@ -665,6 +665,10 @@
         <source>the job %1 cannot be released</source>
         <translation>无法释放任务 %1</translation>
     </message>
+    <message>
+        <source>the option %1 has control characters; nothing was printed</source>
+        <translation>选项 %1 含有控制字符；未打印任何内容</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

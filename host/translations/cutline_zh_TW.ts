@@ -665,6 +665,10 @@
         <source>the job %1 cannot be released</source>
         <translation>無法釋放工作 %1</translation>
     </message>
+    <message>
+        <source>the option %1 has control characters; nothing was printed</source>
+        <translation>選項 %1 含有控制字元；未列印任何內容</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

@@ -37,6 +37,22 @@ struct BufferDeleter {
 };
 using Buffer = std::unique_ptr<xmlBuffer, BufferDeleter>;
 
+// The library tells standard error of bytes that it cannot decode, whatever it was asked to keep to
+// itself; what a file holds is nothing to say there.
+class QuietLibrary {
+ public:
+  QuietLibrary() noexcept : mBefore(xmlStructuredError), mContext(xmlStructuredErrorContext) {
+    xmlSetStructuredErrorFunc(nullptr, [](void*, xmlError*) {});
+  }
+  ~QuietLibrary() { xmlSetStructuredErrorFunc(mContext, mBefore); }
+  QuietLibrary(const QuietLibrary&) = delete;
+  QuietLibrary& operator=(const QuietLibrary&) = delete;
+
+ private:
+  xmlStructuredErrorFunc mBefore;
+  void* mContext;
+};
+
 // Null when the bytes are not one well-formed document, in whatever encoding it declares, or when
 // its elements are nested beyond the library's own bound (256). Fetches nothing, expands no entity.
 Document parseDocument(std::string_view xml) {
@@ -173,6 +189,7 @@ std::optional<PropertyList> valueOf(plist_t node, int depth) {
 
 std::optional<PropertyList> PropertyList::parseXML(std::string_view xml) noexcept {
   if (xml.empty() || xml.size() > kLongestText) return std::nullopt;
+  const QuietLibrary quiet;
   const Buffer list = listIn(parseDocument(xml));
   if (!list) return std::nullopt;
   plist_t parsed = nullptr;

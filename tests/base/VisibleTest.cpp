@@ -28,6 +28,15 @@ TEST(Visible, BytesThatAreNoTextAreWrittenOut) {
   EXPECT_EQ(visible("\xed\xa0\x80"), "\\xed\\xa0\\x80");
 }
 
+TEST(Visible, APlainLineHasNoControlsAndIsUtf8) {
+  EXPECT_TRUE(isPlainLine("Étiquette 24 mm \"x\" \\ ラベル"));
+  EXPECT_TRUE(isPlainLine(""));
+  EXPECT_TRUE(isPlainLine("\u0646\u200c\u0627")) << "what joins letters is a part of words";
+  for (const char* text : {"a\n", "a\x1b[31mb", "a\tb", "\x7f", "\xc2\x9b", "\xff", "\xc3"})
+    EXPECT_FALSE(isPlainLine(text)) << visible(text);
+  EXPECT_FALSE(isPlainLine(std::string_view("a\0b", 3)));
+}
+
 TEST(Visible, ALongTextIsCutBetweenCharacters) {
   EXPECT_EQ(shortened("abc", 3), "abc");
   EXPECT_EQ(shortened("abcd", 3), "abc...");

@@ -96,6 +96,28 @@ TEST_F(PrintJobTest, OptionsTitleUserAndFormatArriveAsTheyAre) {
   EXPECT_TRUE(cancelJob(asAnna, destination(), *job));
 }
 
+TEST_F(PrintJobTest, ControlCharactersAreRefusedInOptionsAndWrittenOutInNames) {
+  const PausedPrinter paused(printer());
+  PrintRequest wanted = request("Shelf 12\n");
+  wanted.title = "a\nb\x1b[31m";
+  wanted.documentName = "c\td\xff";
+  const auto job = submitJob({}, wanted, nullptr);
+  ASSERT_TRUE(job) << job.error().message;
+  // As the library writes attributes: with a backslash before each of some characters.
+  EXPECT_EQ(attribute(*job, "job-name"), R"(a\\nb\\x1b\[31m)");
+  EXPECT_EQ(attribute(*job, "document-name-supplied"), R"(c\\td\\xff)");
+  EXPECT_TRUE(cancelJob({}, destination(), *job));
+  const int before = countJobs(CUPS_WHICHJOBS_ALL);
+  for (const auto& option :
+       OptionList{{"job-billing", "a\nb"}, {"job-billing\x1b", "a"}, {"job-billing", "\xc2\x9b"}}) {
+    wanted.options = {option};
+    const auto refused = submitJob({}, wanted, nullptr);
+    ASSERT_FALSE(refused);
+    EXPECT_NE(refused.error().message.find("control characters"), std::string::npos);
+  }
+  EXPECT_EQ(countJobs(CUPS_WHICHJOBS_ALL), before);
+}
+
 TEST_F(PrintJobTest, ProgressRunsFromNothingToAll) {
   const std::string text(200000, 'x');
   std::vector<std::uint64_t> steps;

@@ -136,6 +136,18 @@ TEST(CommandLineTest, WrongUsageIsNamed) {
   EXPECT_NE(parse({"--foo"}).error().message.find("--foo"), std::string::npos);
 }
 
+// A server writes it into its logs, and a filter gets it in one line.
+TEST(CommandLineTest, NothingWithControlCharactersIsSent) {
+  for (const char* option : {"-d", "-t", "-o", "-h", "-U"})
+    for (const char* end : {"\n", "\x1b[31m", "\x7f", "\xc2\x9b", "\xff"}) {
+      const std::string text = std::string("job-billing=a") + end;
+      const auto line = parse({option, text.c_str()});
+      ASSERT_FALSE(line) << option;
+      EXPECT_NE(line.error().message.find("control characters"), std::string::npos);
+    }
+  EXPECT_TRUE(parse({"-t", "Étiquettes"}));
+}
+
 TEST(CommandLineTest, SeveralDocumentsAreTakenInOrder) {
   const auto line = parse({"--print", "a.pdf", "-", "b.png"});
   ASSERT_TRUE(line) << line.error().message;

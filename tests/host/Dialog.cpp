@@ -9,31 +9,15 @@
 #include "host/core/OptionTable.h"
 #include "plain/PlainView.h"
 #include "plain/RecordingDrawingContext.h"
+#include "tests/host/Controls.h"
 
 namespace cutline {
 
 namespace {
 
-template <typename Kind>
-void collect(const View& view, std::vector<Kind*>& found) {
-  for (const std::shared_ptr<View>& subview : view.subviews()) {
-    auto* control = dynamic_cast<Kind*>(subview.get());
-    if (control != nullptr && !control->isHidden()) found.push_back(control);
-    collect(*subview, found);
-  }
-}
-
-template <typename Kind>
-std::vector<Kind*> controls(PrintModel& model) {
-  std::vector<Kind*> found;
-  for (const PanelEntry& panel : model.panels())
-    if (panel.view != nullptr) collect(*panel.view, found);
-  return found;
-}
-
 std::string shownState(PrintModel& model) {
   std::string state;
-  for (const CheckBox* box : controls<CheckBox>(model))
+  for (const CheckBox* box : test::shownControls<CheckBox>(model))
     state += box->ppdKeyword() + "=" + std::to_string(box->state()) +
              (box->isEnabled() ? " " : "(grey) ");
   return state;
@@ -56,7 +40,7 @@ void Dialog::open(const std::shared_ptr<PpdFile>& ppd, const OptionList& saved) 
   for (const std::string& problem : testPlugIns().takeProblems()) ADD_FAILURE() << problem;
 }
 
-std::vector<CheckBox*> Dialog::boxes() { return controls<CheckBox>(mModel); }
+std::vector<CheckBox*> Dialog::boxes() { return test::shownControls<CheckBox>(mModel); }
 
 std::vector<CheckBox*> Dialog::boxes(const std::string& keyword) {
   std::vector<CheckBox*> found = boxes();
@@ -67,7 +51,7 @@ std::vector<CheckBox*> Dialog::boxes(const std::string& keyword) {
 }
 
 PopUpButton* Dialog::presets() {
-  const std::vector<PopUpButton*> found = controls<PopUpButton>(mModel);
+  const std::vector<PopUpButton*> found = test::shownControls<PopUpButton>(mModel);
   return found.empty() ? nullptr : found.front();
 }
 
@@ -95,13 +79,13 @@ std::set<std::string> Dialog::boxKeywords() {
 }
 
 PlainTextField* Dialog::countField() {
-  const std::vector<PlainTextField*> fields = controls<PlainTextField>(mModel);
+  const std::vector<PlainTextField*> fields = test::shownControls<PlainTextField>(mModel);
   return fields.empty() ? nullptr : fields.front();
 }
 
 std::string Dialog::picture() {
   RecordingDrawingContext context;
-  for (PlainCustomView* view : controls<PlainCustomView>(mModel)) view->draw(context);
+  for (PlainCustomView* view : test::shownControls<PlainCustomView>(mModel)) view->draw(context);
   if (context.drawnImages().empty()) return "";
   return std::filesystem::path(context.drawnImages().back().path).stem();
 }

@@ -163,7 +163,12 @@ struct BadRow {
 
 class DamagedPropertyLists : public testing::TestWithParam<BadRow> {};
 
-TEST_P(DamagedPropertyLists, AreRefused) { EXPECT_FALSE(PropertyList::parseXML(GetParam().xml)); }
+// Nothing is said on standard error, which may be a terminal.
+TEST_P(DamagedPropertyLists, AreRefusedSilently) {
+  testing::internal::CaptureStderr();
+  EXPECT_FALSE(PropertyList::parseXML(GetParam().xml));
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, DamagedPropertyLists,
@@ -189,6 +194,10 @@ INSTANTIATE_TEST_SUITE_P(
                "<?xml version=\"1.0\" encoding=\"no-such\"?><plist><true/></plist>"},
         BadRow{"NotInTheDeclaredEncoding",
                "<?xml version=\"1.0\" encoding=\"US-ASCII\"?><plist><string>\xE4</string></plist>"},
+        BadRow{"CutUtf16", std::string("\xFF\xFE<\0p\0l\0\0\xDA\0\xDA", 12)},
+        BadRow{"NotInTheDeclaredEncodingLater",
+               "<?xml version=\"1.0\" encoding=\"UTF-16\"?><plist><string>" +
+                   repeated("s\xDA\xDA\xDA", 3000) + "</string></plist>"},
         BadRow{"NulReference", "<plist><string>a&#0;b</string></plist>"},
         BadRow{"TwoValues", "<plist><true/><true/></plist>"},
         BadRow{"CommentNotClosed", "<plist><true/></plist><!-- "},
