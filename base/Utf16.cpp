@@ -22,7 +22,7 @@ UChar32 takeCharacter(std::u16string_view& units) noexcept {
 
 // Takes the character at the start off the bytes, which are not empty; a byte that begins none is
 // taken alone.
-UChar32 takeCharacter(std::string_view& bytes) noexcept {
+UChar32 takeOrReplace(std::string_view& bytes) noexcept {
   std::size_t taken = 0;
   UChar32 character = 0;
   U8_NEXT(bytes, taken, bytes.size(), character);
@@ -59,7 +59,7 @@ std::string utf8FromUtf16(std::u16string_view units) {
 std::u16string utf16FromUtf8(std::string_view bytes) {
   std::u16string units;
   units.reserve(bytes.size());
-  while (!bytes.empty()) append(units, takeCharacter(bytes));
+  while (!bytes.empty()) append(units, takeOrReplace(bytes));
   return units;
 }
 

@@ -36,6 +36,10 @@ endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
   # Both are wrong about inlined strings and variants in this compiler's release (12).
   add_compile_options(-Wno-restrict -Wno-maybe-uninitialized)
+  if(CMAKE_UNITY_BUILD)
+    # It takes a source that is compiled together with others for a header.
+    add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-Wno-subobject-linkage>)
+  endif()
 endif()
 include(Hardening)
 include_directories(${CMAKE_SOURCE_DIR})

@@ -3,6 +3,9 @@
 
 namespace cutline {
 
+inline constexpr double kPointsPerMillimetre = 72 / 25.4;
+inline constexpr int kQuarterTurn = 90;  // degrees
+
 // Points; the origin is the paper's lower left corner and y grows upwards, as in a PDF. The paper
 // is as its PPD has it: the width lies across the tape or roll, the length along it.
 struct LabelPage {

@@ -11,13 +11,13 @@ namespace cutline {
 
 namespace {
 
-struct ReasonText {
+struct PrinterReason {
   std::string_view keyword;
   Phrase text;
   bool stopsPrinting;  // an idle printer with this reason is not ready
 };
 
-constexpr std::array kReasonTexts = std::to_array<ReasonText>({
+constexpr std::array kPrinterReasons = std::to_array<PrinterReason>({
     {"media-empty", Phrase("cups", "label roll or tape is empty"), true},
     {"media-needed", Phrase("cups", "labels or tape needed"), true},
     {"media-jam", Phrase("cups", "label or tape is jammed"), true},
@@ -102,16 +102,16 @@ std::string_view withoutSeverity(std::string_view reason) {
 }
 
 // A printer may call a reason "cutter-error" itself, so the whole word is looked up first.
-const ReasonText* findReason(std::string_view reason) {
+const PrinterReason* findReason(std::string_view reason) {
   for (const std::string_view keyword : {reason, withoutSeverity(reason)}) {
-    const auto* row = std::ranges::find(kReasonTexts, keyword, &ReasonText::keyword);
-    if (row != kReasonTexts.end()) return row;
+    const auto* row = std::ranges::find(kPrinterReasons, keyword, &PrinterReason::keyword);
+    if (row != kPrinterReasons.end()) return row;
   }
   return nullptr;
 }
 
 Sentence textOfReason(const std::string& reason) {
-  if (const ReasonText* row = findReason(reason)) return row->text;
+  if (const PrinterReason* row = findReason(reason)) return row->text;
   std::string words(withoutSeverity(reason));
   std::ranges::replace_if(
       words, [](char each) { return each == '-' || each == '_'; }, ' ');
@@ -155,7 +155,7 @@ bool isReason(const std::string& message) {
 }
 
 bool stopsPrinting(const std::string& reason) {
-  const ReasonText* row = findReason(reason);
+  const PrinterReason* row = findReason(reason);
   return row && row->stopsPrinting;
 }
 

@@ -45,7 +45,7 @@ std::optional<Address> addressIn(const std::string& uri) {
   return Address{host.data(), resource.data(), port, kind == "ipps"};
 }
 
-int giveUp(http_t* /*http*/, void* /*nothing*/) { return 0; }
+int giveUpOnDevice(http_t* /*http*/, void* /*nothing*/) { return 0; }
 
 Connection connectTo(const Address& address) {
   Connection http(
@@ -53,7 +53,8 @@ Connection connectTo(const Address& address) {
                    address.isEncrypted ? HTTP_ENCRYPTION_ALWAYS : HTTP_ENCRYPTION_IF_REQUESTED,
                    /*blocking=*/1, static_cast<int>(kPatience.count()), nullptr));
   if (http != nullptr)
-    httpSetTimeout(http.get(), std::chrono::duration<double>(kPatience).count(), giveUp, nullptr);
+    httpSetTimeout(http.get(), std::chrono::duration<double>(kPatience).count(), giveUpOnDevice,
+                   nullptr);
   return http;
 }
 

@@ -14,9 +14,9 @@ namespace cutline {
 namespace {
 
 constexpr char kJobs[] = "/jobs/";
-constexpr std::size_t kBlock = 65536;
+constexpr std::size_t kDocumentBlock = 65536;
 // Who one is may be asked for first.
-constexpr int kMostTries = 3;
+constexpr int kMostAsked = 3;
 
 Phrase notChanged() { return Phrase("cups", "the job %1 cannot be changed"); }
 
@@ -25,7 +25,7 @@ Error refusal(Phrase what, int jobId) { return serverError({what, {std::to_strin
 // Asks until the server knows who asks. The document follows the answer on the connection.
 IppMessage askForDocument(http_t* http, int jobId) {
   IppMessage answer;
-  for (int tries = 0; !answer && tries < kMostTries; ++tries) {
+  for (int tries = 0; !answer && tries < kMostAsked; ++tries) {
     const IppMessage request = newJobRequest(IPP_OP_CUPS_GET_DOCUMENT, jobId);
     ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "document-number", 1);
     const http_status_t sent = cupsSendRequest(http, request.get(), "/", ippLength(request.get()));
@@ -39,7 +39,7 @@ IppMessage askForDocument(http_t* http, int jobId) {
 }
 
 Result<Done> copyDocument(http_t* http, const std::string& document, int to) {
-  std::array<char, kBlock> block{};
+  std::array<char, kDocumentBlock> block{};
   std::size_t size = 0;
   ssize_t count = 0;
   while ((count = cupsReadResponseData(http, block.data(), block.size())) > 0) {

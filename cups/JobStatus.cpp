@@ -29,13 +29,13 @@ constexpr std::array kStateTexts = std::to_array<StateText>({
     {JobState::completed, IPP_JSTATE_COMPLETED, true, Phrase("cups", "Printed")},
 });
 
-struct ReasonText {
+struct JobReason {
   std::string_view keyword;
   Phrase text;
 };
 
 // The reasons that tell more than the state does.
-constexpr std::array kReasonTexts = std::to_array<ReasonText>({
+constexpr std::array kJobReasons = std::to_array<JobReason>({
     {"printer-stopped", Phrase("cups", "the printer is paused")},
     {"printer-stopped-partly", Phrase("cups", "the printer is partly paused")},
     {"job-incoming", Phrase("cups", "the document is being received")},
@@ -52,7 +52,7 @@ constexpr std::array kReasonTexts = std::to_array<ReasonText>({
 
 std::vector<Sentence> remarksOf(const std::vector<std::string>& reasons) {
   std::vector<Sentence> remarks;
-  for (const ReasonText& row : kReasonTexts) {
+  for (const JobReason& row : kJobReasons) {
     if (std::ranges::find(reasons, row.keyword) != reasons.end()) remarks.push_back(row.text);
   }
   return remarks;

@@ -14,7 +14,7 @@ namespace cutline {
 
 namespace {
 
-constexpr unsigned kBlock = 65536;
+constexpr unsigned kUnpackedBlock = 65536;
 constexpr std::string_view kPackedSign = "\x1f\x8b";
 
 // A file that zlib reads, packed or not.
@@ -28,7 +28,9 @@ class Unpacker {
   Unpacker& operator=(const Unpacker&) = delete;
 
   explicit operator bool() const noexcept { return mFile != nullptr; }
-  int read(std::array<char, kBlock>& block) { return gzread(mFile, block.data(), kBlock); }
+  int read(std::array<char, kUnpackedBlock>& block) {
+    return gzread(mFile, block.data(), kUnpackedBlock);
+  }
   // Whether all that was packed has come out; asked at the end.
   bool close() {
     gzFile file = mFile;
@@ -61,7 +63,7 @@ Result<std::string> ppdContents(FileDescriptor file, const Sentence& name) {
   Unpacker unpacker(std::move(file));
   if (!unpacker) return unopenedPpd(name, std::string(std::strerror(ENOMEM)));
   std::string text;
-  std::array<char, kBlock> block{};
+  std::array<char, kUnpackedBlock> block{};
   int count = 0;
   while ((count = unpacker.read(block)) > 0) {
     text.append(block.data(), static_cast<std::size_t>(count));

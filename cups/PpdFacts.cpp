@@ -17,8 +17,7 @@ constexpr std::string_view kNoProgram = "-";
 
 // The last word: "application/vnd.cups-raster 50 /usr/lib/cups/filter/rastertolabel".
 std::string programIn(std::string_view line) {
-  constexpr std::string_view kBlanks = " \t";
-  const std::size_t end = line.find_last_not_of(kBlanks);
+  const std::size_t end = line.find_last_not_of(" \t");
   line = line.substr(0, end == std::string_view::npos ? 0 : end + 1);
   return std::string(line.substr(line.find_last_of(" \t/") + 1));
 }

@@ -25,7 +25,7 @@ struct CloseFile {
 
 // libcups 2.4.2 reads a line of the file into a buffer of this size; what is longer is lost to it.
 constexpr std::size_t kLineSize = 8192;
-constexpr const char* kBlanks = " \t\f\v\r";
+constexpr const char* kNameEnds = " \t\f\v\r";
 
 std::string administratorOptionsPath() {
   const char* root = secure_getenv("CUPS_SERVERROOT");
@@ -34,7 +34,7 @@ std::string administratorOptionsPath() {
 
 // NAME[/INSTANCE] OPTIONS
 SavedEntry entryOf(const std::string& text, bool isDefault) {
-  const auto nameEnd = std::min(text.find_first_of(kBlanks), text.size());
+  const auto nameEnd = std::min(text.find_first_of(kNameEnds), text.size());
   return {DestinationName::parse(text.substr(0, nameEnd)), isDefault,
           CupsOptions::parse(text.c_str() + nameEnd).list()};
 }

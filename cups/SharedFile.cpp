@@ -24,7 +24,7 @@ namespace fs = std::filesystem;
 
 constexpr mode_t kFolderMode = 0700;  // as libcups makes it
 constexpr mode_t kFileMode = 0644;
-constexpr std::size_t kBlock = 65536;
+constexpr std::size_t kSharedBlock = 65536;
 constexpr std::size_t kLargest = 16U << 20U;
 
 Error unsaved(const std::string& path, Sentence why) {
@@ -74,7 +74,7 @@ Result<Old> oldOf(const std::string& path) {
   Old old{"", std::optional<struct stat>(std::in_place)};
   if (!file || ::fstat(file.get(), &*old.status) != 0) return unsaved(path);
   if (!S_ISREG(old.status->st_mode)) return unsaved(path, Phrase("cups", "it is not a file"));
-  std::array<char, kBlock> block{};
+  std::array<char, kSharedBlock> block{};
   for (ssize_t count = 0; (count = ::read(file.get(), block.data(), block.size())) != 0;) {
     if (count < 0) return unsaved(path);
     old.bytes.append(block.data(), static_cast<std::size_t>(count));

@@ -17,7 +17,7 @@ constexpr Plain kPlain[] = {{"n-copies", "1"},    {"print-pages", "all"}, {"coll
 // What would speak against the page setup.
 constexpr const char* kGone[] = {"page-ranges",  "paper-format", "paper-width",
                                  "paper-height", "orientation",  "number-up-layout"};
-constexpr QLatin1String kPrefix("cups-");
+constexpr QLatin1String kOptionPrefix("cups-");
 
 QMap<QString, QString> textsIn(const QJsonObject& object) {
   QMap<QString, QString> texts;
@@ -62,13 +62,13 @@ std::optional<ChosenJob> ChosenJob::parse(const QByteArray& json) {
 QVariantMap ChosenJob::settings(const QVariantMap& asked) const {
   QVariantMap answer;
   for (auto each = asked.begin(); each != asked.end(); ++each)
-    if (!each.key().startsWith(kPrefix)) answer.insert(each.key(), each.value());
+    if (!each.key().startsWith(kOptionPrefix)) answer.insert(each.key(), each.value());
   for (const char* key : kGone) answer.remove(QLatin1String(key));
   for (const Plain& each : kPlain)
     answer.insert(QLatin1String(each.key), QLatin1String(each.value));
   answer.insert(QStringLiteral("printer"), printer);
   for (auto each = options.begin(); each != options.end(); ++each)
-    answer.insert(kPrefix + each.key(), each.value());
+    answer.insert(kOptionPrefix + each.key(), each.value());
   return answer;
 }
 

@@ -6,13 +6,12 @@
 #include "bundle/controls/nil_controls.h"
 #include "bundle/options/OptionPDE13_v400_.h"
 #include "bundle/options/option_model.h"
+#include "bundle/ppd/PDEChoice.h"
 #include "bundle/ppd/PDEUtilsMethod13.h"
 #include "bundle/ppd/text_bytes.h"
 
 namespace cutline {
 namespace {
-
-constexpr std::size_t kComparedBytes = 41;  // libcups's limit of a choice keyword, with its NUL
 
 bool hasDefault(const ppd_option_t& option, const char* choice) noexcept {
   return std::strncmp(option.defchoice, choice, kComparedBytes) == 0;

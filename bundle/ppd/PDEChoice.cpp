@@ -9,8 +9,6 @@
 namespace cutline {
 namespace {
 
-constexpr std::size_t kComparedBytes = 41;  // libcups's limit of a choice keyword, with its NUL
-
 constexpr int kUTF8EncodingCode = 4;
 
 // User titles have the encoding whose code is this flag times four; the flag is set when the class

@@ -12,6 +12,8 @@
 
 namespace cutline {
 
+inline constexpr std::size_t kComparedBytes = 41;  // libcups's limit of a choice keyword, with NUL
+
 class PDEChoice final : public Describable {
  public:
   PDEChoice() noexcept = default;

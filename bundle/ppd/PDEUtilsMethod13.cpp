@@ -10,7 +10,7 @@ namespace cutline {
 namespace {
 
 // Takes the next number out of the text; 0 when there is none.
-double takeNumber(std::string_view& text) noexcept {
+double takeCoordinate(std::string_view& text) noexcept {
   const auto start = text.find_first_of("+-.0123456789");
   if (start == std::string_view::npos) return 0;
   text.remove_prefix(start);
@@ -24,8 +24,8 @@ double takeNumber(std::string_view& text) noexcept {
 
 // As the platform's NSPointFromString reads it: two numbers, whatever stands around them.
 Point pointFromString(std::string_view text) noexcept {
-  const double x = takeNumber(text);
-  const double y = takeNumber(text);
+  const double x = takeCoordinate(text);
+  const double y = takeCoordinate(text);
   return {x, y};
 }
 

@@ -10,6 +10,9 @@ namespace cutline {
 
 class LabelWriter;
 
+inline constexpr double kLargestPage = 14400;  // points, each way
+inline constexpr int kMostPages = 20000;
+
 // A page on its way to a label.
 struct DrawnPage {
   QPDFObjectHandle form;  // a form XObject of the labels' PDF

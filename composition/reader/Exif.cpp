@@ -14,7 +14,6 @@ constexpr unsigned kDensityUnit = 0x128;
 constexpr unsigned kShort = 3;
 constexpr unsigned kRational = 5;
 constexpr unsigned kCentimetre = 3;
-constexpr double kCentimetresPerInch = 2.54;
 constexpr std::size_t kEntrySize = 12;
 
 class Block {

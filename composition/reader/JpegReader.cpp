@@ -20,7 +20,6 @@ constexpr int kExifMarker = JPEG_APP0 + 1;
 constexpr unsigned kLongestMarker = 0xffff;
 constexpr std::string_view kExifStart{"Exif\0\0", 6};
 constexpr int kInk = 4;
-constexpr double kCentimetresPerInch = 2.54;
 constexpr unsigned kRoughly = 8;  // an eighth of the size takes an eighth of the time, or less
 
 // With these the library makes up what is missing.

@@ -24,7 +24,7 @@ using File = std::unique_ptr<std::FILE, CloseFile>;
 
 [[noreturn]] void failWriting() { throw Refusal{DocumentProblem::broken, std::strerror(errno)}; }
 
-File fileOn(int descriptor) {
+File fileToWrite(int descriptor) {
   const int own = ::dup(descriptor);
   if (own < 0) failWriting();
   File file(::fdopen(own, "wb"));
@@ -72,7 +72,7 @@ void LabelWriter::addLayer(const QPDFObjectHandle& layer, bool isHidden) {
 }
 
 void LabelWriter::write(int output) {
-  const File file = fileOn(output);
+  const File file = fileToWrite(output);
   QPDFWriter writer(mPdf);
   writer.setOutputFile("labels", file.get(), /*close_file=*/false);
   writer.setObjectStreamMode(qpdf_o_generate);

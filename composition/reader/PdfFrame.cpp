@@ -4,12 +4,12 @@
 #include <cmath>
 #include <optional>
 
+#include "composition/reader/DocumentSource.h"
 #include "composition/reader/Refusal.h"
 
 namespace cutline {
 namespace {
 
-constexpr double kLargest = 14400;  // points: as large as a page can be
 constexpr int kQuarter = 90;
 constexpr int kFull = 360;
 
@@ -71,7 +71,7 @@ PdfFrame pdfFrame(QPDFPageObjectHelper page) {
   frame.size = {(frame.box.right - frame.box.left) * unit,
                 (frame.box.top - frame.box.bottom) * unit};
   const double longest = std::max(frame.size.width, frame.size.height);
-  if (isEmpty(frame.box) || !(longest <= kLargest)) throw Refusal{DocumentProblem::badSize, {}};
+  if (isEmpty(frame.box) || !(longest <= kLargestPage)) throw Refusal{DocumentProblem::badSize, {}};
   if (frame.rotation % (2 * kQuarter) != 0) std::swap(frame.size.width, frame.size.height);
   frame.matrix = shownMatrix(frame.box, frame.rotation, unit);
   return frame;

@@ -3,12 +3,11 @@
 #include <set>
 #include <string>
 
+#include "composition/reader/DocumentSource.h"
 #include "composition/reader/Refusal.h"
 
 namespace cutline {
 namespace {
-
-constexpr long long kMostPages = 20000;
 
 void refuseBeyond(long long pages) {
   if (pages > kMostPages) throw Refusal{DocumentProblem::tooManyPages, std::to_string(pages)};

@@ -23,7 +23,7 @@ constexpr char kDescription[] = "document";
 // A file of up to so many bytes is read at once: looking into it here and there takes longer.
 constexpr std::size_t kInMemory = std::size_t{16} * 1024 * 1024;
 
-std::FILE* fileOn(int descriptor) {
+std::FILE* fileToRead(int descriptor) {
   const int own = ::dup(descriptor);
   std::FILE* file = own < 0 ? nullptr : ::fdopen(own, "rb");
   if (file != nullptr) return file;
@@ -41,7 +41,7 @@ PdfSource::PdfSource(int descriptor) {
     mPdf.processMemoryFile(kDescription, mBytes.pdf.data(), mBytes.pdf.size());
   } else {
     mBytes.pdf = {};
-    mPdf.processFile(kDescription, fileOn(descriptor), /*close_file=*/true);
+    mPdf.processFile(kDescription, fileToRead(descriptor), /*close_file=*/true);
   }
   open();
 }

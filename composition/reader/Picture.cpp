@@ -12,7 +12,6 @@ namespace {
 
 constexpr std::uint64_t kMostPixels = 100'000'000;
 constexpr double kPointsPerInch = 72;
-constexpr double kLargest = 14400;  // points: as large as a page can be
 constexpr int kFirstSideways = 5;
 
 // Where the corners of the stored picture lie in the one that is looked at, both one by one large:
@@ -45,7 +44,7 @@ PageSize picturePage(const PictureFacts& facts) {
   if (facts.acrossDensity > 0 && facts.alongDensity > 0) {
     const double width = page.width * kPointsPerInch / facts.acrossDensity;
     const double height = page.height * kPointsPerInch / facts.alongDensity;
-    if (std::max(width, height) <= kLargest) page = {width, height, true};
+    if (std::max(width, height) <= kLargestPage) page = {width, height, true};
   }
   if (knownOrientation(facts.orientation) >= kFirstSideways) std::swap(page.width, page.height);
   return page;

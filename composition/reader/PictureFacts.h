@@ -5,6 +5,8 @@
 
 namespace cutline {
 
+inline constexpr double kCentimetresPerInch = 2.54;
+
 struct PictureFacts {
   std::uint32_t width = 0;  // pixels, as stored
   std::uint32_t height = 0;

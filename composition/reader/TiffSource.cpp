@@ -14,10 +14,8 @@
 namespace cutline {
 namespace {
 
-constexpr std::size_t kMostPages = 20000;
 constexpr tmsize_t kMostMemory = tmsize_t{512} * 1024 * 1024;
-constexpr double kCentimetresPerInch = 2.54;
-constexpr std::uint32_t kOpaque = 255;
+constexpr std::uint32_t kOpaqueAlpha = 255;
 
 int onMessage(TIFF*, void*, const char*, const char*, va_list) { return 1; }
 
@@ -68,14 +66,15 @@ bool isBlackAndWhite(TIFF* file) {
 
 // The library gives colours that are weakened by their opacity already: on white.
 std::uint8_t onWhite(std::uint32_t colour, std::uint32_t pixel) {
-  return static_cast<std::uint8_t>(std::min(colour + kOpaque - TIFFGetA(pixel), kOpaque));
+  return static_cast<std::uint8_t>(std::min(colour + kOpaqueAlpha - TIFFGetA(pixel), kOpaqueAlpha));
 }
 
 // A row of pixels as bits, white as 1.
 void addBits(const std::uint32_t* pixels, std::uint32_t width, PixelPlane& plane) {
   std::vector<std::uint8_t> row((width + 7) / 8);
   for (std::uint32_t x = 0; x < width; ++x) {
-    if (TIFFGetG(pixels[x]) > kOpaque / 2) row[x / 8] |= static_cast<std::uint8_t>(0x80 >> x % 8);
+    if (TIFFGetG(pixels[x]) > kOpaqueAlpha / 2)
+      row[x / 8] |= static_cast<std::uint8_t>(0x80 >> x % 8);
   }
   plane.add(row.data(), row.size());
 }

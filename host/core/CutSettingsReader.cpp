@@ -28,7 +28,7 @@ constexpr std::array<Switch, 8> kSwitches = {{{"LxAutoTapeCut", &CutSettings::cu
                                               {"LxCutMark", &CutSettings::printsCutMarks},
                                               {"LxRemoveBlkSpace", &CutSettings::removesBlankSpace},
                                               {"LxMirror", &CutSettings::mirrors}}};
-constexpr char kCountKeyword[] = "LxCutLabel";
+constexpr char kEveryKeyword[] = "LxCutLabel";
 constexpr char kLeaderAttribute[] = "LxLeaderLength";
 constexpr char kFeedAttribute[] = "LxFeedLength";
 constexpr double kLongest = 10'000;  // no printer's way from the print head to the knife
@@ -42,7 +42,7 @@ std::optional<double> lengthIn(const PpdFile& ppd, const char* attribute) {
 }
 
 unsigned countIn(const PpdFile& ppd) {
-  return std::max(1U, numberIn<unsigned>(ppd.markedChoice(kCountKeyword)).value_or(1));
+  return std::max(1U, numberIn<unsigned>(ppd.markedChoice(kEveryKeyword)).value_or(1));
 }
 
 CutSettings ownSettingsOf(const PpdFile& ppd) {

@@ -14,7 +14,7 @@ namespace {
 
 // More help nobody, and hide what is wrong first.
 constexpr std::size_t kMostProblems = 20;
-constexpr double kLongest = 10'000;  // millimetres
+constexpr double kLongestTape = 10'000;  // millimetres
 constexpr unsigned kMostLabels = 1'000'000;
 constexpr std::string_view kBlanks = " \t\r";
 
@@ -76,7 +76,7 @@ std::optional<CutEffect> everyOf(std::string_view value) {
 
 std::optional<CutEffect> lengthOf(const LengthName& row, std::string_view value) {
   const std::optional<double> length = takeNumber(value);
-  if (!length || !value.empty() || !(*length >= 0 && *length <= kLongest)) return std::nullopt;
+  if (!length || !value.empty() || !(*length >= 0 && *length <= kLongestTape)) return std::nullopt;
   return LengthEffect{row.length, *length};
 }
 

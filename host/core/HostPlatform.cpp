@@ -14,14 +14,14 @@ struct VersionPart {
   std::uint32_t selector;
   std::int32_t value;
 };
-constexpr std::array<VersionPart, 3> kVersion = {{{gestaltSystemVersionMajor, 11},
-                                                  {gestaltSystemVersionMinor, 0},
-                                                  {gestaltSystemVersionBugFix, 0}}};
+constexpr std::array<VersionPart, 3> kPlatformVersion = {{{gestaltSystemVersionMajor, 11},
+                                                          {gestaltSystemVersionMinor, 0},
+                                                          {gestaltSystemVersionBugFix, 0}}};
 
 }  // namespace
 
 OSStatus HostSystemVersion::gestalt(std::uint32_t selector, std::int32_t* response) noexcept {
-  for (const VersionPart& part : kVersion) {
+  for (const VersionPart& part : kPlatformVersion) {
     if (part.selector != selector) continue;
     *response = part.value;
     return noErr;

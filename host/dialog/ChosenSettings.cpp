@@ -25,12 +25,11 @@ struct Page {
 // What a reader holds lies turned on a tape. Applications turn pages each their own way, so they
 // get them as they are read, and are turned with their documents.
 Page pageAsRead(const LabelPage& label) {
-  constexpr int kQuarter = 90;
   const double top = label.length - label.top;
   const double right = label.width - label.right;
   if (label.upright == 0 || label.length <= label.width)
     return {label.width, label.length, {top, right, label.bottom, label.left}};
-  if (label.upright == kQuarter)
+  if (label.upright == kQuarterTurn)
     return {label.length, label.width, {right, label.bottom, label.left, top}};
   return {label.length, label.width, {label.left, top, right, label.bottom}};
 }

@@ -18,7 +18,7 @@ constexpr std::array kTitles = {
     QT_TRANSLATE_NOOP("cutline::CuttingForm", "As the printer decides"),
 };
 
-QString titleOf(const CutOffer& offer) {
+QString cutTitle(const CutOffer& offer) {
   const QString title = CuttingForm::tr(kTitles[static_cast<std::size_t>(offer.meaning)]);
   return offer.meaning == CutMeaning::everyFew ? title.arg(offer.labels) : title;
 }
@@ -39,7 +39,7 @@ CuttingForm::CuttingForm(QWidget* parent) : QWidget(parent), mList(new QComboBox
 void CuttingForm::setMeanings(const CutMeanings& meanings) {
   mMeanings = meanings;
   mList->clear();
-  for (const CutOffer& offer : meanings.offers) mList->addItem(titleOf(offer));
+  for (const CutOffer& offer : meanings.offers) mList->addItem(cutTitle(offer));
   mList->setCurrentIndex(meanings.inForce ? static_cast<int>(*meanings.inForce) : -1);
 }
 

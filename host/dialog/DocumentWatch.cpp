@@ -9,7 +9,7 @@ namespace cutline {
 namespace {
 
 // Programs write a file in several steps.
-constexpr int kPauseMilliseconds = 200;
+constexpr int kQuietMilliseconds = 200;
 
 std::vector<qint64> stateOf(const QStringList& paths) {
   std::vector<qint64> state;
@@ -34,7 +34,7 @@ QStringList withFolders(const QStringList& paths) {
 
 DocumentWatch::DocumentWatch(QObject* parent) : QObject(parent) {
   mPause.setSingleShot(true);
-  mPause.setInterval(kPauseMilliseconds);
+  mPause.setInterval(kQuietMilliseconds);
   const auto wait = [this] { mPause.start(); };
   connect(&mWatcher, &QFileSystemWatcher::fileChanged, this, wait);
   connect(&mWatcher, &QFileSystemWatcher::directoryChanged, this, wait);

@@ -12,7 +12,7 @@ namespace cutline {
 namespace {
 
 constexpr int kPauseMilliseconds = 400;
-constexpr int kGap = 4;
+constexpr int kButtonGap = 4;
 
 }  // namespace
 
@@ -30,7 +30,7 @@ HistoryBar::HistoryBar(PrintModel& model, QWidget* parent)
   mPause.setInterval(kPauseMilliseconds);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(kGap);
+  row->setSpacing(kButtonGap);
   for (QWidget* each : std::initializer_list<QWidget*>{mUndo, mRedo, mReset}) row->addWidget(each);
   connect(&mPause, &QTimer::timeout, this, &HistoryBar::note);
   connect(mReset, &QPushButton::clicked, this, &HistoryBar::reset);

@@ -17,7 +17,7 @@
 namespace cutline {
 namespace {
 
-constexpr int kGap = 12;
+constexpr int kColumnGap = 12;
 constexpr int kFieldMargins = 16;  // of a field, around its text
 
 }  // namespace
@@ -73,7 +73,7 @@ void JobForm::layOut() {
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setColumnStretch(1, 1);
   auto* copies = new QHBoxLayout;
-  copies->setSpacing(kGap);
+  copies->setSpacing(kColumnGap);
   copies->addWidget(mCopies);
   copies->addWidget(mCollated, 1);
   grid->addWidget(mCopiesCaption, 0, 0);

@@ -3,7 +3,6 @@
 namespace cutline {
 namespace {
 
-constexpr int kQuarter = 90;
 constexpr int kHalf = 180;
 constexpr int kThreeQuarters = 270;
 
@@ -19,7 +18,7 @@ QRectF printableAsSeen(const LabelPage& label) noexcept {
   const double width = label.printableWidth();
   const double length = label.printableLength();
   switch (label.upright) {
-    case kQuarter:
+    case kQuarterTurn:
       return {label.length - label.top, label.width - label.right, length, width};
     case kHalf:
       return {label.width - label.right, label.bottom, width, length};

@@ -9,7 +9,7 @@ namespace cutline {
 namespace {
 
 constexpr double kMillimetre = 72 / 25.4;  // in points; sizes this close are the same
-constexpr double kWhole = 100;
+constexpr double kHundred = 100;
 constexpr double kRounding = 1e-6;
 constexpr double kHardlyShrunk = 0.995;
 constexpr int kHalfTurn = 180;
@@ -30,7 +30,7 @@ std::optional<int> percentFor(const ComposedPage& page, const LabelPage& label,
   return percentWithoutLoss(page.size, label, settings, ink.perhaps).value_or(*sure);
 }
 
-int percentOf(double scale) { return static_cast<int>(std::floor(scale * kWhole + kRounding)); }
+int percentOf(double scale) { return static_cast<int>(std::floor(scale * kHundred + kRounding)); }
 
 bool isNear(double one, double other) { return std::abs(one - other) <= kMillimetre; }
 
@@ -92,7 +92,7 @@ std::optional<ShrunkSheet> shrunkSheet(const CompositionReport& report) {
     if (!allHaveSize(report.pages, sheet.width, sheet.length)) continue;
     const double scale = report.pages.front().scale;
     if (scale > kHardlyShrunk) return std::nullopt;
-    return ShrunkSheet{sheet.name, static_cast<int>(std::lround(scale * kWhole))};
+    return ShrunkSheet{sheet.name, static_cast<int>(std::lround(scale * kHundred))};
   }
   return std::nullopt;
 }

@@ -6,8 +6,7 @@
 namespace cutline {
 namespace {
 
-constexpr int kQuarter = 90;
-constexpr int kWhole = 360;
+constexpr int kFullTurn = 360;
 
 struct TurnRow {
   Turn turn;
@@ -19,35 +18,35 @@ constexpr std::array kTurns = std::to_array<TurnRow>({{Turn::portrait, 0},
                                                       {Turn::landscape, 270}});
 
 // Right and up of the middle.
-struct PlaceRow {
+struct TurnedPlace {
   Position place;
   int x;
   int y;
 };
-constexpr std::array kPlaces = std::to_array<PlaceRow>({{Position::center, 0, 0},
-                                                        {Position::top, 0, 1},
-                                                        {Position::bottom, 0, -1},
-                                                        {Position::left, -1, 0},
-                                                        {Position::right, 1, 0},
-                                                        {Position::topLeft, -1, 1},
-                                                        {Position::topRight, 1, 1},
-                                                        {Position::bottomLeft, -1, -1},
-                                                        {Position::bottomRight, 1, -1}});
+constexpr std::array kPlacesAsTurned = std::to_array<TurnedPlace>({{Position::center, 0, 0},
+                                                                   {Position::top, 0, 1},
+                                                                   {Position::bottom, 0, -1},
+                                                                   {Position::left, -1, 0},
+                                                                   {Position::right, 1, 0},
+                                                                   {Position::topLeft, -1, 1},
+                                                                   {Position::topRight, 1, 1},
+                                                                   {Position::bottomLeft, -1, -1},
+                                                                   {Position::bottomRight, 1, -1}});
 
-int withinCircle(int degrees) { return (degrees % kWhole + kWhole) % kWhole; }
+int withinCircle(int degrees) { return (degrees % kFullTurn + kFullTurn) % kFullTurn; }
 
 Position turned(Position place, int clockwise) {
-  const auto* row = std::ranges::find(kPlaces, place, &PlaceRow::place);
-  if (row == kPlaces.end()) return Position::center;
+  const auto* row = std::ranges::find(kPlacesAsTurned, place, &TurnedPlace::place);
+  if (row == kPlacesAsTurned.end()) return Position::center;
   int x = row->x;
   int y = row->y;
-  for (int quarter = 0; quarter < clockwise / kQuarter; ++quarter) {
+  for (int quarter = 0; quarter < clockwise / kQuarterTurn; ++quarter) {
     const int before = x;
     x = y;
     y = -before;
   }
-  return std::ranges::find_if(kPlaces,
-                              [&](const PlaceRow& each) { return each.x == x && each.y == y; })
+  return std::ranges::find_if(kPlacesAsTurned,
+                              [&](const TurnedPlace& each) { return each.x == x && each.y == y; })
       ->place;
 }
 

@@ -18,7 +18,6 @@
 namespace cutline {
 namespace {
 
-constexpr double kPointsPerMillimetre = 72.0 / 25.4;
 constexpr double kMostPercent = 1000;
 constexpr double kMostTextSize = 500;  // points
 constexpr double kNear = 0.05;         // of a millimetre: a length that was set is the same

@@ -20,7 +20,7 @@ namespace cutline {
 namespace {
 
 // Signs are drawn on a square of this side.
-constexpr double kSide = 16;
+constexpr double kIconSide = 16;
 
 void drawTick(QPainter& painter) {
   painter.drawPolyline(std::array<QPointF, 3>{QPointF(4.6, 8.2), {7.1, 10.7}, {11.6, 5.6}}.data(),
@@ -78,7 +78,7 @@ void StatusIcon::paintEvent(QPaintEvent* /*event*/) {
   const Sign& sign = kSigns[static_cast<std::size_t>(mSeverity)];
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.scale(width() / kSide, height() / kSide);
+  painter.scale(width() / kIconSide, height() / kIconSide);
   painter.setPen(Qt::NoPen);
   painter.setBrush(QColor(sign.colour));
   if (sign.isTriangle) {

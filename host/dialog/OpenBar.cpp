@@ -13,7 +13,7 @@
 namespace cutline {
 namespace {
 
-constexpr int kGap = 2;
+constexpr int kMenuGap = 2;
 
 std::string nameOf(const std::string& path) { return path.substr(path.find_last_of('/') + 1); }
 
@@ -41,7 +41,7 @@ OpenBar::OpenBar(QWidget* parent)
   mRecent->hide();
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(kGap);
+  row->setSpacing(kMenuGap);
   row->addWidget(mOpen);
   row->addWidget(mRecent);
   connect(mOpen, &QPushButton::clicked, this, &OpenBar::ask);

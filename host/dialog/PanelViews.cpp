@@ -105,7 +105,7 @@ void PanelFrame::sayThatThereAreNone() {
 namespace {
 
 constexpr int kColumnsOfGrid = 3;  // title, value, gap
-constexpr int kGap = 2;
+constexpr int kRowGap = 2;
 constexpr int kGapWidth = 24;
 
 QFont boldFont(QFont font) {
@@ -119,7 +119,7 @@ SummaryView::SummaryView(QWidget* parent) : QWidget(parent), mGrid(new QGridLayo
   mGrid->setContentsMargins(0, 0, 0, 0);
   mGrid->setHorizontalSpacing(8);
   mGrid->setVerticalSpacing(2);
-  mGrid->setColumnMinimumWidth(kGap, kGapWidth);
+  mGrid->setColumnMinimumWidth(kRowGap, kGapWidth);
   mGrid->setColumnStretch(kColumnsOfGrid + 1, 1);
   setAccessibleRole(*this, QAccessible::Grouping);
   setAccessibleName(tr("Summary"));

@@ -17,7 +17,7 @@ namespace cutline {
 namespace {
 
 constexpr char kCustomPrefix[] = "Custom.";
-constexpr double kNear = 1;  // points: tapes this close are of one width
+constexpr double kSameWidth = 1;  // points: tapes this close are of one width
 
 bool isCustom(const std::string& paper) { return paper.starts_with(kCustomPrefix); }
 
@@ -55,7 +55,7 @@ std::string PrintDialog::namedPaper() const {
   const PaperSize current = mModel.currentPaper();
   std::string found;
   for (const PaperSize& paper : mModel.papers()) {
-    if (std::abs(paper.width - current.width) > kNear) continue;
+    if (std::abs(paper.width - current.width) > kSameWidth) continue;
     if (found.empty() || paper.name == mNamedPaper) found = paper.name;
   }
   return found.empty() ? mNamedPaper : found;
@@ -79,6 +79,7 @@ void PrintDialog::recompose() {
 }
 
 void PrintDialog::takeComposition() {
+  completeForms();
   const CompositionReport report = mDocument->report();
   mStripPane->strip().setMessage({});
   showStrip();
@@ -95,6 +96,7 @@ void PrintDialog::takeComposition() {
 }
 
 void PrintDialog::failComposition(const QString& reason) {
+  completeForms();
   showStrip();
   mStripPane->strip().setMessage(tr("This document cannot be shown"));
   mNotices->setNotice(NoticeTopic::document, reason);

@@ -26,7 +26,7 @@ namespace cutline {
 namespace {
 
 constexpr int kMargin = 16;
-constexpr int kGap = 8;
+constexpr int kFormGap = 8;
 
 void alignCaptions(const std::vector<QLabel*>& captions) {
   int width = 0;
@@ -67,7 +67,7 @@ void chainTabs(const std::vector<QWidget*>& roots) {
 void PrintDialog::makeLayout() {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  column->setSpacing(kGap);
+  column->setSpacing(kFormGap);
   column->addWidget(mStripPane, 1);
   column->addWidget(mNotices);
   column->addWidget(new SettingsPane(mSettings, makeJobSide(), makeCuttingSide(), this));
@@ -81,7 +81,7 @@ QWidget* PrintDialog::makeJobSide() {
   auto* side = new QWidget(mSettings);
   auto* column = new QVBoxLayout(side);
   column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(kGap);
+  column->setSpacing(kFormGap);
   auto* printer = new Card(side);
   for (QWidget* each : std::initializer_list<QWidget*>{mPrinterBar, mPresetBar}) printer->add(each);
   auto* labels = new Card(side);
@@ -115,7 +115,7 @@ QWidget* PrintDialog::makeButtons() {
   auto* buttons = new QWidget(this);
   auto* row = new QHBoxLayout(buttons);
   row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(kGap);
+  row->setSpacing(kFormGap);
   row->addWidget(mOpen);
   row->addWidget(mHistory);
   row->addWidget(mOutcome, 1);
@@ -134,8 +134,8 @@ void PrintDialog::setTabOrders() {
              mCancel, mPrint, mProgress});
 }
 
-// Its many lists would hold the first picture of the dialog up, and are hidden in it.
-void PrintDialog::makeLayoutForm() {
+void PrintDialog::completeForms() {
+  if (mLayoutForm != nullptr) return;
   mLayoutForm = new LayoutForm(this);
   mLayoutForm->hide();
   static_cast<Card*>(mLayoutBar->parentWidget())->add(mLayoutForm);

@@ -10,9 +10,9 @@
 namespace cutline {
 namespace {
 
-constexpr int kGap = 8;
+constexpr int kCardGap = 8;
 constexpr int kPadding = 12;
-constexpr double kRadius = 6;
+constexpr double kCardRadius = 6;
 constexpr int kLeastHeight = 120;  // some rows to scroll in
 constexpr int kMostOfFirst = 720;  // a list any wider is not read any better
 
@@ -20,14 +20,14 @@ struct CardColours {
   QRgb ground;
   QRgb edge;
 };
-constexpr CardColours kLight{0xfffbfbfa, 0xffdededb};
-constexpr CardColours kDark{0xff2d3135, 0xff3d4247};
+constexpr CardColours kLightCards{0xfffbfbfa, 0xffdededb};
+constexpr CardColours kDarkCards{0xff2d3135, 0xff3d4247};
 
 }  // namespace
 
 Card::Card(QWidget* parent) : QWidget(parent), mColumn(new QVBoxLayout(this)) {
   mColumn->setContentsMargins(kPadding, kPadding, kPadding, kPadding);
-  mColumn->setSpacing(kGap);
+  mColumn->setSpacing(kCardGap);
 }
 
 void Card::add(QWidget* part) { mColumn->addWidget(part); }
@@ -35,12 +35,12 @@ void Card::add(QWidget* part) { mColumn->addWidget(part); }
 void Card::addStretch() { mColumn->addStretch(1); }
 
 void Card::paintEvent(QPaintEvent* /*event*/) {
-  const CardColours& colours = isDark(palette()) ? kDark : kLight;
+  const CardColours& colours = isDark(palette()) ? kDarkCards : kLightCards;
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QColor(colours.edge));
   painter.setBrush(QColor(colours.ground));
-  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kCardRadius, kCardRadius);
 }
 
 SettingsPane::SettingsPane(QWidget* content, QWidget* first, QWidget* second, QWidget* parent)
@@ -49,7 +49,7 @@ SettingsPane::SettingsPane(QWidget* content, QWidget* first, QWidget* second, QW
       mSecond(second),
       mColumns(new QBoxLayout(QBoxLayout::LeftToRight, content)) {
   mColumns->setContentsMargins(0, 0, 0, 0);
-  mColumns->setSpacing(kGap);
+  mColumns->setSpacing(kCardGap);
   mColumns->addWidget(first, 1);
   mColumns->addWidget(second);
   setWidget(content);
@@ -89,7 +89,7 @@ void SettingsPane::resizeEvent(QResizeEvent* event) {
 
 void SettingsPane::arrange() {
   const int scrolled = verticalScrollBar()->sizeHint().width();
-  const int needed = mFirst->minimumSizeHint().width() + kGap + mSecond->sizeHint().width();
+  const int needed = mFirst->minimumSizeHint().width() + kCardGap + mSecond->sizeHint().width();
   const bool isWide = width() >= needed + scrolled;
   const auto direction = isWide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom;
   mFirst->setMaximumWidth(isWide ? kMostOfFirst : QWIDGETSIZE_MAX);

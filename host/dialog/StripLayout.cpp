@@ -7,7 +7,7 @@
 namespace cutline {
 namespace {
 
-constexpr double kMargin = 8;
+constexpr double kStripMargin = 8;
 constexpr double kLaneGap = 4;
 constexpr double kKnives = 15;
 constexpr double kBacking = 5;
@@ -29,15 +29,15 @@ std::uint64_t lanesFor(std::uint64_t labels, std::uint64_t labelsInLane) {
 }
 
 double roomAlong(const StripLine& line, double view) {
-  return view - 2 * kMargin - line.lead() - line.tail();
+  return view - 2 * kStripMargin - line.lead() - line.tail();
 }
 
 // The whole strip along and across, with its margins.
 QSizeF wholeOf(const StripLine& line, std::uint64_t labels, std::uint64_t labelsInLane,
                double laneExtent) {
   const auto lanes = static_cast<double>(lanesFor(labels, labelsInLane));
-  return {2 * kMargin + line.lead() + line.roomFor(labelsInLane) + line.tail(),
-          2 * kMargin + lanes * laneExtent + (lanes - 1) * kLaneGap};
+  return {2 * kStripMargin + line.lead() + line.roomFor(labelsInLane) + line.tail(),
+          2 * kStripMargin + lanes * laneExtent + (lanes - 1) * kLaneGap};
 }
 
 // Whether the whole job is in sight at this scale.
@@ -73,8 +73,8 @@ double largeScale(const LabelPage& label, const StripRoom& room) {
   const QSizeF view = alongAndAcross(room.view, runsAcross(label));
   if (label.length <= 0 || label.width <= 0) return 1;
   const double least = leastScale(label);
-  return std::max(least, std::min((view.width() - 2 * kMargin) / label.length,
-                                  (view.height() - besideTape(room) - kMargin) / label.width));
+  return std::max(least, std::min((view.width() - 2 * kStripMargin) / label.length,
+                                  (view.height() - besideTape(room) - kStripMargin) / label.width));
 }
 
 double scaleFor(const StripContent& content, const StripRoom& room, StripZoom zoom) {
@@ -118,8 +118,8 @@ StripLayout::Lane StripLayout::lane(std::uint64_t index) const noexcept {
   const std::uint64_t first = index * mLabelsInLane + 1;
   const double step = laneExtent() + kLaneGap;
   return {first, std::min(first + mLabelsInLane - 1, mLabels),
-          std::max(0.0, spare.width()) + kMargin + mLine.lead(),
-          std::max(0.0, spare.height()) + kMargin + mRoom.ruler + kKnives +
+          std::max(0.0, spare.width()) + kStripMargin + mLine.lead(),
+          std::max(0.0, spare.height()) + kStripMargin + mRoom.ruler + kKnives +
               static_cast<double>(index) * step};
 }
 
@@ -141,8 +141,8 @@ QRectF StripLayout::label(std::uint64_t label) const noexcept {
 QRectF StripLayout::surroundings(std::uint64_t label) const noexcept {
   const Lane found = lane(laneOf(label));
   const double start = along(found, label);
-  return placed(start - kMargin, found.across - mRoom.ruler - kKnives,
-                mLine.labelLength() + 2 * kMargin, laneExtent());
+  return placed(start - kStripMargin, found.across - mRoom.ruler - kKnives,
+                mLine.labelLength() + 2 * kStripMargin, laneExtent());
 }
 
 StripLayout::Range StripLayout::lanesIn(const QRectF& area) const noexcept {

@@ -12,7 +12,7 @@ namespace {
 
 const QString kSeparator = QStringLiteral(" \u00b7 ");
 constexpr double kSentenceShare = 1.15;  // of the dialog's font
-constexpr int kGap = 12;
+constexpr int kPaneGap = 12;
 
 }  // namespace
 
@@ -45,7 +45,7 @@ void StripPane::makeLayout() {
   auto* row = new QHBoxLayout;
   row->setSpacing(2);
   row->addWidget(mPosition, 1);
-  row->addSpacing(kGap);
+  row->addSpacing(kPaneGap);
   for (QWidget* each : {mPrevious, mNext, mZoomOut, mFit, mZoomIn}) row->addWidget(each);
   column->addLayout(row);
   QFont larger = mSentence->font();

@@ -14,7 +14,7 @@ constexpr double kSpace = 2;
 constexpr int kCentimetre = 10;
 constexpr double kLeastPitch = 5;  // pixels from tick to tick
 constexpr double kAirOfNumbers = 2.2;
-constexpr std::array<int, 6> kSteps = {10, 50, 100, 500, 1000, 10'000};
+constexpr std::array<int, 6> kTickSteps = {10, 50, 100, 500, 1000, 10'000};
 
 }  // namespace
 
@@ -42,7 +42,7 @@ int StripRuler::stepOfNumbers() const {
   const QFontMetricsF metrics(fontFor(mCanvas.painter().font()));
   const double number =
       mCanvas.runsAcross() ? metrics.horizontalAdvance(QStringLiteral("0000")) : metrics.height();
-  const auto* step = std::find_if(kSteps.begin(), kSteps.end() - 1, [&](int each) {
+  const auto* step = std::find_if(kTickSteps.begin(), kTickSteps.end() - 1, [&](int each) {
     return each >= 50 && each * mScale > kAirOfNumbers * number;
   });
   return *step;

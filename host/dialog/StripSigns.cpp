@@ -12,7 +12,7 @@ constexpr double kHeel = 4;   // from handle to tape
 constexpr double kDepth = 8;  // to which a knife's tip comes into a gap
 constexpr double kTouch = 1;  // and into a face
 constexpr double kNotch = 2;
-constexpr double kMark = 7;  // length of a mark at either edge
+constexpr double kMarkLength = 7;  // length of a mark at either edge
 constexpr double kMarkWidth = 2;
 constexpr double kDot = 2;
 constexpr double kDotPitch = 5;
@@ -47,7 +47,7 @@ void StripSigns::drawHalfCut(double along, double across) const {
 }
 
 void StripSigns::drawCutMark(double along, double across) const {
-  const double mark = std::min(kMark, mBreadth / 3);
+  const double mark = std::min(kMarkLength, mBreadth / 3);
   const double start = along - kMarkWidth / 2;
   mCanvas.fill(start, across, kMarkWidth, mark, mColours.cutMark);
   mCanvas.fill(start, across + mBreadth - mark, kMarkWidth, mark, mColours.cutMark);

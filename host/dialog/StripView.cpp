@@ -26,7 +26,7 @@ constexpr int kKeyStep = 40;
 constexpr double kMostBarSteps = 1 << 30;
 constexpr double kCaptionAir = 6;
 constexpr double kPillAir = 16;
-constexpr QSize kPreferredSize{760, 150};
+constexpr QSize kPreferredView{760, 150};
 constexpr QSize kLeastSize{280, 150};
 
 struct ZoomKey {
@@ -53,7 +53,7 @@ StripView::StripView(QWidget* parent) : QAbstractScrollArea(parent) {
   verticalScrollBar()->setFocusPolicy(Qt::NoFocus);
 }
 
-QSize StripView::sizeHint() const { return kPreferredSize; }
+QSize StripView::sizeHint() const { return kPreferredView; }
 QSize StripView::minimumSizeHint() const { return kLeastSize; }
 
 void StripView::setContent(const StripContent& content) {

@@ -16,7 +16,7 @@ namespace cutline {
 namespace {
 
 constexpr char16_t kAlphabet[] = u"ABCDEFGHIJKLMNOPQRSTUVWXYZ";
-constexpr QChar kMark = QLatin1Char('&');
+constexpr QChar kMnemonicMark = QLatin1Char('&');
 
 bool isLetter(QChar character) {
   return QStringView(kAlphabet).contains(character.toUpper()) && character.unicode() < 0x80;
@@ -95,7 +95,7 @@ QString withLetterBehind(const QString& title, QChar letter) {
 }
 
 QString marked(const QString& title, qsizetype place) {
-  return withoutMnemonics(title.left(place)) + kMark + withoutMnemonics(title.mid(place));
+  return withoutMnemonics(title.left(place)) + kMnemonicMark + withoutMnemonics(title.mid(place));
 }
 
 }  // namespace

@@ -8,6 +8,8 @@
 
 namespace cutline::printer {
 
+inline constexpr double kMillimetresPerInch = 25.4;
+
 // `width` dots lie across the tape, `height` along it, in the order in which they are printed. A
 // set bit is ink; the first dot of a row is the highest bit of its first byte, and rows begin on
 // bytes.

@@ -33,7 +33,7 @@ std::string escaped(std::string_view text) {
   return result;
 }
 
-std::string unescaped(std::string_view text) {
+std::string textOf(std::string_view text) {
   std::string result;
   for (std::size_t at = 0; at < text.size(); ++at) {
     const bool isCoded = text[at] == '%' && at + 2 < text.size();
@@ -62,7 +62,7 @@ std::optional<std::pair<std::uint32_t, std::uint32_t>> pairOf(std::string_view t
 
 std::optional<Command> setting(std::string_view text) {
   const std::string_view name = wordTaken(text);
-  return Setting{std::string(name), unescaped(text)};
+  return Setting{std::string(name), textOf(text)};
 }
 
 std::optional<Command> resolution(std::string_view text) {

@@ -6,7 +6,6 @@
 namespace cutline::printer {
 namespace {
 
-constexpr double kMillimetresPerInch = 25.4;
 constexpr double kKeptBlank = 1;  // mm that stay around the print when blank space is removed
 constexpr double kMarkLength = 1.5;
 constexpr double kMarkWidth = 0.3;

@@ -27,7 +27,7 @@ std::uint32_t sideOf(double points, unsigned dotsPerInch, unsigned printed) {
   return static_cast<std::uint32_t>(std::min<double>(dots, kMaxSide + 1.0));
 }
 
-std::int64_t dotsOf(double points, unsigned dotsPerInch) {
+std::int64_t dotsIn(double points, unsigned dotsPerInch) {
   return std::llround(points * dotsPerInch / kPointsPerInch);
 }
 
@@ -64,9 +64,9 @@ bool RasterPages::next() {
   if (width > kMaxSide || height > kMaxSide || Bitmap::bytesPerRow(width) * height > kMaxLabelBytes)
     return refuse("the page is too large");
   mLabel = Bitmap(width, height);
-  mLeft = dotsOf(mHeader.cupsImagingBBox[0], dotsAcross());
+  mLeft = dotsIn(mHeader.cupsImagingBBox[0], dotsAcross());
   const bool placed = mHeader.cupsPageSize[1] > 0 && mHeader.cupsImagingBBox[3] > 0;
-  mTop = placed ? dotsOf(mHeader.cupsPageSize[1] - mHeader.cupsImagingBBox[3], dotsAlong()) : 0;
+  mTop = placed ? dotsIn(mHeader.cupsPageSize[1] - mHeader.cupsImagingBBox[3], dotsAlong()) : 0;
   return readRows();
 }
 

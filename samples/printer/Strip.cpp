@@ -22,7 +22,6 @@ constexpr double kGap = 3;            // mm between two pieces
 constexpr double kHalfCutLine = 0.4;  // mm
 constexpr double kDash = 1;           // mm
 constexpr double kPrinter = 6;        // mm of the printer that are seen
-constexpr double kMillimetresPerInch = 25.4;
 
 // Pictures that are longer can't be opened: it is the limit of the usual readers.
 constexpr std::uint64_t kMaxLength = 1'000'000;

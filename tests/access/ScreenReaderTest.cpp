@@ -6,7 +6,7 @@ namespace cutline::test {
 
 namespace {
 
-constexpr int kPatience = 20000;
+constexpr int kReaderPatience = 20000;
 
 }  // namespace
 
@@ -15,7 +15,7 @@ const QString ScreenReaderTest::kTitle = QStringLiteral("Print labels.pdf");
 ScreenReaderTest::~ScreenReaderTest() {
   if (HasFailure()) ADD_FAILURE() << "The program as it was heard:\n" << describeTree(program());
   mProgram.kill();
-  mProgram.waitForFinished(kPatience);
+  mProgram.waitForFinished(kReaderPatience);
 }
 
 void ScreenReaderTest::startDialog(const char* printer, const QStringList& words) {
@@ -27,7 +27,7 @@ void ScreenReaderTest::startDialog(const char* printer, const QStringList& words
 }
 
 int ScreenReaderTest::exitStatus() {
-  if (!mProgram.waitForFinished(kPatience)) return -1;
+  if (!mProgram.waitForFinished(kReaderPatience)) return -1;
   EXPECT_EQ(mProgram.exitStatus(), QProcess::NormalExit);
   return mProgram.exitCode();
 }

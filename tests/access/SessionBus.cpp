@@ -8,7 +8,7 @@ namespace cutline::test {
 
 namespace {
 
-constexpr int kPatience = 20000;
+constexpr int kStartPatience = 20000;
 // Of a session that may be going on around the tests.
 constexpr const char* kForeign[] = {"DISPLAY", "WAYLAND_DISPLAY", "AT_SPI_BUS_ADDRESS"};
 
@@ -23,7 +23,7 @@ SessionBus::SessionBus() {
   mDaemon.start(QStringLiteral("dbus-daemon"),
                 {QStringLiteral("--session"), QStringLiteral("--nofork"),
                  QStringLiteral("--nopidfile"), QStringLiteral("--print-address")});
-  while (!mDaemon.canReadLine() && mDaemon.waitForReadyRead(kPatience)) {
+  while (!mDaemon.canReadLine() && mDaemon.waitForReadyRead(kStartPatience)) {
   }
   const QByteArray address = mDaemon.readLine().trimmed();
   if (address.isEmpty()) throw std::runtime_error("no message bus: is dbus-daemon installed?");
@@ -32,8 +32,8 @@ SessionBus::SessionBus() {
 
 SessionBus::~SessionBus() {
   mDaemon.terminate();
-  if (!mDaemon.waitForFinished(kPatience)) mDaemon.kill();
-  mDaemon.waitForFinished(kPatience);
+  if (!mDaemon.waitForFinished(kStartPatience)) mDaemon.kill();
+  mDaemon.waitForFinished(kStartPatience);
 }
 
 }  // namespace cutline::test

@@ -10,7 +10,7 @@
 namespace {
 
 // In milliseconds, for each question to a program.
-constexpr int kPatience = 5000;
+constexpr int kBusPatience = 5000;
 constexpr int kPatienceAtTheStart = 20000;
 
 }  // namespace
@@ -22,7 +22,7 @@ int main(int argc, char** argv) {
   qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
   qputenv("LC_ALL", "C.UTF-8");
   atspi_init();
-  atspi_set_timeout(kPatience, kPatienceAtTheStart);
+  atspi_set_timeout(kBusPatience, kPatienceAtTheStart);
   const int status = cutline::test::runAllTestsWithServer();
   atspi_exit();
   return status;

@@ -22,7 +22,7 @@ namespace cutline::test {
 
 namespace {
 
-constexpr char kQueue[] = "tape24_ask";
+constexpr char kAskQueueName[] = "tape24_ask";
 constexpr std::uint32_t kDark = 0x808080;
 
 // What a printer's picture has of ink, as far as anybody looks: nothing of it is grey.
@@ -44,7 +44,7 @@ class HeldJobDialog : public testing::Test {
 
   // A program of ours prints two labels, and the dialog about them comes up.
   void printAndAsk(const std::string& paper, int copies) {
-    outputOf("QT_QPA_PLATFORM=offscreen " + installed() + "/bin/printing_program " + kQueue +
+    outputOf("QT_QPA_PLATFORM=offscreen " + installed() + "/bin/printing_program " + kAskQueueName +
              " Shelves " + std::to_string(copies) + ' ' + paper + " One Two");
     takeLast();
     ASSERT_TRUE(
@@ -135,7 +135,7 @@ TEST_F(HeldJobDialog, PrintsInPlaceOfTheJobWhereItsPaperWasChanged) {
 
 TEST_F(HeldJobDialog, NamesADamagedDocumentByItsTitle) {
   const TemporaryFolder folder;
-  outputOf("lp -d " + std::string(kQueue) + " -t Shelves " +
+  outputOf("lp -d " + std::string(kAskQueueName) + " -t Shelves " +
            folder.write("damaged.pdf", "%PDF-1.4\nand no more"));
   takeLast();
   EXPECT_TRUE(mDialog->willShow(QStringLiteral("the document \"Shelves\"")));

@@ -220,13 +220,13 @@ TEST_F(PDEFormatterTest, AFormatStringReachesNoMemoryBesideItsArgument) {
   EXPECT_EQ(shown("3"), "3 (null) (null)%");
 }
 
-class Tape final : public Describable {
+class NamedTape final : public Describable {
  public:
   std::string description() const noexcept override { return "24 mm"; }
 };
 
 TEST_F(PDEFormatterTest, ShowsWhateverDescribesItself) {
-  const Tape tape;
+  const NamedTape tape;
   EXPECT_EQ(formatter->stringForObjectValue(&tape), "24 mm");
   useFormat("%d", 2);
   EXPECT_EQ(formatter->stringForObjectValue(&tape), "24");

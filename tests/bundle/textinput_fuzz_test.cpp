@@ -10,7 +10,7 @@
 namespace cutline::test {
 namespace {
 
-struct Settings : VettingSettings {
+struct EditSettings : VettingSettings {
   std::shared_ptr<const int> object;  // of notifications
 };
 
@@ -24,7 +24,7 @@ struct Outcome {
   NotificationObject object;
 };
 
-Outcome outcomeOf(const Edit& edit, const Settings& settings, const void* formatter) {
+Outcome outcomeOf(const Edit& edit, const EditSettings& settings, const void* formatter) {
   const auto refusal = refusalOf(settings, edit.original, edit.selection.location, edit.proposed,
                                  edit.proposedSelection.location);
   if (!refusal) return {};
@@ -51,13 +51,13 @@ class Dice {
     return made;
   }
 
-  Settings settings() {
+  EditSettings settings() {
     constexpr int kStyles[] = {0, 1, 2, 2,  2,  3,  4,  4,  4,       5,      6,
                                7, 8, 9, 10, 11, 12, 13, -1, INT_MIN, INT_MAX};
     constexpr int kLengths[] = {0, 0, 0, 1, 2, 3, 4, 6, 9, -1, INT_MAX};
     constexpr int kValues[] = {0, 1, 5, 9, 10, 42, 99, 255, 1000, -1, -5, INT_MAX, INT_MIN};
     constexpr const char* kForbidden[] = {"1", "0", ".", "a", "12", "あ", "😀", "", "é", "\uFFFD"};
-    Settings made;
+    EditSettings made;
     made.style = oneOf(kStyles);
     made.maxLength = oneOf(kLengths);
     if (oneIn(2)) made.maxValue = oneOf(kValues);
@@ -100,7 +100,7 @@ class Dice {
   std::mt19937 mRandom;
 };
 
-std::string described(const Settings& settings, const Edit& edit) {
+std::string described(const EditSettings& settings, const Edit& edit) {
   std::ostringstream text;
   text << "style " << settings.style << ", length " << settings.maxLength << ", values "
        << settings.minValue.value_or(0) << (settings.minValue ? "" : " (unchecked)") << " to "
@@ -121,7 +121,7 @@ class FormatterFuzz : public FormatterTest, public testing::WithParamInterface<s
  protected:
   FormatterFuzz() : FormatterTest(GetParam()) {}
 
-  void use(const Settings& settings) {
+  void use(const EditSettings& settings) {
     useStyle(settings.style);
     formatter->setMaxLength(settings.maxLength);
     if (settings.maxValue) formatter->setMaxValue(*settings.maxValue);
@@ -136,7 +136,7 @@ TEST_P(FormatterFuzz, EditsAtRandomComeOutAsTheModelSays) {
   constexpr int kEdits = 20000;
   constexpr int kEditsOfOneFormatter = 20;
   Dice dice(kSeed);
-  Settings settings;
+  EditSettings settings;
   std::size_t refused = 0;
   for (int i = 0; i < kEdits; ++i) {
     if (i % kEditsOfOneFormatter == 0) {

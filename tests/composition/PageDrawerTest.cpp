@@ -16,9 +16,9 @@ namespace {
 using test::childrenOfThisProcess;
 using test::drawnPdf;
 
-constexpr char kHelpers[] = CUTLINE_BUILD_DIR "/lib/cutline";
+constexpr char kDrawerFolder[] = CUTLINE_BUILD_DIR "/lib/cutline";
 constexpr std::uint32_t kWhite = 0xffffffff;
-constexpr std::uint32_t kBlack = 0xff000000;
+constexpr std::uint32_t kInk = 0xff000000;
 
 std::shared_ptr<const TemporaryFile> fileWith(const std::string& bytes) {
   Result<TemporaryFile> file = TemporaryFile::make();
@@ -29,7 +29,7 @@ std::shared_ptr<const TemporaryFile> fileWith(const std::string& bytes) {
 
 std::shared_ptr<PageDrawer> drawerOf(const std::string& pdf,
                                      std::chrono::milliseconds patience = PageDrawer::kPatience) {
-  const auto drawer = PageDrawer::open(kHelpers, fileWith(pdf), patience);
+  const auto drawer = PageDrawer::open(kDrawerFolder, fileWith(pdf), patience);
   EXPECT_TRUE(drawer) << drawer.error().message;
   return drawer ? *drawer : nullptr;
 }
@@ -55,7 +55,7 @@ TEST(PageDrawer, DrawsPagesOnWhite) {
   EXPECT_EQ(first->height, 100);
   EXPECT_EQ(at(*first, 10, 10), kWhite);
   EXPECT_EQ(at(*first, 150, 90), kWhite);
-  EXPECT_EQ(at(*first, 10, 90), kBlack);
+  EXPECT_EQ(at(*first, 10, 90), kInk);
   const Result<PageImage> second = drawer->draw(1, 0.5);
   ASSERT_TRUE(second) << second.error().message;
   EXPECT_EQ(second->width, 10);
@@ -68,7 +68,7 @@ TEST(PageDrawer, SmoothsEdges) {
   const Result<PageImage> image = drawer->draw(0, 4);
   ASSERT_TRUE(image) << image.error().message;
   int grey = 0;
-  for (const std::uint32_t pixel : image->pixels) grey += pixel != kWhite && pixel != kBlack;
+  for (const std::uint32_t pixel : image->pixels) grey += pixel != kWhite && pixel != kInk;
   EXPECT_GT(grey, 20);
 }
 
@@ -76,7 +76,7 @@ TEST(PageDrawer, DrawsText) {
   const auto drawer = drawerOf(drawnPdf({{100, 50, "BT /F 20 Tf 5 10 Td (Shelf) Tj ET"}}));
   const Result<PageImage> image = drawer->draw(0, 3);
   ASSERT_TRUE(image) << image.error().message;
-  EXPECT_GT(std::ranges::count(image->pixels, kBlack), 100);
+  EXPECT_GT(std::ranges::count(image->pixels, kInk), 100);
 }
 
 TEST(PageDrawer, NamesThePageThatItCannotDraw) {
@@ -91,7 +91,7 @@ TEST(PageDrawer, NamesThePageThatItCannotDraw) {
 
 TEST(PageDrawer, RefusesWhatIsNoPdf) {
   for (const char* bytes : {"", "nothing of a PDF", "%PDF-1.4\n"}) {
-    const auto drawer = PageDrawer::open(kHelpers, fileWith(bytes));
+    const auto drawer = PageDrawer::open(kDrawerFolder, fileWith(bytes));
     ASSERT_FALSE(drawer) << bytes;
     EXPECT_EQ(drawer.error().message, "the pages cannot be drawn: its reader failed");
   }
@@ -112,7 +112,7 @@ TEST(PageDrawer, GoesOnAfterADrawerThatDied) {
   drawer->draw(0, 1);
   const Result<PageImage> image = drawer->draw(0, 1);
   ASSERT_TRUE(image) << image.error().message;
-  EXPECT_EQ(at(*image, 5, 45), kBlack);
+  EXPECT_EQ(at(*image, 5, 45), kInk);
 }
 
 TEST(PageDrawer, LeavesNoProcessBehind) {
@@ -142,7 +142,7 @@ TEST(PageDrawer, GivesUpAPageThatTakesTooLong) {
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(3));
   const Result<PageImage> next = drawer->draw(1, 1);
   ASSERT_TRUE(next) << next.error().message;
-  EXPECT_EQ(at(*next, 5, 45), kBlack);
+  EXPECT_EQ(at(*next, 5, 45), kInk);
 }
 
 }  // namespace

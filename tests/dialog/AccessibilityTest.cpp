@@ -107,12 +107,12 @@ TEST_P(AccessibilityOfPrinters, EveryEntryOfThePanelsPresetsHasWords) {
   EXPECT_GE(presets, 3);
 }
 
-struct Control {
+struct ToldControl {
   QAccessible::Role role;
   const char* name;
 };
 
-constexpr Control kControls[] = {
+constexpr ToldControl kControls[] = {
     {QAccessible::ComboBox, "Printer's own settings"},
     {QAccessible::Button, "Save these settings as a preset"},
     {QAccessible::SpinBox, "Copies"},
@@ -136,7 +136,7 @@ constexpr Control kControls[] = {
 
 TEST_F(AccessibilityTest, EachControlIsWhatItIs) {
   openAll("tape-a");
-  for (const Control& control : kControls)
+  for (const ToldControl& control : kControls)
     EXPECT_NE(find(control.role, control.name), nullptr) << control.name;
 }
 

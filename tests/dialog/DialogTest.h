@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QPushButton>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 #include <QWidget>
@@ -24,6 +25,8 @@
 #include "tests/dialog/FakePrintServer.h"
 
 namespace cutline {
+
+inline constexpr QSize kSmallScreen{1280, 760};  // 1280 x 800 without a title bar
 
 // Paths of PPD files: samples for users, and odd ones for tests.
 std::string samplePpd(const std::string& name);

@@ -9,7 +9,7 @@ namespace {
 constexpr PageSize kLabelSize{141.73, 68.03};
 constexpr PageSize kA4{595.28, 841.89};
 
-LabelPage tape() {
+LabelPage noticedTape() {
   LabelPage label{68.03, 141.73, 4, 4, 64.03, 137.73};
   label.upright = 90;
   return label;
@@ -17,7 +17,7 @@ LabelPage tape() {
 
 CompositionReport reportOf(std::vector<ComposedPage> pages) {
   CompositionReport report;
-  report.label = tape();
+  report.label = noticedTape();
   report.documentPages = static_cast<int>(pages.size());
   report.pages = std::move(pages);
   return report;

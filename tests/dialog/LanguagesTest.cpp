@@ -28,8 +28,6 @@ namespace cutline {
 
 namespace {
 
-constexpr QSize kSmallScreen{1280, 760};  // 1280 x 800 without a title bar
-
 // The user's language, as the program takes it from the environment.
 class UsersLanguage {
  public:

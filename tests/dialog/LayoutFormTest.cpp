@@ -15,8 +15,6 @@ namespace cutline {
 
 namespace {
 
-constexpr double kPointsPerMillimetre = 72.0 / 25.4;
-
 class LayoutFormTest : public DialogTest {
  protected:
   void open(const std::string& ppd = "tape-a") {
@@ -116,12 +114,12 @@ TEST_F(LayoutFormTest, TurnsStartFromWhatAReaderHoldsUpright) {
   }
 }
 
-struct PlaceRow {
+struct PlaceOnStrip {
   const char* title;
   Position onTape;
   Position onRoll;
 };
-constexpr PlaceRow kPlaces[] = {
+constexpr PlaceOnStrip kPlacesOnStrip[] = {
     {"Top", Position::right, Position::top},
     {"Bottom", Position::left, Position::bottom},
     {"Left", Position::top, Position::left},
@@ -136,7 +134,7 @@ constexpr PlaceRow kPlaces[] = {
 TEST_F(LayoutFormTest, PlacesAreThoseOnTheStrip) {
   for (const bool isTape : {true, false}) {
     open(isTape ? "tape-a" : "roll");
-    for (const PlaceRow& row : kPlaces) {
+    for (const PlaceOnStrip& row : kPlacesOnStrip) {
       const Position place = isTape ? row.onTape : row.onRoll;
       choose("Place", row.title);
       EXPECT_EQ(placing().position, place) << row.title;

@@ -18,8 +18,6 @@ namespace cutline {
 
 namespace {
 
-constexpr QSize kSmallScreen{1280, 760};  // 1280 x 800 without a title bar
-
 class LookTest : public DialogTest, public testing::WithParamInterface<int> {
  protected:
   LookTest() : mFont(GetParam()) {}

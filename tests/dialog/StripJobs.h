@@ -1,9 +1,16 @@
 // Jobs for the tests of the strip.
 #pragma once
 
+#include <random>
+
 #include "host/dialog/StripContent.h"
 
 namespace cutline::test {
+
+using Dice = std::mt19937;
+inline unsigned upTo(Dice& dice, unsigned most) {
+  return std::uniform_int_distribution<unsigned>(0, most)(dice);
+}
 
 // 24 mm wide and 50 mm long, as points.
 inline LabelPage tapeLabel(double length = 141.732, int upright = 90) {

@@ -11,7 +11,6 @@ namespace cutline::test {
 namespace {
 
 constexpr double kNear = 1e-6;
-constexpr double kPointsPerMillimetre = 72 / 25.4;
 const StripRoom kRoom{QSizeF(1000, 260), 18, 20};
 
 StripLayout layoutOf(const StripContent& content, StripZoom zoom = {}) {
@@ -131,12 +130,7 @@ TEST(StripLayoutTest, AnEmptyPaperOrViewDoesNoHarm) {
 
 // Jobs at random against a model that lays label after label.
 
-using Dice = std::mt19937;
-unsigned upTo(Dice& dice, unsigned most) {
-  return std::uniform_int_distribution<unsigned>(0, most)(dice);
-}
-
-StripContent anyJob(Dice& dice) {
+StripContent layoutJob(Dice& dice) {
   CutSettings settings;
   for (bool CutSettings::*flag :
        {&CutSettings::cutsAutomatically, &CutSettings::cutsAtEnd, &CutSettings::halfCuts,
@@ -160,7 +154,7 @@ class EachJob : public testing::Test {
     for (int round = 0; round < rounds && !HasFailure(); ++round) {
       SCOPED_TRACE(round);
       Dice dice(static_cast<unsigned>(round));
-      const StripContent content = anyJob(dice);
+      const StripContent content = layoutJob(dice);
       const StripRoom room{QSizeF(300 + upTo(dice, 1600), 150 + upTo(dice, 350)), 16, 20};
       check(content, room, StripLayout(content, room, {0.5 + upTo(dice, 8) / 4.0, false}));
     }

@@ -14,11 +14,6 @@
 namespace cutline::test {
 namespace {
 
-using Dice = std::mt19937;
-unsigned upTo(Dice& dice, unsigned most) {
-  return std::uniform_int_distribution<unsigned>(0, most)(dice);
-}
-
 constexpr bool CutSettings::*kTicks[] = {
     &CutSettings::cutsAutomatically, &CutSettings::cutsAtEnd,
     &CutSettings::halfCuts,          &CutSettings::chains,
@@ -29,7 +24,7 @@ std::optional<double> anyLength(Dice& dice) {
   return upTo(dice, 3) == 0 ? 0.0 : 4.0 + upTo(dice, 20);
 }
 
-StripContent anyJob(Dice& dice) {
+StripContent pictureJob(Dice& dice) {
   CutSettings settings;
   for (bool CutSettings::*tick : kTicks) settings.*tick = upTo(dice, 2) == 0;
   settings.labelsPerCut = 1 + upTo(dice, 4);
@@ -65,7 +60,7 @@ TEST_F(StripPicture, IsThatOfThePlan) {
   for (unsigned round = 0; round < rounds && !HasFailure(); ++round) {
     SCOPED_TRACE(round);
     Dice dice(round);
-    const StripContent content = anyJob(dice);
+    const StripContent content = pictureJob(dice);
     EXPECT_EQ(read(content), outlineOf(content.plan));
   }
 }
@@ -75,7 +70,7 @@ TEST_F(StripPicture, IsThatOfThePlanInTheDarkToo) {
   for (unsigned round = 1000; round < 1020 && !HasFailure(); ++round) {
     SCOPED_TRACE(round);
     Dice dice(round);
-    const StripContent content = anyJob(dice);
+    const StripContent content = pictureJob(dice);
     EXPECT_EQ(read(content), outlineOf(content.plan));
   }
 }

@@ -203,80 +203,88 @@ INSTANTIATE_TEST_SUITE_P(
                     FrameRow{"FarAway", "{{1, 2}, {3, 1e9}}", std::nullopt}),
     [](const auto& row) { return std::string(row.param.name); });
 
-struct BadRow {
+struct BadInterface {
   const char* name;
   std::string entries;
 };
 
-class DamagedInterfaces : public testing::TestWithParam<BadRow> {};
+class DamagedInterfaces : public testing::TestWithParam<BadInterface> {};
 
 TEST_P(DamagedInterfaces, AreRefused) { EXPECT_FALSE(interfaceWith(GetParam().entries)); }
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, DamagedInterfaces,
     testing::Values(
-        BadRow{"NoKind", text("frame", "{{0, 0}, {1, 1}}")},
-        BadRow{"NoFrame", text("kind", "View")},
-        BadRow{"UnknownKind", text("kind", "Slider") + text("frame", "{{0, 0}, {1, 1}}")},
-        BadRow{"KindIsANumber",
-               entry("kind", "<integer>1</integer>") + text("frame", "{{0, 0}, {1, 1}}")},
-        BadRow{"FrameIsAnArray", text("kind", "View") + entry("frame", "<array/>")},
-        BadRow{"OutletIsANumber", kPlain + entry("outlet", "<integer>1</integer>")},
-        BadRow{"TitleIsABoolean", kPlain + entry("title", "<true/>")},
-        BadRow{"ActionIsAnArray", kPlain + entry("action", "<array/>")},
-        BadRow{"DelegateIsText", kPlain + text("delegate", "yes")},
-        BadRow{"BoundIsText", kPlain + text("minValue", "1")},
-        BadRow{"BoundIsAFraction", kPlain + entry("maxValue", "<real>1.5</real>")},
-        BadRow{"BoundIsHuge", kPlain + entry("maxValue", "<integer>99999999999</integer>")},
-        BadRow{"BoundsCrossed", kPlain + entry("minValue", "<integer>5</integer>") +
-                                    entry("maxValue", "<integer>4</integer>")},
-        BadRow{"UnknownResizing", kPlain + text("resizing", "both")},
-        BadRow{"SubviewsAreADictionary", kPlain + entry("subviews", "<dict/>")},
-        BadRow{"SubviewIsText", kPlain + entry("subviews", "<array><string>x</string></array>")},
-        BadRow{"SubviewIsDamaged", kPlain + entry("subviews", "<array><dict/></array>")},
-        BadRow{"ItemsAreText", kPlain + text("items", "x")},
-        BadRow{"ItemWithoutTag",
-               kPlain + entry("items", "<array><dict>" + text("title", "A") + "</dict></array>")},
-        BadRow{"ItemWithoutTitle",
-               kPlain + entry("items", "<array><dict>" + entry("tag", "<integer>1</integer>") +
-                                           "</dict></array>")},
-        BadRow{"ClassIsANumber", kField + entry("class", "<integer>1</integer>")},
-        BadRow{"FormatterIsText", kField + text("formatter", "PDEFormatter")},
-        BadRow{"FormatterWithoutClass", formatter(text("formatString", "%@"))},
-        BadRow{"FormatterClassIsABoolean", formatter(entry("class", "<true/>"))},
-        BadRow{"FormatStringIsANumber",
-               formatter(text("class", "F") + entry("formatString", "<integer>1</integer>"))},
-        BadRow{"TextStyleIsText", formatter(text("class", "F") + text("textStyle", "2"))},
-        BadRow{"MaxLengthIsAFraction",
-               formatter(text("class", "F") + entry("maxLength", "<real>1.5</real>"))},
-        BadRow{"MinValueIsABoolean", formatter(text("class", "F") + entry("minValue", "<false/>"))},
-        BadRow{"MaxValueIsHuge",
-               formatter(text("class", "F") + entry("maxValue", "<integer>99999999999</integer>"))},
-        BadRow{"InvalidCharactersAreText",
-               formatter(text("class", "F") + text("invalidCharacters", "abc"))},
-        BadRow{"InvalidCharacterIsANumber",
-               formatter(text("class", "F") +
-                         entry("invalidCharacters", "<array><integer>1</integer></array>"))},
-        BadRow{"ValidityIsANumber",
-               formatter(text("class", "F") + entry("validityMinValue", "<integer>1</integer>"))},
-        BadRow{"NotificationObjectIsText",
-               formatter(text("class", "F") + text("notificationObject", "mField"))},
-        BadRow{"NotificationObjectIsNothing", about("")},
-        BadRow{"NotificationObjectIsNotTheOwner", about(entry("owner", "<false/>"))},
-        BadRow{"NotificationObjectsAreTwo", about(text("text", "a") + entry("owner", "<true/>"))},
-        BadRow{"NotificationOutletIsANumber", about(entry("outlet", "<integer>1</integer>"))},
-        BadRow{"NotificationOutletIsNowhere", about(text("outlet", "mField"))},
-        BadRow{"DateIsText", formatter(text("class", "F") + text("calendarDate", "2026-05-01"))},
-        BadRow{"LocaleIsAnArray",
-               formatter(text("class", "F") + entry("calendarLocale", "<array/>"))},
-        BadRow{"NamesAreText",
-               formatter(text("class", "F") +
-                         entry("calendarLocale",
-                               "<dict>" + text("NSMonthNameArray", "May") + "</dict>"))},
-        BadRow{"OutletTwice",
-               kPlain + text("outlet", "mBox") +
-                   entry("subviews",
-                         "<array><dict>" + kPlain + text("outlet", "mBox") + "</dict></array>")}),
+        BadInterface{"NoKind", text("frame", "{{0, 0}, {1, 1}}")},
+        BadInterface{"NoFrame", text("kind", "View")},
+        BadInterface{"UnknownKind", text("kind", "Slider") + text("frame", "{{0, 0}, {1, 1}}")},
+        BadInterface{"KindIsANumber",
+                     entry("kind", "<integer>1</integer>") + text("frame", "{{0, 0}, {1, 1}}")},
+        BadInterface{"FrameIsAnArray", text("kind", "View") + entry("frame", "<array/>")},
+        BadInterface{"OutletIsANumber", kPlain + entry("outlet", "<integer>1</integer>")},
+        BadInterface{"TitleIsABoolean", kPlain + entry("title", "<true/>")},
+        BadInterface{"ActionIsAnArray", kPlain + entry("action", "<array/>")},
+        BadInterface{"DelegateIsText", kPlain + text("delegate", "yes")},
+        BadInterface{"BoundIsText", kPlain + text("minValue", "1")},
+        BadInterface{"BoundIsAFraction", kPlain + entry("maxValue", "<real>1.5</real>")},
+        BadInterface{"BoundIsHuge", kPlain + entry("maxValue", "<integer>99999999999</integer>")},
+        BadInterface{"BoundsCrossed", kPlain + entry("minValue", "<integer>5</integer>") +
+                                          entry("maxValue", "<integer>4</integer>")},
+        BadInterface{"UnknownResizing", kPlain + text("resizing", "both")},
+        BadInterface{"SubviewsAreADictionary", kPlain + entry("subviews", "<dict/>")},
+        BadInterface{"SubviewIsText",
+                     kPlain + entry("subviews", "<array><string>x</string></array>")},
+        BadInterface{"SubviewIsDamaged", kPlain + entry("subviews", "<array><dict/></array>")},
+        BadInterface{"ItemsAreText", kPlain + text("items", "x")},
+        BadInterface{
+            "ItemWithoutTag",
+            kPlain + entry("items", "<array><dict>" + text("title", "A") + "</dict></array>")},
+        BadInterface{
+            "ItemWithoutTitle",
+            kPlain + entry("items", "<array><dict>" + entry("tag", "<integer>1</integer>") +
+                                        "</dict></array>")},
+        BadInterface{"ClassIsANumber", kField + entry("class", "<integer>1</integer>")},
+        BadInterface{"FormatterIsText", kField + text("formatter", "PDEFormatter")},
+        BadInterface{"FormatterWithoutClass", formatter(text("formatString", "%@"))},
+        BadInterface{"FormatterClassIsABoolean", formatter(entry("class", "<true/>"))},
+        BadInterface{"FormatStringIsANumber",
+                     formatter(text("class", "F") + entry("formatString", "<integer>1</integer>"))},
+        BadInterface{"TextStyleIsText", formatter(text("class", "F") + text("textStyle", "2"))},
+        BadInterface{"MaxLengthIsAFraction",
+                     formatter(text("class", "F") + entry("maxLength", "<real>1.5</real>"))},
+        BadInterface{"MinValueIsABoolean",
+                     formatter(text("class", "F") + entry("minValue", "<false/>"))},
+        BadInterface{
+            "MaxValueIsHuge",
+            formatter(text("class", "F") + entry("maxValue", "<integer>99999999999</integer>"))},
+        BadInterface{"InvalidCharactersAreText",
+                     formatter(text("class", "F") + text("invalidCharacters", "abc"))},
+        BadInterface{"InvalidCharacterIsANumber",
+                     formatter(text("class", "F") +
+                               entry("invalidCharacters", "<array><integer>1</integer></array>"))},
+        BadInterface{
+            "ValidityIsANumber",
+            formatter(text("class", "F") + entry("validityMinValue", "<integer>1</integer>"))},
+        BadInterface{"NotificationObjectIsText",
+                     formatter(text("class", "F") + text("notificationObject", "mField"))},
+        BadInterface{"NotificationObjectIsNothing", about("")},
+        BadInterface{"NotificationObjectIsNotTheOwner", about(entry("owner", "<false/>"))},
+        BadInterface{"NotificationObjectsAreTwo",
+                     about(text("text", "a") + entry("owner", "<true/>"))},
+        BadInterface{"NotificationOutletIsANumber", about(entry("outlet", "<integer>1</integer>"))},
+        BadInterface{"NotificationOutletIsNowhere", about(text("outlet", "mField"))},
+        BadInterface{"DateIsText",
+                     formatter(text("class", "F") + text("calendarDate", "2026-05-01"))},
+        BadInterface{"LocaleIsAnArray",
+                     formatter(text("class", "F") + entry("calendarLocale", "<array/>"))},
+        BadInterface{"NamesAreText",
+                     formatter(text("class", "F") +
+                               entry("calendarLocale",
+                                     "<dict>" + text("NSMonthNameArray", "May") + "</dict>"))},
+        BadInterface{"OutletTwice",
+                     kPlain + text("outlet", "mBox") +
+                         entry("subviews", "<array><dict>" + kPlain + text("outlet", "mBox") +
+                                               "</dict></array>")}),
     [](const auto& row) { return std::string(row.param.name); });
 
 TEST(InterfaceFile, AFileWithoutAViewIsNoInterface) {

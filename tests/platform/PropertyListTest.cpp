@@ -156,12 +156,12 @@ TEST(PropertyList, ReadsAnEncodingOfSeveralBytesACharacter) {
   EXPECT_EQ(*list->string(), "라벨");
 }
 
-struct BadRow {
+struct BadList {
   const char* name;
   std::string xml;
 };
 
-class DamagedPropertyLists : public testing::TestWithParam<BadRow> {};
+class DamagedPropertyLists : public testing::TestWithParam<BadList> {};
 
 // Nothing is said on standard error, which may be a terminal.
 TEST_P(DamagedPropertyLists, AreRefusedSilently) {
@@ -173,43 +173,43 @@ TEST_P(DamagedPropertyLists, AreRefusedSilently) {
 INSTANTIATE_TEST_SUITE_P(
     Rows, DamagedPropertyLists,
     testing::Values(
-        BadRow{"Empty", ""}, BadRow{"Blank", " \n"}, BadRow{"Words", "no property list at all"},
-        BadRow{"OtherXml", "<svg width=\"1\"/>"}, BadRow{"NoValue", "<plist></plist>"},
-        BadRow{"NoRoot", "<string>a</string>"}, BadRow{"NotClosed", "<plist><string>a</string>"},
-        BadRow{"ContainerNotClosed", "<plist><array><string>a</string></plist>"},
-        BadRow{"Crossed", "<plist><dict><key>a</key><true/></array></plist>"},
-        BadRow{"WrongClose", "<plist><string>x</key></plist>"},
-        BadRow{"ValueWithoutKey", "<plist><dict><string>a</string></dict></plist>"},
-        BadRow{"UnknownElement", "<plist><colour/></plist>"},
-        BadRow{"UnknownEntity", "<plist><string>&cut;</string></plist>"},
-        BadRow{"OwnEntity",
+        BadList{"Empty", ""}, BadList{"Blank", " \n"}, BadList{"Words", "no property list at all"},
+        BadList{"OtherXml", "<svg width=\"1\"/>"}, BadList{"NoValue", "<plist></plist>"},
+        BadList{"NoRoot", "<string>a</string>"}, BadList{"NotClosed", "<plist><string>a</string>"},
+        BadList{"ContainerNotClosed", "<plist><array><string>a</string></plist>"},
+        BadList{"Crossed", "<plist><dict><key>a</key><true/></array></plist>"},
+        BadList{"WrongClose", "<plist><string>x</key></plist>"},
+        BadList{"ValueWithoutKey", "<plist><dict><string>a</string></dict></plist>"},
+        BadList{"UnknownElement", "<plist><colour/></plist>"},
+        BadList{"UnknownEntity", "<plist><string>&cut;</string></plist>"},
+        BadList{"OwnEntity",
                "<!DOCTYPE plist [<!ENTITY a \"b\">]><plist><string>&a;</string></plist>"},
-        BadRow{"EndlessEntity",
+        BadList{"EndlessEntity",
                "<!DOCTYPE plist [<!ENTITY a \"&b;\"><!ENTITY b \"&a;\">]>"
                "<plist><string>&a;</string></plist>"},
-        BadRow{"EntityOfAFile",
+        BadList{"EntityOfAFile",
                "<!DOCTYPE plist [<!ENTITY a SYSTEM \"file:///etc/hostname\">]>"
                "<plist><string>&a;</string></plist>"},
-        BadRow{"UnknownEncoding",
+        BadList{"UnknownEncoding",
                "<?xml version=\"1.0\" encoding=\"no-such\"?><plist><true/></plist>"},
-        BadRow{"NotInTheDeclaredEncoding",
+        BadList{"NotInTheDeclaredEncoding",
                "<?xml version=\"1.0\" encoding=\"US-ASCII\"?><plist><string>\xE4</string></plist>"},
-        BadRow{"CutUtf16", std::string("\xFF\xFE<\0p\0l\0\0\xDA\0\xDA", 12)},
-        BadRow{"NotInTheDeclaredEncodingLater",
+        BadList{"CutUtf16", std::string("\xFF\xFE<\0p\0l\0\0\xDA\0\xDA", 12)},
+        BadList{"NotInTheDeclaredEncodingLater",
                "<?xml version=\"1.0\" encoding=\"UTF-16\"?><plist><string>" +
                    repeated("s\xDA\xDA\xDA", 3000) + "</string></plist>"},
-        BadRow{"NulReference", "<plist><string>a&#0;b</string></plist>"},
-        BadRow{"TwoValues", "<plist><true/><true/></plist>"},
-        BadRow{"CommentNotClosed", "<plist><true/></plist><!-- "},
-        BadRow{"TextAfterTheEnd", "<plist><true/></plist>more"},
-        BadRow{"TwoLists", "<plist><true/></plist><plist><true/></plist>"},
-        BadRow{"ListInAList", "<plist><plist><true/></plist></plist>"},
-        BadRow{"NotUtf8", "<plist><string>\xFF\xFE</string></plist>"},
-        BadRow{"OverlongUtf8", "<plist><string>\xC0\xAF</string></plist>"},
-        BadRow{"SurrogateUtf8", "<plist><string>\xED\xA0\x80</string></plist>"},
-        BadRow{"CutUtf8", "<plist><string>\xE2\x82</string></plist>"},
-        BadRow{"Nul", std::string("<plist><string>a\0b</string></plist>", 35)},
-        BadRow{"Binary", std::string("bplist00\xD0\x08", 10)}),
+        BadList{"NulReference", "<plist><string>a&#0;b</string></plist>"},
+        BadList{"TwoValues", "<plist><true/><true/></plist>"},
+        BadList{"CommentNotClosed", "<plist><true/></plist><!-- "},
+        BadList{"TextAfterTheEnd", "<plist><true/></plist>more"},
+        BadList{"TwoLists", "<plist><true/></plist><plist><true/></plist>"},
+        BadList{"ListInAList", "<plist><plist><true/></plist></plist>"},
+        BadList{"NotUtf8", "<plist><string>\xFF\xFE</string></plist>"},
+        BadList{"OverlongUtf8", "<plist><string>\xC0\xAF</string></plist>"},
+        BadList{"SurrogateUtf8", "<plist><string>\xED\xA0\x80</string></plist>"},
+        BadList{"CutUtf8", "<plist><string>\xE2\x82</string></plist>"},
+        BadList{"Nul", std::string("<plist><string>a\0b</string></plist>", 35)},
+        BadList{"Binary", std::string("bplist00\xD0\x08", 10)}),
     [](const auto& row) { return std::string(row.param.name); });
 
 TEST(PropertyList, ReadsContainersNestedSixtyFourDeepAndRefusesDeeperOnes) {

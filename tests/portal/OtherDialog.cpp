@@ -9,7 +9,7 @@
 namespace cutline::test {
 namespace {
 
-const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
+const QString kOtherPath = QStringLiteral("/org/freedesktop/portal/desktop");
 
 std::string beginningOf(const QDBusUnixFileDescriptor& document) {
   std::array<char, 5> bytes{};
@@ -21,14 +21,14 @@ std::string beginningOf(const QDBusUnixFileDescriptor& document) {
 
 OtherDialog::OtherDialog() {
   QDBusConnection bus = QDBusConnection::sessionBus();
-  if (!bus.registerObject(kPath, this, QDBusConnection::ExportScriptableSlots) ||
+  if (!bus.registerObject(kOtherPath, this, QDBusConnection::ExportScriptableSlots) ||
       !bus.registerService(QLatin1String(kName)))
     throw std::runtime_error("the other dialog has no place on the bus");
 }
 
 OtherDialog::~OtherDialog() {
   QDBusConnection::sessionBus().unregisterService(QLatin1String(kName));
-  QDBusConnection::sessionBus().unregisterObject(kPath);
+  QDBusConnection::sessionBus().unregisterObject(kOtherPath);
 }
 
 uint OtherDialog::PreparePrint(const QDBusObjectPath& /*handle*/, const QString& /*appId*/,

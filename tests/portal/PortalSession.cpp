@@ -12,7 +12,7 @@ namespace cutline::test {
 namespace {
 
 // In milliseconds, for each question to a program.
-constexpr int kPatience = 5000;
+constexpr int kSessionPatience = 5000;
 constexpr int kPatienceAtTheStart = 20000;
 
 PortalSession* theSession = nullptr;
@@ -37,15 +37,15 @@ void PortalSession::SetUp() {
   startBus();
   mOther = std::make_unique<OtherDialog>();
   atspi_init();
-  atspi_set_timeout(kPatience, kPatienceAtTheStart);
+  atspi_set_timeout(kSessionPatience, kPatienceAtTheStart);
 }
 
 void PortalSession::TearDown() {
   atspi_exit();
   mOther.reset();
   mBus.terminate();
-  if (!mBus.waitForFinished(kPatience)) mBus.kill();
-  mBus.waitForFinished(kPatience);
+  if (!mBus.waitForFinished(kSessionPatience)) mBus.kill();
+  mBus.waitForFinished(kSessionPatience);
   mDisplay.reset();
 }
 

@@ -58,9 +58,9 @@ class QtPopUpButtonTest : public QtPanelFixture {
   QComboBox* widget = put<QComboBox>(popUp);
 };
 
-constexpr QRgb kGreen = 0xff00ff00;
-constexpr QRgb kBlue = 0xff0000ff;
-constexpr QRgb kRed = 0xffff0000;
+constexpr QRgb kGreenItem = 0xff00ff00;
+constexpr QRgb kBlueItem = 0xff0000ff;
+constexpr QRgb kRedItem = 0xffff0000;
 
 TEST_F(QtPopUpButtonTest, FirstEntryIsSelected) {
   EXPECT_EQ(popUp->selectedTag(), 4);
@@ -185,18 +185,18 @@ TEST_F(QtPopUpButtonTest, EntryWithoutWordsIsAnnouncedByItsTitleEvenLater) {
 TEST_F(QtPopUpButtonTest, ClosedButtonShowsTheCurrentPictureOnly) {
   show();
   const QImage shown = widget->grab().toImage();
-  EXPECT_GT(countOf(shown, kGreen), 100);
-  EXPECT_EQ(countOf(shown, kBlue), 0);
+  EXPECT_GT(countOf(shown, kGreenItem), 100);
+  EXPECT_EQ(countOf(shown, kBlueItem), 0);
   popUp->selectItemWithTag(6);
-  EXPECT_GT(countOf(widget->grab().toImage(), kBlue), 100);
+  EXPECT_GT(countOf(widget->grab().toImage(), kBlueItem), 100);
 }
 
 TEST_F(QtPopUpButtonTest, OpenListShowsEveryPictureLarger) {
   const QImage closed = (show(), widget->grab().toImage());
   QAbstractItemView* const list = openList();
   const QImage shown = list->grab().toImage();
-  for (const QRgb colour : {kGreen, kBlue, kRed}) {
-    EXPECT_GT(countOf(shown, colour), 2 * countOf(closed, kGreen));
+  for (const QRgb colour : {kGreenItem, kBlueItem, kRedItem}) {
+    EXPECT_GT(countOf(shown, colour), 2 * countOf(closed, kGreenItem));
   }
   widget->hidePopup();
 }
@@ -208,9 +208,9 @@ TEST_F(QtPopUpButtonTest, PicturesAreNotReadBeforeTheyAreShown) {
   pictures.addPlain("blue.svg", "#ff0000");
   QAbstractItemView* const list = openList();
   const QImage shown = list->grab().toImage();
-  EXPECT_EQ(countOf(shown, kBlue), 0);
-  EXPECT_GT(countOf(shown, kRed), 0);
-  EXPECT_GT(countOf(shown, kGreen), 0);
+  EXPECT_EQ(countOf(shown, kBlueItem), 0);
+  EXPECT_GT(countOf(shown, kRedItem), 0);
+  EXPECT_GT(countOf(shown, kGreenItem), 0);
   widget->hidePopup();
 }
 
@@ -219,7 +219,7 @@ TEST_F(QtPopUpButtonTest, PictureThatIsMissingLeavesTheWords) {
   popUp->selectItemWithTag(9);
   show();
   const QImage shown = widget->grab().toImage();
-  EXPECT_EQ(countOf(shown, kGreen), 0);
+  EXPECT_EQ(countOf(shown, kGreenItem), 0);
   QAbstractItemView* const list = openList();
   EXPECT_GT(list->visualRect(list->model()->index(3, 0)).height(), 0);
   widget->hidePopup();

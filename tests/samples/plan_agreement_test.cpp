@@ -44,7 +44,7 @@ Choices anyChoices(Dice& dice) {
 }
 
 // With print from end to end, so that no blank space can be removed.
-Bitmap page() {
+Bitmap labelPage() {
   Bitmap dots(kWidth, kLength);
   for (std::uint32_t y = 0; y < kLength; ++y) dots.ink(kWidth / 2, y);
   return dots;
@@ -59,7 +59,7 @@ class PlanAgreement : public testing::Test {
     CommandWriter writer(out);
     writer.begin();
     LabelJob job(cutSettingsOf(choices), writer);
-    for (unsigned label = 0; label < labels; ++label) ASSERT_TRUE(job.add(page(), kDots));
+    for (unsigned label = 0; label < labels; ++label) ASSERT_TRUE(job.add(labelPage(), kDots));
     ASSERT_TRUE(job.end());
     ::close(out);
   }

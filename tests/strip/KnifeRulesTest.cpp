@@ -6,14 +6,14 @@
 namespace cutline::test {
 namespace {
 
-struct Row {
+struct RuleRow {
   const char* name;
   CutSettings settings;
   const char* one;    // of one label
   const char* three;  // of three
 };
 
-const Row kTapeRows[] = {
+const RuleRow kTapeRows[] = {
     {"nothing chosen", {}, "~L~", "~LLL~"},
     {"cut at the end", {.cutsAtEnd = true}, "~L~|", "~LLL~|"},
     {"cut automatically", {.cutsAutomatically = true}, "~|L~|", "~|L|L|L~|"},
@@ -63,7 +63,7 @@ const Row kTapeRows[] = {
 };
 
 TEST(KnifeRules, OnATape) {
-  for (const Row& row : kTapeRows) {
+  for (const RuleRow& row : kTapeRows) {
     EXPECT_EQ(outlineOf({row.settings, runOf(1)}), row.one) << row.name;
     EXPECT_EQ(outlineOf({row.settings, runOf(3)}), row.three) << row.name;
   }

@@ -13,13 +13,13 @@ CutSettings onTape(CutSettings settings) {
   return settings;
 }
 
-struct Row {
+struct WordsRow {
   CutSettings settings;
   unsigned labels;
   const char* sentence;
 };
 
-const Row kRows[] = {
+const WordsRow kWordsRows[] = {
     {onTape({.cutsAutomatically = true, .labelsPerCut = 3, .halfCuts = true}), 12,
      "12 labels, cut every 3, half cut between: 4 pieces, 612 mm of tape"},
     {onTape({.cutsAutomatically = true}), 12,
@@ -48,7 +48,7 @@ const Row kRows[] = {
 };
 
 TEST(PlanWords, SayTheWholeInOneSentence) {
-  for (const Row& row : kRows)
+  for (const WordsRow& row : kWordsRows)
     EXPECT_EQ(planSentence({row.settings, runOf(row.labels)}).english(), row.sentence);
 }
 

@@ -23,14 +23,14 @@ CutSettings cutAfter(CutUnit unit) {
   return {.cutsAutomatically = true, .unit = unit, .isRoll = true, .feed = 0.0};
 }
 
-struct Row {
+struct RunRow {
   const char* name;
   CutUnit unit;
   unsigned pages, copies;
   bool isCollated, printerRepeats;
   const char* outline;
 };
-constexpr Row kRows[] = {
+constexpr RunRow kRunRows[] = {
     {"each label", CutUnit::Label, 2, 2, false, true, "L|L|L|L|"},
     {"a page that the printer repeats", CutUnit::Page, 2, 2, false, true, "LL|LL|"},
     {"a page that is sent again", CutUnit::Page, 2, 2, false, false, "L|L|L|L|"},
@@ -44,7 +44,7 @@ constexpr Row kRows[] = {
 };
 
 TEST(RunSettings, CountInLabels) {
-  for (const Row& row : kRows) {
+  for (const RunRow& row : kRunRows) {
     const LabelRun run = copiesOf(row.pages, row.copies, row.isCollated, row.printerRepeats);
     EXPECT_EQ(outlineOf({cutAfter(row.unit), run}), row.outline) << row.name;
   }

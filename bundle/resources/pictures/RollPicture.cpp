@@ -12,48 +12,48 @@ namespace cutline::pictures {
 
 namespace {
 
-constexpr std::array<std::string_view, 3> kTexts = {"ABC", "123", "EFG"};
-constexpr double kLabelWidth = 57;
+constexpr std::array<std::string_view, 3> kRollTexts = {"ABC", "123", "EFG"};
+constexpr double kRollLabelWidth = 57;
 constexpr double kGap = 10;
-constexpr double kLeft = 3;
+constexpr double kRollLeft = 3;
 
 // The sample text and, below it, two lines of small print; a mirrored label mirrors both.
 void drawText(Svg& svg, std::size_t index, double centre, bool mirror) {
   const double direction = mirror ? -1 : 1;
   const double start = centre - direction * 18;
   svg.begin("text" + std::to_string(index + 1));
-  write(svg, kTexts.at(index), {centre, 41}, {15, 2.6, mirror});
+  write(svg, kRollTexts.at(index), {centre, 41}, {15, 2.6, mirror});
   svg.line({start, 57}, {start + direction * 36, 57}, stroked(kFaintInk, 2.4));
   svg.line({start, 64}, {start + direction * 22, 64}, stroked(kFaintInk, 2.4));
   svg.end();
 }
 
 void drawTexts(Svg& svg, double left, double pitch, bool mirror) {
-  for (std::size_t i = 0; i < kTexts.size(); ++i) {
-    drawText(svg, i, left + static_cast<double>(i) * pitch + kLabelWidth / 2, mirror);
+  for (std::size_t i = 0; i < kRollTexts.size(); ++i) {
+    drawText(svg, i, left + static_cast<double>(i) * pitch + kRollLabelWidth / 2, mirror);
   }
 }
 
 void drawSeparateLabels(Svg& svg, const Flags& flags) {
-  for (std::size_t i = 0; i < kTexts.size(); ++i) {
-    const double left = kLeft + static_cast<double>(i) * (kLabelWidth + kGap);
-    drawPaper(svg, {left, left + kLabelWidth});
-    drawFullCutKnife(svg, left + kLabelWidth + kGap / 2);
+  for (std::size_t i = 0; i < kRollTexts.size(); ++i) {
+    const double left = kRollLeft + static_cast<double>(i) * (kRollLabelWidth + kGap);
+    drawPaper(svg, {left, left + kRollLabelWidth});
+    drawFullCutKnife(svg, left + kRollLabelWidth + kGap / 2);
   }
-  drawTexts(svg, kLeft, kLabelWidth + kGap, flags.mirror);
+  drawTexts(svg, kRollLeft, kRollLabelWidth + kGap, flags.mirror);
 }
 
 void drawStripCutAtEnd(Svg& svg, const Flags& flags) {
-  const double right = kLeft + 3 * (kLabelWidth + kGap) - kGap;
-  const double left = right - 3 * kLabelWidth;
+  const double right = kRollLeft + 3 * (kRollLabelWidth + kGap) - kGap;
+  const double left = right - 3 * kRollLabelWidth;
   drawPaper(svg, {left, right});
   drawFullCutKnife(svg, right + kGap / 2);
-  drawTexts(svg, left, kLabelWidth, flags.mirror);
+  drawTexts(svg, left, kRollLabelWidth, flags.mirror);
 }
 
 void drawUncutStrip(Svg& svg, const Flags& flags) {
-  drawPaper(svg, {kLeft, kInsideEnd});
-  drawTexts(svg, kLeft, kLabelWidth, flags.mirror);
+  drawPaper(svg, {kRollLeft, kInsideEnd});
+  drawTexts(svg, kRollLeft, kRollLabelWidth, flags.mirror);
 }
 
 }  // namespace

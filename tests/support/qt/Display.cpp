@@ -12,7 +12,6 @@ namespace cutline::test {
 
 namespace {
 
-constexpr int kPatience = 20000;
 constexpr char kScreen[] = "1600x1000x24";
 
 // The places of the numbers in the header of the X server's picture file.
@@ -39,7 +38,7 @@ Display::Display(Users users) {
       QStringLiteral("-noreset"),   QStringLiteral("-fbdir"),    mFolder.path()};
   if (users == Users::all) words << QStringLiteral("-ac");
   mServer.start(QStringLiteral("Xvfb"), words);
-  while (!mServer.canReadLine() && mServer.waitForReadyRead(kPatience)) {
+  while (!mServer.canReadLine() && mServer.waitForReadyRead(kLongWait)) {
   }
   const QString number = QString::fromLatin1(mServer.readLine()).trimmed();
   if (number.isEmpty()) throw std::runtime_error("no X server: is Xvfb installed?");
@@ -48,8 +47,8 @@ Display::Display(Users users) {
 
 Display::~Display() {
   mServer.terminate();
-  if (!mServer.waitForFinished(kPatience)) mServer.kill();
-  mServer.waitForFinished(kPatience);
+  if (!mServer.waitForFinished(kLongWait)) mServer.kill();
+  mServer.waitForFinished(kLongWait);
 }
 
 QProcessEnvironment Display::environment() const {
@@ -65,14 +64,14 @@ void Display::start(QProcess& process, const QString& program, const QStringList
   endWithUs(process);
   process.setProcessEnvironment(environment());
   process.start(program, words);
-  if (!process.waitForStarted(kPatience))
+  if (!process.waitForStarted(kLongWait))
     throw std::runtime_error("cannot start " + program.toStdString());
 }
 
 QByteArray Display::tell(const QStringList& words) const {
   QProcess hands;
   start(hands, QStringLiteral("xdotool"), words);
-  hands.waitForFinished(kPatience);
+  hands.waitForFinished(kLongWait);
   return hands.exitCode() == 0 ? hands.readAllStandardOutput() : QByteArray();
 }
 

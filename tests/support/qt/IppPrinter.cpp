@@ -14,12 +14,12 @@
 
 #include "base/FileDescriptor.h"
 #include "tests/support/qt/child_process.h"
+#include "tests/support/qt/waiting.h"
 
 namespace cutline::test {
 
 namespace {
 
-constexpr int kPatience = 20000;
 constexpr int kAttempts = 3;
 
 // One that nobody has now.
@@ -116,16 +116,16 @@ std::string valueIn(const std::string& list, const std::string& name) {
 
 void end(QProcess& process) {
   process.terminate();
-  if (process.waitForFinished(kPatience)) return;
+  if (process.waitForFinished(kLongWait)) return;
   process.kill();
-  process.waitForFinished(kPatience);
+  process.waitForFinished(kLongWait);
 }
 
 bool waitForLine(QProcess& process) {
   QElapsedTimer timer;
   timer.start();
-  while (!process.canReadLine() && timer.elapsed() < kPatience &&
-         process.waitForReadyRead(kPatience)) {
+  while (!process.canReadLine() && timer.elapsed() < kLongWait &&
+         process.waitForReadyRead(kLongWait)) {
   }
   return process.canReadLine();
 }
@@ -174,7 +174,7 @@ bool IppPrinter::start() {
   QElapsedTimer timer;
   timer.start();
   QByteArray said;
-  while (timer.elapsed() < kPatience && mPrinter.state() != QProcess::NotRunning) {
+  while (timer.elapsed() < kLongWait && mPrinter.state() != QProcess::NotRunning) {
     mPrinter.waitForReadyRead(100);
     said += mPrinter.readAll();
     // The last that it says before it waits for jobs.

@@ -4,14 +4,10 @@
 
 namespace cutline::test {
 
-namespace {
-
-constexpr int kPatience = 20000;
-
-}  // namespace
+namespace {}  // namespace
 
 bool waitUntil(const std::function<bool()>& condition) {
-  return QTest::qWaitFor(condition, kPatience);
+  return QTest::qWaitFor(condition, kLongWait);
 }
 
 }  // namespace cutline::test

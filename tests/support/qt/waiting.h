@@ -5,7 +5,9 @@
 
 namespace cutline::test {
 
-// Runs the event loop until the condition holds; false after twenty seconds.
+inline constexpr int kLongWait = 20000;  // milliseconds
+
+// Runs the event loop until the condition holds; false after that time.
 bool waitUntil(const std::function<bool()>& condition);
 
 }  // namespace cutline::test
