@@ -2,6 +2,7 @@
 
 #include <dlfcn.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <string_view>
 
@@ -32,11 +33,28 @@ Result<Done> check(const std::string& path) {
   return reason.empty() ? Result<Done>(Done{}) : damaged(path, reason);
 }
 
+// Whether this process takes libc's functions as they are: no sanitizer, no allocator, nothing else
+// that was loaded to stand before them.
+bool hasPlainLibc() {
+  const char* const preloaded = std::getenv("LD_PRELOAD");
+  if (preloaded != nullptr && *preloaded != '\0') return false;
+  Dl_info allocator{};
+  Dl_info libc{};
+  return dladdr(dlsym(RTLD_DEFAULT, "malloc"), &allocator) != 0 &&
+         dladdr(dlsym(RTLD_DEFAULT, "gnu_get_libc_version"), &libc) != 0 &&
+         allocator.dli_fbase == libc.dli_fbase;
+}
+
+// A module and the libraries that it brings along find nearly all names among themselves; looked
+// for there first, they take half the time. Elsewhere memory of one allocator could come to
+// another.
+int bindingOrder() { return hasPlainLibc() ? RTLD_DEEPBIND : 0; }
+
 }  // namespace
 
 Result<void*> loadModule(const std::string& path, const char* buildSymbol, const char* symbol) {
   if (Result<Done> checked = check(path); !checked) return checked.error();
-  void* module = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+  void* module = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL | bindingOrder());
   if (module == nullptr) return damaged(path, dlerror());
   const auto askBuild = reinterpret_cast<BuildFunction>(dlsym(module, buildSymbol));
   if (askBuild == nullptr) return damaged(path, std::string("has no ") + buildSymbol);

@@ -1,5 +1,7 @@
 #include "host/dialog/DialogLanguage.h"
 
+#include <fontconfig/fontconfig.h>
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QGuiApplication>
@@ -81,6 +83,10 @@ void preferFontsFor(const DialogLanguage& language) {
   if (language.locale.script() == QLocale::LatinScript) return;
   if (!qEnvironmentVariableIsEmpty(kFontLanguage)) return;
   qputenv(kFontLanguage, language.locale.name().toLatin1());
+}
+
+std::future<void> startReadingFonts() {
+  return std::async(std::launch::async, [] { FcInit(); });
 }
 
 LanguageInForce::LanguageInForce(const DialogLanguage& language, const QString& directory) {

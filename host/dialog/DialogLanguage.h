@@ -4,6 +4,7 @@
 #include <QLocale>
 #include <QString>
 #include <QTranslator>
+#include <future>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,10 @@ DialogLanguage chooseLanguage(const std::vector<std::string>& names, const QStri
 // environment's locale only. Before the application is made, and before any thread is started,
 // because it changes the environment. A choice of the user's own (FC_LANG) is left alone.
 void preferFontsFor(const DialogLanguage& language);
+
+// Reads fontconfig's configuration, a tenth of the dialog's start, while the application is made;
+// Qt finds it read then. After preferFontsFor, whose environment it reads.
+std::future<void> startReadingFonts();
 
 // The program speaks the language as long as this lives.
 class LanguageInForce {

@@ -90,10 +90,12 @@ int runDialog(const DialogRequest& request) {
   const QString tables = toQString(request.installation->translationDirectory());
   const DialogLanguage language = chooseLanguage(preferredLocalizations(), tables);
   preferFontsFor(language);
+  const std::future<void> fonts = startReadingFonts();
   const FirstPrinter printer = startFindingFirstPrinter(line);
   const std::unique_ptr<QApplication> application = makeApplication();
   if (line.marks) printTime("qapp");
   const LanguageInForce inForce(language, tables);
+  fonts.wait();
   applyAppearance(line.dark);
   return DialogSession(request, printer).run();
 }

@@ -10,6 +10,7 @@
 #include <iostream>
 #include <optional>
 #include <thread>
+#include <utility>
 
 #include "cups/AskQueue.h"
 #include "cups/Destinations.h"
@@ -99,8 +100,8 @@ FirstPrinter startFindingFirstPrinter(const CommandLine& line) {
 namespace {
 
 // A server that takes longer is waited for with the dialog on the screen.
-constexpr int kPatienceMilliseconds = 300;
-constexpr QSize kPreferredSize{1120, 720};
+constexpr int kServerPatienceMilliseconds = 300;
+constexpr QSize kWindowSize{1120, 720};
 constexpr int kScreenMargin = 40;
 constexpr int kIconSides[] = {16, 24, 32, 48, 128, 256};
 
@@ -139,6 +140,10 @@ DialogSession::DialogSession(const DialogRequest& request, FirstPrinter printer)
   });
   if (isForAPerson(mLine))
     connect(mDialog.get(), &PrintDialog::jobWentOut, this, &DialogSession::rememberJob);
+  if (mLine.marks)
+    connect(mDialog.get(), &PrintDialog::labelShown, this, [this] {
+      if (!std::exchange(mHasLabel, true)) finishMeasuring();
+    });
   if (mLine.marks) printTime("constructed");
 }
 
@@ -201,7 +206,7 @@ void DialogSession::awaitPrinter() {
     return [this, printer] { takePrinter(printer.get()); };
   });
   if (mLine.command == Command::snapshot) return;
-  QTimer::singleShot(kPatienceMilliseconds, this, [this] {
+  QTimer::singleShot(kServerPatienceMilliseconds, this, [this] {
     if (mIsComplete) return;
     mDialog->showWaiting(tr("Waiting for the print server..."));
     show();
@@ -226,13 +231,16 @@ void DialogSession::fail(const Error& error) {
 
 void DialogSession::open(const PrinterChoice& printer) {
   mDialog->openPrinter(printer);
+  const bool isPicture = mLine.command == Command::snapshot;
+  // Read by programs of their own while this one draws itself.
+  if (!isPicture) mDialog->loadDocument();
   for (const std::string& problem : mPlugIns.takeProblems()) tell(problem);
   if (const std::optional<Error> problem = problemOfDocuments(mLine.files)) {
     tell(problem->message);
     mDialog->noteFailure();
   }
   mIsComplete = true;
-  if (mLine.command == Command::snapshot) {
+  if (isPicture) {
     connect(mDialog.get(), &PrintDialog::becameSettled, this, &DialogSession::takeSnapshot,
             Qt::QueuedConnection);
   }
@@ -243,7 +251,7 @@ void DialogSession::open(const PrinterChoice& printer) {
 
 void DialogSession::show() {
   if (mDialog->isVisible()) return;
-  QSize size = kPreferredSize.expandedTo(mDialog->sizeHint());
+  QSize size = kWindowSize.expandedTo(mDialog->sizeHint());
   if (isForAPerson(mLine)) {
     const QSize last = Remembered().windowSize();
     if (!last.isEmpty()) size = last.expandedTo(mDialog->minimumSizeHint());
@@ -267,24 +275,24 @@ bool DialogSession::eventFilter(QObject* watched, QEvent* event) {
 
 // Everything but the document has been drawn.
 void DialogSession::didPaintFirst() {
-  if (mLine.marks) return measureDocument();
-  if (!mHasFailed) mDialog->loadDocument();
-  if (mLine.command != Command::dialog) return;
+  if (mLine.marks) {
+    for (const char* name : {"painted", "complete"}) printTime(name);
+    printPeakMemory();
+  }
+  mIsSeen = true;
+  mDialog->completeForms();
+  if (mLine.marks) return finishMeasuring();
+  if (mLine.command == Command::snapshot) return mDialog->loadDocument();
   if (!mHasFailed) mDialog->startWatching();
   mDialog->setRecentDocuments(Remembered().recentDocuments());
   QApplication::setWindowIcon(windowIcon(mInstallation));
 }
 
 // The measuring programs look on until the first label is there.
-void DialogSession::measureDocument() {
-  for (const char* name : {"painted", "complete"}) printTime(name);
-  printPeakMemory();
-  if (mLine.files.empty()) return QApplication::exit(kExitDone);
-  connect(mDialog.get(), &PrintDialog::labelShown, this, [] {
-    printTime("document");
-    QApplication::exit(kExitDone);
-  });
-  mDialog->loadDocument();
+void DialogSession::finishMeasuring() {
+  if (!mIsSeen || (!mHasLabel && !mLine.files.empty())) return;
+  if (mHasLabel) printTime("document");
+  QApplication::exit(kExitDone);
 }
 
 void DialogSession::takeSnapshot() {

@@ -53,7 +53,7 @@ class DialogSession : public QObject {
   void open(const PrinterChoice& printer);
   void show();
   void didPaintFirst();
-  void measureDocument();
+  void finishMeasuring();
   void takeSnapshot();
   void fail(const Error& error);
   void rememberJob();
@@ -75,6 +75,8 @@ class DialogSession : public QObject {
   bool mIsComplete = false;
   bool mHasFailed = false;
   bool mHasPainted = false;
+  bool mIsSeen = false;  // and nothing is left of that first painting
+  bool mHasLabel = false;
   Background mBackground;
 };
 

@@ -60,19 +60,36 @@ MoreOptionsPanel::MoreOptionsPanel(QWidget* parent)
 }
 
 void MoreOptionsPanel::setGroups(const std::vector<GeneratedGroup>& groups) {
+  mGroups = groups;
   mSetters.clear();
   delete mPage;
+  mPage = nullptr;
+  const bool wasHidden = testAttribute(Qt::WA_WState_ExplicitShowHide) && isHidden();
+  if (!wasHidden) build();
+}
+
+void MoreOptionsPanel::setVisible(bool visible) {
+  if (visible && mPage == nullptr) build();
+  QWidget::setVisible(visible);
+}
+
+void MoreOptionsPanel::build() {
   mPage = new QWidget(this);
   auto* form = new QFormLayout(mPage);
   form->setContentsMargins(0, 0, 0, 0);
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-  for (const GeneratedGroup& group : groups) addGroup(*form, group);
+  for (const GeneratedGroup& group : mGroups) addGroup(*form, group);
   mColumn->addWidget(mPage);
-  setMarks(groups);
+  showMarks();
 }
 
 void MoreOptionsPanel::setMarks(const std::vector<GeneratedGroup>& groups) {
-  for (const GeneratedGroup& group : groups) {
+  mGroups = groups;
+  showMarks();
+}
+
+void MoreOptionsPanel::showMarks() {
+  for (const GeneratedGroup& group : mGroups) {
     for (const GeneratedOption& each : group.options) {
       const auto setter = mSetters.find(each.option.keyword);
       if (setter != mSetters.end()) setter->second(each.marked);

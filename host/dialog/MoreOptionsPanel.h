@@ -20,22 +20,27 @@ class MoreOptionsPanel : public QWidget {
  public:
   explicit MoreOptionsPanel(QWidget* parent = nullptr);
 
-  // Builds the controls anew.
+  // Builds the controls anew; while it is hidden, when it is shown: a driver has hundreds.
   void setGroups(const std::vector<GeneratedGroup>& groups);
   // The same options with other marks: moves the controls, and reports nothing.
   void setMarks(const std::vector<GeneratedGroup>& groups);
+
+  void setVisible(bool visible) override;
 
  signals:
   void optionChosen(const QString& keyword, const QString& choice);
 
  private:
+  void build();
+  void showMarks();
   void addGroup(QFormLayout& form, const GeneratedGroup& group);
   QWidget* makeControl(const PpdOption& option);
   QWidget* makeCheckBox(const PpdOption& option);
   QWidget* makeComboBox(const PpdOption& option);
 
   QVBoxLayout* mColumn;
-  QWidget* mPage = nullptr;                                                 // with the controls
+  std::vector<GeneratedGroup> mGroups;
+  QWidget* mPage = nullptr;  // with the controls; null until they are built
   std::map<std::string, std::function<void(const std::string&)>> mSetters;  // by keyword
 };
 

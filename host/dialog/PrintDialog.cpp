@@ -258,6 +258,7 @@ Result<Done> PrintDialog::checkPages() const {
 
 void PrintDialog::showMoreOptions(bool shown) {
   mMoreOptions->setVisible(shown);
+  setTabOrders();
   setMnemonics();
 }
 

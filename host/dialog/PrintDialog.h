@@ -90,6 +90,9 @@ class PrintDialog : public QDialog, private PrintModelListener {
 
   // Composes and draws the documents; becameSettled follows when nothing is left to draw.
   void loadDocument();
+  // Makes what is hidden at first and would hold the first picture up. Once shown, or with the
+  // first news of the documents, whichever comes first.
+  void completeForms();
   // Asks for the other printers, and from then on now and again for the printer's state.
   void startWatching();
 
@@ -129,7 +132,6 @@ class PrintDialog : public QDialog, private PrintModelListener {
   void connectDocument();
   void connectServer();
   void connectLayoutForm();
-  void makeLayoutForm();
   void connectJob();
   void setTabOrders();
   void setMnemonics();

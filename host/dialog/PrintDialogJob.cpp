@@ -68,17 +68,20 @@ void PrintDialog::connectDocument() {
 }
 
 void PrintDialog::loadDocument() {
-  if (mLayoutForm == nullptr) makeLayoutForm();
+  const auto settle = [this] {
+    completeForms();
+    emit becameSettled();
+  };
   StripView& strip = mStripPane->strip();
   if (mSource.paths.empty()) {
     strip.setMessage(mIsChoosing ? tr("The labels are shown when you continue")
                                  : tr("Open or drop a document"));
-    QTimer::singleShot(0, this, &PrintDialog::becameSettled);
+    QTimer::singleShot(0, this, settle);
     return;
   }
   if (mSource.isRaw) {
     strip.setMessage(tr("This document goes to the printer as it is, unseen"));
-    QTimer::singleShot(0, this, &PrintDialog::becameSettled);
+    QTimer::singleShot(0, this, settle);
     return;
   }
   strip.setMessage(tr("Opening %1...").arg(toQString(mSource.title)));

@@ -27,20 +27,26 @@ GeneratedOption option(const std::string& keyword, std::vector<OptionChoice> cho
   return {PpdOption{keyword, "Text of " + keyword, "", std::move(choices)}, marked};
 }
 
-class MoreOptionsPanelTest : public DialogTest {};
+class MoreOptionsPanelTest : public DialogTest {
+ protected:
+  std::set<std::string> keywordsOnceOpened() {
+    click(buttonWithText<QPushButton>("&More printer options"));
+    return keywordsShown(*dialog().findChild<MoreOptionsPanel*>());
+  }
+};
 
 TEST_F(MoreOptionsPanelTest, ListsExactlyWhatNoPanelTakesCareOf) {
   openQueue(samplePpd("tape-a"));
   const std::set<std::string> expected = {"ColorModel", "Resolution", "PrintDensity",
                                           "PrintSpeed", "Halftone",   "TapeMaterial"};
-  EXPECT_EQ(keywordsShown(*dialog().findChild<MoreOptionsPanel*>()), expected);
+  EXPECT_EQ(keywordsOnceOpened(), expected);
 }
 
 TEST_F(MoreOptionsPanelTest, WithoutAPanelEveryOptionButPaperIsListed) {
   openQueue(oddPpd("without-cut-options"));
   const std::set<std::string> expected = {"ColorModel", "Resolution", "PrintDensity", "PrintSpeed",
                                           "Halftone"};
-  EXPECT_EQ(keywordsShown(*dialog().findChild<MoreOptionsPanel*>()), expected);
+  EXPECT_EQ(keywordsOnceOpened(), expected);
 }
 
 TEST(MoreOptionsControlsTest, ASwitchBecomesACheckBoxInEitherOrder) {
@@ -54,6 +60,24 @@ TEST(MoreOptionsControlsTest, ASwitchBecomesACheckBoxInEitherOrder) {
   ASSERT_NE(second, nullptr);
   EXPECT_TRUE(first->isChecked());
   EXPECT_FALSE(second->isChecked());
+}
+
+TEST(MoreOptionsControlsTest, WhatIsHiddenHasNoControlsUntilItIsShownWithTheLastMarks) {
+  MoreOptionsPanel panel;
+  panel.hide();
+  const auto groups = [](const char* marked) {
+    return std::vector<GeneratedGroup>{
+        {"Group", {option("Edge", {{"Long", "Long"}, {"Short", "Short"}}, marked)}}};
+  };
+  panel.setGroups(groups("Long"));
+  panel.setMarks(groups("Short"));
+  EXPECT_EQ(panel.findChild<QComboBox*>(), nullptr);
+  panel.show();
+  ASSERT_NE(panel.findChild<QComboBox*>(), nullptr);
+  EXPECT_EQ(panel.findChild<QComboBox*>()->currentText(), QStringLiteral("Short"));
+  panel.hide();
+  panel.setGroups({});
+  EXPECT_EQ(panel.findChild<QComboBox*>(), nullptr);
 }
 
 TEST(MoreOptionsControlsTest, ReportsTheChoicesOwnKeyword) {

@@ -193,11 +193,16 @@ TEST_F(SettingsTest, ConflictsAreNamedAndSortedOutAtAClick) {
 
 TEST_F(SettingsTest, MoreOptionsOpenAtAClick) {
   openQueue(samplePpd("tape-a"));
-  QWidget* darkness = dialog().findChild<QWidget*>(QStringLiteral("PrintDensity"));
-  ASSERT_NE(darkness, nullptr);
-  EXPECT_FALSE(darkness->isVisible());
-  click(buttonWithText<QPushButton>("&More printer options"));
-  EXPECT_TRUE(darkness->isVisible());
+  auto* more = buttonWithText<QPushButton>("&More printer options");
+  const auto isOpen = [this] {
+    const auto* darkness = dialog().findChild<QWidget*>(QStringLiteral("PrintDensity"));
+    return darkness != nullptr && darkness->isVisible();
+  };
+  EXPECT_FALSE(isOpen());
+  click(more);
+  EXPECT_TRUE(isOpen());
+  click(more);
+  EXPECT_FALSE(isOpen());
 }
 
 TEST_F(SettingsTest, AChoiceAmongMoreOptionsIsSent) {
