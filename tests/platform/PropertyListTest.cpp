@@ -183,21 +183,22 @@ INSTANTIATE_TEST_SUITE_P(
         BadList{"UnknownElement", "<plist><colour/></plist>"},
         BadList{"UnknownEntity", "<plist><string>&cut;</string></plist>"},
         BadList{"OwnEntity",
-               "<!DOCTYPE plist [<!ENTITY a \"b\">]><plist><string>&a;</string></plist>"},
+                "<!DOCTYPE plist [<!ENTITY a \"b\">]><plist><string>&a;</string></plist>"},
         BadList{"EndlessEntity",
-               "<!DOCTYPE plist [<!ENTITY a \"&b;\"><!ENTITY b \"&a;\">]>"
-               "<plist><string>&a;</string></plist>"},
+                "<!DOCTYPE plist [<!ENTITY a \"&b;\"><!ENTITY b \"&a;\">]>"
+                "<plist><string>&a;</string></plist>"},
         BadList{"EntityOfAFile",
-               "<!DOCTYPE plist [<!ENTITY a SYSTEM \"file:///etc/hostname\">]>"
-               "<plist><string>&a;</string></plist>"},
+                "<!DOCTYPE plist [<!ENTITY a SYSTEM \"file:///etc/hostname\">]>"
+                "<plist><string>&a;</string></plist>"},
         BadList{"UnknownEncoding",
-               "<?xml version=\"1.0\" encoding=\"no-such\"?><plist><true/></plist>"},
-        BadList{"NotInTheDeclaredEncoding",
-               "<?xml version=\"1.0\" encoding=\"US-ASCII\"?><plist><string>\xE4</string></plist>"},
+                "<?xml version=\"1.0\" encoding=\"no-such\"?><plist><true/></plist>"},
+        BadList{
+            "NotInTheDeclaredEncoding",
+            "<?xml version=\"1.0\" encoding=\"US-ASCII\"?><plist><string>\xE4</string></plist>"},
         BadList{"CutUtf16", std::string("\xFF\xFE<\0p\0l\0\0\xDA\0\xDA", 12)},
         BadList{"NotInTheDeclaredEncodingLater",
-               "<?xml version=\"1.0\" encoding=\"UTF-16\"?><plist><string>" +
-                   repeated("s\xDA\xDA\xDA", 3000) + "</string></plist>"},
+                "<?xml version=\"1.0\" encoding=\"UTF-16\"?><plist><string>" +
+                    repeated("s\xDA\xDA\xDA", 3000) + "</string></plist>"},
         BadList{"NulReference", "<plist><string>a&#0;b</string></plist>"},
         BadList{"TwoValues", "<plist><true/><true/></plist>"},
         BadList{"CommentNotClosed", "<plist><true/></plist><!-- "},
