@@ -132,8 +132,8 @@ constexpr std::array kMeasures = std::to_array<Measure>({
 
 constexpr std::array kForeign = std::to_array<std::string_view>(
     {"booklet", "columns", "cpi", "crop-to-fit", "lpi", "number-up", "number-up-layout",
-     "page-border", "page-bottom", "page-left", "page-right", "page-top", "ppi", "prettyprint",
-     "scaling", "wrap"});
+     "page-border", "page-bottom", "page-label", "page-left", "page-right", "page-top", "ppi",
+     "prettyprint", "scaling", "wrap"});
 
 // The document that is sent tells its kind itself, only its chosen pages are in it, and no printer
 // takes it as it is.
@@ -141,7 +141,7 @@ constexpr std::array kSettled =
     std::to_array<std::string_view>({"document-format", "page-ranges", "raw"});
 
 // Whatever a queue or a user has as a default would act again.
-constexpr std::array<std::pair<const char*, const char*>, 11> kAsItIs = {
+constexpr std::array<std::pair<const char*, const char*>, 12> kAsItIs = {
     {{"print-scaling", "none"},
      {"page-ranges", "1-99999"},
      {"booklet", "false"},
@@ -152,7 +152,10 @@ constexpr std::array<std::pair<const char*, const char*>, 11> kAsItIs = {
      {"landscape", "false"},
      {"mirror", "false"},
      {"page-border", "none"},
+     {"page-label", ""},
      {"fit-to-page", "false"}}};
+
+constexpr char kSheets[] = "job-sheets";
 
 const Measure* measureNamed(std::string_view name) {
   const auto* found = std::ranges::find(kMeasures, name, &Measure::option);
@@ -235,6 +238,9 @@ OptionList withoutLayout(const OptionList& options) {
 OptionList forLaidOutDocument(const OptionList& options) {
   OptionList sent = withoutLayout(options);
   sent.insert(sent.end(), kAsItIs.begin(), kAsItIs.end());
+  // A queue's sheets before and behind a job would waste tape; who asks for them gets them.
+  if (std::ranges::find(options, kSheets, &OptionList::value_type::first) == options.end())
+    sent.emplace_back(kSheets, "none");
   return sent;
 }
 

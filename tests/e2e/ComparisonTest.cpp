@@ -188,12 +188,14 @@ TEST_P(EachPrinter, PrintsTextAsItIsShown) {
 // Whatever is saved for the queue and the user acts on other documents, and would act on this one.
 TEST_P(EachPrinter, SavedDefaultsDoNotLayTheDocumentOutAgain) {
   const std::string printer = GetParam();
-  const std::string hostile[] = {"orientation-requested", "number-up",   "page-border",
-                                 "print-scaling",         "page-ranges", "booklet"};
+  const std::string hostile[] = {
+      "orientation-requested", "number-up", "page-border", "print-scaling",
+      "page-ranges",           "booklet",   "page-label",  "job-sheets"};
   outputOf(
       "lpadmin -p " + printer +
       " -o orientation-requested-default=5 -o number-up-default=4 -o page-border-default=double"
-      " -o print-scaling-default=fill -o page-ranges-default=2 -o booklet-default=true");
+      " -o print-scaling-default=fill -o page-ranges-default=2 -o booklet-default=true"
+      " -o page-label-default=SECRET -o job-sheets-default=standard,none");
   outputOf("lpoptions -p " + printer +
            " -o number-up=2 -o page-border=single -o ppi=300 -o cpi=5 -o page-left=20");
   expectSame("pdf", "");

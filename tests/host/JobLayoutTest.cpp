@@ -108,8 +108,18 @@ TEST(JobLayoutTest, NothingThatWasSavedLaysTheDocumentOutAgain) {
                                {"landscape", "false"},
                                {"mirror", "false"},
                                {"page-border", "none"},
-                               {"fit-to-page", "false"}};
+                               {"page-label", ""},
+                               {"fit-to-page", "false"},
+                               {"job-sheets", "none"}};
   EXPECT_EQ(forLaidOutDocument(saved), expected);
+}
+
+TEST(JobLayout, SheetsAroundTheJobArePrintedForWhoAsksForThem) {
+  const OptionList sent = forLaidOutDocument({{"job-sheets", "standard,none"}});
+  EXPECT_EQ(
+      std::count(sent.begin(), sent.end(), OptionList::value_type("job-sheets", "standard,none")),
+      1);
+  EXPECT_EQ(std::count(sent.begin(), sent.end(), OptionList::value_type("job-sheets", "none")), 0);
 }
 
 }  // namespace
