@@ -667,7 +667,7 @@
     </message>
     <message>
         <source>the option %1 has control characters; nothing was printed</source>
-        <translation>Die Option %1 enthält Steuerzeichen; nichts wurde gedruckt</translation>
+        <translation>die Option %1 enthält Steuerzeichen; nichts wurde gedruckt</translation>
     </message>
 </context>
 <context>

@@ -667,7 +667,7 @@
     </message>
     <message>
         <source>the option %1 has control characters; nothing was printed</source>
-        <translation>La opción %1 contiene caracteres de control; no se imprimió nada</translation>
+        <translation>la opción %1 contiene caracteres de control; no se imprimió nada</translation>
     </message>
 </context>
 <context>

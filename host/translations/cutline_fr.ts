@@ -667,7 +667,7 @@
     </message>
     <message>
         <source>the option %1 has control characters; nothing was printed</source>
-        <translation>L’option %1 contient des caractères de contrôle ; rien n’a été imprimé</translation>
+        <translation>l’option %1 contient des caractères de contrôle ; rien n’a été imprimé</translation>
     </message>
 </context>
 <context>

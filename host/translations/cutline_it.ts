@@ -667,7 +667,7 @@
     </message>
     <message>
         <source>the option %1 has control characters; nothing was printed</source>
-        <translation>L’opzione %1 contiene caratteri di controllo; non è stato stampato nulla</translation>
+        <translation>l’opzione %1 contiene caratteri di controllo; non è stato stampato nulla</translation>
     </message>
 </context>
 <context>

@@ -667,7 +667,7 @@
     </message>
     <message>
         <source>the option %1 has control characters; nothing was printed</source>
-        <translation>De optie %1 bevat besturingstekens; er is niets afgedrukt</translation>
+        <translation>de optie %1 bevat besturingstekens; er is niets afgedrukt</translation>
     </message>
 </context>
 <context>

@@ -667,7 +667,7 @@
     </message>
     <message>
         <source>the option %1 has control characters; nothing was printed</source>
-        <translation>A opção %1 tem caracteres de controlo; nada foi impresso</translation>
+        <translation>a opção %1 tem caracteres de controlo; nada foi impresso</translation>
     </message>
 </context>
 <context>
