@@ -187,6 +187,8 @@ std::vector<OptionGroup> PpdFile::optionGroups() const {
 
 std::vector<Conflict> PpdFile::conflicts() const { return brokenConstraints(mPpd); }
 
+std::size_t PpdFile::constraintCount() const { return cutline::constraintCount(mPpd); }
+
 std::vector<PaperSize> PpdFile::paperSizes() const {
   std::vector<PaperSize> papers;
   for (const ppd_size_t& size : sizesOf(mPpd)) {

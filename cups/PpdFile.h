@@ -96,6 +96,8 @@ class PpdFile {
   // The constraints that the marks break now, in the PPD's order, each pair once; also where an
   // installable option is one of the two.
   std::vector<Conflict> conflicts() const;
+  // How many constraints conflicts() looks through.
+  std::size_t constraintCount() const;
 
   // The named sizes, without custom ones and without measures that no paper has.
   std::vector<PaperSize> paperSizes() const;

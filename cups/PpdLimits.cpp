@@ -40,15 +40,22 @@ constexpr std::array kLimits = std::to_array<Limit>({
 });
 constexpr std::string_view kParameterStart = "*ParamCustom";
 constexpr Limit kParameterLimit{kParameterStart, 2000, kParameters};
+// Of any kind: each takes its place among those before it.
+constexpr Limit kStatementLimit{"*", 100000, Phrase("cups", "statements")};
 
-using Counts = std::array<std::size_t, kLimits.size() + 1>;
+struct Counts {
+  std::array<std::size_t, kLimits.size()> limited{};
+  std::size_t parameters = 0;
+  std::size_t statements = 0;
+};
 
-// The parameters' keywords go on with the option's name; theirs is the last count.
+// The parameters' keywords go on with the option's name.
 void count(std::string_view line, Counts& counts) {
   const std::string_view keyword = line.substr(0, line.find_first_of(" \t:"));
   const auto* limit = std::ranges::find(kLimits, keyword, &Limit::keyword);
-  if (limit != kLimits.end()) ++counts[static_cast<std::size_t>(limit - kLimits.begin())];
-  if (keyword.starts_with(kParameterStart)) ++counts.back();
+  if (limit != kLimits.end()) ++counts.limited[static_cast<std::size_t>(limit - kLimits.begin())];
+  if (keyword.starts_with(kParameterStart)) ++counts.parameters;
+  if (keyword.starts_with(kStatementLimit.keyword)) ++counts.statements;
 }
 
 Error tooMany(const Sentence& name, const Limit& limit, std::size_t number) {
@@ -74,11 +81,14 @@ const ppd_size_t* sizeNamed(const ppd_file_t* ppd, const char* name) {
 }  // namespace
 
 std::optional<Error> tooMuchForLibcups(std::string_view contents, const Sentence& name) {
-  Counts counts{};
+  Counts counts;
   forEachPpdLine(contents, [&](std::string_view line, std::string_view) { count(line, counts); });
   for (std::size_t i = 0; i < kLimits.size(); ++i)
-    if (counts[i] > kLimits[i].most) return tooMany(name, kLimits[i], counts[i]);
-  if (counts.back() > kParameterLimit.most) return tooMany(name, kParameterLimit, counts.back());
+    if (counts.limited[i] > kLimits[i].most) return tooMany(name, kLimits[i], counts.limited[i]);
+  if (counts.parameters > kParameterLimit.most)
+    return tooMany(name, kParameterLimit, counts.parameters);
+  if (counts.statements > kStatementLimit.most)
+    return tooMany(name, kStatementLimit, counts.statements);
   return std::nullopt;
 }
 

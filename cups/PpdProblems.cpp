@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <set>
+#include <span>
 #include <sstream>
 #include <utility>
 
@@ -104,6 +105,10 @@ Constraint parsed(const char* text) {
   return terms;
 }
 
+bool isConstraint(const ppd_attr_t* attribute) {
+  return std::string_view(attribute->name) == "cupsUIConstraints" && attribute->value;
+}
+
 std::vector<Constraint> constraintsOf(const ppd_file_t* ppd) {
   std::vector<Constraint> constraints;
   for (int i = 0; ppd->consts && i < ppd->num_consts; ++i) {
@@ -113,8 +118,7 @@ std::vector<Constraint> constraintsOf(const ppd_file_t* ppd) {
   }
   for (int i = 0; ppd->attrs && i < ppd->num_attrs; ++i) {
     const ppd_attr_t* attribute = ppd->attrs[i];
-    const bool isConstraint = std::string_view(attribute->name) == "cupsUIConstraints";
-    if (isConstraint && attribute->value) constraints.push_back(parsed(attribute->value));
+    if (isConstraint(attribute)) constraints.push_back(parsed(attribute->value));
   }
   return constraints;
 }
@@ -157,6 +161,12 @@ std::vector<Conflict> brokenConstraints(ppd_file_s* ppd) {
     for (std::size_t i = 1; i < terms.size(); ++i) conflicts.add(terms.front(), terms[i]);
   }
   return conflicts.take();
+}
+
+std::size_t constraintCount(const ppd_file_s* ppd) {
+  const auto records = static_cast<std::size_t>(ppd->consts ? ppd->num_consts : 0);
+  const std::span attributes(ppd->attrs, static_cast<std::size_t>(ppd->attrs ? ppd->num_attrs : 0));
+  return records + static_cast<std::size_t>(std::ranges::count_if(attributes, isConstraint));
 }
 
 }  // namespace cutline

@@ -2,6 +2,7 @@
 // together.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,5 +20,8 @@ Error ppdProblem(const Sentence& name, std::string_view text);
 // The pairs of marked choices that some record of the PPD forbids, in the records' order, each
 // once.
 std::vector<Conflict> brokenConstraints(ppd_file_s* ppd);
+
+// How many records there are to look through for them.
+std::size_t constraintCount(const ppd_file_s* ppd);
 
 }  // namespace cutline

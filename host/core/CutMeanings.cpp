@@ -15,6 +15,8 @@ namespace {
 
 // No driver of ours to know has a tenth of it, and a hostile PPD must not take long.
 constexpr std::size_t kMostCombinations = 2000;
+// Constraints that are looked at, over all combinations.
+constexpr std::size_t kMostLooks = 200'000;
 constexpr std::size_t kMostYielding = 4;
 
 using Meant = std::pair<CutMeaning, unsigned>;  // with the labels of everyFew
@@ -76,10 +78,12 @@ class Search {
     std::optional<Reading> now = reading(mFilters);
     if (!now) return {};
     std::vector<std::size_t> choices(mOptions.size(), 0);
+    const std::size_t most =
+        std::clamp<std::size_t>(kMostLooks / (mPpd.constraintCount() + 1), 1, kMostCombinations);
     std::size_t tried = 0;
     do {
       consider(choices);
-    } while (++tried < kMostCombinations && advance(choices));
+    } while (++tried < most && advance(choices));
     return offersWith(now->meant);
   }
 

@@ -669,6 +669,10 @@
         <source>the option %1 has control characters; nothing was printed</source>
         <translation>die Option %1 enthält Steuerzeichen; nichts wurde gedruckt</translation>
     </message>
+    <message>
+        <source>statements</source>
+        <translation>Anweisungen</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

@@ -669,6 +669,10 @@
         <source>the option %1 has control characters; nothing was printed</source>
         <translation>la opción %1 contiene caracteres de control; no se imprimió nada</translation>
     </message>
+    <message>
+        <source>statements</source>
+        <translation>sentencias</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

@@ -669,6 +669,10 @@
         <source>the option %1 has control characters; nothing was printed</source>
         <translation>l’option %1 contient des caractères de contrôle ; rien n’a été imprimé</translation>
     </message>
+    <message>
+        <source>statements</source>
+        <translation>instructions</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

@@ -669,6 +669,10 @@
         <source>the option %1 has control characters; nothing was printed</source>
         <translation>l’opzione %1 contiene caratteri di controllo; non è stato stampato nulla</translation>
     </message>
+    <message>
+        <source>statements</source>
+        <translation>istruzioni</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

@@ -669,6 +669,10 @@
         <source>the option %1 has control characters; nothing was printed</source>
         <translation>オプション %1 に制御文字が含まれています。何も印刷されませんでした</translation>
     </message>
+    <message>
+        <source>statements</source>
+        <translation>文</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

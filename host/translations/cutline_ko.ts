@@ -669,6 +669,10 @@
         <source>the option %1 has control characters; nothing was printed</source>
         <translation>옵션 %1에 제어 문자가 있습니다. 아무것도 인쇄되지 않았습니다</translation>
     </message>
+    <message>
+        <source>statements</source>
+        <translation>문</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

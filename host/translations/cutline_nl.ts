@@ -669,6 +669,10 @@
         <source>the option %1 has control characters; nothing was printed</source>
         <translation>de optie %1 bevat besturingstekens; er is niets afgedrukt</translation>
     </message>
+    <message>
+        <source>statements</source>
+        <translation>opdrachten</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

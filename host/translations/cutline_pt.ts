@@ -669,6 +669,10 @@
         <source>the option %1 has control characters; nothing was printed</source>
         <translation>a opção %1 tem caracteres de controlo; nada foi impresso</translation>
     </message>
+    <message>
+        <source>statements</source>
+        <translation>instruções</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

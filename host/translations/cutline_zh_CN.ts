@@ -669,6 +669,10 @@
         <source>the option %1 has control characters; nothing was printed</source>
         <translation>选项 %1 含有控制字符；未打印任何内容</translation>
     </message>
+    <message>
+        <source>statements</source>
+        <translation>语句</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

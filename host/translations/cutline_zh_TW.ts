@@ -669,6 +669,10 @@
         <source>the option %1 has control characters; nothing was printed</source>
         <translation>選項 %1 含有控制字元；未列印任何內容</translation>
     </message>
+    <message>
+        <source>statements</source>
+        <translation>陳述式</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

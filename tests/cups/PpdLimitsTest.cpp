@@ -96,6 +96,9 @@ TEST_F(PpdLimitsTest, MoreThanLibcupsCanBearIsRefusedAtOnce) {
   expectRefused(with(groups), "groups of options, and at most 2000");
   expectRefused(with(sizes), "paper sizes, and at most 5000");
   expectRefused(with(constraints), "constraints, and at most 20000");
+  std::string statements;
+  for (int i = 0; i < 100000; ++i) statements += "*A" + std::to_string(i) + ": \"\"\n";
+  expectRefused(with(statements), "statements, and at most 100000");
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
 }
 
