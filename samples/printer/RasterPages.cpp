@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstring>
 #include <utility>
 
 #include "samples/printer/CommandStream.h"
@@ -18,7 +19,15 @@ constexpr unsigned kMiddle = 128;
 constexpr std::array<std::array<unsigned, 4>, 4> kPattern = {
     {{8, 136, 40, 168}, {200, 72, 232, 104}, {56, 184, 24, 152}, {248, 120, 216, 88}}};
 
-bool blackIsZero(cups_cspace_t space) { return space == CUPS_CSPACE_SW || space == CUPS_CSPACE_W; }
+// The library hands on whatever number stands in the stream, which its enumeration need not have.
+unsigned colorSpaceOf(const cups_page_header2_t& header) {
+  unsigned number = 0;
+  static_assert(sizeof number == sizeof header.cupsColorSpace);
+  std::memcpy(&number, &header.cupsColorSpace, sizeof number);
+  return number;
+}
+
+bool blackIsZero(unsigned space) { return space == CUPS_CSPACE_SW || space == CUPS_CSPACE_W; }
 
 // The side of a label in dots: the page's, or where the stream doesn't name it the print's.
 std::uint32_t sideOf(double points, unsigned dotsPerInch, unsigned printed) {
@@ -28,7 +37,9 @@ std::uint32_t sideOf(double points, unsigned dotsPerInch, unsigned printed) {
 }
 
 std::int64_t dotsIn(double points, unsigned dotsPerInch) {
-  return std::llround(points * dotsPerInch / kPointsPerInch);
+  const double dots = points * dotsPerInch / kPointsPerInch;
+  constexpr double kFarthest = kMaxSide;
+  return std::isfinite(dots) ? std::llround(std::clamp(dots, -kFarthest, kFarthest)) : 0;
 }
 
 }  // namespace
@@ -43,9 +54,9 @@ bool RasterPages::refuse(std::string problem) {
 }
 
 bool RasterPages::headerIsUsable() {
-  const bool grey =
-      mHeader.cupsBitsPerPixel == 8 && mHeader.cupsNumColors == 1 &&
-      (blackIsZero(mHeader.cupsColorSpace) || mHeader.cupsColorSpace == CUPS_CSPACE_K);
+  const unsigned space = colorSpaceOf(mHeader);
+  const bool grey = mHeader.cupsBitsPerPixel == 8 && mHeader.cupsNumColors == 1 &&
+                    (blackIsZero(space) || space == CUPS_CSPACE_K);
   if (!grey) return refuse("the page is not in 8 bit grey");
   if (dotsAcross() == 0 || dotsAlong() == 0 || std::max(dotsAcross(), dotsAlong()) > kMaxResolution)
     return refuse("the page's resolution is unknown");
@@ -88,7 +99,7 @@ void RasterPages::printRow(std::uint32_t y) {
 
 bool RasterPages::isInk(std::uint32_t x, std::uint32_t y) const {
   const unsigned value = mRow[x];
-  const unsigned light = blackIsZero(mHeader.cupsColorSpace) ? value : 255 - value;
+  const unsigned light = blackIsZero(colorSpaceOf(mHeader)) ? value : 255 - value;
   const auto& row = kPattern[y % kPattern.size()];
   return light < (mHalftone == Halftone::Sharp ? kMiddle : row[x % row.size()]);
 }
