@@ -156,11 +156,8 @@ Result<ComposedDocument> compose(const std::string& helperDirectory,
   if (!input) return input.error();
   Result<TemporaryFile> output = TemporaryFile::make();
   if (!output) return output.error();
-  const Result<TemporaryFolder> folder = TemporaryFolder::make();
-  if (!folder) return folder.error();
 
   HelperStart start{helperDirectory + "/" + kComposerName, input->get()};
-  start.temporaryFolder = folder->path();
   start.files.push_back(output->descriptor());
   for (const FileDescriptor& document : documents) start.files.push_back(document.get());
   const Result<HelperAnswer> asked = ask(std::move(start), stop, patience);

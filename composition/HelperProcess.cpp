@@ -8,7 +8,6 @@
 #include <cerrno>
 #include <csignal>
 #include <cstring>
-#include <string_view>
 #include <utility>
 
 #include "base/FileDescriptor.h"
@@ -17,7 +16,6 @@ namespace cutline {
 namespace {
 
 constexpr int kFirstFile = STDERR_FILENO + 1;
-constexpr std::string_view kTemporaryVariable = "TMPDIR=";
 
 // The sanitizers write what they find to standard error; otherwise a reader's own words there help
 // nobody.
@@ -89,31 +87,17 @@ Error cannotStart(const std::string& program, int reason) {
                   {program, std::string(std::strerror(reason))});
 }
 
-// This program's variables, with the folder as the only one for temporary files.
-std::vector<std::string> variables(const std::string& temporaryFolder) {
-  std::vector<std::string> result;
-  for (char** variable = ::environ; variable && *variable; ++variable)
-    if (!std::string_view(*variable).starts_with(kTemporaryVariable))
-      result.emplace_back(*variable);
-  if (!temporaryFolder.empty()) result.push_back(std::string(kTemporaryVariable) + temporaryFolder);
-  return result;
-}
-
 }  // namespace
 
 Result<HelperProcess> HelperProcess::start(const HelperStart& start) {
   SpawnPlan plan;
   if (!plan.passFiles(start)) return cannotStart(start.program, errno);
   plan.setSignals();
-  std::vector<std::string> texts = variables(start.temporaryFolder);
-  std::vector<char*> environment;
-  for (std::string& text : texts) environment.push_back(text.data());
-  environment.push_back(nullptr);
   std::string name = start.program;
   char* const arguments[] = {name.data(), nullptr};
   pid_t process = 0;
   const int problem = ::posix_spawn(&process, start.program.c_str(), plan.actions(),
-                                    plan.attributes(), arguments, environment.data());
+                                    plan.attributes(), arguments, ::environ);
   if (problem != 0) return cannotStart(start.program, problem);
   return HelperProcess(process);
 }

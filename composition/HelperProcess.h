@@ -11,11 +11,10 @@
 namespace cutline {
 
 struct HelperStart {
-  std::string program;               // its path
-  int input = -1;                    // becomes its standard input; borrowed, as the others are
-  int output = -1;                   // becomes its standard output
-  std::vector<int> files = {};       // become its descriptors 3, 4, ...; it gets no other
-  std::string temporaryFolder = {};  // where it may write, for what it runs; empty for nowhere
+  std::string program;          // its path
+  int input = -1;               // becomes its standard input; borrowed, as the others are
+  int output = -1;              // becomes its standard output
+  std::vector<int> files = {};  // become its descriptors 3, 4, ...; it gets no other
 };
 
 // Ended and waited for when this object goes.

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <cstdlib>
 #include <memory>
+#include <string_view>
 #include <utility>
 
 #include "base/Lists.h"
@@ -31,6 +33,9 @@ class DestinationArray {
   int mSize;
   cups_dest_t* mDests;
 };
+
+// What the server said last.
+bool isNotFound() { return cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND; }
 
 std::string valueOf(const cups_dest_t& dest, const char* name) {
   const char* value = cupsGetOption(name, dest.num_options, dest.options);
@@ -65,14 +70,44 @@ Destination destinationOf(const cups_dest_t& dest) {
   return destination;
 }
 
+struct DefaultVariable {
+  const char* name;
+  std::string_view nobodys;  // what programs of old set it to, whatever the printers are called
+};
+
+constexpr std::array kDefaultVariables =
+    std::to_array<DefaultVariable>({{"LPDEST", ""}, {"PRINTER", "lp"}});
+
+// A name for the default printer that counts before the server's, and where it stands.
+struct ChosenDefault {
+  DestinationName name;
+  std::string place;
+};
+
+// In the order of libcups, which asks on a connection of its own, that waits for minutes, where the
+// printer cannot be found.
+std::optional<ChosenDefault> chosenDefault() {
+  for (const DefaultVariable& variable : kDefaultVariables) {
+    const char* value = std::getenv(variable.name);
+    if (value && *value && value != variable.nobodys)
+      return ChosenDefault{DestinationName::parse(value), variable.name};
+  }
+  if (const auto saved = savedDefault()) return ChosenDefault{*saved, "lpoptions"};
+  return std::nullopt;
+}
+
+std::optional<DestinationName> defaultName(http_t* http) {
+  if (const auto chosen = chosenDefault()) return chosen->name;
+  const IppMessage answer = answerTo(http, newServerRequest(IPP_OP_CUPS_GET_DEFAULT));
+  const std::string name = ippText(answer.get(), "printer-name", IPP_TAG_NAME);
+  return name.empty() ? std::nullopt : std::optional<DestinationName>({name, std::nullopt});
+}
+
 // Works around libcups 2.4.2: cupsGetDests2 lists no default at all once the user's file of options
-// exists and names none; it still finds the server's default when it is asked for that alone.
+// exists and names none.
 void markDefault(http_t* http, std::vector<Destination>& list) {
-  cups_dest_t* dest = cupsGetNamedDest(http, nullptr, nullptr);
-  if (!dest) return;
-  const DestinationArray owner(1, dest);
-  const DestinationName name = destinationOf(*dest).name;
-  for (Destination& destination : list) destination.isDefault = destination.name == name;
+  const auto name = defaultName(http);
+  for (Destination& destination : list) destination.isDefault = name && destination.name == *name;
 }
 
 Result<std::vector<Destination>> listOn(http_t* http) {
@@ -80,8 +115,7 @@ Result<std::vector<Destination>> listOn(http_t* http) {
   const int count = cupsGetDests2(http, &dests);
   const DestinationArray array(count, dests);
   // A server without any queue answers "not found".
-  if (count == 0 && cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE &&
-      cupsLastError() != IPP_STATUS_ERROR_NOT_FOUND) {
+  if (count == 0 && cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE && !isNotFound()) {
     return serverError(Phrase("cups", "the printers cannot be listed"));
   }
   std::vector<Destination> list;
@@ -111,13 +145,11 @@ Error notFound(const std::string& printer) {
   return serverError({Phrase("cups", "no printer \"%1\""), {printer}});
 }
 
-Error noDefault(http_t* http) {
-  // libcups says so where an environment variable or a saved default names an unknown printer.
-  const std::string reason =
-      cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND ? cupsLastErrorString() : "";
+// With where an unknown printer is named.
+Error noDefault(http_t* http, const std::optional<ChosenDefault>& chosen) {
   const auto list = listOn(http);
   if (!list) return list.error();
-  if (reason.empty()) {
+  if (!chosen) {
     return Sentence(Phrase("cups",
                            "there is no default printer: name one with -d; the print server at "
                            "\"%1\": %2"),
@@ -126,7 +158,7 @@ Error noDefault(http_t* http) {
   return Sentence(Phrase("cups",
                          "there is no default printer (%1): name one with -d; the print server at "
                          "\"%2\": %3"),
-                  {reason, serverText(), knownPrinters(*list)});
+                  {chosen->place + '=' + chosen->name.text(), serverText(), knownPrinters(*list)});
 }
 
 Error unknownInstance(const DestinationName& name) {
@@ -176,25 +208,27 @@ std::optional<Destination> askForPrinter(http_t* http, const std::string& printe
   return destination;
 }
 
-Result<Destination> findNamed(http_t* http, const DestinationName& name) {
-  auto destination = askForPrinter(http, name.printer);
-  if (!destination && cupsLastError() != IPP_STATUS_ERROR_NOT_FOUND) return notFound(name.printer);
-  if (!destination) return unknownPrinter(http, name.printer);
-  if (!name.instance) return *destination;
+Result<Destination> withInstance(Destination destination, const DestinationName& name) {
+  if (!name.instance) return destination;
   if (!savedOptionsFor(name)) return unknownInstance(name);
-  destination->name.instance = spelledAsSaved(name).instance;
-  destination->savedOptions = savedOptionsFor(destination->name).value_or(OptionList{});
-  return *destination;
+  destination.name.instance = spelledAsSaved(name).instance;
+  destination.savedOptions = savedOptionsFor(destination.name).value_or(OptionList{});
+  return destination;
+}
+
+Result<Destination> findNamed(http_t* http, const DestinationName& name) {
+  const auto destination = askForPrinter(http, name.printer);
+  if (destination) return withInstance(*destination, name);
+  return isNotFound() ? unknownPrinter(http, name.printer) : notFound(name.printer);
 }
 
 Result<Destination> findDefault(http_t* http) {
-  cups_dest_t* dest = cupsGetNamedDest(http, nullptr, nullptr);
-  if (!dest && serverKeptSilent()) return serverError(Phrase("cups", "no default printer"));
-  if (!dest) return noDefault(http);
-  const DestinationArray owner(1, dest);
-  Destination destination = destinationOf(*dest);
-  destination.isDefault = true;
-  return destination;
+  const auto name = defaultName(http);
+  auto destination = name ? askForPrinter(http, name->printer) : std::nullopt;
+  if (!destination && isNotFound()) return noDefault(http, chosenDefault());
+  if (!destination) return serverError(Phrase("cups", "no default printer"));
+  destination->isDefault = true;
+  return withInstance(*destination, *name);
 }
 
 }  // namespace

@@ -121,7 +121,7 @@ DeviceFacts askDevice(const std::string& deviceURI) {
   const Connection http = connectTo(*address);
   if (http == nullptr) return {};
   std::atomic<bool> isOver = false;
-  const ServerDeadline deadline(httpGetFd(http.get()), kWhole, isOver);
+  const ServerDeadline deadline(http.get(), kWhole, isOver);
   const IppMessage question = questionFor(deviceURI);
   const IppMessage answer = ask(http.get(), *address, question.get());
   if (answer == nullptr) return {};

@@ -10,6 +10,7 @@
 #include "base/FileDescriptor.h"
 #include "cups/CupsOptions.h"
 #include "cups/CustomSize.h"
+#include "cups/IppMessage.h"
 #include "cups/PpdChoice.h"
 #include "cups/PpdContents.h"
 #include "cups/PpdLimits.h"
@@ -68,6 +69,13 @@ PaperSize paperOf(ppd_file_t* ppd, const ppd_size_t& size) {
   return paper;
 }
 
+bool hasPrinter(http_t* http, const std::string& printer) {
+  IppMessage request = newPrinterRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, printer);
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+               "printer-name");
+  return static_cast<bool>(answerTo(http, std::move(request)));
+}
+
 Error notFetched(http_t* http, const std::string& printer, http_status_t status) {
   if (serverKeptSilent()) return serverError({Phrase("cups", "no PPD of \"%1\""), {printer}});
   if (status == HTTP_STATUS_ERROR) {
@@ -75,14 +83,14 @@ Error notFetched(http_t* http, const std::string& printer, http_status_t status)
         Phrase("cups", "the connection to the print server at \"%1\" was lost: try again"),
         {serverText()});
   }
+  if (status == HTTP_STATUS_UNAUTHORIZED || status == HTTP_STATUS_FORBIDDEN)
+    return denied({Phrase("cups", "no PPD of \"%1\""), {printer}}, httpStatus(status));
   if (status != HTTP_STATUS_NOT_FOUND) {
     return Sentence(
         Phrase("cups", "the print server at \"%1\" does not hand out the PPD of \"%2\": %3"),
         {serverText(), printer, std::string(httpStatus(status))});
   }
-  cups_dest_t* dest = cupsGetNamedDest(http, printer.c_str(), nullptr);
-  cupsFreeDests(dest ? 1 : 0, dest);
-  if (!dest) {
+  if (!hasPrinter(http, printer)) {
     return Sentence(Phrase("cups", "the print server at \"%1\" has no printer \"%2\""),
                     {serverText(), printer});
   }

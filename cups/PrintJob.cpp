@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "base/Visible.h"
 #include "cups/CupsOptions.h"
 #include "cups/DocumentFile.h"
 #include "cups/IppMessage.h"
+#include "cups/SendingMark.h"
 #include "cups/ServerConnection.h"
 
 namespace cutline {
@@ -15,55 +17,115 @@ namespace cutline {
 namespace {
 
 constexpr std::size_t kBlockSize = 65536;
+// Who one is may be asked for only when the whole document is there.
+constexpr int kMostSendings = 3;
 
 // How the sending of a document ended.
-enum class Sending { done, givenUp, unreadable, refused, incomplete };
+enum class Sending { done, givenUp, unreadable, refused, broken, incomplete };
 
-// Sends the document's blocks; the library sends a request's body in chunks.
-Sending sendBlocks(http_t* http, DocumentFile& document, const SpoolProgress& progress) {
-  std::vector<char> block(kBlockSize);
+// A job that is to be, and how much of its document is on the way.
+struct Outgoing {
+  const PrintRequest& request;
+  const SpoolProgress& progress;
+  DocumentFile document;
+  std::string mark = newSendingMark();
   std::uint64_t sent = 0;
-  while (document.stream) {
-    document.stream.read(block.data(), static_cast<std::streamsize>(block.size()));
-    const auto count = static_cast<std::size_t>(document.stream.gcount());
-    if (count == 0) break;
-    if (cupsWriteRequestData(http, block.data(), count) != HTTP_STATUS_CONTINUE) {
-      return Sending::refused;
-    }
-    sent += count;
-    if (progress && !progress(sent, document.size)) return Sending::givenUp;
+  int jobId = 0;
+
+  // The server may have made the job of it, whether or not it said so.
+  bool isAllSent() const { return sent == document.size; }
+  bool goesOn() const { return !progress || progress(sent, document.size); }
+  std::string resource() const { return "/printers/" + request.destination.printer; }
+};
+
+// libcups makes the format of "raw" itself; a document that is sent raw has no other one.
+OptionList optionsWithFormat(const Outgoing& job) {
+  OptionList options = job.request.options;
+  const bool isRaw = std::ranges::any_of(options, [](const auto& o) { return o.first == "raw"; });
+  if (!isRaw) options.emplace_back("document-format", job.document.format);
+  return options;
+}
+
+// The names of files are bytes of any kind.
+std::string sendable(const std::string& name) { return isPlainLine(name) ? name : visible(name); }
+
+// The request that brings its document along: the server makes the job of all of it or not at all,
+// wherever this program or the way to the server ends.
+IppMessage printRequest(const Outgoing& job) {
+  IppMessage message = newPrinterRequest(IPP_OP_PRINT_JOB, job.request.destination.printer);
+  const auto add = [&](const char* name, const std::string& value) {
+    ippAddString(message.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, name, nullptr, value.c_str());
+  };
+  add("requesting-user-name", cupsUser());
+  add("job-name", sendable(job.request.title));
+  add("document-name", job.document.name);
+  const CupsOptions options(optionsWithFormat(job));
+  for (const ipp_tag_t group : {IPP_TAG_OPERATION, IPP_TAG_JOB})
+    cupsEncodeOptions2(message.get(), options.size(), options.data(), group);
+  addSendingMark(message.get(), job.mark);
+  cupsEncodeOptions2(message.get(), options.size(), options.data(), IPP_TAG_SUBSCRIPTION);
+  return message;
+}
+
+// No more than was promised, also where the file has grown since.
+Sending sendBlocks(http_t* http, Outgoing& job) {
+  std::vector<char> block(kBlockSize);
+  while (!job.isAllSent()) {
+    const std::uint64_t rest = std::min<std::uint64_t>(kBlockSize, job.document.size - job.sent);
+    job.document.stream.read(block.data(), static_cast<std::streamsize>(rest));
+    const auto count = static_cast<std::size_t>(job.document.stream.gcount());
+    if (count == 0) return Sending::unreadable;
+    if (cupsWriteRequestData(http, block.data(), count) != HTTP_STATUS_CONTINUE)
+      return Sending::broken;
+    job.sent += count;
+    if (!job.goesOn()) return Sending::givenUp;
   }
-  // Less than was promised: the file was cut or the medium failed while it was read.
-  return sent < document.size ? Sending::unreadable : Sending::done;
+  return Sending::done;
 }
 
-// Works around libcups 2.4.2: cupsFinishDocument answers with the status of an earlier request
-// where the connection breaks, so the answer itself is looked at.
-bool isTaken(http_t* http, const std::string& printer) {
-  const IppMessage answer(cupsGetResponse(http, ("/printers/" + printer).c_str()));
-  return answer && httpGetStatus(http) == HTTP_STATUS_OK &&
-         ippGetStatusCode(answer.get()) <= IPP_STATUS_OK_EVENTS_COMPLETE;
+// Works around libcups 2.4.2: where the connection breaks it tells the status of an earlier
+// request, so the answer itself is looked at.
+Sending takeAnswer(http_t* http, Outgoing& job) {
+  const IppMessage answer(cupsGetResponse(http, job.resource().c_str()));
+  if (!answer || httpGetStatus(http) != HTTP_STATUS_OK) return Sending::broken;
+  if (ippGetStatusCode(answer.get()) > IPP_STATUS_OK_EVENTS_COMPLETE) return Sending::refused;
+  job.jobId = ippNumber(answer.get(), "job-id").value_or(0);
+  return job.jobId > 0 ? Sending::done : Sending::broken;
 }
 
-Sending sendDocument(http_t* http, const char* printer, int jobId, DocumentFile& document,
-                     const SpoolProgress& progress) {
+// The length is told beforehand, so that the server knows a part from the whole.
+Sending sendOnce(ServerConnection& connection, Outgoing& job) {
+  const IppMessage message = printRequest(job);
+  job.sent = 0;
+  job.document.stream.clear();
+  job.document.stream.seekg(0);
   const http_status_t started =
-      cupsStartDocument(http, printer, jobId, document.name.c_str(), document.format.c_str(),
-                        /*last_document=*/1);
-  if (started != HTTP_STATUS_CONTINUE) return Sending::refused;
-  const Sending sending = sendBlocks(http, document, progress);
-  if (sending != Sending::done) return sending;
-  return isTaken(http, printer) ? Sending::done : Sending::refused;
+      cupsSendRequest(connection.get(), message.get(), job.resource().c_str(),
+                      ippLength(message.get()) + job.document.size);
+  if (started != HTTP_STATUS_CONTINUE) return Sending::broken;
+  connection.takeTime();
+  if (const Sending sending = sendBlocks(connection.get(), job); sending != Sending::done)
+    return sending;
+  connection.limitTime();
+  return takeAnswer(connection.get(), job);
+}
+
+Sending send(ServerConnection& connection, Outgoing& job) {
+  Sending sending = Sending::broken;
+  for (int tries = 0; tries < kMostSendings && sending == Sending::broken; ++tries) {
+    sending = sendOnce(connection, job);
+    if (httpGetStatus(connection.get()) != HTTP_STATUS_UNAUTHORIZED) break;
+  }
+  return sending;
 }
 
 // Asks the server what it has of the document. A server that does not tell, or has forgotten the
 // job already, is believed: it said that it has taken it.
-Sending arrived(const ServerOptions& server, const PrintRequest& request, int jobId,
-                std::uint64_t size) {
+Sending arrived(const ServerOptions& server, const Outgoing& job) {
   constexpr std::uint64_t kKilobyte = 1024;
-  const auto status = jobStatus(server, request.destination, jobId);
+  const auto status = jobStatus(server, job.request.destination, job.jobId);
   if (!status || !status->kilobytes) return Sending::done;
-  const bool isWhole = *status->kilobytes * kKilobyte >= size;
+  const bool isWhole = *status->kilobytes * kKilobyte >= job.document.size;
   return isWhole ? Sending::done : Sending::incomplete;
 }
 
@@ -80,20 +142,37 @@ Error whyNotSent(Sending sending, const PrintRequest& request) {
       return Sentence(
           Phrase("cups", "the document \"%1\" did not reach \"%2\" whole: print it again"),
           {request.path, request.destination.text()});
+    case Sending::refused:
+      return serverError({Phrase("cups", "\"%1\" takes no job"), {request.destination.text()}});
     default:
       return serverError({Phrase("cups", "the document \"%1\" could not be sent to \"%2\""),
                           {request.path, request.destination.text()}});
   }
 }
 
-// Takes a job back whose document did not arrive. The broken request's connection is closed by
-// then, so this is a new one; the first error is what the user hears, with what is left to do.
-Error takenBack(const ServerOptions& server, const PrintRequest& request, int jobId,
-                const Error& error) {
-  if (cancelJob(server, request.destination, jobId)) return error;
-  const std::string id = jobName(request.destination, jobId);
+// The first error is what the user hears, with what is left to do.
+Error takenBack(const ServerOptions& server, const Outgoing& job, const Error& error) {
+  if (cancelJob(server, job.request.destination, job.jobId)) return error;
+  const std::string id = jobName(job.request.destination, job.jobId);
   return Sentence(Phrase("cups", "%1; the job %2 may still be there: remove it with cancel %2"),
                   {error.sentence, id});
+}
+
+// A job that was given up, or whose answer got lost, may be there all the same. Printed once more
+// it would come out twice, so the server is asked.
+Result<int> settled(const ServerOptions& server, Outgoing& job, Sending sending,
+                    const Error& error) {
+  const auto found = jobWithMark(server, job.mark);
+  if (!found) {
+    return Error{Sentence(Phrase("cups",
+                                 "%1; it may have arrived all the same: look at the jobs of \"%2\" "
+                                 "before you print it again"),
+                          {error.sentence, job.request.destination.text()})};
+  }
+  if (!*found) return error;
+  job.jobId = **found;
+  if (sending == Sending::givenUp) return takenBack(server, job, error);
+  return job.jobId;
 }
 
 // Presets, drivers and other programs can say anything.
@@ -106,9 +185,6 @@ std::optional<Error> whyNotSendable(const OptionList& options) {
                   {bad->first});
 }
 
-// The names of files are bytes of any kind.
-std::string sendable(const std::string& name) { return isPlainLine(name) ? name : visible(name); }
-
 }  // namespace
 
 Result<int> submitJob(const ServerOptions& server, const PrintRequest& request,
@@ -117,25 +193,19 @@ Result<int> submitJob(const ServerOptions& server, const PrintRequest& request,
   auto document = DocumentFile::open(request.path);
   if (!document) return document.error();
   document->name = sendable(request.documentName.empty() ? document->name : request.documentName);
-  if (progress && !progress(0, document->size)) return givenUp();
+  Outgoing job{request, progress, std::move(*document)};
+  if (!job.goesOn()) return givenUp();
   auto connection = ServerConnection::open(server);
   if (!connection) return connection.error();
 
-  const char* printer = request.destination.printer.c_str();
-  const CupsOptions options(request.options);
-  const std::string title = sendable(request.title);
-  const int jobId =
-      cupsCreateJob(connection->get(), printer, title.c_str(), options.size(), options.data());
-  connection->takeTime();
-  if (jobId == 0)
-    return serverError({Phrase("cups", "\"%1\" takes no job"), {request.destination.text()}});
-
-  Sending sending = sendDocument(connection->get(), printer, jobId, *document, progress);
-  if (sending == Sending::done) sending = arrived(server, request, jobId, document->size);
-  if (sending == Sending::done) return jobId;
+  Sending sending = send(*connection, job);
+  if (sending == Sending::done) sending = arrived(server, job);
+  if (sending == Sending::done) return job.jobId;
   const Error error = whyNotSent(sending, request);
   connection = Error{};  // hangs up in the middle of the request, so the server drops it
-  return takenBack(server, request, jobId, error);
+  if (sending == Sending::incomplete) return takenBack(server, job, error);
+  if (sending == Sending::refused || !job.isAllSent()) return error;
+  return settled(server, job, sending, error);
 }
 
 Result<Done> cancelJob(const ServerOptions& server, const DestinationName& destination, int jobId) {

@@ -123,6 +123,15 @@ std::optional<OptionList> savedOptionsFor(const DestinationName& name) {
   return options;
 }
 
+std::optional<DestinationName> savedDefault() {
+  for (const std::string& path : {userOptionsPath(), administratorOptionsPath()}) {
+    const std::vector<SavedEntry> entries = readSavedEntries(path);
+    const auto found = std::ranges::find(entries, true, &SavedEntry::isDefault);
+    if (found != entries.end()) return found->name;
+  }
+  return std::nullopt;
+}
+
 DestinationName spelledAsSaved(const DestinationName& name) {
   for (const SavedEntry& entry : allEntries())
     if (isSame(entry.name, name)) return entry.name;

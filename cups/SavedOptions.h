@@ -27,6 +27,9 @@ std::string userOptionsPath();
 // user's. Nothing when neither file knows the name.
 std::optional<OptionList> savedOptionsFor(const DestinationName& name);
 
+// The default printer by these files; the user's counts before the administrator's.
+std::optional<DestinationName> savedDefault();
+
 // Whether libcups takes the two names for one: capitals do not count, of two instances that differ
 // in them alone it makes one with the options of both.
 bool isSame(const DestinationName& one, const DestinationName& other);

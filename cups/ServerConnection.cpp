@@ -2,6 +2,10 @@
 
 #include <sys/socket.h>
 
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <string_view>
 #include <utility>
 
 namespace cutline {
@@ -47,6 +51,25 @@ bool isInsistedOn(http_encryption_t encryption) {
   return encryption == HTTP_ENCRYPTION_REQUIRED || encryption == HTTP_ENCRYPTION_ALWAYS;
 }
 
+// Where the connection breaks libcups still tells of what went well before.
+bool isStale() { return cupsLastError() <= IPP_STATUS_OK_EVENTS_COMPLETE; }
+
+// Where there is no answer, or none that can be read, libcups gives the system's words for whatever
+// happened last in the program.
+bool isSystems(std::string_view reason) {
+  constexpr int kMost = 133;
+  for (int code = 0; code <= kMost; ++code)
+    if (reason == std::strerror(code)) return true;
+  return false;
+}
+
+bool isDenial(ipp_status_t status) {
+  constexpr std::array kDenials{IPP_STATUS_ERROR_FORBIDDEN, IPP_STATUS_ERROR_NOT_AUTHENTICATED,
+                                IPP_STATUS_ERROR_NOT_AUTHORIZED,
+                                IPP_STATUS_ERROR_CUPS_AUTHENTICATION_CANCELED};
+  return std::ranges::find(kDenials, status) != kDenials.end();
+}
+
 // Works around libcups 2.4.2: where a printer cannot be found it asks on a connection of its own,
 // which waits for minutes. So a server that keeps silent is to be known before.
 bool answers(http_t* http) {
@@ -60,11 +83,13 @@ bool answers(http_t* http) {
 
 }  // namespace
 
-ServerConnection::ServerConnection(http_t* http)
-    : mHttp(http),
-      mDeadline(
-          std::make_unique<ServerDeadline>(httpGetFd(http), 2 * kServerPatience, tKeptSilent)) {
+ServerConnection::ServerConnection(http_t* http) : mHttp(http) {
+  limitTime();
   httpSetTimeout(http, static_cast<double>(kServerPatience.count()), giveUp, nullptr);
+}
+
+void ServerConnection::limitTime() {
+  mDeadline = std::make_unique<ServerDeadline>(mHttp.get(), 2 * kServerPatience, tKeptSilent);
 }
 
 // The encryption comes second: a server that keeps silent there is noticed only with a limit, which
@@ -94,14 +119,20 @@ bool serverKeptSilent() noexcept { return tKeptSilent; }
 
 Error serverError(Sentence what) {
   if (tKeptSilent) return Sentence(Phrase("cups", "%1: %2"), {std::move(what), silence()});
-  // Where the connection breaks libcups still tells of what went well before.
-  const bool isStale = cupsLastError() <= IPP_STATUS_OK_EVENTS_COMPLETE;
   const char* reason = cupsLastErrorString();
-  if (isStale || !reason || !*reason)
+  if (isStale() || !reason || !*reason || isSystems(reason))
     return Sentence(Phrase("cups", "%1: the connection to the print server at \"%2\" was lost"),
                     {std::move(what), serverText()});
+  if (isDenial(cupsLastError())) return denied(std::move(what), reason);
   return Sentence(Phrase("cups", "%1: the print server at \"%2\" says: %3"),
                   {std::move(what), serverText(), std::string(reason)});
+}
+
+Error denied(Sentence what, const std::string& reason) {
+  return Sentence(Phrase("cups",
+                         "%1: the print server at \"%2\" does not let you (%3): ask whoever looks "
+                         "after it"),
+                  {std::move(what), serverText(), reason});
 }
 
 }  // namespace cutline

@@ -26,6 +26,8 @@ class ServerConnection {
   http_t* get() const noexcept { return mHttp.get(); }
   // A document takes as long as its way is: from now on the server need only not keep silent.
   void takeTime() noexcept { mDeadline->lift(); }
+  // From now on the time runs anew, for what comes back.
+  void limitTime();
 
  private:
   struct Close {
@@ -45,5 +47,7 @@ bool serverKeptSilent() noexcept;
 // The error of a call that failed on this thread: what was tried, and the server's own words, or
 // that it has none.
 Error serverError(Sentence what);
+// The same where the server refuses for who asks.
+Error denied(Sentence what, const std::string& reason);
 
 }  // namespace cutline

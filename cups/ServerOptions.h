@@ -17,4 +17,8 @@ struct ServerOptions {
   void applyToThisThread() const;
 };
 
+// From now on no call asks for a password at the terminal that the program was started from: behind
+// a window nobody looks there, and the call would wait for ever.
+void leaveTerminalAlone() noexcept;
+
 }  // namespace cutline

@@ -14,12 +14,14 @@
 #include <vector>
 
 #include "composition/CompositionErrors.h"
+#include "composition/helper/ScratchFolder.h"
 
 namespace cutline {
 namespace {
 
 constexpr char kInterpreter[] = "gs";
 constexpr int kMade = STDERR_FILENO + 1;
+constexpr int kTie = kMade + 1;
 constexpr int kNotFound = 127;
 constexpr int kNotConfined = 126;
 // What the interpreter says when its memory does not suffice.
@@ -27,7 +29,7 @@ constexpr std::string_view kNoMemory = "VMerror";
 
 // What the interpreter looks at of its surroundings.
 constexpr std::array kVariables =
-    std::to_array<const char*>({"PATH", "HOME", "TMPDIR", "LANG", "FONTCONFIG_FILE"});
+    std::to_array<const char*>({"PATH", "HOME", "LANG", "FONTCONFIG_FILE"});
 
 struct Command {
   std::vector<std::string> arguments;
@@ -41,10 +43,10 @@ struct Command {
   }
 };
 
-Command commandFor(int most) {
+Command commandFor(int most, const std::string& folder) {
   Command command{{kInterpreter, "-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-sDEVICE=pdfwrite",
                    "-sOutputFile=/proc/self/fd/" + std::to_string(kMade)},
-                  {}};
+                  {"TMPDIR=" + folder}};
   if (most > 0) command.arguments.push_back("-dLastPage=" + std::to_string(most));
   command.arguments.emplace_back("-");
   for (const char* name : kVariables)
@@ -53,16 +55,25 @@ Command commandFor(int most) {
   return command;
 }
 
-// In the child. Every descriptor but those four is closed when the interpreter starts.
-[[noreturn]] void become(Command& command, int document, int made, int log,
+// What the interpreter is given, as descriptors that stay open when it starts.
+struct Files {
+  int document;
+  int made;
+  int log;
+};
+
+// In the child. Every other descriptor is closed when the interpreter starts.
+[[noreturn]] void become(Command& command, const Files& files, const ScratchFolder& scratch,
                          const ProcessLimits& limits) {
   std::vector<char*> arguments = Command::pointers(command.arguments);
   std::vector<char*> environment = Command::pointers(command.environment);
-  const char* folder = std::getenv("TMPDIR");
-  const bool isSet = ::dup2(document, STDIN_FILENO) >= 0 && ::dup2(log, STDOUT_FILENO) >= 0 &&
-                     ::dup2(log, STDERR_FILENO) >= 0 && ::dup2(made, kMade) >= 0 &&
-                     ::close_range(kMade + 1, ~0U, 0) == 0;
-  if (!isSet || !confineInterpreter(limits, folder)) ::_exit(kNotConfined);
+  const FileDescriptor made(::fcntl(files.made, F_DUPFD, kTie + 1));
+  const FileDescriptor tie(::fcntl(scratch.tie(), F_DUPFD, kTie + 1));
+  const bool isSet = ::dup2(files.document, STDIN_FILENO) >= 0 &&
+                     ::dup2(files.log, STDOUT_FILENO) >= 0 &&
+                     ::dup2(files.log, STDERR_FILENO) >= 0 && ::dup2(made.get(), kMade) >= 0 &&
+                     ::dup2(tie.get(), kTie) >= 0 && ::close_range(kTie + 1, ~0U, 0) == 0;
+  if (!isSet || !confineInterpreter(limits, scratch.path().c_str())) ::_exit(kNotConfined);
   ::execvpe(kInterpreter, arguments.data(), environment.data());
   ::_exit(kNotFound);
 }
@@ -96,10 +107,13 @@ std::optional<PostScriptProblem> problemIn(int status, int log) {
 PostScriptResult pdfOfPostScript(int document, int most, const ProcessLimits& limits) {
   FileDescriptor made(::memfd_create("cutline-postscript", MFD_CLOEXEC));
   const FileDescriptor log(::memfd_create("cutline-log", MFD_CLOEXEC));
-  Command command = commandFor(most);
+  const Result<ScratchFolder> scratch = ScratchFolder::make();
+  if (!scratch)
+    return {FileDescriptor(), PostScriptProblem{DocumentProblem::broken, scratch.error().message}};
+  Command command = commandFor(most, scratch->path());
   const pid_t process = made && log ? ::fork() : -1;
   if (process < 0) return {FileDescriptor(), PostScriptProblem{}};
-  if (process == 0) become(command, document, made.get(), log.get(), limits);
+  if (process == 0) become(command, {document, made.get(), log.get()}, *scratch, limits);
   const int status = ended(process);
   return {std::move(made), problemIn(status, log.get())};
 }

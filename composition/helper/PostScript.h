@@ -23,8 +23,7 @@ inline constexpr ProcessLimits kInterpreterLimits = {
     .memory = 512U << 20U, .fileSize = 128U << 20U, .cpuSeconds = 30, .files = 64};
 
 // `document` is an open file, read from its beginning. Only the first `most` pages, or all for 0.
-// The interpreter keeps its own files below the directory for temporary files, and may write
-// nowhere else.
+// The interpreter keeps its own files in a folder that goes with it, and may write nowhere else.
 PostScriptResult pdfOfPostScript(int document, int most,
                                  const ProcessLimits& limits = kInterpreterLimits);
 

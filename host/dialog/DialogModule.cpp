@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "cups/ServerOptions.h"
 #include "host/core/BuildId.h"
 #include "host/core/Installation.h"
 #include "host/dialog/Appearance.h"
@@ -87,6 +88,7 @@ int runDialog(const DialogRequest& request) {
     return kExitError;
   }
   prepareEnvironment(line);
+  leaveTerminalAlone();
   const QString tables = toQString(request.installation->translationDirectory());
   const DialogLanguage language = chooseLanguage(preferredLocalizations(), tables);
   preferFontsFor(language);

@@ -673,6 +673,14 @@
         <source>statements</source>
         <translation>Anweisungen</translation>
     </message>
+    <message>
+        <source>%1; it may have arrived all the same: look at the jobs of &quot;%2&quot; before you print it again</source>
+        <translation>%1; es ist vielleicht trotzdem angekommen: sehen Sie nach den Aufträgen von „%2“, bevor Sie noch einmal drucken</translation>
+    </message>
+    <message>
+        <source>%1: the print server at &quot;%2&quot; does not let you (%3): ask whoever looks after it</source>
+        <translation>%1: der Druckserver auf „%2“ lässt Sie nicht (%3): fragen Sie, wer ihn betreut</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

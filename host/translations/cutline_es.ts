@@ -673,6 +673,14 @@
         <source>statements</source>
         <translation>sentencias</translation>
     </message>
+    <message>
+        <source>%1; it may have arrived all the same: look at the jobs of &quot;%2&quot; before you print it again</source>
+        <translation>%1; es posible que haya llegado de todos modos: mire los trabajos de «%2» antes de volver a imprimirlo</translation>
+    </message>
+    <message>
+        <source>%1: the print server at &quot;%2&quot; does not let you (%3): ask whoever looks after it</source>
+        <translation>%1: el servidor de impresión en «%2» no se lo permite (%3): pregunte a quien se encargue de él</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

@@ -673,6 +673,14 @@
         <source>statements</source>
         <translation>instructions</translation>
     </message>
+    <message>
+        <source>%1; it may have arrived all the same: look at the jobs of &quot;%2&quot; before you print it again</source>
+        <translation>%1 ; il est peut-être arrivé malgré tout : regardez les tâches de « %2 » avant de l’imprimer à nouveau</translation>
+    </message>
+    <message>
+        <source>%1: the print server at &quot;%2&quot; does not let you (%3): ask whoever looks after it</source>
+        <translation>%1 : le serveur d’impression « %2 » ne vous le permet pas (%3) : adressez-vous à la personne qui s’en occupe</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

@@ -673,6 +673,14 @@
         <source>statements</source>
         <translation>istruzioni</translation>
     </message>
+    <message>
+        <source>%1; it may have arrived all the same: look at the jobs of &quot;%2&quot; before you print it again</source>
+        <translation>%1; potrebbe essere arrivato comunque: controlli i lavori di «%2» prima di stamparlo di nuovo</translation>
+    </message>
+    <message>
+        <source>%1: the print server at &quot;%2&quot; does not let you (%3): ask whoever looks after it</source>
+        <translation>%1: il server di stampa «%2» non lo consente (%3): chiedere a chi se ne occupa</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

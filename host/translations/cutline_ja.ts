@@ -673,6 +673,14 @@
         <source>statements</source>
         <translation>文</translation>
     </message>
+    <message>
+        <source>%1; it may have arrived all the same: look at the jobs of &quot;%2&quot; before you print it again</source>
+        <translation>%1。それでも届いている可能性があります。もう一度印刷する前に「%2」のジョブを確認してください</translation>
+    </message>
+    <message>
+        <source>%1: the print server at &quot;%2&quot; does not let you (%3): ask whoever looks after it</source>
+        <translation>%1: プリントサーバー「%2」に許可されていません (%3)。管理している人に問い合わせてください</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

@@ -673,6 +673,14 @@
         <source>statements</source>
         <translation>문</translation>
     </message>
+    <message>
+        <source>%1; it may have arrived all the same: look at the jobs of &quot;%2&quot; before you print it again</source>
+        <translation>%1. 그래도 도착했을 수 있습니다. 다시 인쇄하기 전에 “%2”의 작업을 확인하십시오</translation>
+    </message>
+    <message>
+        <source>%1: the print server at &quot;%2&quot; does not let you (%3): ask whoever looks after it</source>
+        <translation>%1: 인쇄 서버 “%2”에서 허용하지 않습니다(%3). 관리하는 사람에게 문의하십시오</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

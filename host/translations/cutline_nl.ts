@@ -673,6 +673,14 @@
         <source>statements</source>
         <translation>opdrachten</translation>
     </message>
+    <message>
+        <source>%1; it may have arrived all the same: look at the jobs of &quot;%2&quot; before you print it again</source>
+        <translation>%1; het kan toch zijn aangekomen: bekijk de taken van ‘%2’ voordat u het opnieuw afdrukt</translation>
+    </message>
+    <message>
+        <source>%1: the print server at &quot;%2&quot; does not let you (%3): ask whoever looks after it</source>
+        <translation>%1: de afdrukserver op ‘%2’ staat het u niet toe (%3): vraag het wie hem beheert</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

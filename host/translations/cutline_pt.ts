@@ -673,6 +673,14 @@
         <source>statements</source>
         <translation>instruções</translation>
     </message>
+    <message>
+        <source>%1; it may have arrived all the same: look at the jobs of &quot;%2&quot; before you print it again</source>
+        <translation>%1; pode ter chegado mesmo assim: veja os trabalhos de “%2” antes de o imprimir de novo</translation>
+    </message>
+    <message>
+        <source>%1: the print server at &quot;%2&quot; does not let you (%3): ask whoever looks after it</source>
+        <translation>%1: o servidor de impressão em “%2” não lho permite (%3): pergunte a quem cuida dele</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

@@ -673,6 +673,14 @@
         <source>statements</source>
         <translation>语句</translation>
     </message>
+    <message>
+        <source>%1; it may have arrived all the same: look at the jobs of &quot;%2&quot; before you print it again</source>
+        <translation>%1；它可能仍已送达：再次打印之前，请查看“%2”的任务</translation>
+    </message>
+    <message>
+        <source>%1: the print server at &quot;%2&quot; does not let you (%3): ask whoever looks after it</source>
+        <translation>%1：打印服务器“%2”不允许您这样做（%3）：请询问管理它的人</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

@@ -673,6 +673,14 @@
         <source>statements</source>
         <translation>陳述式</translation>
     </message>
+    <message>
+        <source>%1; it may have arrived all the same: look at the jobs of &quot;%2&quot; before you print it again</source>
+        <translation>%1；它可能仍已送達：再次列印之前，請查看「%2」的工作</translation>
+    </message>
+    <message>
+        <source>%1: the print server at &quot;%2&quot; does not let you (%3): ask whoever looks after it</source>
+        <translation>%1：列印伺服器「%2」不允許您這樣做（%3）：請詢問管理它的人</translation>
+    </message>
 </context>
 <context>
     <name>cutline::ChoiceHints</name>

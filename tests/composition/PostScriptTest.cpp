@@ -2,12 +2,16 @@
 #include <poppler-document.h>
 #include <poppler-page.h>
 #include <sys/resource.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <chrono>
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
+#include <functional>
 #include <memory>
+#include <thread>
 
 #include "composition/helper/PostScript.h"
 #include "tests/composition/Children.h"
@@ -21,6 +25,13 @@ std::string bytesOf(int file) {
   std::string bytes(static_cast<std::size_t>(::lseek(file, 0, SEEK_END)), '\0');
   EXPECT_EQ(::pread(file, bytes.data(), bytes.size(), 0), static_cast<ssize_t>(bytes.size()));
   return bytes;
+}
+
+// Asks again and again, for ten seconds at most.
+bool comesTrue(const std::function<bool()>& condition) {
+  using namespace std::chrono_literals;
+  for (int i = 0; i < 1000 && !condition(); ++i) std::this_thread::sleep_for(10ms);
+  return condition();
 }
 
 class PostScript : public testing::Test {
@@ -131,6 +142,22 @@ TEST_F(PostScript, StartsNoProgram) {
   EXPECT_EQ(problemOf(interpret("(%pipe%touch " + made + ") (w) file closefile showpage")),
             DocumentProblem::damaged);
   EXPECT_TRUE(mFolder.isEmpty());
+}
+
+TEST_F(PostScript, LeavesNothingWhoeverIsKilled) {
+  for (const bool isWhole : {false, true}) {
+    const pid_t reader = ::fork();
+    if (reader == 0) {
+      if (isWhole) ::setpgid(0, 0);
+      interpret("{} loop");
+      ::_exit(0);
+    }
+    const auto hasFolder = [&] { return !mOwn.isEmpty(); };
+    ASSERT_TRUE(comesTrue(hasFolder));
+    ::kill(isWhole ? -reader : reader, SIGKILL);
+    ::waitpid(reader, nullptr, 0);
+    EXPECT_TRUE(comesTrue([&] { return !hasFolder(); })) << isWhole;
+  }
 }
 
 TEST_F(PostScript, AnInterpreterThatIsMissingIsNamed) {

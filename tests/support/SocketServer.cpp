@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <array>
 #include <csignal>
-#include <limits>
 #include <stdexcept>
 
 namespace cutline::test {
@@ -102,35 +101,44 @@ void answerWith(int client, const std::string& bytes) {
 
 namespace {
 
-void relayBoth(int client, const std::string& socket, std::size_t there, std::size_t back) {
+// Passes as much of it as may pass. No where that is not all, or the other end is gone.
+bool passSome(int to, const std::string& bytes, const MayPass& mayPass) {
+  const std::size_t count = mayPass(bytes.size());
+  return pass(to, bytes.substr(0, count)) && count == bytes.size();
+}
+
+MayPass upTo(std::size_t most) {
+  return [left = most](std::size_t count) mutable {
+    const std::size_t passed = std::min(left, count);
+    left -= passed;
+    return passed;
+  };
+}
+
+std::size_t everything(std::size_t count) { return count; }
+
+}  // namespace
+
+void relay(int client, const std::string& socket, const MayPass& there, const MayPass& back) {
   const FileDescriptor server = newSocket();
   const sockaddr_un address = addressOf(socket);
   if (::connect(server.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0)
     return;
   std::array<pollfd, 2> both{{{client, POLLIN, 0}, {server.get(), POLLIN, 0}}};
-  while (there > 0 && back > 0 && ::poll(both.data(), both.size(), -1) > 0) {
-    if (both[0].revents != 0) {
-      const std::string bytes = receive(client, std::min(there, kBlock));
-      if (!pass(server.get(), bytes)) return;
-      there -= bytes.size();
-    }
-    if (both[1].revents == 0) continue;
-    const std::string bytes = receive(server.get(), std::min(back, kBlock));
-    if (!pass(client, bytes)) return;
-    back -= bytes.size();
+  while (::poll(both.data(), both.size(), -1) > 0) {
+    if (both[0].revents != 0 && !passSome(server.get(), receive(client, kBlock), there)) return;
+    if (both[1].revents != 0 && !passSome(client, receive(server.get(), kBlock), back)) return;
   }
 }
 
-constexpr std::size_t kEndless = std::numeric_limits<std::size_t>::max();
-
-}  // namespace
+void relay(int client, const std::string& socket) { relay(client, socket, everything, everything); }
 
 void relay(int client, const std::string& socket, std::size_t most) {
-  relayBoth(client, socket, most, kEndless);
+  relay(client, socket, upTo(most), everything);
 }
 
 void relayBack(int client, const std::string& socket, std::size_t most) {
-  relayBoth(client, socket, kEndless, most);
+  relay(client, socket, everything, upTo(most));
 }
 
 }  // namespace cutline::test

@@ -42,10 +42,15 @@ void keepSilent(int client);
 // Says that it is ready when it is asked that; answers the next request, without a body, with these
 // bytes.
 void answerWith(int client, const std::string& bytes);
-// Passes everything on to the server at a socket, but hangs up on both when the client has sent
-// this many bytes.
+// How many of so many bytes may pass. Where that is not all, relay hangs up on both ends.
+using MayPass = std::function<std::size_t(std::size_t count)>;
+
+// Passes everything on between the client and the server at a socket, as far as it may.
+void relay(int client, const std::string& socket, const MayPass& there, const MayPass& back);
+void relay(int client, const std::string& socket);
+// Until the client has sent this many bytes.
 void relay(int client, const std::string& socket, std::size_t most);
-// The same, but when the server has sent this many.
+// Until the server has sent this many.
 void relayBack(int client, const std::string& socket, std::size_t most);
 
 }  // namespace cutline::test
