@@ -29,10 +29,10 @@ using namespace std::chrono_literals;
 int points() { return std::getenv("CUTLINE_LONG_TESTS") != nullptr ? 100 : 6; }
 
 // The program at printing, with the temporary folder that it is given.
-class Printing {
+class PrintingProgram {
  public:
-  Printing(const std::string& server, const std::string& temporary, const std::string& title,
-           const std::string& document) {
+  PrintingProgram(const std::string& server, const std::string& temporary, const std::string& title,
+                  const std::string& document) {
     std::vector<std::string> words = {"env",
                                       "CUPS_SERVER=" + server,
                                       "TMPDIR=" + temporary,
@@ -51,9 +51,9 @@ class Printing {
     if (::posix_spawnp(&process, "env", nullptr, nullptr, arguments.data(), environ) == 0)
       mProcess = process;
   }
-  ~Printing() { wait(); }
-  Printing(const Printing&) = delete;
-  Printing& operator=(const Printing&) = delete;
+  ~PrintingProgram() { wait(); }
+  PrintingProgram(const PrintingProgram&) = delete;
+  PrintingProgram& operator=(const PrintingProgram&) = delete;
 
   void kill() const {
     if (const pid_t process = mProcess; process > 0) ::kill(process, SIGKILL);
@@ -119,7 +119,7 @@ class DeadlyWay {
  public:
   explicit DeadlyWay(std::size_t most = 0) : mMost(most) {}
 
-  void setVictim(const Printing& victim) { mVictim = &victim; }
+  void setVictim(const PrintingProgram& victim) { mVictim = &victim; }
   std::string path() const { return mServer.path(); }
   std::size_t passed() const { return mPassed; }
 
@@ -134,7 +134,7 @@ class DeadlyWay {
 
   std::size_t mMost;
   std::atomic<std::size_t> mPassed = 0;
-  std::atomic<const Printing*> mVictim = nullptr;
+  std::atomic<const PrintingProgram*> mVictim = nullptr;
   SocketServer mServer{[this](int client) {
     const MayPass limit = [this](std::size_t count) { return mayPass(count); };
     relay(client, *server().options().server, limit, limit);
@@ -145,7 +145,7 @@ TEST_F(KilledProgram, LeavesOneWholeJobOrNoneWhereverOnTheWayItEnds) {
   std::size_t all = 0;
   {
     DeadlyWay free;
-    Printing(free.path(), mTemporary.path(), "free", labels()).wait();
+    PrintingProgram(free.path(), mTemporary.path(), "free", labels()).wait();
     ASSERT_EQ(jobsOf("free").whole, 1);
     all = free.passed();
   }
@@ -155,7 +155,7 @@ TEST_F(KilledProgram, LeavesOneWholeJobOrNoneWhereverOnTheWayItEnds) {
     const std::size_t most = all * static_cast<std::size_t>(i) / static_cast<std::size_t>(count);
     const std::string title = "killed after " + std::to_string(most) + " bytes";
     DeadlyWay way(most);
-    Printing printing(way.path(), mTemporary.path(), title, labels());
+    PrintingProgram printing(way.path(), mTemporary.path(), title, labels());
     way.setVictim(printing);
     printing.wait();
     jobs += expectOneWholeOrNone(title);
@@ -170,13 +170,13 @@ TEST_F(KilledProgram, LeavesOneWholeJobOrNoneWheneverItEnds) {
       "labels.ps", "%!PS\n1 1 40 { pop 5 5 moveto 40 40 lineto stroke showpage } for\n");
   const std::string server = *test::server().options().server;
   const auto start = steady_clock::now();
-  Printing(server, mTemporary.path(), "free", program).wait();
+  PrintingProgram(server, mTemporary.path(), "free", program).wait();
   const auto whole = steady_clock::now() - start;
   ASSERT_EQ(jobsOf("free").whole, 1);
   const int count = points();
   for (int i = 0; i < count; ++i) {
     const std::string title = "killed at " + std::to_string(i);
-    Printing printing(server, mTemporary.path(), title, program);
+    PrintingProgram printing(server, mTemporary.path(), title, program);
     std::this_thread::sleep_for(whole * i / count);
     printing.kill();
     printing.wait();
