@@ -7,17 +7,37 @@
 #include <QStyleOption>
 #include <array>
 
+#include "host/dialog/ControlDrawing.h"
+#include "host/dialog/NoticeView.h"
+
 namespace cutline {
 
 namespace {
 
 constexpr double kRadius = 2;
 constexpr int kLongList = 16;
+constexpr int kListMargins = 2;  // beside the text of a closed list
+constexpr int kBesideText = 10;  // more room on a button than Fusion leaves
 
-bool needsOutline(QStyle::PrimitiveElement element, const QStyleOption& option) {
-  if (!isDark(option.palette)) return false;
-  if (element == QStyle::PE_IndicatorCheckBox) return true;
-  return element == QStyle::PE_FrameLineEdit && !option.state.testFlag(QStyle::State_HasFocus);
+void drawFieldOutline(QPainter& painter, const QStyleOption& option) {
+  if (!isDark(option.palette) || option.state.testFlag(QStyle::State_HasFocus)) return;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(option.palette.color(QPalette::Mid));
+  painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+  painter.restore();
+}
+
+bool isFlat(const QStyleOption& option) {
+  const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+  return button != nullptr && (button->features & QStyleOptionButton::Flat) != 0;
+}
+
+const QStyleOptionSlider* asScrollBar(QStyle::ComplexControl control,
+                                      const QStyleOptionComplex* option) {
+  return control == QStyle::CC_ScrollBar ? qstyleoption_cast<const QStyleOptionSlider*>(option)
+                                         : nullptr;
 }
 
 }  // namespace
@@ -27,20 +47,105 @@ OutlinedStyle::OutlinedStyle() : QProxyStyle(QStyleFactory::create(QStringLitera
 int OutlinedStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                              QStyleHintReturn* answer) const {
   const auto* list = qobject_cast<const QComboBox*>(widget);
+  if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
   if (hint == SH_ComboBox_Popup && list != nullptr && list->count() > kLongList) return 0;
   return QProxyStyle::styleHint(hint, option, widget, answer);
 }
 
+QIcon OutlinedStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
+                                  const QWidget* widget) const {
+  constexpr int kMessageSign = 40;
+  switch (which) {
+    case SP_MessageBoxQuestion:
+    case SP_MessageBoxInformation:
+      return iconOf(Severity::info, kMessageSign);
+    case SP_MessageBoxWarning:
+      return iconOf(Severity::warning, kMessageSign);
+    case SP_MessageBoxCritical:
+      return iconOf(Severity::error, kMessageSign);
+    default:
+      return QProxyStyle::standardIcon(which, option, widget);
+  }
+}
+
+int OutlinedStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                               const QWidget* widget) const {
+  if (metric == PM_ScrollBarExtent) return kScrollBarExtent;
+  return QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+QSize OutlinedStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
+                                      const QSize& size, const QWidget* widget) const {
+  const QSize found = QProxyStyle::sizeFromContents(type, option, size, widget);
+  const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+  const bool hasText = type == CT_PushButton && button != nullptr && !button->text.isEmpty();
+  return hasText && !isFlat(*button) ? found + QSize(kBesideText, 0) : found;
+}
+
+QRect OutlinedStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                                    SubControl part, const QWidget* widget) const {
+  const QStyleOptionSlider* const bar = asScrollBar(control, option);
+  if (bar == nullptr) return QProxyStyle::subControlRect(control, option, part, widget);
+  const QRect handle = scrollHandle(*bar);
+  const bool lies = bar->orientation == Qt::Horizontal;
+  QRect before = bar->rect;
+  QRect behind = bar->rect;
+  lies ? before.setRight(handle.left() - 1) : before.setBottom(handle.top() - 1);
+  lies ? behind.setLeft(handle.right() + 1) : behind.setTop(handle.bottom() + 1);
+  switch (part) {
+    case SC_ScrollBarSlider:
+      return handle;
+    case SC_ScrollBarSubPage:
+      return before;
+    case SC_ScrollBarAddPage:
+      return behind;
+    case SC_ScrollBarGroove:
+      return bar->rect;
+    default:
+      return {};
+  }
+}
+
+void OutlinedStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                       QPainter* painter, const QWidget* widget) const {
+  if (const QStyleOptionSlider* const bar = asScrollBar(control, option))
+    return drawScrollBar(*painter, *bar);
+  const auto* list = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+  if (control == CC_ComboBox && list != nullptr && !list->editable) {
+    const QRect arrow = subControlRect(CC_ComboBox, list, SC_ComboBoxArrow, widget);
+    return drawClosedList(*painter, *list, arrow);
+  }
+  QProxyStyle::drawComplexControl(control, option, painter, widget);
+  if (control == CC_SpinBox) drawFieldOutline(*painter, *option);
+}
+
+// What is written on the accent is in the colour for it, and a choice that is longer than its list
+// ends in dots.
+void OutlinedStyle::drawControl(ControlElement element, const QStyleOption* option,
+                                QPainter* painter, const QWidget* widget) const {
+  const auto* list = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+  if (element == CE_ComboBoxLabel && list != nullptr && list->currentIcon.isNull()) {
+    QStyleOptionComboBox elided(*list);
+    const QRect room = subControlRect(CC_ComboBox, list, SC_ComboBoxEditField, widget);
+    elided.currentText = list->fontMetrics.elidedText(list->currentText, Qt::ElideRight,
+                                                      room.width() - kListMargins);
+    return QProxyStyle::drawControl(element, &elided, painter, widget);
+  }
+  const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+  if (element != CE_PushButtonLabel || button == nullptr || !isFilled(*button))
+    return QProxyStyle::drawControl(element, option, painter, widget);
+  QStyleOptionButton onAccent(*button);
+  onAccent.palette.setColor(QPalette::ButtonText, button->palette.color(QPalette::HighlightedText));
+  QProxyStyle::drawControl(element, &onAccent, painter, widget);
+}
+
 void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                   QPainter* painter, const QWidget* widget) const {
+  if (element == PE_IndicatorCheckBox) return drawCheckMark(*painter, *option);
+  if (element == PE_PanelButtonCommand)
+    return isFlat(*option) ? drawFlatButton(*painter, *option) : drawButtonPanel(*painter, *option);
   QProxyStyle::drawPrimitive(element, option, painter, widget);
-  if (!needsOutline(element, *option)) return;
-  painter->save();
-  painter->setRenderHint(QPainter::Antialiasing);
-  painter->setBrush(Qt::NoBrush);
-  painter->setPen(option->palette.color(QPalette::Mid));
-  painter->drawRoundedRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
-  painter->restore();
+  if (element == PE_FrameLineEdit) drawFieldOutline(*painter, *option);
 }
 
 namespace {

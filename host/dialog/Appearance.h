@@ -18,14 +18,28 @@ void applyStyle();
 // dark; light otherwise.
 void applyAppearance(bool dark);
 
-// Fusion with outlines that can be seen on dark windows. Those of Qt 6.4.2 are darker than the
-// window: check boxes and fields have no edge there.
+// Fusion with buttons, boxes, lists and scroll bars of our own (ControlDrawing.h), and with
+// outlines of fields that can be seen on dark windows: those of Qt 6.4.2 are darker than the
+// window.
 class OutlinedStyle : public QProxyStyle {
   Q_OBJECT
 
  public:
   OutlinedStyle();
 
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override;
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                          QPainter* painter, const QWidget* widget) const override;
+  QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                       const QWidget* widget) const override;
+  // Messages have the signs of notices.
+  QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
+                     const QWidget* widget) const override;
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override;
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                         const QWidget* widget) const override;
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
   // Long lists open with a scroll bar, where Fusion would cover the screen with them.

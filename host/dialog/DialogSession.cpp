@@ -101,7 +101,7 @@ namespace {
 
 // A server that takes longer is waited for with the dialog on the screen.
 constexpr int kServerPatienceMilliseconds = 300;
-constexpr QSize kWindowSize{1120, 720};
+constexpr QSize kWindowSize{1120, 780};
 constexpr int kScreenMargin = 40;
 constexpr int kIconSides[] = {16, 24, 32, 48, 128, 256};
 

@@ -100,6 +100,7 @@ void HistoryBar::restore(const Settings& settings) {
 void HistoryBar::refresh() {
   mUndo->setEnabled(mHistory.canUndo());
   mRedo->setEnabled(mHistory.canRedo());
+  mReset->setEnabled(mModel.isOpen());
 }
 
 }  // namespace cutline

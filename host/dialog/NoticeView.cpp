@@ -58,6 +58,21 @@ constexpr auto kSigns = std::to_array<Sign>({
     {0xffc8342b, false, [](QPainter& painter) { drawExclamation(painter, 4.4); }},
 });
 
+void drawSign(QPainter& painter, Severity severity, const QRect& place) {
+  const Sign& sign = kSigns[static_cast<std::size_t>(severity)];
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.scale(place.width() / kIconSide, place.height() / kIconSide);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(sign.colour));
+  if (sign.isTriangle) {
+    drawTriangle(painter);
+  } else {
+    painter.drawEllipse(QPointF(8, 8), 7.2, 7.2);
+  }
+  painter.setPen(QPen(Qt::white, 1.9, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  sign.draw(painter);
+}
+
 }  // namespace
 
 StatusIcon::StatusIcon(Severity severity, QWidget* parent) : QWidget(parent), mSeverity(severity) {
@@ -75,19 +90,19 @@ QSize StatusIcon::sizeHint() const {
 }
 
 void StatusIcon::paintEvent(QPaintEvent* /*event*/) {
-  const Sign& sign = kSigns[static_cast<std::size_t>(mSeverity)];
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.scale(width() / kIconSide, height() / kIconSide);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(sign.colour));
-  if (sign.isTriangle) {
-    drawTriangle(painter);
-  } else {
-    painter.drawEllipse(QPointF(8, 8), 7.2, 7.2);
-  }
-  painter.setPen(QPen(Qt::white, 1.9, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  sign.draw(painter);
+  drawSign(painter, mSeverity, rect());
+}
+
+QIcon iconOf(Severity severity, int side) {
+  constexpr int kSharp = 2;
+  QPixmap picture(QSize(side, side) * kSharp);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  drawSign(painter, severity, picture.rect());
+  painter.end();
+  picture.setDevicePixelRatio(kSharp);
+  return picture;
 }
 
 namespace {
@@ -111,6 +126,14 @@ bool readTheSame(const Notice& one, const Notice& other) {
          std::ranges::equal(one.remedies, other.remedies, [](const Remedy& a, const Remedy& b) {
            return a.title == b.title && a.hint == b.hint;
          });
+}
+
+// While a job is on its way the buttons rest, but what it waits for is to be read.
+void keepReadable(QLabel& text) {
+  QPalette colours = text.palette();
+  colours.setColor(QPalette::Disabled, QPalette::WindowText,
+                   colours.color(QPalette::Active, QPalette::WindowText));
+  text.setPalette(colours);
 }
 
 void emptyLayout(QLayout& layout) {
@@ -190,6 +213,7 @@ QWidget* NoticeView::makeRow(NoticeTopic topic, std::size_t place) {
   auto* text = new QLabel(notice.line, row);
   text->setTextFormat(Qt::PlainText);
   text->setWordWrap(true);
+  keepReadable(*text);
   layout->addWidget(text, 1);
   for (std::size_t remedy = 0; remedy < notice.remedies.size(); ++remedy) {
     layout->addWidget(makeButton(topic, place, remedy, row), 0, Qt::AlignTop);

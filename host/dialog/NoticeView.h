@@ -1,6 +1,7 @@
 // What the user should know before printing, and the signs that say how serious it is.
 #pragma once
 
+#include <QIcon>
 #include <QString>
 #include <QStringList>
 #include <QWidget>
@@ -34,6 +35,9 @@ class StatusIcon : public QWidget {
  private:
   Severity mSeverity;
 };
+
+// The same sign for lists and messages; `side` is its width and height in points.
+QIcon iconOf(Severity severity, int side);
 
 // Where notices come from, in the order in which they are shown. Each has its own lines.
 enum class NoticeTopic {

@@ -4,6 +4,7 @@
 #include <initializer_list>
 
 #include "host/core/CommandLine.h"
+#include "host/dialog/CuttingForm.h"
 #include "host/dialog/DialogLanguage.h"
 #include "host/dialog/JobForm.h"
 #include "host/dialog/LayoutForm.h"
@@ -67,6 +68,8 @@ void PrintDialog::showWaiting(const QString& text) {
 void PrintDialog::showFailure(const QString& reason) {
   mExitStatus = kExitError;
   showWaiting(tr("No printer"));
+  mCuttingForm->hide();
+  mSummaryButton->hide();
   mStripPane->strip().setMessage({});
   mNotices->setNotice(NoticeTopic::failure, reason);
   mSettings->setEnabled(true);

@@ -35,17 +35,6 @@ class StateDelegate final : public QStyledItemDelegate {
   }
 };
 
-QIcon iconOf(Severity severity) {
-  StatusIcon sign(severity);
-  sign.resize(sign.sizeHint());
-  constexpr qreal kSharp = 2;
-  QPixmap picture(sign.size() * kSharp);
-  picture.setDevicePixelRatio(kSharp);
-  picture.fill(Qt::transparent);
-  sign.render(&picture, {}, {}, QWidget::DrawChildren);
-  return picture;
-}
-
 // What there is to choose from, in the order in which it is listed.
 std::vector<Destination> listable(std::vector<Destination> printers) {
   std::erase_if(printers, [](const Destination& each) { return each.name.instance.has_value(); });
@@ -112,7 +101,8 @@ void PrinterBar::showStateOf(const Destination& printer) {
   mPrinters->setItemData(index, state, kStateRole);
   mPrinters->setItemData(index, titleOf(printer) + QStringLiteral(", ") + state,
                          Qt::AccessibleTextRole);
-  mPrinters->setItemData(index, iconOf(severityOfState(printer)), kPrinterIconRole);
+  mPrinters->setItemData(index, iconOf(severityOfState(printer), fontMetrics().height()),
+                         kPrinterIconRole);
 }
 
 void PrinterBar::setPrinters(const std::vector<Destination>& printers) {
@@ -124,6 +114,8 @@ void PrinterBar::setPrinters(const std::vector<Destination>& printers) {
   const QString current = mPrinters->currentData().toString();
   mPrinters->clear();
   for (const Destination& printer : listed) addPrinter(printer);
+  // The list's window was made for a few, and would leave the bar out.
+  mPrinters->view()->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   mPrinters->setCurrentIndex(mPrinters->findData(current));
 }
 
@@ -141,6 +133,7 @@ void PrinterBar::setCurrent(const Destination& printer) {
 void PrinterBar::setPpdFile(const QString& name) {
   mPrinters->clear();
   mPrinters->addItem(name);
+  mPrinters->setCurrentIndex(0);
   mPrinters->setEnabled(false);
   showState(Severity::info, tr("PPD file, no printer"));
 }

@@ -90,6 +90,7 @@ void StripPane::refresh() {
   mNext->setEnabled(mStrip->currentLabel() < mStrip->labelCount());
   mZoomOut->setEnabled(mStrip->canZoomOut());
   mZoomIn->setEnabled(mStrip->canZoomIn());
+  mFit->setEnabled(mStrip->canZoomIn() || mStrip->canZoomOut());
 }
 
 void StripPane::showPrevious() { mStrip->setCurrentLabel(mStrip->currentLabel() - 1); }

@@ -13,6 +13,7 @@
 #include <set>
 
 #include "host/dialog/LabelAsSeen.h"
+#include "host/dialog/StripColours.h"
 #include "host/dialog/StripRuler.h"
 #include "qt/accessibility.h"
 
@@ -51,6 +52,16 @@ StripView::StripView(QWidget* parent) : QAbstractScrollArea(parent) {
   setAccessibleName(tr("Preview of the labels"));
   horizontalScrollBar()->setFocusPolicy(Qt::NoFocus);
   verticalScrollBar()->setFocusPolicy(Qt::NoFocus);
+  colourBars();
+}
+
+// They belong to the desk that the strip lies on.
+void StripView::colourBars() {
+  for (QScrollBar* bar : {horizontalScrollBar(), verticalScrollBar()}) {
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, StripColours::of(colours).desk);
+    bar->setPalette(colours);
+  }
 }
 
 QSize StripView::sizeHint() const { return kPreferredView; }
@@ -189,10 +200,10 @@ void StripView::showCurrent() {
 }
 
 bool StripView::canZoomIn() const noexcept {
-  return !mZoom.isLarge && mZoom.factor * kZoomStep <= kMostZoom;
+  return mContent && !mZoom.isLarge && mZoom.factor * kZoomStep <= kMostZoom;
 }
 bool StripView::canZoomOut() const noexcept {
-  return mZoom.isLarge || mZoom.factor / kZoomStep >= kLeastZoom;
+  return mContent && (mZoom.isLarge || mZoom.factor / kZoomStep >= kLeastZoom);
 }
 
 void StripView::zoomIn() {
@@ -234,6 +245,7 @@ void StripView::resizeEvent(QResizeEvent* event) {
 void StripView::changeEvent(QEvent* event) {
   QAbstractScrollArea::changeEvent(event);
   if (event->type() == QEvent::FontChange) layOut();
+  if (event->type() == QEvent::PaletteChange) colourBars();
 }
 
 void StripView::scrollContentsBy(int /*dx*/, int /*dy*/) {

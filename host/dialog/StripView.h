@@ -83,6 +83,7 @@ class StripView : public QAbstractScrollArea {
   void layOut();
   void setZoom(StripZoom zoom);
   void setBars();
+  void colourBars();
   void scrollTo(QPointF corner);
   void showCurrent();
   void wantPages();

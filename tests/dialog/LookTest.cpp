@@ -2,12 +2,19 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QImage>
+#include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QStyleOptionComboBox>
 #include <QTest>
 #include <cstdlib>
 
 #include "host/dialog/Appearance.h"
+#include "host/dialog/ControlDrawing.h"
+#include "host/dialog/NoticeView.h"
 #include "tests/dialog/DialogTest.h"
 #include "tests/dialog/FakeDocument.h"
 #include "tests/dialog/FontSize.h"
@@ -143,6 +150,82 @@ TEST_F(AppearanceTest, TextStandsOutInBothAppearances) {
       EXPECT_GT(contrast, 110) << text;
     }
   }
+}
+
+// How many dots of a widget's picture have this colour.
+int dotsOf(QWidget& widget, const QColor& colour) {
+  const QImage picture = widget.grab().toImage();
+  int dots = 0;
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x)
+      dots += distance(picture.pixel(x, y), colour.rgb()) < 6 ? 1 : 0;
+  return dots;
+}
+
+TEST_F(AppearanceTest, PrintHasTheAccentWhileItCanBePressed) {
+  openQueue(samplePpd("tape-a"));
+  const QColor accent = QApplication::palette().color(QPalette::Highlight);
+  const int area = printButton()->width() * printButton()->height();
+  EXPECT_GT(dotsOf(*printButton(), accent), area / 2);
+  EXPECT_EQ(dotsOf(*buttonWithText<QPushButton>("Cancel"), accent), 0);
+  printButton()->setEnabled(false);
+  EXPECT_EQ(dotsOf(*printButton(), accent), 0);
+}
+
+TEST_F(AppearanceTest, ATickedBoxHasTheAccent) {
+  QCheckBox tick(QStringLiteral("Collate"));
+  const QColor accent = tick.palette().color(QPalette::Highlight);
+  EXPECT_EQ(dotsOf(tick, accent), 0);
+  tick.setChecked(true);
+  EXPECT_GT(dotsOf(tick, accent), 50);
+}
+
+TEST_F(AppearanceTest, AChoiceThatIsLongerThanItsListEndsInDots) {
+  QComboBox list;
+  list.resize(90, 26);
+  list.addItem(QStringLiteral("A choice of many words"));
+  const QImage cut = list.grab().toImage();
+  QStyleOptionComboBox option;
+  option.initFrom(&list);
+  const QRect room = list.style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                  QStyle::SC_ComboBoxEditField, &list);
+  constexpr int kMargins = 2;
+  list.setItemText(0, list.fontMetrics().elidedText(list.currentText(), Qt::ElideRight,
+                                                    room.width() - kMargins));
+  EXPECT_TRUE(list.currentText().endsWith(QChar(0x2026)));
+  EXPECT_EQ(list.grab().toImage(), cut);
+}
+
+TEST_F(AppearanceTest, TheHandleOfAScrollBarReachesBothEnds) {
+  QScrollBar bar(Qt::Vertical);
+  bar.resize(kScrollBarExtent, 200);
+  bar.setRange(0, 1000);
+  bar.setPageStep(100);
+  const auto handle = [&bar] {
+    QStyleOptionSlider option;
+    option.initFrom(&bar);
+    option.orientation = Qt::Vertical;
+    option.maximum = bar.maximum();
+    option.pageStep = bar.pageStep();
+    option.sliderPosition = bar.value();
+    return bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider,
+                                       &bar);
+  };
+  EXPECT_EQ(handle().top(), 0);
+  QTest::mousePress(&bar, Qt::LeftButton, {}, handle().center());
+  QTest::mouseMove(&bar, QPoint(kScrollBarExtent / 2, 199));
+  QTest::mouseRelease(&bar, Qt::LeftButton, {}, QPoint(kScrollBarExtent / 2, 199));
+  EXPECT_EQ(bar.value(), bar.maximum());
+  EXPECT_EQ(handle().bottom(), 199);
+}
+
+TEST_F(AppearanceTest, NoticesStayReadableWhileAJobIsOnItsWay) {
+  NoticeView notices;
+  notices.setNotice(NoticeTopic::printer, QStringLiteral("The printer is paused"));
+  notices.setEnabled(false);
+  const auto* text = notices.findChild<QLabel*>();
+  EXPECT_EQ(text->palette().color(QPalette::Disabled, QPalette::WindowText),
+            lightPalette().color(QPalette::Active, QPalette::WindowText));
 }
 
 TEST_F(AppearanceTest, ThePreviewShowsTheDocumentsPages) {

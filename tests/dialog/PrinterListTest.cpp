@@ -53,12 +53,18 @@ class PrinterListTest : public testing::Test {
   PrinterBar mBar;
 };
 
+TEST_F(PrinterListTest, APpdFileIsNamedInThePlaceOfPrinters) {
+  mBar.setPpdFile(QStringLiteral("tape-a.ppd"));
+  EXPECT_EQ(list().currentText(), QStringLiteral("tape-a.ppd"));
+}
+
 TEST_F(PrinterListTest, ManyPrintersStayOnTheScreenAndScroll) {
   list().showPopup();
   const QWidget* window = list().view()->window();
   EXPECT_LE(window->height(), mBar.screen()->availableSize().height());
   EXPECT_GT(window->height(), 100);
   EXPECT_GT(list().view()->verticalScrollBar()->maximum(), 0);
+  EXPECT_TRUE(list().view()->verticalScrollBar()->isVisible());
   list().hidePopup();
 }
 

@@ -33,7 +33,7 @@ namespace cutline::test {
 
 namespace {
 
-constexpr QSize kPreferredSize{1120, 720};
+constexpr QSize kPreferredSize{1120, 780};
 
 PrinterChoice opened(const CommandLine& line) {
   Result<PrinterChoice> choice = selectPrinter(line);
