@@ -27,10 +27,10 @@ std::string bytesOf(int file) {
   return bytes;
 }
 
-// Asks again and again, for ten seconds at most.
+// Asks again and again, for a minute at most.
 bool comesTrue(const std::function<bool()>& condition) {
   using namespace std::chrono_literals;
-  for (int i = 0; i < 1000 && !condition(); ++i) std::this_thread::sleep_for(10ms);
+  for (int i = 0; i < 6000 && !condition(); ++i) std::this_thread::sleep_for(10ms);
   return condition();
 }
 
