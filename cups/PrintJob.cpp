@@ -67,12 +67,17 @@ IppMessage printRequest(const Outgoing& job) {
   return message;
 }
 
-// No more than was promised, also where the file has grown since.
+// No more than was promised, also where the file has grown since. With the last byte the server
+// makes the job, so that one waits until nobody has given up by then.
+std::uint64_t nextBlock(const Outgoing& job) {
+  const std::uint64_t rest = job.document.size - job.sent;
+  return std::min<std::uint64_t>(kBlockSize, std::max<std::uint64_t>(rest - 1, 1));
+}
+
 Sending sendBlocks(http_t* http, Outgoing& job) {
   std::vector<char> block(kBlockSize);
   while (!job.isAllSent()) {
-    const std::uint64_t rest = std::min<std::uint64_t>(kBlockSize, job.document.size - job.sent);
-    job.document.stream.read(block.data(), static_cast<std::streamsize>(rest));
+    job.document.stream.read(block.data(), static_cast<std::streamsize>(nextBlock(job)));
     const auto count = static_cast<std::size_t>(job.document.stream.gcount());
     if (count == 0) return Sending::unreadable;
     if (cupsWriteRequestData(http, block.data(), count) != HTTP_STATUS_CONTINUE)

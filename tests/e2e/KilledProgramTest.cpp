@@ -82,9 +82,15 @@ class KilledProgram : public EndToEndTest {
   static Jobs jobsOf(const std::string& title) {
     Jobs jobs;
     cups_job_t* all = nullptr;
-    const int count = cupsGetJobs2(CUPS_HTTP_DEFAULT, &all, nullptr, 0, CUPS_WHICHJOBS_ALL);
-    for (const cups_job_t* job = all; job != all + count; ++job)
-      if (job->title == title) ++(job->state == IPP_JSTATE_PENDING ? jobs.whole : jobs.halfOpen);
+    // Not by the connection that other tests have left, perhaps to a server that is gone.
+    http_t* http = httpConnect2(server().options().server->c_str(), ippPort(), nullptr, AF_UNSPEC,
+                                HTTP_ENCRYPTION_IF_REQUESTED, 1, 10000, nullptr);
+    const int count = cupsGetJobs2(http, &all, nullptr, 0, CUPS_WHICHJOBS_ALL);
+    httpClose(http);
+    EXPECT_GE(count, 0) << cupsLastErrorString();
+    for (int i = 0; i < count; ++i)
+      if (all[i].title == title)
+        ++(all[i].state == IPP_JSTATE_PENDING ? jobs.whole : jobs.halfOpen);
     cupsFreeJobs(count, all);
     return jobs;
   }
