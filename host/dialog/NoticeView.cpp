@@ -185,10 +185,15 @@ QString NoticeView::resolveHint() {
   return tr("Keep the latest choice and change those that exclude it");
 }
 
+// Two topics can have the same to say, as of a server that is missing from the start.
 void NoticeView::rebuild() {
   emptyLayout(*mRows);
+  QStringList said;
   for (const auto& [topic, notices] : mNotices) {
     for (std::size_t place = 0; place < notices.size(); ++place) {
+      const Notice& notice = notices[place];
+      if (notice.remedies.empty() && said.contains(notice.line)) continue;
+      said.append(notice.line);
       QWidget* const row = makeRow(topic, place);
       mRows->addWidget(row);
       row->show();  // the layout would do so later, when letters are dealt out already
