@@ -101,6 +101,8 @@ Result<TemporaryFile> fetchJobDocument(const ServerOptions& server, int jobId) {
 Result<Done> setHeldJobOptions(const ServerOptions& server, int jobId, const OptionList& options) {
   const auto complete = [&](ipp_t* request) {
     OptionList held = options;
+    // The server takes sheets only from who makes the job.
+    std::erase_if(held, [](const auto& option) { return option.first == "job-sheets"; });
     held.emplace_back("job-hold-until", "indefinite");
     encode(request, held);
   };

@@ -109,10 +109,12 @@ Sending sendOnce(ServerConnection& connection, Outgoing& job) {
                       ippLength(message.get()) + job.document.size);
   if (started != HTTP_STATUS_CONTINUE) return Sending::broken;
   connection.takeTime();
-  if (const Sending sending = sendBlocks(connection.get(), job); sending != Sending::done)
-    return sending;
+  const Sending sending = sendBlocks(connection.get(), job);
+  if (sending == Sending::givenUp || sending == Sending::unreadable) return sending;
   connection.limitTime();
-  return takeAnswer(connection.get(), job);
+  const Sending answer = takeAnswer(connection.get(), job);
+  // Who refuses a document may hang up on it without having read it; the answer says why.
+  return sending == Sending::broken && answer == Sending::done ? Sending::broken : answer;
 }
 
 Sending send(ServerConnection& connection, Outgoing& job) {
