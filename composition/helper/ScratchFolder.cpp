@@ -1,55 +1,87 @@
 #include "composition/helper/ScratchFolder.h"
 
-#include <fcntl.h>
+#include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
-#include <filesystem>
 #include <utility>
+
+#include "base/TemporaryFile.h"
 
 namespace cutline {
 namespace {
 
-// Alone with the pipe: nobody waits for other descriptors because of this process, and what ends
-// the readers of documents, a signal to their group or at a terminal, passes it by.
-[[noreturn]] void keep(const std::string& folder, int tie) {
+constexpr char kEnd = '\0';
+
+Error noKeeper() {
+  return Error{std::string("cannot keep temporary files: ") + std::strerror(errno)};
+}
+
+// The folder's path, or the reason why there is none, which begins with no slash.
+std::string answerOf(const Result<TemporaryFolder>& folder) {
+  return (folder ? folder->path() : folder.error().message) + kEnd;
+}
+
+void awaitEnd(int tie) {
+  char byte = 0;
+  ssize_t count = 0;
+  do count = ::read(tie, &byte, 1);
+  while (count > 0 || (count < 0 && errno == EINTR));
+}
+
+// Alone with the tie: nobody waits for other descriptors because of this process, and what ends
+// the readers of documents, a signal to their group or at a terminal, passes it by. The folder is
+// made only then, so that nothing can end in between.
+[[noreturn]] void keep(int tie) {
   ::setsid();
   for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGPIPE}) ::signal(signal, SIG_IGN);
   ::dup2(tie, STDIN_FILENO);
   ::close_range(STDIN_FILENO + 1, ~0U, 0);
-  for (char byte = 0;;) {
-    const ssize_t count = ::read(STDIN_FILENO, &byte, 1);
-    if (count == 0 || (count < 0 && errno != EINTR)) break;
+  {
+    const Result<TemporaryFolder> folder = TemporaryFolder::make();
+    const std::string answer = answerOf(folder);
+    if (::write(STDIN_FILENO, answer.data(), answer.size()) > 0) awaitEnd(STDIN_FILENO);
   }
-  std::error_code ignored;
-  std::filesystem::remove_all(folder, ignored);
   ::_exit(EXIT_SUCCESS);
 }
 
-Error noKeeper() {
-  return Error{std::string("cannot keep temporary files: ") + std::strerror(errno)};
+// What the keeper says, without its end; nothing where it ended before.
+std::string answerFrom(int tie) {
+  std::string answer;
+  std::array<char, 512> block{};
+  while (!answer.ends_with(kEnd)) {
+    const ssize_t count = ::read(tie, block.data(), block.size());
+    if (count < 0 && errno == EINTR) continue;
+    if (count <= 0) return {};
+    answer.append(block.data(), static_cast<std::size_t>(count));
+  }
+  answer.pop_back();
+  return answer;
 }
 
 }  // namespace
 
 Result<ScratchFolder> ScratchFolder::make() {
   int ends[2];
-  if (::pipe2(ends, O_CLOEXEC) != 0) return noKeeper();
-  const FileDescriptor kept(ends[0]);
+  if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) return noKeeper();
+  FileDescriptor kept(ends[0]);
   FileDescriptor tie(ends[1]);
-  Result<TemporaryFolder> folder = TemporaryFolder::make();
-  if (!folder) return folder.error();
   const pid_t keeper = ::fork();
   if (keeper < 0) return noKeeper();
-  if (keeper == 0) keep(folder->path(), kept.get());
-  return ScratchFolder(std::move(*folder), std::move(tie), keeper);
+  if (keeper == 0) keep(kept.get());
+  kept = FileDescriptor();
+  std::string answer = answerFrom(tie.get());
+  ScratchFolder folder(std::move(answer), std::move(tie), keeper);
+  if (folder.path().starts_with('/')) return folder;
+  return folder.path().empty() ? noKeeper() : Error{folder.path()};
 }
 
-ScratchFolder::ScratchFolder(TemporaryFolder folder, FileDescriptor tie, pid_t keeper) noexcept
-    : mFolder(std::move(folder)), mTie(std::move(tie)), mKeeper(keeper) {}
+ScratchFolder::ScratchFolder(std::string path, FileDescriptor tie, pid_t keeper) noexcept
+    : mPath(std::move(path)), mTie(std::move(tie)), mKeeper(keeper) {}
 
 ScratchFolder::~ScratchFolder() {
   if (!mTie) return;  // moved away

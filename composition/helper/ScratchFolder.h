@@ -7,7 +7,6 @@
 
 #include "base/FileDescriptor.h"
 #include "base/Result.h"
-#include "base/TemporaryFile.h"
 
 namespace cutline {
 
@@ -19,13 +18,13 @@ class ScratchFolder {
   ScratchFolder(ScratchFolder&&) noexcept = default;
   ~ScratchFolder();
 
-  const std::string& path() const noexcept { return mFolder.path(); }
+  const std::string& path() const noexcept { return mPath; }
   // Closed when a program is started; a copy of it keeps the folder.
   int tie() const noexcept { return mTie.get(); }
 
  private:
-  ScratchFolder(TemporaryFolder folder, FileDescriptor tie, pid_t keeper) noexcept;
-  TemporaryFolder mFolder;
+  ScratchFolder(std::string path, FileDescriptor tie, pid_t keeper) noexcept;
+  std::string mPath;
   FileDescriptor mTie;
   pid_t mKeeper;
 };
