@@ -28,7 +28,9 @@ class Input {
   // Below `end`, which is not 0.
   std::size_t below(std::size_t end) {
     constexpr std::size_t kByte = 256;
-    return (end > kByte ? byte() * kByte + byte() : byte()) % end;
+    std::size_t number = byte();
+    if (end > kByte) number = number * kByte + byte();
+    return number % end;
   }
   std::int32_t integer() {
     std::uint32_t bits = 0;
@@ -42,7 +44,8 @@ class Input {
 
   // As many bytes as the next one says, or what is left.
   std::string text() {
-    const std::size_t size = std::min<std::size_t>(byte(), mRest.size());
+    const std::size_t wanted = byte();
+    const std::size_t size = std::min(wanted, mRest.size());
     std::string taken(mRest.substr(0, size));
     mRest.remove_prefix(size);
     return taken;
