@@ -112,9 +112,8 @@ Sending sendOnce(ServerConnection& connection, Outgoing& job) {
   const Sending sending = sendBlocks(connection.get(), job);
   if (sending == Sending::givenUp || sending == Sending::unreadable) return sending;
   connection.limitTime();
-  const Sending answer = takeAnswer(connection.get(), job);
   // Who refuses a document may hang up on it without having read it; the answer says why.
-  return sending == Sending::broken && answer == Sending::done ? Sending::broken : answer;
+  return takeAnswer(connection.get(), job);
 }
 
 Sending send(ServerConnection& connection, Outgoing& job) {

@@ -77,7 +77,9 @@ Result<ScratchFolder> ScratchFolder::make() {
   std::string answer = answerFrom(tie.get());
   ScratchFolder folder(std::move(answer), std::move(tie), keeper);
   if (folder.path().starts_with('/')) return folder;
-  return folder.path().empty() ? noKeeper() : Error{folder.path()};
+  if (folder.path().empty())
+    return Error{"cannot keep temporary files: who would remove them ended"};
+  return Error{folder.path()};
 }
 
 ScratchFolder::ScratchFolder(std::string path, FileDescriptor tie, pid_t keeper) noexcept
