@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -19,6 +20,14 @@ namespace {
 constexpr std::size_t kBlockSize = 65536;
 // Who one is may be asked for only when the whole document is there.
 constexpr int kMostSendings = 3;
+
+// The ends after which the server may have the job.
+constexpr Phrase kMayBeLeft =
+    Phrase("cups", "%1; the job %2 may still be there: remove it with cancel %2");
+constexpr Phrase kMayHaveArrived =
+    Phrase("cups",
+           "%1; it may have arrived all the same: look at the jobs of \"%2\" before you print it "
+           "again");
 
 // How the sending of a document ended.
 enum class Sending { done, givenUp, unreadable, refused, broken, incomplete };
@@ -160,8 +169,7 @@ Error whyNotSent(Sending sending, const PrintRequest& request) {
 Error takenBack(const ServerOptions& server, const Outgoing& job, const Error& error) {
   if (cancelJob(server, job.request.destination, job.jobId)) return error;
   const std::string id = jobName(job.request.destination, job.jobId);
-  return Sentence(Phrase("cups", "%1; the job %2 may still be there: remove it with cancel %2"),
-                  {error.sentence, id});
+  return Sentence(kMayBeLeft, {error.sentence, id});
 }
 
 // A job that was given up, or whose answer got lost, may be there all the same. Printed once more
@@ -170,10 +178,7 @@ Result<int> settled(const ServerOptions& server, Outgoing& job, Sending sending,
                     const Error& error) {
   const auto found = jobWithMark(server, job.mark);
   if (!found) {
-    return Error{Sentence(Phrase("cups",
-                                 "%1; it may have arrived all the same: look at the jobs of \"%2\" "
-                                 "before you print it again"),
-                          {error.sentence, job.request.destination.text()})};
+    return Error{Sentence(kMayHaveArrived, {error.sentence, job.request.destination.text()})};
   }
   if (!*found) return error;
   job.jobId = **found;
@@ -212,6 +217,13 @@ Result<int> submitJob(const ServerOptions& server, const PrintRequest& request,
   if (sending == Sending::incomplete) return takenBack(server, job, error);
   if (sending == Sending::refused || !job.isAllSent()) return error;
   return settled(server, job, sending, error);
+}
+
+bool leavesJobInDoubt(const Error& error) {
+  const auto& phrase = error.sentence.phrase();
+  if (!phrase) return false;
+  const std::string_view source = phrase->source;
+  return source == kMayBeLeft.source || source == kMayHaveArrived.source;
 }
 
 Result<Done> cancelJob(const ServerOptions& server, const DestinationName& destination, int jobId) {

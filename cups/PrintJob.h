@@ -29,6 +29,8 @@ using SpoolProgress = std::function<bool(std::uint64_t sent, std::uint64_t total
 // back.
 Result<int> submitJob(const ServerOptions& server, const PrintRequest& request,
                       const SpoolProgress& progress);
+// Whether that error says that the job may be there all the same.
+bool leavesJobInDoubt(const Error& error);
 Result<Done> cancelJob(const ServerOptions& server, const DestinationName& destination, int jobId);
 
 }  // namespace cutline

@@ -101,6 +101,8 @@ namespace {
 
 // A server that takes longer is waited for with the dialog on the screen.
 constexpr int kServerPatienceMilliseconds = 300;
+// A server that takes so long may be none.
+constexpr int kServerSilenceMilliseconds = 4000;
 constexpr QSize kWindowSize{1120, 780};
 constexpr int kScreenMargin = 40;
 constexpr int kIconSides[] = {16, 24, 32, 48, 128, 256};
@@ -210,6 +212,12 @@ void DialogSession::awaitPrinter() {
     if (mIsComplete) return;
     mDialog->showWaiting(tr("Waiting for the print server..."));
     show();
+  });
+  QTimer::singleShot(kServerSilenceMilliseconds, this, [this] {
+    if (mIsComplete) return;
+    mDialog->showWaiting(
+        tr("The print server does not answer yet. Is the computer that has the printer switched "
+           "on and connected?"));
   });
 }
 

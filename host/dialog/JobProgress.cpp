@@ -84,6 +84,14 @@ void JobProgress::showState(int jobId, const JobStatus& status) {
   mLeave->setEnabled(true);
 }
 
+void JobProgress::showSilence(int jobId, bool isCancelling) {
+  showText(isCancelling
+               ? tr("Job %1 is cancelled when the print server answers again").arg(jobId)
+               : tr("Job %1 was sent; the print server does not answer how it is").arg(jobId));
+  mBar->setRange(0, 0);
+  mLeave->setEnabled(true);
+}
+
 void JobProgress::showCancelling() {
   showText(tr("Cancelling..."));
   mCancel->setEnabled(false);

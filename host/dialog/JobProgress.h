@@ -23,6 +23,8 @@ class JobProgress : public QWidget {
   void setLabels(quint64 labels) { mLabels = labels; }
   void showSpooling(const QString& printer, quint64 sent, quint64 total);
   void showState(int jobId, const JobStatus& status);
+  // The server does not answer how the job is, or the wish to cancel it.
+  void showSilence(int jobId, bool isCancelling);
   void showCancelling();
   // It was refused; it can be tried again.
   void endCancelling();

@@ -161,7 +161,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
   void takeOpened(const PrinterChoice& choice);
   void enableSettings(bool isEnabled);
   void askServer();
-  void showStateProblem(const QString& words);
+  void showStateProblem(const QString& state, const QString& words);
 
   void openDocuments(const std::vector<std::string>& paths);
   void reloadDocument();

@@ -140,8 +140,19 @@ void PrintDialog::connectJob() {
   });
   connect(mJob, &JobRunner::stateChanged, this,
           [this](const JobStatus& status) { mProgress->showState(mJob->jobId(), status); });
+  connect(mJob, &JobRunner::serverSilent, this,
+          [this] { mProgress->showSilence(mJob->jobId(), mJob->isGivenUp()); });
   connect(mJob, &JobRunner::printed, this, &PrintDialog::takePrinted);
   connect(mJob, &JobRunner::cancelled, this, &PrintDialog::takeCancelled);
+  connect(mJob, &JobRunner::leftInDoubt, this, [this] {
+    showJobRunning(false);
+    mNotices->setNotice(NoticeTopic::refusal,
+                        tr("The print server does not answer, and may have the job that you "
+                           "cancelled. Look at its jobs before you print again."));
+  });
+  connect(mJob, &JobRunner::doubtEnded, this, [this](const QString& outcome) {
+    if (!isPrinting()) mNotices->setNotice(NoticeTopic::refusal, outcome);
+  });
   connect(mJob, &JobRunner::cancelRefused, this, [this](const QString& reason) {
     mProgress->endCancelling();
     mNotices->setNotice(NoticeTopic::failure, reason);

@@ -33,11 +33,15 @@ void PrintDialog::connectServer() {
   connect(mServer, &ServerClient::printerOpened, this, &PrintDialog::takeOpened);
   connect(mServer, &ServerClient::openingFailed, this, &PrintDialog::openingFailed);
   connect(mServer, &ServerClient::stateKnown, this, &PrintDialog::takeState);
-  connect(mServer, &ServerClient::stateFailed, this, &PrintDialog::showStateProblem);
+  connect(mServer, &ServerClient::stateFailed, this,
+          [this](const QString& reason) { showStateProblem(tr("Not available"), reason); });
+  connect(mServer, &ServerClient::serverSlow, this, [this] {
+    if (!mServer->isOpening()) mPrinterBar->setWaiting(tr("Waiting for the print server..."));
+  });
   connect(mServer, &ServerClient::serverGone, this, [this] {
-    showStateProblem(
-        tr("The print server does not answer. Is the computer that has the printer "
-           "switched on and connected? Printing goes on when it answers again."));
+    showStateProblem(tr("No answer"),
+                     tr("The print server does not answer. Is the computer that has the printer "
+                        "switched on and connected? Printing goes on when it answers again."));
   });
   connect(mServer, &ServerClient::serverBack, mServer, &ServerClient::listPrinters);
   mStateTimer.setInterval(kStateMilliseconds);
@@ -50,8 +54,8 @@ void PrintDialog::askServer() {
   if (++mTicks % kTicksBetweenLists == 0) mServer->listPrinters();
 }
 
-void PrintDialog::showStateProblem(const QString& words) {
-  mPrinterBar->setProblem(tr("No answer"));
+void PrintDialog::showStateProblem(const QString& state, const QString& words) {
+  mPrinterBar->setProblem(state);
   mNotices->setNotice(NoticeTopic::printer, words);
 }
 

@@ -90,12 +90,22 @@ void ServerClient::takePrinter(int opening, const Result<PrinterChoice>& choice)
 }
 
 void ServerClient::askState(const DestinationName& name) {
-  if (std::exchange(mIsAskingState, true)) return noteAnswer(false);
+  if (std::exchange(mIsAskingState, true)) return noteWaiting();
+  mWaits = 0;
   mBackground.start([this, server = mServer, name]() -> Background::Delivery {
-    const Result<Destination> destination = server->find(name);
+    Result<Destination> destination = server->find(name);
     const bool isGone = !destination && !server->answers();
+    // It may have come back since it was asked.
+    if (!destination && !isGone) destination = server->find(name);
     return [this, destination, isGone] { takeState(destination, isGone); };
   });
+}
+
+// Most servers answer in milliseconds, and some now and then in seconds.
+void ServerClient::noteWaiting() {
+  constexpr int kMostWaits = 3;
+  if (++mWaits >= kMostWaits) return noteAnswer(false);
+  if (!mIsServerGone) emit serverSlow();
 }
 
 void ServerClient::noteAnswer(bool isThere) {

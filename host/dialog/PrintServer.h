@@ -71,8 +71,8 @@ class ServerClient : public QObject {
   void openPrinter(const Destination& destination);
   bool isOpening() const noexcept { return mIsOpening; }
   // stateKnown, or stateFailed where the server says that there is no such printer. Where it says
-  // nothing serverGone, also when it is still being asked from the last call; once, until it
-  // answers again, which is told by serverBack.
+  // nothing serverGone, once, until it answers again, which is told by serverBack. While it is
+  // still being asked from an earlier call serverSlow, and after some calls more serverGone, too.
   void askState(const DestinationName& name);
   // presetSaved or presetFailed.
   void savePreset(const DestinationName& name, const OptionList& options);
@@ -86,6 +86,7 @@ class ServerClient : public QObject {
   void openingFailed(const QString& reason);
   void stateKnown(const cutline::Destination& destination);
   void stateFailed(const QString& reason);
+  void serverSlow();
   void serverGone();
   void serverBack();
   void presetSaved(const QString& instance);
@@ -97,11 +98,13 @@ class ServerClient : public QObject {
   void takePrinter(int opening, const Result<PrinterChoice>& choice);
   void takeState(const Result<Destination>& destination, bool isGone);
   void noteAnswer(bool isThere);
+  void noteWaiting();
 
   std::shared_ptr<PrintServer> mServer;
   int mOpenings = 0;
   bool mIsOpening = false;
   bool mIsAskingState = false;
+  int mWaits = 0;  // calls that came while the server was being asked
   bool mIsServerGone = false;
   Background mBackground;
 };

@@ -794,6 +794,10 @@
         <source>Waiting for the print server...</source>
         <translation>Auf den Druckserver wird gewartet …</translation>
     </message>
+    <message>
+        <source>The print server does not answer yet. Is the computer that has the printer switched on and connected?</source>
+        <translation>Der Druckserver antwortet noch nicht. Ist der Computer, an dem der Drucker hängt, eingeschaltet und verbunden?</translation>
+    </message>
 </context>
 <context>
     <name>cutline::HistoryBar</name>
@@ -918,6 +922,14 @@
         <source>Printing: label %1 of %2</source>
         <translation>Druckt: Etikett %1 von %2</translation>
     </message>
+    <message>
+        <source>Job %1 is cancelled when the print server answers again</source>
+        <translation>Auftrag %1 wird abgebrochen, sobald der Druckserver wieder antwortet</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent; the print server does not answer how it is</source>
+        <translation>Auftrag %1 wurde gesendet; der Druckserver antwortet nicht, wie es um ihn steht</translation>
+    </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
@@ -940,6 +952,10 @@
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
         <translation>%1%2. Sorgen Sie dafür, dass der Drucker bereit ist, und drucken Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>The job was cancelled.</source>
+        <translation>Der Auftrag wurde abgebrochen.</translation>
     </message>
 </context>
 <context>
@@ -1419,6 +1435,18 @@ Streifen: Plus und Minus zoomen, 0 passt ein, Eingabe zeigt ein Etikett groß. S
     <message>
         <source>Cont&amp;inue</source>
         <translation>We&amp;iter</translation>
+    </message>
+    <message>
+        <source>The print server does not answer, and may have the job that you cancelled. Look at its jobs before you print again.</source>
+        <translation>Der Druckserver antwortet nicht und hat den abgebrochenen Auftrag vielleicht schon. Sehen Sie seine Aufträge an, bevor Sie noch einmal drucken.</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>Nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server...</source>
+        <translation>Auf den Druckserver wird gewartet …</translation>
     </message>
 </context>
 <context>

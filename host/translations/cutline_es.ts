@@ -794,6 +794,10 @@
         <source>Waiting for the print server...</source>
         <translation>Esperando al servidor de impresión…</translation>
     </message>
+    <message>
+        <source>The print server does not answer yet. Is the computer that has the printer switched on and connected?</source>
+        <translation>El servidor de impresión aún no responde. ¿Está encendido y conectado el ordenador que tiene la impresora?</translation>
+    </message>
 </context>
 <context>
     <name>cutline::HistoryBar</name>
@@ -918,6 +922,14 @@
         <source>Printing: label %1 of %2</source>
         <translation>Imprimiendo: etiqueta %1 de %2</translation>
     </message>
+    <message>
+        <source>Job %1 is cancelled when the print server answers again</source>
+        <translation>El trabajo %1 se cancelará cuando el servidor de impresión vuelva a responder</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent; the print server does not answer how it is</source>
+        <translation>El trabajo %1 se envió; el servidor de impresión no responde sobre su estado</translation>
+    </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
@@ -940,6 +952,10 @@
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
         <translation>%1%2. Compruebe que la impresora está lista y vuelva a imprimir.</translation>
+    </message>
+    <message>
+        <source>The job was cancelled.</source>
+        <translation>Se ha cancelado el trabajo.</translation>
     </message>
 </context>
 <context>
@@ -1419,6 +1435,18 @@ Tira: más y menos para el zum, 0 para ajustar, Intro muestra una etiqueta en gr
     <message>
         <source>Cont&amp;inue</source>
         <translation>Con&amp;tinuar</translation>
+    </message>
+    <message>
+        <source>The print server does not answer, and may have the job that you cancelled. Look at its jobs before you print again.</source>
+        <translation>El servidor de impresión no responde y quizá tenga el trabajo que ha cancelado. Mire sus trabajos antes de volver a imprimir.</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>No disponible</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server...</source>
+        <translation>Esperando al servidor de impresión…</translation>
     </message>
 </context>
 <context>

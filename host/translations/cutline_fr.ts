@@ -794,6 +794,10 @@
         <source>Waiting for the print server...</source>
         <translation>En attente du serveur d’impression…</translation>
     </message>
+    <message>
+        <source>The print server does not answer yet. Is the computer that has the printer switched on and connected?</source>
+        <translation>Le serveur d’impression ne répond pas encore. L’ordinateur qui a l’imprimante est-il allumé et connecté ?</translation>
+    </message>
 </context>
 <context>
     <name>cutline::HistoryBar</name>
@@ -918,6 +922,14 @@
         <source>Printing: label %1 of %2</source>
         <translation>Impression : étiquette %1 sur %2</translation>
     </message>
+    <message>
+        <source>Job %1 is cancelled when the print server answers again</source>
+        <translation>La tâche %1 sera annulée dès que le serveur d’impression répondra à nouveau</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent; the print server does not answer how it is</source>
+        <translation>La tâche %1 a été envoyée ; le serveur d’impression ne répond pas sur son état</translation>
+    </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
@@ -940,6 +952,10 @@
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
         <translation>%1%2. Vérifiez que l’imprimante est prête, puis imprimez de nouveau.</translation>
+    </message>
+    <message>
+        <source>The job was cancelled.</source>
+        <translation>La tâche a été annulée.</translation>
     </message>
 </context>
 <context>
@@ -1419,6 +1435,18 @@ Bande : plus et moins pour le zoom, 0 pour ajuster, Entrée montre une étiquett
     <message>
         <source>Cont&amp;inue</source>
         <translation>Contin&amp;uer</translation>
+    </message>
+    <message>
+        <source>The print server does not answer, and may have the job that you cancelled. Look at its jobs before you print again.</source>
+        <translation>Le serveur d’impression ne répond pas et a peut-être reçu la tâche que vous avez annulée. Regardez ses tâches avant d’imprimer à nouveau.</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>Non disponible</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server...</source>
+        <translation>En attente du serveur d’impression…</translation>
     </message>
 </context>
 <context>

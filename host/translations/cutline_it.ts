@@ -794,6 +794,10 @@
         <source>Waiting for the print server...</source>
         <translation>In attesa del server di stampa…</translation>
     </message>
+    <message>
+        <source>The print server does not answer yet. Is the computer that has the printer switched on and connected?</source>
+        <translation>Il server di stampa non risponde ancora. Il computer con la stampante è acceso e connesso?</translation>
+    </message>
 </context>
 <context>
     <name>cutline::HistoryBar</name>
@@ -918,6 +922,14 @@
         <source>Printing: label %1 of %2</source>
         <translation>Stampa in corso: etichetta %1 di %2</translation>
     </message>
+    <message>
+        <source>Job %1 is cancelled when the print server answers again</source>
+        <translation>Il lavoro %1 sarà annullato quando il server di stampa risponderà di nuovo</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent; the print server does not answer how it is</source>
+        <translation>Il lavoro %1 è stato inviato; il server di stampa non risponde sul suo stato</translation>
+    </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
@@ -940,6 +952,10 @@
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
         <translation>%1%2. Controllare che la stampante sia pronta e stampare di nuovo.</translation>
+    </message>
+    <message>
+        <source>The job was cancelled.</source>
+        <translation>Il lavoro è stato annullato.</translation>
     </message>
 </context>
 <context>
@@ -1419,6 +1435,18 @@ Striscia: più e meno per lo zoom, 0 per adattare, Invio mostra un’etichetta i
     <message>
         <source>Cont&amp;inue</source>
         <translation>C&amp;ontinua</translation>
+    </message>
+    <message>
+        <source>The print server does not answer, and may have the job that you cancelled. Look at its jobs before you print again.</source>
+        <translation>Il server di stampa non risponde e forse ha il lavoro che avete annullato. Guardate i suoi lavori prima di stampare di nuovo.</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>Non disponibile</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server...</source>
+        <translation>In attesa del server di stampa…</translation>
     </message>
 </context>
 <context>

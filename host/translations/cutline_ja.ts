@@ -794,6 +794,10 @@
         <source>Waiting for the print server...</source>
         <translation>プリントサーバーを待っています…</translation>
     </message>
+    <message>
+        <source>The print server does not answer yet. Is the computer that has the printer switched on and connected?</source>
+        <translation>プリントサーバーからまだ応答がありません。プリンターのあるコンピューターの電源が入っていて、接続されていますか？</translation>
+    </message>
 </context>
 <context>
     <name>cutline::HistoryBar</name>
@@ -918,6 +922,14 @@
         <source>Printing: label %1 of %2</source>
         <translation>印刷中: ラベル %1/%2</translation>
     </message>
+    <message>
+        <source>Job %1 is cancelled when the print server answers again</source>
+        <translation>プリントサーバーが再び応答したときにジョブ %1 をキャンセルします</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent; the print server does not answer how it is</source>
+        <translation>ジョブ %1 は送信済みですが、その状態についてプリントサーバーから応答がありません</translation>
+    </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
@@ -940,6 +952,10 @@
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
         <translation>%1%2。プリンターの準備ができていることを確認して、もう一度印刷してください。</translation>
+    </message>
+    <message>
+        <source>The job was cancelled.</source>
+        <translation>ジョブはキャンセルされました。</translation>
     </message>
 </context>
 <context>
@@ -1419,6 +1435,18 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
     <message>
         <source>Cont&amp;inue</source>
         <translation>続ける(&amp;P)</translation>
+    </message>
+    <message>
+        <source>The print server does not answer, and may have the job that you cancelled. Look at its jobs before you print again.</source>
+        <translation>プリントサーバーが応答しません。キャンセルしたジョブが届いている可能性があります。もう一度印刷する前に、サーバーのジョブを確認してください。</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>利用できません</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server...</source>
+        <translation>プリントサーバーを待っています…</translation>
     </message>
 </context>
 <context>

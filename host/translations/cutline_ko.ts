@@ -794,6 +794,10 @@
         <source>Waiting for the print server...</source>
         <translation>프린트 서버를 기다리는 중…</translation>
     </message>
+    <message>
+        <source>The print server does not answer yet. Is the computer that has the printer switched on and connected?</source>
+        <translation>인쇄 서버가 아직 응답하지 않습니다. 프린터가 있는 컴퓨터가 켜져 있고 연결되어 있습니까?</translation>
+    </message>
 </context>
 <context>
     <name>cutline::HistoryBar</name>
@@ -918,6 +922,14 @@
         <source>Printing: label %1 of %2</source>
         <translation>인쇄 중: 라벨 %1/%2</translation>
     </message>
+    <message>
+        <source>Job %1 is cancelled when the print server answers again</source>
+        <translation>인쇄 서버가 다시 응답하면 작업 %1을(를) 취소합니다</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent; the print server does not answer how it is</source>
+        <translation>작업 %1을(를) 보냈지만 인쇄 서버가 작업 상태를 응답하지 않습니다</translation>
+    </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
@@ -940,6 +952,10 @@
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
         <translation>%1%2. 프린터가 준비되었는지 확인한 다음 다시 인쇄하십시오.</translation>
+    </message>
+    <message>
+        <source>The job was cancelled.</source>
+        <translation>작업이 취소되었습니다.</translation>
     </message>
 </context>
 <context>
@@ -1419,6 +1435,18 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
     <message>
         <source>Cont&amp;inue</source>
         <translation>계속(&amp;P)</translation>
+    </message>
+    <message>
+        <source>The print server does not answer, and may have the job that you cancelled. Look at its jobs before you print again.</source>
+        <translation>인쇄 서버가 응답하지 않으며, 취소한 작업을 이미 받았을 수 있습니다. 다시 인쇄하기 전에 서버의 작업을 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>사용할 수 없음</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server...</source>
+        <translation>프린트 서버를 기다리는 중…</translation>
     </message>
 </context>
 <context>

@@ -794,6 +794,10 @@
         <source>Waiting for the print server...</source>
         <translation>Wachten op de printserver…</translation>
     </message>
+    <message>
+        <source>The print server does not answer yet. Is the computer that has the printer switched on and connected?</source>
+        <translation>De afdrukserver antwoordt nog niet. Is de computer met de printer ingeschakeld en verbonden?</translation>
+    </message>
 </context>
 <context>
     <name>cutline::HistoryBar</name>
@@ -918,6 +922,14 @@
         <source>Printing: label %1 of %2</source>
         <translation>Bezig met afdrukken: label %1 van %2</translation>
     </message>
+    <message>
+        <source>Job %1 is cancelled when the print server answers again</source>
+        <translation>Taak %1 wordt geannuleerd zodra de afdrukserver weer antwoordt</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent; the print server does not answer how it is</source>
+        <translation>Taak %1 is verzonden; de afdrukserver antwoordt niet hoe het ermee staat</translation>
+    </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
@@ -940,6 +952,10 @@
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
         <translation>%1%2. Controleer of de printer gereed is en druk opnieuw af.</translation>
+    </message>
+    <message>
+        <source>The job was cancelled.</source>
+        <translation>De taak is geannuleerd.</translation>
     </message>
 </context>
 <context>
@@ -1419,6 +1435,18 @@ Strook: plus en min zoomen, 0 past in, Enter toont een etiket groot. Ctrl+Z maak
     <message>
         <source>Cont&amp;inue</source>
         <translation>&amp;Doorgaan</translation>
+    </message>
+    <message>
+        <source>The print server does not answer, and may have the job that you cancelled. Look at its jobs before you print again.</source>
+        <translation>De afdrukserver antwoordt niet en heeft de geannuleerde taak misschien al. Bekijk de taken voordat u opnieuw afdrukt.</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>Niet beschikbaar</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server...</source>
+        <translation>Wachten op de printserver…</translation>
     </message>
 </context>
 <context>

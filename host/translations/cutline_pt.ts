@@ -794,6 +794,10 @@
         <source>Waiting for the print server...</source>
         <translation>Aguardando o servidor de impressão…</translation>
     </message>
+    <message>
+        <source>The print server does not answer yet. Is the computer that has the printer switched on and connected?</source>
+        <translation>O servidor de impressão ainda não responde. O computador que tem a impressora está ligado e conectado?</translation>
+    </message>
 </context>
 <context>
     <name>cutline::HistoryBar</name>
@@ -918,6 +922,14 @@
         <source>Printing: label %1 of %2</source>
         <translation>A imprimir: etiqueta %1 de %2</translation>
     </message>
+    <message>
+        <source>Job %1 is cancelled when the print server answers again</source>
+        <translation>O trabalho %1 será cancelado quando o servidor de impressão voltar a responder</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent; the print server does not answer how it is</source>
+        <translation>O trabalho %1 foi enviado; o servidor de impressão não responde sobre o seu estado</translation>
+    </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
@@ -940,6 +952,10 @@
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
         <translation>%1%2. Verifique se a impressora está pronta e imprima de novo.</translation>
+    </message>
+    <message>
+        <source>The job was cancelled.</source>
+        <translation>O trabalho foi cancelado.</translation>
     </message>
 </context>
 <context>
@@ -1419,6 +1435,18 @@ Tira: mais e menos para o zoom, 0 para ajustar, Enter mostra uma etiqueta em gra
     <message>
         <source>Cont&amp;inue</source>
         <translation>Continua&amp;r</translation>
+    </message>
+    <message>
+        <source>The print server does not answer, and may have the job that you cancelled. Look at its jobs before you print again.</source>
+        <translation>O servidor de impressão não responde e talvez tenha o trabalho que cancelou. Veja os trabalhos dele antes de imprimir novamente.</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>Não disponível</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server...</source>
+        <translation>Aguardando o servidor de impressão…</translation>
     </message>
 </context>
 <context>

@@ -794,6 +794,10 @@
         <source>Waiting for the print server...</source>
         <translation>正在等待打印服务器…</translation>
     </message>
+    <message>
+        <source>The print server does not answer yet. Is the computer that has the printer switched on and connected?</source>
+        <translation>打印服务器尚未应答。连接打印机的计算机是否已开机并联网？</translation>
+    </message>
 </context>
 <context>
     <name>cutline::HistoryBar</name>
@@ -918,6 +922,14 @@
         <source>Printing: label %1 of %2</source>
         <translation>正在打印：标签 %1/%2</translation>
     </message>
+    <message>
+        <source>Job %1 is cancelled when the print server answers again</source>
+        <translation>打印服务器恢复应答后将取消作业 %1</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent; the print server does not answer how it is</source>
+        <translation>作业 %1 已发送；打印服务器未应答其状态</translation>
+    </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
@@ -940,6 +952,10 @@
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
         <translation>%1%2。请确认打印机已就绪，然后重新打印。</translation>
+    </message>
+    <message>
+        <source>The job was cancelled.</source>
+        <translation>任务已取消。</translation>
     </message>
 </context>
 <context>
@@ -1419,6 +1435,18 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
     <message>
         <source>Cont&amp;inue</source>
         <translation>继续(&amp;P)</translation>
+    </message>
+    <message>
+        <source>The print server does not answer, and may have the job that you cancelled. Look at its jobs before you print again.</source>
+        <translation>打印服务器没有应答，可能已收到您取消的作业。再次打印之前，请查看其作业。</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>不可用</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server...</source>
+        <translation>正在等待打印服务器…</translation>
     </message>
 </context>
 <context>

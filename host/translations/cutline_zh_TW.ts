@@ -794,6 +794,10 @@
         <source>Waiting for the print server...</source>
         <translation>正在等待列印伺服器…</translation>
     </message>
+    <message>
+        <source>The print server does not answer yet. Is the computer that has the printer switched on and connected?</source>
+        <translation>列印伺服器尚未回應。連接印表機的電腦是否已開機並連線？</translation>
+    </message>
 </context>
 <context>
     <name>cutline::HistoryBar</name>
@@ -918,6 +922,14 @@
         <source>Printing: label %1 of %2</source>
         <translation>正在列印：標籤 %1/%2</translation>
     </message>
+    <message>
+        <source>Job %1 is cancelled when the print server answers again</source>
+        <translation>列印伺服器恢復回應後將取消工作 %1</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent; the print server does not answer how it is</source>
+        <translation>工作 %1 已傳送；列印伺服器未回應其狀態</translation>
+    </message>
 </context>
 <context>
     <name>cutline::JobRunner</name>
@@ -940,6 +952,10 @@
     <message>
         <source>%1%2. See that the printer is ready, then print again.</source>
         <translation>%1%2。請確認印表機已就緒，然後重新列印。</translation>
+    </message>
+    <message>
+        <source>The job was cancelled.</source>
+        <translation>工作已取消。</translation>
     </message>
 </context>
 <context>
@@ -1419,6 +1435,18 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
     <message>
         <source>Cont&amp;inue</source>
         <translation>繼續(&amp;P)</translation>
+    </message>
+    <message>
+        <source>The print server does not answer, and may have the job that you cancelled. Look at its jobs before you print again.</source>
+        <translation>列印伺服器沒有回應，可能已收到您取消的工作。再次列印之前，請查看其工作。</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>無法使用</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server...</source>
+        <translation>正在等待列印伺服器…</translation>
     </message>
 </context>
 <context>

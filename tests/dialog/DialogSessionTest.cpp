@@ -61,7 +61,7 @@ class DialogSessionTest : public testing::Test {
     auto* timer = new QTimer(&mTimers);
     timer->setInterval(10);
     QObject::connect(timer, &QTimer::timeout, [=, tries = 0]() mutable {
-      if (++tries > 500) QApplication::exit(-1);
+      if (++tries > 1000) QApplication::exit(-1);
       if (!condition()) return;
       timer->stop();
       action();
@@ -165,6 +165,13 @@ TEST_F(DialogSessionTest, ADialogWithoutADocumentSaysSo) {
 TEST_F(DialogSessionTest, ASlowServerIsWaitedForOnTheScreen) {
   std::promise<Result<PrinterChoice>> answer;
   closeWhen([] { return shows("Waiting for the print server"); });
+  EXPECT_EQ(run(answer.get_future().share()), kExitCancelled);
+  answer.set_value(Error{"too late"});
+}
+
+TEST_F(DialogSessionTest, AServerThatKeepsSilentIsNamedWhileItIsWaitedFor) {
+  std::promise<Result<PrinterChoice>> answer;
+  closeWhen([] { return shows("The print server does not answer yet"); });
   EXPECT_EQ(run(answer.get_future().share()), kExitCancelled);
   answer.set_value(Error{"too late"});
 }

@@ -66,6 +66,11 @@ void FakePrintServer::stallSubmission() {
   mIsStalling = true;
 }
 
+void FakePrintServer::silenceSubmissionAfter(int bytes) {
+  const std::scoped_lock lock(mMutex);
+  mBytesUntilSilence = bytes;
+}
+
 void FakePrintServer::refusePresets(const std::string& reason) {
   const std::scoped_lock lock(mMutex);
   mPresetRefusal = reason;
@@ -143,9 +148,13 @@ Result<std::vector<Destination>> FakePrintServer::destinations() {
   return mDestinations;
 }
 
+void FakePrintServer::waitWhileSilent(std::unique_lock<std::mutex>& lock) {
+  mReleased.wait(lock, [this] { return !mIsSilent; });
+}
+
 Result<Destination> FakePrintServer::find(const DestinationName& name) {
   std::unique_lock lock(mMutex);
-  mReleased.wait(lock, [this] { return !mIsSilent; });
+  waitWhileSilent(lock);
   if (mIsGone) return Error{"no print server answers"};
   const auto found =
       std::find_if(mDestinations.begin(), mDestinations.end(),
@@ -176,9 +185,24 @@ Result<Done> FakePrintServer::removeInstance(const DestinationName& name) {
   return Done{};
 }
 
+Result<int> FakePrintServer::submitSilently(std::unique_lock<std::mutex>& lock,
+                                            const SpoolProgress& progress) {
+  constexpr int kSize = 100;
+  const int bytes = *mBytesUntilSilence;
+  mBytesUntilSilence.reset();
+  mIsSilent = true;
+  lock.unlock();
+  progress(static_cast<std::uint64_t>(bytes), kSize);
+  lock.lock();
+  waitWhileSilent(lock);
+  if (bytes + 1 < kSize) return Error{"given up"};
+  return kJobId;
+}
+
 Result<int> FakePrintServer::submit(const PrintRequest& request, const SpoolProgress& progress) {
   std::unique_lock lock(mMutex);
   if (mRefusal) return Error{*mRefusal};
+  if (mBytesUntilSilence) return submitSilently(lock, progress);
   if (mIsStalling) {
     lock.unlock();
     while (progress(50, 100)) std::this_thread::sleep_for(std::chrono::milliseconds(2));
@@ -193,7 +217,9 @@ Result<int> FakePrintServer::submit(const PrintRequest& request, const SpoolProg
 }
 
 Result<JobStatus> FakePrintServer::status(const DestinationName& /*destination*/, int /*jobId*/) {
-  const std::scoped_lock lock(mMutex);
+  std::unique_lock lock(mMutex);
+  waitWhileSilent(lock);
+  if (mIsGone) return Error{"no print server answers"};
   if (mIsCancelled) return jobStatus(JobState::canceled);
   const JobStatus status = mStatuses.front();
   if (mStatuses.size() > 1) mStatuses.pop_front();
@@ -201,7 +227,9 @@ Result<JobStatus> FakePrintServer::status(const DestinationName& /*destination*/
 }
 
 Result<Done> FakePrintServer::cancel(const DestinationName& /*destination*/, int /*jobId*/) {
-  const std::scoped_lock lock(mMutex);
+  std::unique_lock lock(mMutex);
+  waitWhileSilent(lock);
+  if (mIsGone) return Error{"no print server answers"};
   ++mCancellations;
   if (mCancelRefusal) {
     mStatuses = {jobStatus(mStateAtRefusal)};

@@ -35,6 +35,9 @@ class FakePrintServer final : public PrintServer {
   void refuseSubmission(const std::string& reason);
   // The next submission stops half way until its progress is told to give up.
   void stallSubmission();
+  // The next submission stops when so many bytes are sent, of a hundred, until the server is no
+  // longer silent. What was given up by then is no job, but for the last byte.
+  void silenceSubmissionAfter(int bytes);
   // Nobody answers, or not before it is back.
   void setGone(bool isGone, bool isSilent = false);
   void addDestination(const Destination& destination);
@@ -63,6 +66,9 @@ class FakePrintServer final : public PrintServer {
   Result<Done> cancel(const DestinationName& destination, int jobId) override;
 
  private:
+  void waitWhileSilent(std::unique_lock<std::mutex>& lock);
+  Result<int> submitSilently(std::unique_lock<std::mutex>& lock, const SpoolProgress& progress);
+
   std::mutex mMutex;
   std::condition_variable mReleased;
   std::vector<Destination> mDestinations;
@@ -76,6 +82,7 @@ class FakePrintServer final : public PrintServer {
   bool mIsGone = false;
   bool mIsSilent = false;
   bool mIsStalling = false;
+  std::optional<int> mBytesUntilSilence;
   bool mIsCancelled = false;
   std::vector<PrintRequest> mSubmissions;
   std::vector<std::string> mContents;

@@ -43,11 +43,22 @@ TEST_F(ServerGoneTest, ASilentServerIsNoticedWithoutWaitingForIt) {
   EXPECT_TRUE(waitUntil([this] { return !isGone(); }));
 }
 
+TEST_F(ServerGoneTest, AServerThatTakesItsTimeIsWaitedForCalmly) {
+  open();
+  server().setGone(false, /*isSilent=*/true);
+  EXPECT_TRUE(waitUntil([this] { return shows(QStringLiteral("Waiting for the print server")); }));
+  EXPECT_FALSE(isGone());
+  EXPECT_FALSE(shows(QStringLiteral("No answer")));
+  server().setGone(false);
+  EXPECT_TRUE(waitUntil([this] { return shows(QStringLiteral("Ready")); }));
+}
+
 TEST_F(ServerGoneTest, APrinterThatIsGoneIsNotAServerThatIsGone) {
   open();
   server().removePrinter("tape");
   EXPECT_TRUE(waitUntil([this] { return shows(QStringLiteral("nknown printer tape")); }));
   EXPECT_FALSE(isGone());
+  EXPECT_TRUE(shows(QStringLiteral("Not available")));
 }
 
 }  // namespace
