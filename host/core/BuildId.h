@@ -7,4 +7,7 @@ namespace cutline {
 // answers its own and not that of the program that loads it.
 __attribute__((visibility("hidden"))) const char* buildId() noexcept;
 
+// The section of a file that has the same text with its NUL, for who will not run the file.
+inline constexpr char kBuildIdSection[] = "cutline_build";
+
 }  // namespace cutline

@@ -16,16 +16,13 @@ struct DialogRequest {
 };
 
 inline constexpr char kDialogModuleName[] = "cutline-dialog.so";
-inline constexpr char kDialogBuildSymbol[] = "CutlineDialogBuild";
 inline constexpr char kDialogRunSymbol[] = "CutlineRunDialog";
 
 extern "C" {
-// Both exported by the module. The first answers the module's buildId(), and is asked before the
-// second.
-const char* CutlineDialogBuild() noexcept;
-// Makes the toolkit and its platform, shows the dialog (or takes its snapshot), prints what the
-// user asked for and answers the program's exit status. An error that ends the dialog before it is
-// shown goes to standard error as one line "cutline: ...". Throws nothing.
+// Exported by the module. Makes the toolkit and its platform, shows the dialog (or takes its
+// snapshot), prints what the user asked for and answers the program's exit status. An error that
+// ends the dialog before it is shown goes to standard error as one line "cutline: ...". Throws
+// nothing.
 int CutlineRunDialog(const cutline::DialogRequest& request) noexcept;
 }
 

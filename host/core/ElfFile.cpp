@@ -1,5 +1,6 @@
 #include "host/core/ElfFile.h"
 
+#include <dlfcn.h>
 #include <elf.h>
 #include <link.h>
 #include <sys/stat.h>
@@ -16,7 +17,6 @@ namespace {
 using Header = ElfW(Ehdr);
 using Segment = ElfW(Phdr);
 
-constexpr unsigned char kClass = sizeof(void*) == 8 ? ELFCLASS64 : ELFCLASS32;
 constexpr char kNotWhole[] = "is not whole";
 constexpr char kNoCode[] = "is no code for this machine";
 
@@ -28,9 +28,17 @@ bool isWithin(std::uint64_t at, std::uint64_t size, std::uint64_t whole) {
   return at <= whole && size <= whole - at;
 }
 
+// The linker's name for the header of the file that this code is in.
+extern "C" __attribute__((visibility("hidden"))) const Header __ehdr_start;
+
+// Our magic number, class and order of bytes.
+bool isOfOurKind(const Header& header) {
+  return std::memcmp(header.e_ident, __ehdr_start.e_ident, EI_OSABI) == 0 &&
+         header.e_machine == __ehdr_start.e_machine;
+}
+
 bool isCode(const Header& header) {
-  return std::memcmp(header.e_ident, ELFMAG, SELFMAG) == 0 && header.e_ident[EI_CLASS] == kClass &&
-         header.e_type == ET_DYN && header.e_phentsize == sizeof(Segment);
+  return isOfOurKind(header) && header.e_type == ET_DYN && header.e_phentsize == sizeof(Segment);
 }
 
 bool hasItsSegments(const FileDescriptor& file, const Header& header, std::uint64_t whole) {
@@ -54,6 +62,14 @@ std::string reasonAgainstCode(const FileDescriptor& file) {
   const std::uint64_t sections = std::uint64_t{header.e_shnum} * header.e_shentsize;
   if (!isWithin(header.e_shoff, sections, whole)) return kNotWhole;
   return hasItsSegments(file, header, whole) ? "" : kNotWhole;
+}
+
+Result<void*> loadCode(FileDescriptor file, int flags) {
+  const std::string name = "/proc/self/fd/" + std::to_string(file.get());
+  void* const library = dlopen(name.c_str(), RTLD_NOW | RTLD_LOCAL | flags);
+  if (library == nullptr) return Error{dlerror()};
+  static_cast<void>(file.release());
+  return library;
 }
 
 }  // namespace cutline

@@ -4,9 +4,10 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <string_view>
+#include <utility>
 
 #include "host/core/BuildId.h"
+#include "host/core/CodeFacts.h"
 #include "host/core/ElfFile.h"
 #include "host/core/TrustedFile.h"
 
@@ -14,23 +15,26 @@ namespace cutline {
 
 namespace {
 
-using BuildFunction = const char* (*)() noexcept;
-
 Error damaged(const std::string& path, const std::string& reason) {
   return Error{path + ": " + reason + "; install the program again"};
 }
 
-// A module is loaded by its name, so that it finds its libraries beside it; so the folder that it
-// is in must be nobody else's, too.
-Result<Done> check(const std::string& path) {
-  const Result<FileDescriptor> code = openTrusted(path, FileKind::regular);
-  if (!code) return code.error();
-  const std::string folder = std::filesystem::path(path).parent_path();
-  Result<FileDescriptor> directory = openTrusted(folder, FileKind::directory);
-  if (directory) directory = belowTrustedFolders(std::move(*directory), folder);
+Result<FileDescriptor> openModule(const std::string& path) {
+  const std::filesystem::path file = path;
+  const std::string folder = file.parent_path();
+  const Result<FileDescriptor> directory = openTrustedFolder(folder);
   if (!directory) return directory.error();
-  const std::string reason = reasonAgainstCode(*code);
-  return reason.empty() ? Result<Done>(Done{}) : damaged(path, reason);
+  return openTrustedIn(*directory, file.filename().string(), FileKind::regular, folder);
+}
+
+// Why the module is not loaded; empty when it is.
+std::string reasonAgainstModule(const FileDescriptor& code, const char* symbol) {
+  std::string reason = reasonAgainstCode(code);
+  if (!reason.empty()) return reason;
+  const std::string build = buildId();
+  if (codeSection(code, kBuildIdSection) != build + '\0')
+    return "belongs to another build of the program";
+  return offersSymbol(code, symbol) ? std::string() : std::string("has no ") + symbol;
 }
 
 // Whether this process takes libc's functions as they are: no sanitizer, no allocator, nothing else
@@ -52,18 +56,14 @@ int bindingOrder() { return hasPlainLibc() ? RTLD_DEEPBIND : 0; }
 
 }  // namespace
 
-Result<void*> loadModule(const std::string& path, const char* buildSymbol, const char* symbol) {
-  if (Result<Done> checked = check(path); !checked) return checked.error();
-  void* module = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL | bindingOrder());
-  if (module == nullptr) return damaged(path, dlerror());
-  const auto askBuild = reinterpret_cast<BuildFunction>(dlsym(module, buildSymbol));
-  if (askBuild == nullptr) return damaged(path, std::string("has no ") + buildSymbol);
-  if (askBuild() != std::string_view(buildId())) {
-    return damaged(path, "belongs to another build of the program");
-  }
-  void* address = dlsym(module, symbol);
-  if (address == nullptr) return damaged(path, std::string("has no ") + symbol);
-  return address;
+Result<void*> loadModule(const std::string& path, const char* symbol) {
+  Result<FileDescriptor> code = openModule(path);
+  if (!code) return code.error();
+  const std::string reason = reasonAgainstModule(*code, symbol);
+  if (!reason.empty()) return damaged(path, reason);
+  const Result<void*> module = loadCode(std::move(*code), bindingOrder());
+  if (!module) return damaged(path, module.error().message);
+  return dlsym(*module, symbol);
 }
 
 }  // namespace cutline

@@ -7,8 +7,9 @@
 
 namespace cutline {
 
-// Loads a module, asks it by `buildSymbol` which build it is of and, if that is this one, answers
-// the address of `symbol`; the module stays loaded. The error names the file and the reason.
-Result<void*> loadModule(const std::string& path, const char* buildSymbol, const char* symbol);
+// Loads a module of the very build of this program and answers the address of `symbol`; the module
+// stays loaded. Whatever speaks against it is found before any of its code runs. `path` is an
+// absolute one without links. The error names the file and the reason.
+Result<void*> loadModule(const std::string& path, const char* symbol);
 
 }  // namespace cutline

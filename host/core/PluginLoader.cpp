@@ -3,14 +3,18 @@
 #include <dlfcn.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <filesystem>
 #include <utility>
 
 #include "cups/PpdFile.h"
+#include "host/core/CodeFacts.h"
 #include "host/core/CutRules.h"
 #include "host/core/ElfFile.h"
 #include "host/core/TrustedFile.h"
 #include "platform/lib/DirectoryBundle.h"
+#include "platform/lib/ResourceFile.h"
 
 namespace cutline {
 
@@ -20,51 +24,68 @@ constexpr char kExtensionAttribute[] = "APDialogExtension";
 constexpr char kCutPanelBundle[] = "CutOptions.plugin";
 constexpr char kBundleSuffix[] = ".plugin";
 constexpr char kExecutableDirectory[] = "Linux-" CUTLINE_PROCESSOR;
+constexpr char kOtherAbi[] = "was made for another version of this program";
 
 using EntryFunction = const PrincipalClassEntry* (*)();
 
-// The file that holds the bundle's code, through directories that nobody else can change.
-Result<FileDescriptor> openCode(const std::string& bundlePath) {
-  const auto path = std::filesystem::path(bundlePath);
-  Result<FileDescriptor> directory = openTrusted(path.parent_path().string(), FileKind::directory);
-  if (directory)
-    directory = belowTrustedFolders(std::move(*directory), path.parent_path().string());
-  std::string shown = path.parent_path().string();
-  for (const std::string& name : {path.filename().string(), std::string("Contents")}) {
-    if (!directory) return directory;
-    directory = openTrustedIn(*directory, name, FileKind::directory, shown);
-    shown += "/" + name;
-  }
-  if (!directory) return directory;
-  const auto info = openTrustedIn(*directory, "Info.plist", FileKind::regular, shown);
-  if (!info) return info.error();
-  const auto resources = openTrustedIn(*directory, "Resources", FileKind::directory, shown);
-  if (!resources) return resources.error();
-  directory = openTrustedIn(*directory, kExecutableDirectory, FileKind::directory, shown);
-  if (!directory) return directory;
-  return openTrustedIn(*directory, path.stem().string() + ".so", FileKind::regular,
-                       shown + "/" + kExecutableDirectory);
+struct BundleFiles {
+  FileDescriptor info;
+  FileDescriptor code;
+};
+
+// A folder of the bundle, in one that was opened before.
+Result<FileDescriptor> openFolder(const FileDescriptor& in, const std::string& name,
+                                  std::filesystem::path& shown) {
+  auto folder = openTrustedIn(in, name, FileKind::directory, shown.string());
+  shown /= name;
+  return folder;
 }
 
-// Loads the very file that was checked. The descriptor stays open for good: the dynamic loader
-// knows the library by this name, and would take another file with the same number for this one.
-Result<void*> loadCode(FileDescriptor code, const std::string& bundlePath) {
+// What is read of the bundle before it runs, through folders that nobody else can change.
+Result<BundleFiles> openFiles(const std::filesystem::path& path) {
+  std::filesystem::path shown = path.parent_path();
+  const auto home = openTrustedFolder(shown.string());
+  if (!home) return home.error();
+  const auto bundle = openFolder(*home, path.filename().string(), shown);
+  if (!bundle) return bundle.error();
+  const auto contents = openFolder(*bundle, "Contents", shown);
+  if (!contents) return contents.error();
+  auto info = openTrustedIn(*contents, "Info.plist", FileKind::regular, shown.string());
+  if (!info) return info.error();
+  const auto resources = openTrustedIn(*contents, "Resources", FileKind::directory, shown.string());
+  if (!resources) return resources.error();
+  const auto folder = openFolder(*contents, kExecutableDirectory, shown);
+  if (!folder) return folder.error();
+  auto code =
+      openTrustedIn(*folder, path.stem().string() + ".so", FileKind::regular, shown.string());
+  if (!code) return code.error();
+  return BundleFiles{std::move(*info), std::move(*code)};
+}
+
+// Whether all that the code was compiled of had the ports as they are here.
+bool hasOurAbi(const FileDescriptor& code) {
+  const std::string numbers = codeSection(code, kPlugInAbiSection).value_or(std::string());
+  std::vector<std::uint32_t> all(numbers.size() / sizeof kPlugInAbiVersion);
+  std::memcpy(all.data(), numbers.data(), all.size() * sizeof kPlugInAbiVersion);
+  return !all.empty() && std::ranges::count(all, kPlugInAbiVersion) == std::ssize(all);
+}
+
+// Why the code is not loaded; empty when it is. Found before any of it runs.
+std::string reasonAgainstPlugIn(const FileDescriptor& code, const std::string& className) {
   const std::string reason = reasonAgainstCode(code);
-  if (!reason.empty()) return Error{bundlePath + ": its code " + reason};
-  const std::string name = "/proc/self/fd/" + std::to_string(code.release());
-  void* library = dlopen(name.c_str(), RTLD_NOW | RTLD_LOCAL);
-  if (library == nullptr) return Error{bundlePath + ": " + dlerror()};
-  return library;
+  if (!reason.empty()) return "its code " + reason;
+  if (!offersSymbol(code, kPrincipalClassSymbolPrefix + className))
+    return "has no principal class " + className;
+  return hasOurAbi(code) ? "" : kOtherAbi;
 }
 
 Result<const PrincipalClassEntry*> findEntry(void* library, const std::string& className,
                                              const std::string& bundlePath) {
   const std::string symbol = kPrincipalClassSymbolPrefix + className;
   const auto function = reinterpret_cast<EntryFunction>(dlsym(library, symbol.c_str()));
-  if (function == nullptr) return Error{bundlePath + ": has no principal class " + className};
-  const PrincipalClassEntry* entry = function();
+  const PrincipalClassEntry* entry = function != nullptr ? function() : nullptr;
   if (entry == nullptr || entry->abi != kPlugInAbiVersion)
-    return Error{bundlePath + ": was made for another version of this program"};
+    return Error{bundlePath + ": " + kOtherAbi};
   return entry;
 }
 
@@ -78,15 +99,19 @@ bool isBundleName(const std::string& name) {
 PanelSource::~PanelSource() = default;
 
 Result<std::shared_ptr<LoadedBundle>> LoadedBundle::load(const std::string& path) {
-  Result<FileDescriptor> code = openCode(path);
-  if (!code) return code.error();
+  Result<BundleFiles> files = openFiles(path);
+  if (!files) return files.error();
   const std::shared_ptr<LoadedBundle> loaded(new LoadedBundle);
   loaded->mName = std::filesystem::path(path).filename().string();
-  loaded->mBundle = DirectoryBundle::open(path);
+  const auto info = readResource(files->info);
+  loaded->mBundle = info ? DirectoryBundle::open(path, *info) : nullptr;
   if (loaded->mBundle == nullptr) return Error{path + ": is no bundle: its Info.plist is damaged"};
-  const Result<void*> library = loadCode(std::move(*code), path);
-  if (!library) return library.error();
-  const auto entry = findEntry(*library, loaded->mBundle->principalClassName(), path);
+  const std::string className = loaded->mBundle->principalClassName();
+  const std::string reason = reasonAgainstPlugIn(files->code, className);
+  if (!reason.empty()) return Error{path + ": " + reason};
+  const Result<void*> library = loadCode(std::move(files->code));
+  if (!library) return Error{path + ": " + library.error().message};
+  const auto entry = findEntry(*library, className, path);
   if (!entry) return entry.error();
   loaded->mEntry = *entry;
   return loaded;

@@ -40,7 +40,7 @@ int endOutput() {
 int showDialog(const CommandLine& line, PluginLoader& plugIns) {
   const Installation installation = Installation::ofThisProgram();
   const Result<void*> function =
-      loadModule(installation.modulePath(kDialogModuleName), kDialogBuildSymbol, kDialogRunSymbol);
+      loadModule(installation.modulePath(kDialogModuleName), kDialogRunSymbol);
   if (!function) return fail(function.error());
   return reinterpret_cast<DialogFunction>(*function)({&line, &plugIns, &installation});
 }

@@ -39,24 +39,42 @@ Result<FileDescriptor> checked(FileDescriptor file, FileKind kind, const std::st
   return file;
 }
 
-}  // namespace
+// What nobody has to be able to read, in order to go through.
+constexpr int kWayFlags = O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
-Result<FileDescriptor> openTrusted(const std::string& path, FileKind kind) {
-  return checked(FileDescriptor(::open(path.c_str(), openFlags(kind))), kind, path);
+Result<FileDescriptor> checkedWay(FileDescriptor folder, const std::filesystem::path& path) {
+  struct stat status {};
+  if (folder.get() < 0 || fstat(folder.get(), &status) != 0)
+    return Error{path.string() + ": " + std::strerror(errno)};
+  if (status.st_uid != 0 && status.st_uid != geteuid())
+    return Error{path.string() + " belongs to another user; it must belong to root or to you"};
+  if ((status.st_mode & S_IWOTH) != 0 && (status.st_mode & S_ISVTX) == 0)
+    return Error{path.string() + " can be changed by everybody; take that away (chmod o-w)"};
+  return folder;
 }
 
-Result<FileDescriptor> belowTrustedFolders(FileDescriptor file, const std::string& path) {
-  for (std::filesystem::path above = path; above.has_relative_path();) {
-    above = above.parent_path();
-    struct stat status {};
-    if (::stat(above.c_str(), &status) != 0)
-      return Error{above.string() + ": " + std::strerror(errno)};
-    if (status.st_uid != 0 && status.st_uid != geteuid())
-      return Error{above.string() + " belongs to another user; it must belong to root or to you"};
-    if ((status.st_mode & S_IWOTH) != 0 && (status.st_mode & S_ISVTX) == 0)
-      return Error{above.string() + " can be changed by everybody; take that away (chmod o-w)"};
+Result<FileDescriptor> walkTo(const std::filesystem::path& path) {
+  std::filesystem::path walked = "/";
+  auto folder = checkedWay(FileDescriptor(::open(walked.c_str(), kWayFlags)), walked);
+  for (const std::filesystem::path& name : path.relative_path()) {
+    if (!folder) return folder;
+    walked /= name;
+    folder = checkedWay(FileDescriptor(::openat(folder->get(), name.c_str(), kWayFlags)), walked);
   }
-  return file;
+  return folder;
+}
+
+}  // namespace
+
+Result<FileDescriptor> openTrustedFolder(const std::string& path) {
+  const std::filesystem::path folder = path;
+  if (!folder.is_absolute() || folder != folder.lexically_normal() || !folder.has_filename())
+    return Error{path + ": is no whole path of a folder"};
+  const std::filesystem::path above = folder.parent_path();
+  const Result<FileDescriptor> way = walkTo(above);
+  if (!way) return way.error();
+  const std::string shown = above == above.root_path() ? "" : above.string();
+  return openTrustedIn(*way, folder.filename().string(), FileKind::directory, shown);
 }
 
 Result<FileDescriptor> openTrustedIn(const FileDescriptor& directory, const std::string& name,

@@ -8,7 +8,6 @@
 #include <iostream>
 
 #include "cups/ServerOptions.h"
-#include "host/core/BuildId.h"
 #include "host/core/Installation.h"
 #include "host/dialog/Appearance.h"
 #include "host/dialog/DialogLanguage.h"
@@ -103,8 +102,6 @@ int runDialog(const DialogRequest& request) {
 }
 
 }  // namespace
-
-const char* CutlineDialogBuild() noexcept { return buildId(); }
 
 int CutlineRunDialog(const DialogRequest& request) noexcept {
   try {

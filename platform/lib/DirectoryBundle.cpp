@@ -33,9 +33,15 @@ std::optional<PropertyList> readPropertyList(const std::filesystem::path& path) 
 }  // namespace
 
 std::shared_ptr<Bundle> DirectoryBundle::open(const std::string& path) noexcept {
-  auto info = readPropertyList(std::filesystem::path(path) / "Contents" / "Info.plist");
-  if (!info || !info->dictionary()) return nullptr;
-  return std::shared_ptr<Bundle>(new DirectoryBundle(path, std::move(*info)));
+  const auto info = readResource(std::filesystem::path(path) / "Contents" / "Info.plist");
+  return info ? open(path, *info) : nullptr;
+}
+
+std::shared_ptr<Bundle> DirectoryBundle::open(const std::string& path,
+                                              const std::string& info) noexcept {
+  auto list = PropertyList::parseXML(info);
+  if (!list || !list->dictionary()) return nullptr;
+  return std::shared_ptr<Bundle>(new DirectoryBundle(path, std::move(*list)));
 }
 
 DirectoryBundle::DirectoryBundle(std::filesystem::path path, PropertyList info)

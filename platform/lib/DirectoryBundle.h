@@ -19,6 +19,8 @@ class DirectoryBundle final : public Bundle {
   // Null when the directory has no readable Contents/Info.plist. The user's languages are read from
   // the environment now.
   static std::shared_ptr<Bundle> open(const std::string& path) noexcept;
+  // The same with the bytes of Contents/Info.plist, where these were read before.
+  static std::shared_ptr<Bundle> open(const std::string& path, const std::string& info) noexcept;
 
   std::string bundlePath() const noexcept override { return mPath.string(); }
   std::string bundleIdentifier() const noexcept override;

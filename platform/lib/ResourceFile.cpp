@@ -1,21 +1,32 @@
 #include "platform/lib/ResourceFile.h"
 
-#include <fstream>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <string_view>
-#include <system_error>
 
 namespace cutline {
 
+// The question of the kind is asked of the open file, since another can come into its place, and a
+// pipe or a device would block or never end.
 std::optional<std::string> readResource(const std::filesystem::path& path,
                                         std::size_t limit) noexcept {
-  std::error_code error;
-  // A pipe or a device under the name would block or never end.
-  if (!std::filesystem::is_regular_file(path, error)) return std::nullopt;
-  const auto size = std::filesystem::file_size(path, error);
-  if (error || size > limit) return std::nullopt;
-  std::string bytes(size, '\0');
-  std::ifstream file(path, std::ios::binary);
-  if (!file.read(bytes.data(), static_cast<std::streamsize>(size))) return std::nullopt;
+  return readResource(FileDescriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)),
+                      limit);
+}
+
+std::optional<std::string> readResource(const FileDescriptor& file, std::size_t limit) noexcept {
+  struct stat status {};
+  if (::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
+  if (static_cast<std::size_t>(status.st_size) > limit) return std::nullopt;
+  std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
+  for (std::size_t at = 0; at < bytes.size();) {
+    const ssize_t got =
+        ::pread(file.get(), bytes.data() + at, bytes.size() - at, static_cast<off_t>(at));
+    if (got <= 0) return std::nullopt;
+    at += static_cast<std::size_t>(got);
+  }
   return bytes;
 }
 

@@ -6,6 +6,8 @@
 #include <optional>
 #include <string>
 
+#include "base/FileDescriptor.h"
+
 namespace cutline {
 
 // No resource of a bundle comes near this size.
@@ -13,6 +15,10 @@ inline constexpr std::size_t kLargestResource = std::size_t{16} << 20;
 
 // The bytes of a regular file; nothing when it is none, cannot be read or is larger than `limit`.
 std::optional<std::string> readResource(const std::filesystem::path& path,
+                                        std::size_t limit = kLargestResource) noexcept;
+
+// The same of an open file.
+std::optional<std::string> readResource(const FileDescriptor& file,
                                         std::size_t limit = kLargestResource) noexcept;
 
 // Whether a resource may go by this name: one path component, no NUL, neither "." nor "..".

@@ -37,10 +37,17 @@ class PrintDialogPlugIn {
 
 // Changes whenever a header of platform/ports/ changes what a bundle was compiled against;
 // scripts/port-hash notices.
-inline constexpr std::uint32_t kPlugInAbiVersion = 5;
+inline constexpr std::uint32_t kPlugInAbiVersion = 6;
+
+// Whoever includes this header has the number in a section of his code's file, once or more often.
+// So a host learns it without running any of the code.
+inline constexpr char kPlugInAbiSection[] = "cutline_abi";
+__attribute__((section("cutline_abi"), used,
+               retain)) static constexpr std::uint32_t kCompiledAgainstAbi = kPlugInAbiVersion;
 
 // A bundle exports one C function `const PrincipalClassEntry*()` for each principal class, named
-// kPrincipalClassSymbolPrefix followed by the class's name. The host refuses another `abi`.
+// kPrincipalClassSymbolPrefix followed by the class's name. The host refuses another `abi`,
+// in the entry as in the section.
 struct PrincipalClassEntry {
   std::uint32_t abi;
   PrintDialogPlugIn* (*create)() noexcept;

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "cups/PpdContents.h"
+#include "host/core/CodeFacts.h"
 #include "host/core/ElfFile.h"
 #include "host/core/PluginLoader.h"
 #include "tests/fuzz/Input.h"
@@ -14,7 +15,12 @@ namespace {
 
 using namespace cutline;
 
-void readCode(const std::string& bytes) { reasonAgainstCode(memoryFile(bytes)); }
+void readCode(const std::string& bytes) {
+  const FileDescriptor file = memoryFile(bytes);
+  reasonAgainstCode(file);
+  codeSection(file, kPlugInAbiSection);
+  offersSymbol(file, kPrincipalClassSymbolPrefix + std::string("TestPlugIn"));
+}
 
 void readInfo(const std::string& bytes) {
   static const test::TemporaryFolder folder;

@@ -4,25 +4,26 @@
 
 #include "host/core/Installation.h"
 #include "host/core/Module.h"
+#include "tests/host/TestCode.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace cutline {
 namespace {
 
-constexpr char kModule[] = CUTLINE_BUILD_DIR "/tests/modules/PlainModule.so";
+const std::string kModule = test::builtModule("PlainModule");
 
 TEST(Module, AnswersTheSymbolsAddress) {
-  const auto address = loadModule(kModule, "TestModuleBuild", "TestModuleAnswer");
+  const auto address = loadModule(kModule, "TestModuleAnswer");
   ASSERT_TRUE(address) << address.error().message;
   EXPECT_EQ(reinterpret_cast<int (*)()>(*address)(), 42);
 }
 
 TEST(Module, RefusesAnotherBuild) {
-  const auto address = loadModule(kModule, "TestModuleOtherBuild", "TestModuleAnswer");
+  const std::string path = test::builtModule("MarkerOtherBuild");
+  const auto address = loadModule(path, "TestModuleAnswer");
   ASSERT_FALSE(address);
-  EXPECT_EQ(address.error().message, std::string(kModule) +
-                                         ": belongs to another build of the program; install the "
-                                         "program again");
+  EXPECT_EQ(address.error().message,
+            path + ": belongs to another build of the program; install the program again");
 }
 
 TEST(Module, RefusesAFileThatOthersCanChangeOrThatIsNotWhole) {
@@ -31,25 +32,26 @@ TEST(Module, RefusesAFileThatOthersCanChangeOrThatIsNotWhole) {
   std::filesystem::copy_file(kModule, path);
   std::filesystem::permissions(path, std::filesystem::perms::group_write,
                                std::filesystem::perm_options::add);
-  const auto open = loadModule(path, "TestModuleBuild", "TestModuleAnswer");
+  const auto open = loadModule(path, "TestModuleAnswer");
   ASSERT_FALSE(open);
   EXPECT_NE(open.error().message.find("can be changed by other users"), std::string::npos)
       << open.error().message;
   std::filesystem::permissions(path, std::filesystem::perms::group_write,
                                std::filesystem::perm_options::remove);
   std::filesystem::resize_file(path, std::filesystem::file_size(path) / 2);
-  const auto half = loadModule(path, "TestModuleBuild", "TestModuleAnswer");
+  const auto half = loadModule(path, "TestModuleAnswer");
   ASSERT_FALSE(half);
   EXPECT_EQ(half.error().message, path + ": is not whole; install the program again");
 }
 
 TEST(Module, RefusesAMissingSymbol) {
-  EXPECT_FALSE(loadModule(kModule, "NoSuchBuild", "TestModuleAnswer"));
-  EXPECT_FALSE(loadModule(kModule, "TestModuleBuild", "NoSuchAnswer"));
+  const auto address = loadModule(kModule, "NoSuchAnswer");
+  ASSERT_FALSE(address);
+  EXPECT_EQ(address.error().message, kModule + ": has no NoSuchAnswer; install the program again");
 }
 
 TEST(Module, AMissingModuleIsNamed) {
-  const Result<void*> module = loadModule("/nonexistent/some.so", "Build", "Answer");
+  const Result<void*> module = loadModule("/usr/lib/some.so", "Answer");
   ASSERT_FALSE(module);
   EXPECT_NE(module.error().message.find("some.so"), std::string::npos);
 }

@@ -6,6 +6,7 @@
 #include <fstream>
 
 #include "host/core/PluginLoader.h"
+#include "tests/host/TestCode.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/support/TestPrinter.h"
 
@@ -14,33 +15,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr char kInfo[] =
-    "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict>"
-    "<key>CFBundleIdentifier</key><string>org.cutline.Test</string>"
-    "<key>NSPrincipalClass</key><string>TestPlugIn</string></dict></plist>";
-
 class PluginLoaderTest : public testing::Test {
  protected:
-  // Puts a whole bundle together; answers its path.
   fs::path makeBundle(const std::string& module, const std::string& name = "Test") {
-    fs::path bundle = mDirectory.path() + "/" + name + ".plugin";
-    fs::create_directories(bundle / "Contents/Resources");
-    fs::create_directories(code(bundle).parent_path());
-    std::ofstream(bundle / "Contents/Info.plist") << kInfo;
-    fs::copy_file(CUTLINE_BUILD_DIR "/tests/modules/" + module + ".so", code(bundle));
-    makePrivate(bundle);
-    return bundle;
-  }
-
-  static fs::path code(const fs::path& bundle) {
-    return bundle / ("Contents/Linux-" CUTLINE_TEST_PROCESSOR) / (bundle.stem().string() + ".so");
-  }
-
-  static void makePrivate(const fs::path& bundle) {
-    const auto notOthers = fs::perms::group_write | fs::perms::others_write;
-    fs::permissions(bundle, notOthers, fs::perm_options::remove);
-    for (const auto& entry : fs::recursive_directory_iterator(bundle))
-      fs::permissions(entry.path(), notOthers, fs::perm_options::remove);
+    return test::makeBundle(mDirectory.path(), module, name);
   }
 
   static void expectRefused(const fs::path& bundle, const std::string& reason) {
@@ -79,7 +57,7 @@ TEST_F(PluginLoaderTest, RefusesWhateverOthersCanWrite) {
   const fs::path bundle = makeBundle("GoodPlugIn");
   for (const fs::path& part :
        {bundle, bundle / "Contents", bundle / "Contents/Info.plist", bundle / "Contents/Resources",
-        code(bundle).parent_path(), code(bundle), bundle.parent_path()}) {
+        test::codeOf(bundle).parent_path(), test::codeOf(bundle), bundle.parent_path()}) {
     for (const fs::perms others : {fs::perms::others_write, fs::perms::group_write}) {
       SCOPED_TRACE(part);
       fs::permissions(part, others, fs::perm_options::add);
@@ -93,7 +71,7 @@ TEST_F(PluginLoaderTest, RefusesWhateverOthersCanWrite) {
 TEST_F(PluginLoaderTest, RefusesSymbolicLinks) {
   const fs::path bundle = makeBundle("GoodPlugIn");
   const test::TemporaryFolder elsewhere;
-  for (const fs::path& part : {code(bundle), code(bundle).parent_path(),
+  for (const fs::path& part : {test::codeOf(bundle), test::codeOf(bundle).parent_path(),
                                bundle / "Contents/Info.plist", bundle / "Contents", bundle}) {
     SCOPED_TRACE(part);
     const fs::path moved = elsewhere.path() + "/moved";
@@ -109,7 +87,7 @@ TEST_F(PluginLoaderTest, RefusesSymbolicLinks) {
 // Only root can give a file away; a plain user can refer to files of root, which are trusted.
 TEST_F(PluginLoaderTest, RefusesWhatBelongsToAStranger) {
   const fs::path bundle = makeBundle("GoodPlugIn");
-  const int given = ::chown(code(bundle).c_str(), 12345, static_cast<gid_t>(-1));
+  const int given = ::chown(test::codeOf(bundle).c_str(), 12345, static_cast<gid_t>(-1));
   if (geteuid() != 0) {
     EXPECT_NE(given, 0);
     EXPECT_TRUE(LoadedBundle::load(bundle.string()));
@@ -139,19 +117,19 @@ TEST_F(PluginLoaderTest, RefusesWhatIsNoBundle) {
 
 TEST_F(PluginLoaderTest, RefusesCodeThatIsNoLibrary) {
   const fs::path bundle = makeBundle("GoodPlugIn");
-  std::ofstream(code(bundle)) << "text";
+  std::ofstream(test::codeOf(bundle)) << "text";
   expectRefused(bundle, "Test.plugin");
 }
 
 // Bytes that are promised and missing would end the program at their first touch.
 TEST_F(PluginLoaderTest, RefusesCodeThatIsNotWhole) {
   const fs::path bundle = makeBundle("GoodPlugIn");
-  const auto whole = fs::file_size(code(bundle));
+  const auto whole = fs::file_size(test::codeOf(bundle));
   for (const std::uintmax_t size : {whole - 1, whole / 2, whole / 4, std::uintmax_t{4096}}) {
-    fs::resize_file(code(bundle), size);
+    fs::resize_file(test::codeOf(bundle), size);
     expectRefused(bundle, "is not whole");
   }
-  fs::resize_file(code(bundle), 32);
+  fs::resize_file(test::codeOf(bundle), 32);
   expectRefused(bundle, "is no code for this machine");
 }
 
