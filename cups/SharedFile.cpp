@@ -83,11 +83,16 @@ Result<Old> oldOf(const std::string& path) {
   return old;
 }
 
-// A new file beside the shared one; removed with this object unless it has taken its place.
+// A new file beside the shared one; removed with this object unless it has taken its place. Made
+// under the lock alone, so it has one name for all: what a killed program left goes with the next
+// change.
 class NewFile {
  public:
-  explicit NewFile(const std::string& path)
-      : mPath(path + ".XXXXXX"), mFile(::mkostemp(mPath.data(), O_CLOEXEC)) {}
+  explicit NewFile(const std::string& path) : mPath(path + ".cutline-new") {
+    ::unlink(mPath.c_str());
+    constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+    mFile = FileDescriptor(::open(mPath.c_str(), kFlags, S_IRUSR | S_IWUSR));
+  }
   ~NewFile() {
     if (mFile) ::unlink(mPath.c_str());
   }
@@ -132,8 +137,8 @@ Result<Done> changeSharedFile(const std::string& path,
   const auto old = oldOf(place);
   if (!old) return old.error();
   const std::string bytes = change(old->bytes);
-  if (old->status && bytes == old->bytes) return Done{};
   NewFile file(place);
+  if (old->status && bytes == old->bytes) return Done{};
   if (!file.write(bytes, old->status) || !file.replace(place)) return unsaved(place);
   keepNameIn(fs::path(place).parent_path());
   return Done{};
