@@ -1,17 +1,21 @@
-// click_repaint PPD [CLICKS]
+// click_repaint PPD CLICKS LABELS...
 // How long a click on the half-cut box takes until the dialog has painted the answer: the box, the
-// preview's picture and the summary. Milliseconds over CLICKS clicks (200), in the real dialog on
-// the platform that QT_QPA_PLATFORM names.
+// preview's picture, the strip, its sentence and the summary. Milliseconds over CLICKS clicks for a
+// document of each number of LABELS, in the real dialog on the platform that QT_QPA_PLATFORM names.
 #include <QApplication>
 #include <QCheckBox>
 #include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QTemporaryFile>
 #include <QTest>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <string>
 #include <vector>
 
+#include "bench/LabelsPdf.h"
 #include "host/core/HostPlatform.h"
 #include "host/core/Installation.h"
 #include "host/core/PluginLoader.h"
@@ -24,6 +28,8 @@
 namespace {
 
 using namespace cutline;
+
+constexpr int kPatience = 60'000;
 
 // Notes when something of a window has been asked to paint.
 class PaintWatch : public QObject {
@@ -57,7 +63,7 @@ QCheckBox* boxOf(PrintModel& model, const std::string& keyword) {
   return nullptr;
 }
 
-double clickUntilPainted(QCheckBox& box, PaintWatch& watch) {
+[[gnu::noinline]] double clickUntilPainted(QCheckBox& box, PaintWatch& watch) {
   watch.reset();
   QElapsedTimer timer;
   timer.start();
@@ -69,10 +75,54 @@ double clickUntilPainted(QCheckBox& box, PaintWatch& watch) {
   return static_cast<double>(timer.nsecsElapsed()) / 1e6;
 }
 
-void print(std::vector<double> times) {
+void print(int labels, std::vector<double> times) {
   std::sort(times.begin(), times.end());
-  std::printf("%-28s %-16s median %9.2f  min %9.2f  max %9.2f  n=%zu\n", "cutline", "click_ms",
-              times[times.size() / 2], times.front(), times.back(), times.size());
+  const std::string words = "click, " + std::to_string(labels) + " labels";
+  std::printf("%-28s %-16s median %9.2f  99.9 %% %8.2f  max %9.2f  n=%zu\n", words.c_str(),
+              "click_ms", times[times.size() / 2], times[times.size() * 999 / 1000], times.back(),
+              times.size());
+}
+
+// A document in a file of its own, gone with this.
+class LabelsFile {
+ public:
+  explicit LabelsFile(int labels) {
+    if (!mFile.open()) return;
+    const std::string pdf = labelsPdf(labels);
+    mFile.write(pdf.data(), static_cast<qint64>(pdf.size()));
+    mFile.flush();
+  }
+  std::string path() const { return mFile.fileName().toStdString(); }
+
+ private:
+  QTemporaryFile mFile;
+};
+
+// False when the dialog has no such box, or does not come to show the document.
+bool measureClicks(const std::shared_ptr<PpdFile>& ppd, int clicks, int labels) {
+  const Installation installation = Installation::ofThisProgram();
+  const LabelsFile file(labels);
+  QtToolkit toolkit;
+  HostPlatform platform(toolkit);
+  PluginLoader plugIns({installation.plugInDirectory()});
+  PrintModel model(plugIns, {});
+  PrintDialog dialog(
+      model, std::make_shared<CupsPrintServer>(ServerOptions{}),
+      PrintSource{{file.path()}, "labels", documentToolsIn(installation.helperDirectory())});
+  dialog.openPrinter(PrinterChoice{{}, ppd});
+  dialog.show();
+  QSignalSpy settled(&dialog, &PrintDialog::becameSettled);
+  if (!QTest::qWaitForWindowExposed(&dialog)) return false;
+  dialog.loadDocument();
+  if (!settled.wait(kPatience)) return false;
+  QCheckBox* box = boxOf(model, "LxHalfCut");
+  if (box == nullptr) return false;
+
+  PaintWatch watch(dialog);
+  std::vector<double> times;
+  for (int i = 0; i < clicks; ++i) times.push_back(clickUntilPainted(*box, watch));
+  print(labels, std::move(times));
+  return true;
 }
 
 }  // namespace
@@ -80,26 +130,12 @@ void print(std::vector<double> times) {
 int main(int argc, char** argv) {
   applyStyle();
   QApplication application(argc, argv);
-  if (argc < 2) return 2;
-  const int clicks = argc > 2 ? std::atoi(argv[2]) : 200;
+  if (argc < 4) return 2;
+  const int clicks = std::atoi(argv[2]);
   applyAppearance(false);
   const Result<std::shared_ptr<PpdFile>> ppd = PpdFile::open(argv[1]);
   if (!ppd || clicks < 1) return 1;
-
-  QtToolkit toolkit;
-  HostPlatform platform(toolkit);
-  PluginLoader plugIns({Installation::ofThisProgram().plugInDirectory()});
-  PrintModel model(plugIns, {});
-  PrintDialog dialog(model, std::make_shared<CupsPrintServer>(ServerOptions{}), PrintSource{});
-  dialog.openPrinter(PrinterChoice{{}, *ppd});
-  dialog.show();
-  if (!QTest::qWaitForWindowExposed(&dialog)) return 1;
-  QCheckBox* box = boxOf(model, "LxHalfCut");
-  if (box == nullptr) return 1;
-
-  PaintWatch watch(dialog);
-  std::vector<double> times;
-  for (int i = 0; i < clicks; ++i) times.push_back(clickUntilPainted(*box, watch));
-  print(times);
+  for (int i = 3; i < argc; ++i)
+    if (!measureClicks(*ppd, clicks, std::atoi(argv[i]))) return 1;
   return 0;
 }

@@ -1,6 +1,6 @@
 // compose HELPER_DIRECTORY RUNS
-// Times how long documents take to become labels, and how long the first of them takes. The
-// documents are made here: as many pages as said, each with a few words and lines.
+// Times how long documents take to become labels, and how long the first of them takes. Each
+// page has a few words and lines.
 #include <unistd.h>
 
 #include <algorithm>
@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "bench/LabelsPdf.h"
 #include "composition/Composer.h"
 
 namespace {
@@ -18,58 +19,6 @@ namespace {
 using cutline::CompositionRequest;
 
 constexpr int kPageCounts[] = {12, 300, 10000};
-constexpr int kFontObject = 3;
-
-// A label page of 50 x 24 mm, with its place in the file's table.
-class PdfText {
- public:
-  void add(const std::string& body) {
-    mPlaces.push_back(mText.size());
-    mText += std::to_string(mPlaces.size()) + " 0 obj\n" + body + "\nendobj\n";
-  }
-
-  std::string finished() {
-    const std::size_t start = mText.size();
-    mText += "xref\n0 " + std::to_string(mPlaces.size() + 1) + "\n0000000000 65535 f \n";
-    for (const std::size_t place : mPlaces) {
-      char line[24];
-      std::snprintf(line, sizeof line, "%010zu 00000 n \n", place);
-      mText += line;
-    }
-    mText += "trailer\n<</Size " + std::to_string(mPlaces.size() + 1) +
-             "/Root 1 0 R>>\nstartxref\n" + std::to_string(start) + "\n%%EOF\n";
-    return mText;
-  }
-
- private:
-  std::string mText = "%PDF-1.4\n";
-  std::vector<std::size_t> mPlaces;
-};
-
-std::string contentOf(int page) {
-  std::string text = "BT /F1 14 Tf 10 40 Td (Asset " + std::to_string(page + 1) + ") Tj ET\n";
-  for (int bar = 0; bar < 40; ++bar)
-    text += std::to_string(10 + bar * 3) + " 8 " + std::to_string(1 + (bar * 7 + page) % 2) +
-            " 24 re f\n";
-  return text;
-}
-
-std::string labels(int pages) {
-  PdfText pdf;
-  pdf.add("<</Type/Catalog/Pages 2 0 R>>");
-  std::string kids;
-  for (int page = 0; page < pages; ++page)
-    kids += std::to_string(kFontObject + 1 + page * 2) + " 0 R ";
-  pdf.add("<</Type/Pages/Kids[" + kids + "]/Count " + std::to_string(pages) + ">>");
-  pdf.add("<</Type/Font/Subtype/Type1/BaseFont/Helvetica>>");
-  for (int page = 0; page < pages; ++page) {
-    const std::string content = contentOf(page);
-    pdf.add("<</Type/Page/Parent 2 0 R/MediaBox[0 0 141.73 68.03]/Contents " +
-            std::to_string(kFontObject + 2 + page * 2) + " 0 R/Resources<</Font<</F1 3 0 R>>>>>>");
-    pdf.add("<</Length " + std::to_string(content.size()) + ">>\nstream\n" + content + "endstream");
-  }
-  return pdf.finished();
-}
 
 double millisecondsOf(const std::string& helpers, const std::string& path,
                       const CompositionRequest& request) {
@@ -94,7 +43,7 @@ void measure(const char* what, const std::string& helpers, const std::string& pa
 
 void measurePages(int pages, const std::string& helpers, int runs) {
   const std::string path = "/tmp/cutline-bench-" + std::to_string(getpid()) + ".pdf";
-  std::ofstream(path, std::ios::binary) << labels(pages);
+  std::ofstream(path, std::ios::binary) << cutline::labelsPdf(pages);
   CompositionRequest request;
   request.label = {68.03, 141.73, 2.83, 5.67, 65.2, 136.06, 90, 90};
   const std::string count = std::to_string(pages);

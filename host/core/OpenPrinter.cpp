@@ -1,7 +1,5 @@
 #include "host/core/OpenPrinter.h"
 
-#include <algorithm>
-
 #include "host/core/CutRules.h"
 #include "host/core/JobOptions.h"
 #include "host/core/PrinterStart.h"
@@ -110,9 +108,10 @@ void OpenPrinter::place(CheckBox& box) {
 
 // What no box says: options without one, third choices, and what a rule sends.
 void OpenPrinter::markUnshown() {
+  const std::set<std::string> withBox = mPanels->boxKeywords();
   for (const auto& [keyword, choice] : mWanted.all()) {
     const std::string sent = mWanted.sent(keyword);
-    const bool isShown = hasBox(keyword) && sent == mWanted.shown(keyword) &&
+    const bool isShown = withBox.contains(keyword) && sent == mWanted.shown(keyword) &&
                          mOptions.position(keyword, sent).value_or(0) <= 1;
     if (!isShown) mark(keyword, sent);
   }
@@ -124,15 +123,9 @@ void OpenPrinter::mark(const std::string& keyword, const std::string& choice) {
   mPanels->report(nullptr, keyword, choice);
 }
 
-bool OpenPrinter::hasBox(const std::string& keyword) const {
-  const std::vector<CheckBox*> boxes = mPanels->boxes();
-  return std::any_of(boxes.begin(), boxes.end(),
-                     [&](const CheckBox* box) { return box->ppdKeyword() == keyword; });
-}
-
 bool OpenPrinter::isReachedByPanels(const PpdOption& option) const {
   if (!mPanels->declares(option.keyword)) return false;
-  if (hasBox(option.keyword)) return option.choices.size() <= 2;
+  if (mPanels->boxKeywords().contains(option.keyword)) return option.choices.size() <= 2;
   return !panelMayLackControl(mOptions, option.keyword);
 }
 
@@ -269,11 +262,13 @@ OpenPrinter::BoxStates OpenPrinter::boxStates() const {
 std::vector<Deviation> OpenPrinter::deviations() const {
   std::vector<Deviation> deviations;
   const std::string paper = mChoice.ppd->markedPaper().text;
+  const std::set<std::string> withBox = mPanels->boxKeywords();
   for (const auto& [keyword, choice] : mWanted.all()) {
     const std::string marked = mChoice.ppd->markedChoice(keyword);
     const bool isAsWanted = marked == choice;
-    const CutRule rule = isAsWanted ? brokenBy(*mChoice.ppd, mOptions, keyword, hasBox(keyword))
-                                    : rulingOver(*mChoice.ppd, mOptions, keyword);
+    const CutRule rule = isAsWanted
+                             ? brokenBy(*mChoice.ppd, mOptions, keyword, withBox.contains(keyword))
+                             : rulingOver(*mChoice.ppd, mOptions, keyword);
     if (isAsWanted && rule == CutRule::none) continue;
     deviations.push_back({keyword, choice, marked,
                           sentenceForRule(rule, mOptions.optionText(keyword),

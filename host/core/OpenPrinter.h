@@ -102,7 +102,6 @@ class OpenPrinter final : private PanelHostOwner {
   void place(CheckBox& box);
   void markUnshown();
   void mark(const std::string& keyword, const std::string& choice);
-  bool hasBox(const std::string& keyword) const;
   BoxStates boxStates() const;
 
   PrinterChoice mChoice;

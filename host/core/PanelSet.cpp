@@ -107,4 +107,10 @@ std::vector<CheckBox*> PanelSet::boxes() const {
   return boxes;
 }
 
+std::set<std::string> PanelSet::boxKeywords() const {
+  std::set<std::string> keywords;
+  for (const CheckBox* box : boxes()) keywords.insert(box->ppdKeyword());
+  return keywords;
+}
+
 }  // namespace cutline

@@ -41,6 +41,8 @@ class PanelSet {
   std::vector<SummaryLine> summary() const;
   // The check boxes that are not hidden and name a PPD option. Borrowed from the views.
   std::vector<CheckBox*> boxes() const;
+  // The PPD options that these name.
+  std::set<std::string> boxKeywords() const;
 
  private:
   void addPlugIn(std::shared_ptr<PrintDialogPlugIn> plugIn, std::shared_ptr<PanelHost> host);

@@ -34,14 +34,15 @@ double StripRuler::extent(const QFont& font, bool runsAcross) {
 StripRuler::StripRuler(const StripCanvas& canvas, const StripColours& colours, double scale)
     : mCanvas(canvas),
       mColours(colours),
+      mFont(fontFor(canvas.painter().font())),
+      mMetrics(mFont),
       mScale(scale),
       mExtent(extent(canvas.painter().font(), canvas.runsAcross())),
       mStep(stepOfNumbers()) {}
 
 int StripRuler::stepOfNumbers() const {
-  const QFontMetricsF metrics(fontFor(mCanvas.painter().font()));
   const double number =
-      mCanvas.runsAcross() ? metrics.horizontalAdvance(QStringLiteral("0000")) : metrics.height();
+      mCanvas.runsAcross() ? mMetrics.horizontalAdvance(QStringLiteral("0000")) : mMetrics.height();
   const auto* step = std::find_if(kTickSteps.begin(), kTickSteps.end() - 1, [&](int each) {
     return each >= 50 && each * mScale > kAirOfNumbers * number;
   });
@@ -59,6 +60,10 @@ void StripRuler::draw(double along, double across, double from, double to, doubl
   const auto millimetreAt = [&](double place) { return from + (place - along) / mScale; };
   const auto first = static_cast<std::int64_t>(std::ceil(millimetreAt(start) / pitch - 1e-6));
   const auto last = static_cast<std::int64_t>(std::floor(millimetreAt(end) / pitch + 1e-6));
+  QPainter& painter = mCanvas.painter();
+  painter.save();
+  painter.setFont(mFont);
+  painter.setPen(mColours.rulerText);
   for (std::int64_t tick = first; tick <= last; ++tick) {
     const double at = along + (static_cast<double>(tick * pitch) - from) * mScale;
     const bool isLong = tick * pitch % mStep == 0;
@@ -66,23 +71,18 @@ void StripRuler::draw(double along, double across, double from, double to, doubl
     mCanvas.lineAcross(at - mCanvas.hair() / 2, base - length, length, mColours.ruler);
     if (isLong) drawNumber(at, across, tick * pitch);
   }
+  painter.restore();
 }
 
 void StripRuler::drawNumber(double along, double across, std::int64_t number) {
-  QPainter& painter = mCanvas.painter();
-  const QFont before = painter.font();
-  painter.setFont(fontFor(before));
-  painter.setPen(mColours.rulerText);
   const QString text = QString::number(number);
-  const QFontMetricsF metrics(painter.font());
-  const double width = metrics.horizontalAdvance(text);
+  const double width = mMetrics.horizontalAdvance(text);
   const double room = mExtent - kLongTick - kSpace;
   const QRectF place =
       mCanvas.runsAcross()
           ? mCanvas.rect(along - width / 2, across, width + 1, room)
-          : mCanvas.rect(along - metrics.height() / 2, across, metrics.height(), room);
-  painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip, text);
-  painter.setFont(before);
+          : mCanvas.rect(along - mMetrics.height() / 2, across, mMetrics.height(), room);
+  mCanvas.painter().drawText(place, Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip, text);
 }
 
 }  // namespace cutline

@@ -1,6 +1,8 @@
 // Draws a ruler beside a stretch of tape: ticks each centimetre, numbers where they have room.
 #pragma once
 
+#include <QFont>
+#include <QFontMetricsF>
 #include <cstdint>
 
 #include "host/dialog/StripCanvas.h"
@@ -27,6 +29,8 @@ class StripRuler {
 
   const StripCanvas& mCanvas;
   const StripColours& mColours;
+  QFont mFont;
+  QFontMetricsF mMetrics;
   double mScale;
   double mExtent;
   int mStep;  // millimetres from number to number
