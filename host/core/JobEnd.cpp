@@ -5,6 +5,7 @@ namespace cutline {
 namespace {
 
 constexpr int kMostMissed = 10;  // answers in a row
+constexpr int kMissedUntilNote = 2;
 
 std::string inBrackets(const std::string& text) { return text.empty() ? "" : " (" + text + ")"; }
 
@@ -36,18 +37,23 @@ std::string reasonToWait(const JobWatch& watch, const JobStatus& status) {
 
 Result<Done> waitForEnd(const JobWatch& watch) {
   std::string noted;
-  for (int missed = 0;; watch.pause()) {
-    const Result<JobStatus> status = watch.ask();
-    if (!status && ++missed == kMostMissed)
-      return Error{"the job " + watch.job +
-                   " was sent, and how it ends is not known: " + status.error().message};
-    if (!status) continue;
-    missed = 0;
-    if (status->isFinal()) return judge(watch, *status);
-    const std::string text = reasonToWait(watch, *status);
-    if (text.empty() || text == noted) continue;
+  const auto noteOnce = [&](const std::string& text) {
+    if (text.empty() || text == noted) return;
     watch.note("the job " + watch.job + ": " + text);
     noted = text;
+  };
+  for (int missed = 0;; watch.pause()) {
+    const Result<JobStatus> status = watch.ask();
+    if (!status) {
+      const std::string& why = status.error().message;
+      if (++missed == kMostMissed)
+        return Error{"the job " + watch.job + " was sent, and how it ends is not known: " + why};
+      if (missed == kMissedUntilNote) noteOnce("its state is not known: " + why);
+      continue;
+    }
+    missed = 0;
+    if (status->isFinal()) return judge(watch, *status);
+    noteOnce(reasonToWait(watch, *status));
   }
 }
 

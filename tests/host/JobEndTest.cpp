@@ -80,10 +80,14 @@ TEST(JobEnd, TellsOnceWhyAJobWaits) {
 
 TEST(JobEnd, AServerMayMissAnAnswerButNotAll) {
   const Error lost{"nobody answers"};
-  EXPECT_EQ(Job({lost, lost, status(JobState::completed, 1)}).error(), "");
+  Job back({lost, lost, status(JobState::completed, 1)});
+  EXPECT_EQ(back.error(), "");
+  const std::vector<std::string> note{"the job tape-7: its state is not known: nobody answers"};
+  EXPECT_EQ(back.notes, note);
   Job gone({lost});
   EXPECT_EQ(gone.error(), "the job tape-7 was sent, and how it ends is not known: nobody answers");
   EXPECT_EQ(gone.pauses, 9);
+  EXPECT_EQ(gone.notes, note);
 }
 
 }  // namespace
