@@ -33,6 +33,7 @@ struct Destination {
   std::vector<std::string> stateReasons;  // IPP printer-state-reasons without "none"
   std::string stateMessage;  // the printer's own words or those of whoever paused it; may be empty
   long stateSince = 0;       // seconds since 1970 that it is in this state; 0 when not told
+  long setUpSince = 0;       // the same for its driver and the administrator's settings
   OptionList savedOptions;   // the user's saved options for this destination or instance only
   DeviceFacts device;        // what the printer itself says; only where it was asked
 

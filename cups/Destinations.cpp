@@ -178,7 +178,8 @@ IppMessage askedFor(http_t* http, const std::string& printer) {
                                "printer-state-reasons",
                                "printer-is-accepting-jobs",
                                "printer-state-message",
-                               "printer-state-change-time"};
+                               "printer-state-change-time",
+                               "printer-config-change-time"};
   IppMessage request = newPrinterRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, printer);
   ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
                cupsUser());
@@ -204,6 +205,7 @@ std::optional<Destination> askForPrinter(http_t* http, const std::string& printe
   destination.stateReasons = reasonsOf(ippKeywords(answer.get(), "printer-state-reasons"));
   destination.stateMessage = ippText(answer.get(), "printer-state-message", IPP_TAG_TEXT);
   destination.stateSince = ippNumber(answer.get(), "printer-state-change-time").value_or(0);
+  destination.setUpSince = ippNumber(answer.get(), "printer-config-change-time").value_or(0);
   destination.savedOptions = savedOptionsFor(destination.name).value_or(OptionList{});
   return destination;
 }

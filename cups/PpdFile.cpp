@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <functional>
 #include <memory>
 #include <string_view>
 
@@ -111,7 +112,7 @@ Result<std::shared_ptr<PpdFile>> PpdFile::read(std::string contents, const Sente
   if (!copy) return noMemoryFor(name);
   ppd_file_t* ppd = ppdOpenFd(copy.release());  // closes it
   if (!ppd) return ppdProblem(name, contents);
-  std::shared_ptr<PpdFile> file(new PpdFile(ppd));
+  std::shared_ptr<PpdFile> file(new PpdFile(ppd, std::hash<std::string>{}(contents)));
   if (const auto problem = unusableSizes(ppd, name)) return *problem;
   putTexts(*ppd, kept);
   return file;

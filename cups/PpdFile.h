@@ -70,6 +70,8 @@ class PpdFile {
                                                 const std::string& printer);
 
   ppd_file_s* get() const noexcept { return mPpd; }
+  // Of the file's contents: another one for another file, as good as ever.
+  std::size_t fingerprint() const noexcept { return mFingerprint; }
 
   // Marks the PPD's defaults, then each list in order. Unknown names, and sizes with measures that
   // no paper has, are left alone: callers check options that a user typed with checkChoice first.
@@ -112,8 +114,9 @@ class PpdFile {
  private:
   // `name` is what errors call the PPD.
   static Result<std::shared_ptr<PpdFile>> read(std::string contents, const Sentence& name);
-  explicit PpdFile(ppd_file_s* ppd) : mPpd(ppd) {}
+  PpdFile(ppd_file_s* ppd, std::size_t fingerprint) : mPpd(ppd), mFingerprint(fingerprint) {}
   ppd_file_s* mPpd;
+  std::size_t mFingerprint;
 };
 
 }  // namespace cutline

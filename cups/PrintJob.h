@@ -19,6 +19,7 @@ struct PrintRequest {
   std::string title;
   OptionList options;             // sent as they are
   std::string documentName = {};  // what the server calls the document; the file's name when empty
+  long setUpSince = 0;            // of the printer that the options are for; 0 when not known
 };
 
 // Called while the document is sent, with the bytes sent so far and the document's size; answering

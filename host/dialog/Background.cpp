@@ -1,15 +1,12 @@
 #include "host/dialog/Background.h"
 
 #include <QObject>
-#include <chrono>
 #include <condition_variable>
 #include <mutex>
 #include <thread>
 #include <utility>
 
 namespace cutline {
-
-using namespace std::chrono_literals;
 
 struct Background::Shared {
   std::mutex mutex;
@@ -31,14 +28,14 @@ struct Background::Shared {
   }
 };
 
-Background::Background() : mShared(std::make_shared<Shared>()) {}
+Background::Background(std::chrono::milliseconds patience)
+    : mPatience(patience), mShared(std::make_shared<Shared>()) {}
 
 Background::~Background() {
-  constexpr auto kPatience = 1s;
   std::unique_ptr<QObject> receiver;
   std::unique_lock lock(mShared->mutex);
   receiver = std::move(mShared->receiver);
-  mShared->workEnded.wait_for(lock, kPatience, [this] { return mShared->running == 0; });
+  mShared->workEnded.wait_for(lock, mPatience, [this] { return mShared->running == 0; });
 }
 
 void Background::start(Work work) {

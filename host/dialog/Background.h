@@ -2,10 +2,14 @@
 // this object. Nothing is delivered once this object is gone.
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 
 namespace cutline {
+
+// For what only asks a server, and loses nothing when nobody hears the answer.
+inline constexpr std::chrono::milliseconds kPatienceWithAnswers{200};
 
 class Background {
  public:
@@ -14,9 +18,8 @@ class Background {
   // it uses, because it may outlive this object. Throws nothing.
   using Work = std::function<Delivery()>;
 
-  Background();
-  // Waits a moment for work that is about to end; work that hangs on a silent server is left
-  // behind.
+  explicit Background(std::chrono::milliseconds patience = std::chrono::seconds(1));
+  // Waits so long for work that is about to end; work that hangs on a silent server is left behind.
   ~Background();
   Background(const Background&) = delete;
   Background& operator=(const Background&) = delete;
@@ -28,6 +31,7 @@ class Background {
 
  private:
   struct Shared;
+  std::chrono::milliseconds mPatience;
   std::shared_ptr<Shared> mShared;
 };
 

@@ -77,7 +77,7 @@ class DialogSession : public QObject {
   bool mHasPainted = false;
   bool mIsSeen = false;  // and nothing is left of that first painting
   bool mHasLabel = false;
-  Background mBackground;
+  Background mBackground{kPatienceWithAnswers};
 };
 
 }  // namespace cutline

@@ -33,6 +33,7 @@ JobProgress::JobProgress(QWidget* parent)
       mBar(new QProgressBar(this)) {
   setAccessibleRole(*this, QAccessible::AlertMessage);
   mText->setTextFormat(Qt::PlainText);
+  mText->setWordWrap(true);  // a long one must not widen the window
   mBar->setTextVisible(false);
   mBar->setAccessibleName(tr("Progress of the job"));
   mBar->setMaximumHeight(fontMetrics().height());

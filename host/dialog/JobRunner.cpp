@@ -12,7 +12,7 @@ namespace {
 constexpr int kPollMilliseconds = 400;
 constexpr int kMostMissed = 10;  // answers in a row of a server that does answer
 constexpr int kSilenceMilliseconds = 3000;
-constexpr int kPatienceMilliseconds = 700;
+constexpr int kGivingUpMilliseconds = 700;
 
 }  // namespace
 
@@ -28,11 +28,26 @@ JobRunner::JobRunner(std::shared_ptr<PrintServer> server, QObject* parent)
   for (QTimer* timer : {&mTimer, &mSilence, &mPatience}) timer->setSingleShot(true);
   mTimer.setInterval(kPollMilliseconds);
   mSilence.setInterval(kSilenceMilliseconds);
-  mPatience.setInterval(kPatienceMilliseconds);
+  mPatience.setInterval(kGivingUpMilliseconds);
   connect(&mTimer, &QTimer::timeout, this, &JobRunner::poll);
   connect(&mSilence, &QTimer::timeout, this, &JobRunner::noteSilence);
   connect(&mPatience, &QTimer::timeout, this, &JobRunner::letGo);
 }
+
+namespace {
+
+// The server takes options that the printer no longer has, and prints something else.
+Result<Done> checkSetUp(PrintServer& server, const PrintRequest& job) {
+  if (job.setUpSince == 0) return Done{};
+  const Result<Destination> now = server.find(job.destination);
+  if (!now || now->setUpSince == 0 || now->setUpSince == job.setUpSince) return Done{};
+  return Error{Sentence(Phrase("host",
+                               "\"%1\" was set up anew on the print server: look at the settings, "
+                               "then print again"),
+                        {job.destination.text()})};
+}
+
+}  // namespace
 
 // Asked to stop before its document is there, it ends without having sent anything.
 void JobRunner::start(const PrintRequest& request, Composing composing) {
@@ -54,6 +69,8 @@ void JobRunner::start(const PrintRequest& request, Composing composing) {
         if (isOf(sending)) emit this->composed(pages);
       });
     }
+    if (const Result<Done> checked = checkSetUp(*server, job); !checked)
+      return [this, sending, error = checked.error()] { takeJob(sending, error); };
     const auto progress = [this, &post, &sending](std::uint64_t sent, std::uint64_t total) {
       post([this, sending, sent, total] {
         if (isOf(sending) && !isGivenUp()) emit spooling(sent, total);

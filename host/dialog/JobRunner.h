@@ -106,7 +106,7 @@ class JobRunner : public QObject {
   QTimer mTimer;
   QTimer mSilence;   // from a question on
   QTimer mPatience;  // from cancel() on, while the document is sent
-  Background mBackground;
+  Background mBackground{kPatienceWithAnswers};
 };
 
 }  // namespace cutline

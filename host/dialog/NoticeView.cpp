@@ -112,6 +112,7 @@ constexpr std::array kSeverities = std::to_array<Severity>({
     Severity::info,     // refusal
     Severity::error,    // document
     Severity::warning,  // printer
+    Severity::warning,  // setUp
     Severity::warning,  // conflicts
     Severity::warning,  // edges
     Severity::info,     // paper

@@ -45,6 +45,7 @@ enum class NoticeTopic {
   refusal,
   document,
   printer,
+  setUp,  // that the printer is no longer as it was
   conflicts,
   edges,    // what of the labels will be cut off
   paper,    // how document and paper go together

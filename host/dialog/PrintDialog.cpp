@@ -150,6 +150,7 @@ void PrintDialog::modelDidChange(ModelChange what) {
 
 void PrintDialog::showPrinter() {
   const Destination& destination = mModel.destination();
+  mSetUpSince = destination.setUpSince;
   if (mModel.hasQueue()) {
     mPrinterBar->setCurrent(destination);
     takeState(destination);
@@ -165,7 +166,7 @@ void PrintDialog::showPrinter() {
   mMoreButton->setEnabled(!mModel.generatedOptions().empty());
   mOpen->setEnabled(true);
   if (mModel.generatedOptions().empty()) mMoreButton->setChecked(false);
-  mNotices->clear(NoticeTopic::failure);
+  for (const NoticeTopic topic : {NoticeTopic::failure, NoticeTopic::setUp}) mNotices->clear(topic);
   showPaper();
   showJob();
   setTabOrders();

@@ -157,6 +157,8 @@ class PrintDialog : public QDialog, private PrintModelListener {
 
   void takePrinters(const std::vector<Destination>& destinations);
   void takeState(const Destination& destination);
+  void noteSetUp(const Destination& destination);
+  void takeSetUp(const PrinterChoice& choice);
   void openingFailed(const QString& reason);
   void takeOpened(const PrinterChoice& choice);
   void enableSettings(bool isEnabled);
@@ -199,6 +201,7 @@ class PrintDialog : public QDialog, private PrintModelListener {
   int mShownPages = 0;              // of the documents
   bool mIsPrintWaiting = false;     // for the documents to be composed
   std::uint64_t mAgreedLabels = 0;  // somebody was asked about so many
+  long mSetUpSince = 0;             // the printer, as it is shown; 0 when not known
   QTimer mStateTimer;
   int mTicks = 0;  // of that, without a printer
 

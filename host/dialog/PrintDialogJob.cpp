@@ -145,6 +145,7 @@ void PrintDialog::connectJob() {
   connect(mJob, &JobRunner::printed, this, &PrintDialog::takePrinted);
   connect(mJob, &JobRunner::cancelled, this, &PrintDialog::takeCancelled);
   connect(mJob, &JobRunner::leftInDoubt, this, [this] {
+    noteFailure();
     showJobRunning(false);
     mNotices->setNotice(NoticeTopic::refusal,
                         tr("The print server does not answer, and may have the job that you "
@@ -218,14 +219,15 @@ void PrintDialog::print() {
   const Result<OptionList> options = mModel.prepareToPrint();
   mNotices->setNotice(NoticeTopic::failure, options ? QString() : asLine(options.error().sentence));
   if (!options) return;
-  mNotices->clear(NoticeTopic::refusal);
+  for (const NoticeTopic topic : {NoticeTopic::refusal, NoticeTopic::setUp}) mNotices->clear(topic);
   setJobLabels(0);
   forgetOutcome();
   showJobRunning(true);
   const DestinationName& name = mModel.destination().name;
   mProgress->showComposing();
   const std::string document = toUtf8(fileNameOf(mSource.paths.front()));
-  mJob->start({name, mSource.paths.front(), mSource.title, *options, document}, jobComposing());
+  mJob->start({name, mSource.paths.front(), mSource.title, *options, document, mSetUpSince},
+              jobComposing());
 }
 
 void PrintDialog::setJobLabels(std::uint64_t labels) {

@@ -1,9 +1,12 @@
 // The part of PrintDialog that has to do with the print server: which printers there are, which one
 // is open, how it is.
+#include <QApplication>
 #include <QPushButton>
+#include <algorithm>
 #include <initializer_list>
 
 #include "host/core/CommandLine.h"
+#include "host/core/OptionTable.h"
 #include "host/dialog/CuttingForm.h"
 #include "host/dialog/DialogLanguage.h"
 #include "host/dialog/JobForm.h"
@@ -24,6 +27,18 @@ namespace {
 constexpr int kStateMilliseconds = 1000;
 constexpr int kTicksBetweenLists = 10;
 
+// Of the settings before, in the words of the PPD that they were for, what those after lack.
+QString lostSettings(const PpdFile& ppd, const OptionList& before, const OptionList& after) {
+  const OptionTable options(ppd);
+  QStringList lost;
+  for (const auto& option : before) {
+    const auto& [keyword, choice] = option;
+    if (!options.find(keyword) || std::ranges::find(after, option) != after.end()) continue;
+    lost << toQString(options.optionText(keyword) + ": " + options.choiceText(keyword, choice));
+  }
+  return lost.join(QStringLiteral(", "));
+}
+
 }  // namespace
 
 void PrintDialog::connectServer() {
@@ -31,6 +46,7 @@ void PrintDialog::connectServer() {
   connect(mServer, &ServerClient::listingFailed, this,
           [this](const QString& reason) { mNotices->setNotice(NoticeTopic::printer, reason); });
   connect(mServer, &ServerClient::printerOpened, this, &PrintDialog::takeOpened);
+  connect(mServer, &ServerClient::printerRead, this, &PrintDialog::takeSetUp);
   connect(mServer, &ServerClient::openingFailed, this, &PrintDialog::openingFailed);
   connect(mServer, &ServerClient::stateKnown, this, &PrintDialog::takeState);
   connect(mServer, &ServerClient::stateFailed, this,
@@ -131,8 +147,38 @@ void PrintDialog::takePrinters(const std::vector<Destination>& destinations) {
   mPresets->setDestinations(destinations);
 }
 
+// Whoever administers the printer may change its driver at any time. What is open is taken as soon
+// as nothing is printed and no list is open.
+void PrintDialog::noteSetUp(const Destination& destination) {
+  if (mSetUpSince == 0) mSetUpSince = destination.setUpSince;
+  if (destination.setUpSince == 0 || destination.setUpSince == mSetUpSince) return;
+  const bool isBusy = QApplication::activePopupWidget() || QApplication::activeModalWidget();
+  if (!isPrinting() && !isBusy) mServer->readAgain(destination);
+}
+
+void PrintDialog::takeSetUp(const PrinterChoice& choice) {
+  const Destination& now = choice.destination;
+  if (now.name != mModel.destination().name || isPrinting() || mServer->isOpening()) return;
+  mSetUpSince = now.setUpSince;
+  const std::shared_ptr<PpdFile> before = mModel.ppdFile();
+  if (choice.ppd->fingerprint() == before->fingerprint()) return;
+  const Settings settings = mModel.settings();
+  openPrinter(choice);
+  mModel.restore(settings);
+  const QString name = toQString(now.name.printer);
+  const QString lost = lostSettings(*before, settings.options, mModel.settings().options);
+  mNotices->setNotice(
+      NoticeTopic::setUp,
+      lost.isEmpty()
+          ? tr("%1 was set up anew on the print server; your settings were kept.").arg(name)
+          : tr("%1 was set up anew on the print server and no longer has: %2. Look at the settings "
+               "before you print.")
+                .arg(name, lost));
+}
+
 void PrintDialog::takeState(const Destination& destination) {
   if (destination.name.printer != mModel.destination().name.printer || mServer->isOpening()) return;
+  noteSetUp(destination);
   mPrinterBar->setState(destination);
   const QString name = toQString(destination.name.printer);
   QString notice;

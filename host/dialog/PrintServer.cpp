@@ -58,7 +58,7 @@ ServerClient::ServerClient(std::shared_ptr<PrintServer> server, QObject* parent)
     : QObject(parent), mServer(std::move(server)) {}
 
 void ServerClient::listPrinters() {
-  mBackground.start([this, server = mServer]() -> Background::Delivery {
+  mQuestions.start([this, server = mServer]() -> Background::Delivery {
     return [this, list = server->destinations()] { takeList(list); };
   });
 }
@@ -73,8 +73,8 @@ void ServerClient::takeList(const Result<std::vector<Destination>>& list) {
 
 void ServerClient::openPrinter(const Destination& destination) {
   mIsOpening = true;
-  mBackground.start([this, server = mServer, destination,
-                     opening = ++mOpenings]() -> Background::Delivery {
+  mQuestions.start([this, server = mServer, destination,
+                    opening = ++mOpenings]() -> Background::Delivery {
     return [this, opening, choice = server->open(destination)] { takePrinter(opening, choice); };
   });
 }
@@ -89,10 +89,20 @@ void ServerClient::takePrinter(int opening, const Result<PrinterChoice>& choice)
   emit printerOpened(*choice);
 }
 
+void ServerClient::readAgain(const Destination& destination) {
+  if (std::exchange(mIsReading, true)) return;
+  mQuestions.start([this, server = mServer, destination]() -> Background::Delivery {
+    return [this, choice = server->open(destination)] {
+      mIsReading = false;
+      if (choice) emit printerRead(*choice);
+    };
+  });
+}
+
 void ServerClient::askState(const DestinationName& name) {
   if (std::exchange(mIsAskingState, true)) return noteWaiting();
   mWaits = 0;
-  mBackground.start([this, server = mServer, name]() -> Background::Delivery {
+  mQuestions.start([this, server = mServer, name]() -> Background::Delivery {
     Result<Destination> destination = server->find(name);
     const bool isGone = !destination && !server->answers();
     // It may have come back since it was asked.
@@ -124,7 +134,7 @@ void ServerClient::takeState(const Result<Destination>& destination, bool isGone
 }
 
 void ServerClient::savePreset(const DestinationName& name, const OptionList& options) {
-  mBackground.start([this, server = mServer, name, options]() -> Background::Delivery {
+  mPresets.start([this, server = mServer, name, options]() -> Background::Delivery {
     return [this, name, saved = server->saveInstance(name, options)] {
       if (!saved) return emit presetFailed(asLine(saved.error().sentence));
       emit presetSaved(toQString(name.instance.value_or("")));
@@ -133,7 +143,7 @@ void ServerClient::savePreset(const DestinationName& name, const OptionList& opt
 }
 
 void ServerClient::removePreset(const DestinationName& name) {
-  mBackground.start([this, server = mServer, name]() -> Background::Delivery {
+  mPresets.start([this, server = mServer, name]() -> Background::Delivery {
     return [this, name, removed = server->removeInstance(name)] {
       if (!removed) return emit presetFailed(asLine(removed.error().sentence));
       emit presetRemoved(toQString(name.instance.value_or("")));

@@ -70,6 +70,8 @@ class ServerClient : public QObject {
   // dropped.
   void openPrinter(const Destination& destination);
   bool isOpening() const noexcept { return mIsOpening; }
+  // printerRead; nothing when that fails. Nothing is to be opened.
+  void readAgain(const Destination& destination);
   // stateKnown, or stateFailed where the server says that there is no such printer. Where it says
   // nothing serverGone, once, until it answers again, which is told by serverBack. While it is
   // still being asked from an earlier call serverSlow, and after some calls more serverGone, too.
@@ -84,6 +86,7 @@ class ServerClient : public QObject {
   void listingFailed(const QString& reason);
   void printerOpened(const cutline::PrinterChoice& choice);
   void openingFailed(const QString& reason);
+  void printerRead(const cutline::PrinterChoice& choice);
   void stateKnown(const cutline::Destination& destination);
   void stateFailed(const QString& reason);
   void serverSlow();
@@ -103,10 +106,12 @@ class ServerClient : public QObject {
   std::shared_ptr<PrintServer> mServer;
   int mOpenings = 0;
   bool mIsOpening = false;
+  bool mIsReading = false;
   bool mIsAskingState = false;
   int mWaits = 0;  // calls that came while the server was being asked
   bool mIsServerGone = false;
-  Background mBackground;
+  Background mQuestions{kPatienceWithAnswers};
+  Background mPresets;
 };
 
 }  // namespace cutline

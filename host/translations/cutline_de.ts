@@ -1448,6 +1448,14 @@ Streifen: Plus und Minus zoomen, 0 passt ein, Eingabe zeigt ein Etikett groß. S
         <source>Waiting for the print server...</source>
         <translation>Auf den Druckserver wird gewartet …</translation>
     </message>
+    <message>
+        <source>%1 was set up anew on the print server; your settings were kept.</source>
+        <translation>%1 wurde auf dem Druckserver neu eingerichtet; Ihre Einstellungen sind geblieben.</translation>
+    </message>
+    <message>
+        <source>%1 was set up anew on the print server and no longer has: %2. Look at the settings before you print.</source>
+        <translation>%1 wurde auf dem Druckserver neu eingerichtet und hat nicht mehr: %2. Sehen Sie die Einstellungen an, bevor Sie drucken.</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1685,6 +1693,10 @@ Streifen: Plus und Minus zoomen, 0 passt ein, Eingabe zeigt ein Etikett groß. S
     <message>
         <source>&quot;%1&quot; is still waiting to be printed</source>
         <translation>„%1“ wartet noch auf den Druck</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was set up anew on the print server: look at the settings, then print again</source>
+        <translation>„%1“ wurde auf dem Druckserver neu eingerichtet: sehen Sie die Einstellungen an und drucken Sie dann noch einmal</translation>
     </message>
 </context>
 <context>

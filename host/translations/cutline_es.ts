@@ -1448,6 +1448,14 @@ Tira: más y menos para el zum, 0 para ajustar, Intro muestra una etiqueta en gr
         <source>Waiting for the print server...</source>
         <translation>Esperando al servidor de impresión…</translation>
     </message>
+    <message>
+        <source>%1 was set up anew on the print server; your settings were kept.</source>
+        <translation>%1 se ha configurado de nuevo en el servidor de impresión; sus ajustes se han conservado.</translation>
+    </message>
+    <message>
+        <source>%1 was set up anew on the print server and no longer has: %2. Look at the settings before you print.</source>
+        <translation>%1 se ha configurado de nuevo en el servidor de impresión y ya no tiene: %2. Mire los ajustes antes de imprimir.</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1685,6 +1693,10 @@ Tira: más y menos para el zum, 0 para ajustar, Intro muestra una etiqueta en gr
     <message>
         <source>&quot;%1&quot; is still waiting to be printed</source>
         <translation>«%1» sigue a la espera de imprimirse</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was set up anew on the print server: look at the settings, then print again</source>
+        <translation>«%1» se ha configurado de nuevo en el servidor de impresión: mire los ajustes y vuelva a imprimir</translation>
     </message>
 </context>
 <context>

@@ -1448,6 +1448,14 @@ Bande : plus et moins pour le zoom, 0 pour ajuster, Entrée montre une étiquett
         <source>Waiting for the print server...</source>
         <translation>En attente du serveur d’impression…</translation>
     </message>
+    <message>
+        <source>%1 was set up anew on the print server; your settings were kept.</source>
+        <translation>%1 a été reconfigurée sur le serveur d’impression ; vos réglages sont conservés.</translation>
+    </message>
+    <message>
+        <source>%1 was set up anew on the print server and no longer has: %2. Look at the settings before you print.</source>
+        <translation>%1 a été reconfigurée sur le serveur d’impression et n’a plus : %2. Vérifiez les réglages avant d’imprimer.</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1685,6 +1693,10 @@ Bande : plus et moins pour le zoom, 0 pour ajuster, Entrée montre une étiquett
     <message>
         <source>&quot;%1&quot; is still waiting to be printed</source>
         <translation>« %1 » attend toujours d’être imprimé</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was set up anew on the print server: look at the settings, then print again</source>
+        <translation>« %1 » a été reconfigurée sur le serveur d’impression : vérifiez les réglages, puis imprimez à nouveau</translation>
     </message>
 </context>
 <context>

@@ -1448,6 +1448,14 @@ Striscia: più e meno per lo zoom, 0 per adattare, Invio mostra un’etichetta i
         <source>Waiting for the print server...</source>
         <translation>In attesa del server di stampa…</translation>
     </message>
+    <message>
+        <source>%1 was set up anew on the print server; your settings were kept.</source>
+        <translation>%1 è stata riconfigurata sul server di stampa; le vostre impostazioni sono rimaste.</translation>
+    </message>
+    <message>
+        <source>%1 was set up anew on the print server and no longer has: %2. Look at the settings before you print.</source>
+        <translation>%1 è stata riconfigurata sul server di stampa e non ha più: %2. Guardate le impostazioni prima di stampare.</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1685,6 +1693,10 @@ Striscia: più e meno per lo zoom, 0 per adattare, Invio mostra un’etichetta i
     <message>
         <source>&quot;%1&quot; is still waiting to be printed</source>
         <translation>«%1» è ancora in attesa di stampa</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was set up anew on the print server: look at the settings, then print again</source>
+        <translation>«%1» è stata riconfigurata sul server di stampa: guardate le impostazioni, poi stampate di nuovo</translation>
     </message>
 </context>
 <context>

@@ -1448,6 +1448,14 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
         <source>Waiting for the print server...</source>
         <translation>プリントサーバーを待っています…</translation>
     </message>
+    <message>
+        <source>%1 was set up anew on the print server; your settings were kept.</source>
+        <translation>%1 はプリントサーバーで設定し直されました。選択した設定はそのままです。</translation>
+    </message>
+    <message>
+        <source>%1 was set up anew on the print server and no longer has: %2. Look at the settings before you print.</source>
+        <translation>%1 はプリントサーバーで設定し直され、次のものがなくなりました: %2。印刷する前に設定を確認してください。</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1685,6 +1693,10 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
     <message>
         <source>&quot;%1&quot; is still waiting to be printed</source>
         <translation>「%1」はまだ印刷待ちです</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was set up anew on the print server: look at the settings, then print again</source>
+        <translation>「%1」はプリントサーバーで設定し直されました。設定を確認してから、もう一度印刷してください</translation>
     </message>
 </context>
 <context>

@@ -1448,6 +1448,14 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
         <source>Waiting for the print server...</source>
         <translation>프린트 서버를 기다리는 중…</translation>
     </message>
+    <message>
+        <source>%1 was set up anew on the print server; your settings were kept.</source>
+        <translation>%1이(가) 인쇄 서버에서 새로 설정되었습니다. 선택한 설정은 유지되었습니다.</translation>
+    </message>
+    <message>
+        <source>%1 was set up anew on the print server and no longer has: %2. Look at the settings before you print.</source>
+        <translation>%1이(가) 인쇄 서버에서 새로 설정되어 다음이 없어졌습니다: %2. 인쇄하기 전에 설정을 확인하십시오.</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1685,6 +1693,10 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
     <message>
         <source>&quot;%1&quot; is still waiting to be printed</source>
         <translation>&quot;%1&quot;이(가) 아직 인쇄 대기 중입니다</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was set up anew on the print server: look at the settings, then print again</source>
+        <translation>“%1”이(가) 인쇄 서버에서 새로 설정되었습니다. 설정을 확인한 후 다시 인쇄하십시오</translation>
     </message>
 </context>
 <context>

@@ -1448,6 +1448,14 @@ Strook: plus en min zoomen, 0 past in, Enter toont een etiket groot. Ctrl+Z maak
         <source>Waiting for the print server...</source>
         <translation>Wachten op de printserver…</translation>
     </message>
+    <message>
+        <source>%1 was set up anew on the print server; your settings were kept.</source>
+        <translation>%1 is op de afdrukserver opnieuw ingesteld; uw instellingen zijn behouden.</translation>
+    </message>
+    <message>
+        <source>%1 was set up anew on the print server and no longer has: %2. Look at the settings before you print.</source>
+        <translation>%1 is op de afdrukserver opnieuw ingesteld en heeft niet meer: %2. Bekijk de instellingen voordat u afdrukt.</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1685,6 +1693,10 @@ Strook: plus en min zoomen, 0 past in, Enter toont een etiket groot. Ctrl+Z maak
     <message>
         <source>&quot;%1&quot; is still waiting to be printed</source>
         <translation>‘%1’ wacht nog op afdrukken</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was set up anew on the print server: look at the settings, then print again</source>
+        <translation>‘%1’ is op de afdrukserver opnieuw ingesteld: bekijk de instellingen en druk dan opnieuw af</translation>
     </message>
 </context>
 <context>

@@ -1448,6 +1448,14 @@ Tira: mais e menos para o zoom, 0 para ajustar, Enter mostra uma etiqueta em gra
         <source>Waiting for the print server...</source>
         <translation>Aguardando o servidor de impressão…</translation>
     </message>
+    <message>
+        <source>%1 was set up anew on the print server; your settings were kept.</source>
+        <translation>%1 foi configurada de novo no servidor de impressão; as suas definições foram mantidas.</translation>
+    </message>
+    <message>
+        <source>%1 was set up anew on the print server and no longer has: %2. Look at the settings before you print.</source>
+        <translation>%1 foi configurada de novo no servidor de impressão e já não tem: %2. Veja as definições antes de imprimir.</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1685,6 +1693,10 @@ Tira: mais e menos para o zoom, 0 para ajustar, Enter mostra uma etiqueta em gra
     <message>
         <source>&quot;%1&quot; is still waiting to be printed</source>
         <translation>“%1” ainda aguarda impressão</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was set up anew on the print server: look at the settings, then print again</source>
+        <translation>“%1” foi configurada de novo no servidor de impressão: veja as definições e imprima novamente</translation>
     </message>
 </context>
 <context>

@@ -1448,6 +1448,14 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
         <source>Waiting for the print server...</source>
         <translation>正在等待打印服务器…</translation>
     </message>
+    <message>
+        <source>%1 was set up anew on the print server; your settings were kept.</source>
+        <translation>%1 已在打印服务器上重新设置；您的设置已保留。</translation>
+    </message>
+    <message>
+        <source>%1 was set up anew on the print server and no longer has: %2. Look at the settings before you print.</source>
+        <translation>%1 已在打印服务器上重新设置，不再有：%2。打印之前请查看设置。</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1685,6 +1693,10 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
     <message>
         <source>&quot;%1&quot; is still waiting to be printed</source>
         <translation>“%1”仍在等待打印</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was set up anew on the print server: look at the settings, then print again</source>
+        <translation>“%1”已在打印服务器上重新设置：请查看设置，然后再次打印</translation>
     </message>
 </context>
 <context>

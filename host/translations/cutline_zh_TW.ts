@@ -1448,6 +1448,14 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
         <source>Waiting for the print server...</source>
         <translation>正在等待列印伺服器…</translation>
     </message>
+    <message>
+        <source>%1 was set up anew on the print server; your settings were kept.</source>
+        <translation>%1 已在列印伺服器上重新設定；您的設定已保留。</translation>
+    </message>
+    <message>
+        <source>%1 was set up anew on the print server and no longer has: %2. Look at the settings before you print.</source>
+        <translation>%1 已在列印伺服器上重新設定，不再有：%2。列印之前請查看設定。</translation>
+    </message>
 </context>
 <context>
     <name>cutline::PrinterBar</name>
@@ -1685,6 +1693,10 @@ Strip: plus and minus zoom, 0 fits, Enter shows a label large. Ctrl+Z undoes a s
     <message>
         <source>&quot;%1&quot; is still waiting to be printed</source>
         <translation>「%1」仍在等待列印</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was set up anew on the print server: look at the settings, then print again</source>
+        <translation>「%1」已在列印伺服器上重新設定：請查看設定，然後再次列印</translation>
     </message>
 </context>
 <context>

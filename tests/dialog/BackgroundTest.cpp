@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QElapsedTimer>
 #include <QTest>
 #include <atomic>
 #include <future>
@@ -39,6 +40,23 @@ TEST(BackgroundTest, DeliversNothingOnceItIsGone) {
   released.set_value();
   QTest::qWait(30);
   EXPECT_FALSE(*isDelivered);
+}
+
+TEST(BackgroundTest, WaitsNoLongerForWorkThatHangsThanItIsTold) {
+  std::promise<void> released;
+  const std::shared_future<void> release = released.get_future().share();
+  QElapsedTimer time;
+  {
+    Background background(std::chrono::milliseconds(50));
+    background.start([release]() -> Background::Delivery {
+      release.wait();
+      return {};
+    });
+    time.start();
+  }
+  EXPECT_GE(time.elapsed(), 50);
+  EXPECT_LT(time.elapsed(), 500);
+  released.set_value();
 }
 
 TEST(BackgroundTest, PostsNewsFromTheMiddleInOrder) {

@@ -40,6 +40,13 @@ void FakePrintServer::setState(const std::string& name, PrinterState state, bool
   }
 }
 
+void FakePrintServer::setUpAnew(const std::string& name, const std::string& ppdPath, long time) {
+  const std::scoped_lock lock(mMutex);
+  for (Destination& destination : mDestinations)
+    if (destination.name.printer == name) destination.setUpSince = time;
+  mPpdPaths[name] = ppdPath;
+}
+
 void FakePrintServer::holdOpening(const std::string& name) {
   const std::scoped_lock lock(mMutex);
   mIsHeld[name] = true;

@@ -27,6 +27,8 @@ class FakePrintServer final : public PrintServer {
   void addInstance(const std::string& printer, const std::string& instance,
                    const OptionList& options);
   void setState(const std::string& name, PrinterState state, bool acceptsJobs);
+  // At that time, with that PPD.
+  void setUpAnew(const std::string& name, const std::string& ppdPath, long time);
   // Calls of open for this printer wait until release.
   void holdOpening(const std::string& name);
   void releaseOpening(const std::string& name);

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QTest>
 
+#include "host/core/CommandLine.h"
 #include "tests/dialog/DialogTest.h"
 
 namespace cutline {
@@ -88,6 +89,7 @@ TEST_F(SilentServerTest, AJobThatMayHaveArrivedIsSaidToBeInDoubtUntilItIsTakenBa
   cancelJob();
   expectBackInASecond();
   EXPECT_TRUE(shows(QStringLiteral("may have the job that you cancelled")));
+  EXPECT_EQ(dialog().exitStatus(), kExitError);
   server().setGone(false);
   EXPECT_TRUE(waitUntil([this] { return shows(QStringLiteral("The job was cancelled.")); }));
   EXPECT_EQ(server().cancellations(), 1);
