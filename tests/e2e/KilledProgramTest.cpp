@@ -11,6 +11,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
+#include <iterator>
 #include <string>
 #include <thread>
 #include <vector>
@@ -28,22 +29,27 @@ using namespace std::chrono_literals;
 
 int points() { return std::getenv("CUTLINE_LONG_TESTS") != nullptr ? 100 : 6; }
 
+enum class Printing { byCommand, byDialog };
+
+// Print is pressed as soon as the labels are there.
+std::vector<std::string> wordsFor(Printing printing) {
+  const std::string program = built("bin/cutline");
+  if (printing == Printing::byCommand) return {program, "--print", "-q"};
+  return {"QT_QPA_PLATFORM=offscreen", "QT_QPA_GENERIC_PLUGINS=presser",
+          "QT_PLUGIN_PATH=" + built("tests/programs"), program};
+}
+
 // The program at printing, with the temporary folder that it is given.
 class PrintingProgram {
  public:
   PrintingProgram(const std::string& server, const std::string& temporary, const std::string& title,
-                  const std::string& document) {
-    std::vector<std::string> words = {"env",
-                                      "CUPS_SERVER=" + server,
-                                      "TMPDIR=" + temporary,
-                                      built("bin/cutline"),
-                                      "--print",
-                                      "-q",
-                                      "-d",
-                                      "tape24",
-                                      "-t",
-                                      title,
-                                      document};
+                  const std::string& document, Printing printing = Printing::byCommand) {
+    std::vector<std::string> words = {"env", "CUPS_SERVER=" + server, "TMPDIR=" + temporary,
+                                      "XDG_STATE_HOME=" + temporary, "LANGUAGE=en"};
+    std::ranges::copy(wordsFor(printing), std::back_inserter(words));
+    for (const std::string& word :
+         {std::string("-d"), std::string("tape24"), std::string("-t"), title, document})
+      words.push_back(word);
     std::vector<char*> arguments;
     for (std::string& word : words) arguments.push_back(word.data());
     arguments.push_back(nullptr);
@@ -188,6 +194,33 @@ TEST_F(KilledProgram, LeavesOneWholeJobOrNoneWheneverItEnds) {
     printing.wait();
     expectOneWholeOrNone(title);
   }
+}
+
+// The dialog stays with its job, and asks the server for ever: so it is killed in any case. What it
+// asks before Print is pressed is the first half of it.
+TEST_F(KilledProgram, LeavesOneWholeJobOrNoneWhereverTheDialogEnds) {
+  std::size_t all = 0;
+  {
+    DeadlyWay free;
+    const PrintingProgram printing(free.path(), mTemporary.path(), "free", labels(),
+                                   Printing::byDialog);
+    EXPECT_TRUE(comesTrue([&] { return jobsOf("free").whole == 1; }));
+    all = free.passed();
+    printing.kill();
+  }
+  int jobs = 0;
+  const std::size_t count = std::getenv("CUTLINE_LONG_TESTS") != nullptr ? 100 : 4;
+  for (std::size_t i = 1; i <= count; ++i) {
+    const std::size_t most = all * (count + i) / (2 * count);
+    const std::string title = "dialog killed after " + std::to_string(most) + " bytes";
+    DeadlyWay way(most);
+    PrintingProgram printing(way.path(), mTemporary.path(), title, labels(), Printing::byDialog);
+    way.setVictim(printing);
+    printing.wait();
+    jobs += expectOneWholeOrNone(title);
+  }
+  EXPECT_GT(jobs, 0);
+  EXPECT_LT(jobs, static_cast<int>(count));
 }
 
 }  // namespace
