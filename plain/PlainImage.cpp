@@ -26,8 +26,9 @@ std::uint32_t bigEndian(std::string_view bytes) {
 std::optional<Size> pngSize(std::string_view bytes) {
   if (!bytes.starts_with(kPngStart) || bytes.size() < kPngStart.size() + 8) return std::nullopt;
   bytes.remove_prefix(kPngStart.size());
-  return Size{static_cast<double>(bigEndian(bytes)),
-              static_cast<double>(bigEndian(bytes.substr(4)))};
+  const Size size{static_cast<double>(bigEndian(bytes)),
+                  static_cast<double>(bigEndian(bytes.substr(4)))};
+  return size.width * size.height <= kMostPicturePixels ? std::optional(size) : std::nullopt;
 }
 
 // What stands between the opening `<svg` and its `>`.

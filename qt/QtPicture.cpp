@@ -1,6 +1,7 @@
 #include "qt/QtPicture.h"
 
-#include <QFile>
+#include <QBuffer>
+#include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
 #include <QSvgRenderer>
@@ -9,6 +10,7 @@
 #include <array>
 #include <cmath>
 
+#include "platform/lib/ResourceFile.h"
 #include "qt/QtText.h"
 
 namespace cutline {
@@ -18,12 +20,43 @@ namespace {
 // A picture is shown in one size at one or two pixel ratios (a window between two screens).
 constexpr std::size_t kRenderedKept = 3;
 
-bool isVectorFile(const QString& path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) return false;
-  QXmlStreamReader reader(&file);
+// Nothing of a file that is no picture by its size alone.
+QByteArray pictureBytes(const std::string& path) {
+  const auto bytes = readResource(path);
+  return bytes ? QByteArray::fromStdString(*bytes) : QByteArray();
+}
+
+bool isVector(const QByteArray& bytes) {
+  QXmlStreamReader reader(bytes);
   return reader.readNextStartElement() && reader.name() == QLatin1String("svg");
 }
+
+bool hasTooManyPixels(const QSize& size) {
+  return static_cast<double>(size.width()) * size.height() > kMostPicturePixels;
+}
+
+// A bitmap's bytes, of the kind that the file's name tells where they do not.
+class BitmapReader {
+ public:
+  BitmapReader(const std::string& path, QByteArray bytes) : mBytes(std::move(bytes)) {
+    mBuffer.setBuffer(&mBytes);
+    mBuffer.open(QIODevice::ReadOnly);
+    mReader.setDevice(&mBuffer);
+    mReader.setFormat(QFileInfo(toQString(path)).suffix().toLower().toLatin1());
+  }
+  // Where the size stands in the bytes it must be there, and not too large.
+  bool canRead() {
+    if (!mReader.canRead()) return false;
+    if (!mReader.supportsOption(QImageIOHandler::Size)) return true;
+    return mReader.size().isValid() && !hasTooManyPixels(mReader.size());
+  }
+  QImage read() { return canRead() ? mReader.read() : QImage(); }
+
+ private:
+  QByteArray mBytes;
+  QBuffer mBuffer;
+  QImageReader mReader;
+};
 
 // Device pixels per point where the painter stands now, whatever it paints on.
 double deviceScale(const QPainter& painter) {
@@ -62,19 +95,19 @@ QtPicture::QtPicture(std::string path) : mPath(std::move(path)) {}
 QtPicture::~QtPicture() = default;
 
 bool QtPicture::isPictureFile(const std::string& path) {
-  const QString name = toQString(path);
-  return isVectorFile(name) || QImageReader(name).canRead();
+  const QByteArray bytes = pictureBytes(path);
+  return isVector(bytes) || BitmapReader(path, bytes).canRead();
 }
 
 void QtPicture::read() {
   if (mRead) return;
   mRead = true;
-  const QString path = toQString(mPath);
-  if (!isVectorFile(path)) {
-    mBitmap = QImageReader(path).read();
+  const QByteArray bytes = pictureBytes(mPath);
+  if (!isVector(bytes)) {
+    mBitmap = BitmapReader(mPath, bytes).read();
     return;
   }
-  mVector = std::make_unique<QSvgRenderer>(path);
+  mVector = std::make_unique<QSvgRenderer>(bytes);
   if (!mVector->isValid()) mVector.reset();
 }
 
@@ -119,7 +152,7 @@ void QtPicture::draw(QPainter& painter, const QRectF& target, const QRectF& sour
   const double xScale = scale * target.width() / part.width();
   const double yScale = scale * target.height() / part.height();
   const QSize pixels(qRound(whole.width() * xScale), qRound(whole.height() * yScale));
-  if (pixels.isEmpty()) return;
+  if (pixels.isEmpty() || hasTooManyPixels(pixels)) return;
   const QRectF pixelPart(part.x() * xScale, part.y() * yScale, part.width() * xScale,
                          part.height() * yScale);
   painter.drawPixmap(target, rendered(pixels), pixelPart);

@@ -29,7 +29,8 @@ class QtPicture {
   QtPicture& operator=(const QtPicture&) = delete;
   ~QtPicture();
 
-  // True when the file begins as a picture does; the rest is not read yet.
+  // True when the file begins as a picture does, and has no more bytes and pixels than a bundle's
+  // picture may have; the rest is not decoded yet.
   static bool isPictureFile(const std::string& path);
 
   const std::string& path() const noexcept { return mPath; }

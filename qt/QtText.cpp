@@ -1,6 +1,7 @@
 #include "qt/QtText.h"
 
 #include <QEvent>
+#include <QLabel>
 
 namespace cutline {
 
@@ -21,6 +22,11 @@ QString withoutMark(const QString& text) noexcept {
     plain += text[at];
   }
   return plain;
+}
+
+void showTextsAsTheyAre(QWidget& widget) noexcept {
+  auto* const label = qobject_cast<QLabel*>(&widget);
+  if (label != nullptr) label->setTextFormat(Qt::PlainText);
 }
 
 QtTextColor::QtTextColor(QWidget& widget, QPalette::ColorRole role) : mRole(role) {

@@ -21,6 +21,10 @@ QString withoutMnemonics(QString text) noexcept;
 // The other way: such a text as it is read, without the sign of its mnemonic.
 QString withoutMark(const QString& text) noexcept;
 
+// Texts of drivers, servers, files and people are no HTML: where the widget is a label, of a tool
+// tip or a message too, it shows each as it is. The program's style does this with every widget.
+void showTextsAsTheyAre(QWidget& widget) noexcept;
+
 // The two text colours of labels and text fields, taken from the palette and kept in step with it
 // (the user may switch between light and dark while the panel is open).
 class QtTextColor : public QObject {

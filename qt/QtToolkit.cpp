@@ -1,6 +1,7 @@
 #include "qt/QtToolkit.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -24,9 +25,9 @@ namespace {
 
 // An alert without a message of its own says its informative text instead.
 void setTexts(QMessageBox& box, const Alert& alert) {
-  box.setTextFormat(Qt::PlainText);
   box.setText(toQString(alert.messageText.empty() ? alert.informativeText : alert.messageText));
   if (!alert.messageText.empty()) box.setInformativeText(toQString(alert.informativeText));
+  for (QLabel* label : box.findChildren<QLabel*>()) showTextsAsTheyAre(*label);
 }
 
 // The first button is the default one; the last one is what closing the box means.

@@ -5,9 +5,13 @@
 #include <cmath>
 #include <filesystem>
 #include <iostream>
+#include <map>
+#include <optional>
 #include <thread>
 
 #include "base/Visible.h"
+#include "composition/EdgeLoss.h"
+#include "composition/PageDrawer.h"
 #include "cups/Destinations.h"
 #include "cups/DocumentFile.h"
 #include "cups/PrintJob.h"
@@ -39,6 +43,33 @@ void noteShrunkPages(const CompositionReport& report, HeadlessSession& session) 
                           : std::to_string(count) +
                                 " pages are larger than their labels: the first is shrunk to " +
                                 percent + " %");
+}
+
+std::map<int, std::optional<Ink>> inksOf(PageDrawer& drawer, const LabelPage& label) {
+  std::map<int, std::optional<Ink>> inks;
+  const double scale = inkScale(label);
+  for (int page = 0; page < std::min(drawer.pageCount(), kMostInks); ++page) {
+    const Result<PageImage> image = drawer.draw(page, scale);
+    if (image) inks[page] = inkOf(*image, scale, label);
+  }
+  return inks;
+}
+
+// A document that cannot be drawn is printed all the same.
+void noteEdgeLoss(const ComposedDocument& composed, HeadlessSession& session,
+                  const CommandLine& line) {
+  if (line.isQuiet) return;
+  const auto drawer =
+      PageDrawer::open(Installation::ofThisProgram().helperDirectory(), composed.file);
+  if (!drawer) return;
+  const auto loss = edgeLoss(composed.report, session.model().jobLayout().placing,
+                             inksOf(**drawer, composed.report.label));
+  if (!loss) return;
+  const std::size_t count = loss->labels.size();
+  session.note("edges will be cut off on " +
+               (count == 1 ? "label " + std::to_string(loss->labels.front() + 1)
+                           : std::to_string(count) + " labels") +
+               ": -o natural-scaling=" + std::to_string(loss->percent) + " keeps them");
 }
 
 // What goes to the printer as it is has no pages that the server could count.
@@ -111,6 +142,7 @@ Result<Done> printDocuments(const CommandLine& line, PluginLoader& plugIns,
   if (line.asked.isRaw()) return send(line, line.files.front(), session, streams);
   const Result<ComposedDocument> composed = composeFor(session, line);
   if (!composed) return composed.error();
+  noteEdgeLoss(*composed, session, line);
   return send(line, composed->file->path(), session, streams);
 }
 
@@ -120,6 +152,7 @@ Result<Done> keepDocument(const CommandLine& line, PluginLoader& plugIns, const 
   if (Result<Done> opened = session.openSelected(); !opened) return opened;
   const Result<ComposedDocument> composed = composeFor(session, line);
   if (!composed) return composed.error();
+  noteEdgeLoss(*composed, session, line);
   if (Result<Done> kept = keepAs(line.dryRunPath, *composed); !kept) return kept;
   for (const auto& [name, value] : session.model().jobOptions())
     streams.out << visible(name) << "=" << visible(value) << "\n";

@@ -9,6 +9,7 @@
 
 #include "host/dialog/ControlDrawing.h"
 #include "host/dialog/NoticeView.h"
+#include "qt/QtText.h"
 
 namespace cutline {
 
@@ -43,6 +44,11 @@ const QStyleOptionSlider* asScrollBar(QStyle::ComplexControl control,
 }  // namespace
 
 OutlinedStyle::OutlinedStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("fusion"))) {}
+
+void OutlinedStyle::polish(QWidget* widget) {
+  showTextsAsTheyAre(*widget);
+  QProxyStyle::polish(widget);
+}
 
 int OutlinedStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                              QStyleHintReturn* answer) const {

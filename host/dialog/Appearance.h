@@ -27,6 +27,9 @@ class OutlinedStyle : public QProxyStyle {
  public:
   OutlinedStyle();
 
+  using QProxyStyle::polish;
+  void polish(QWidget* widget) override;
+
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override;
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,

@@ -22,9 +22,6 @@ struct DocumentLoader::Drawn {
 namespace {
 
 constexpr int kPatienceMilliseconds = 300;
-constexpr int kMostInks = 200;          // labels
-constexpr double kInkPixels = 250'000;  // of one label
-constexpr double kMostInkScale = 3;     // pixels a point
 
 // Whether both ask for the same: where the content chooses the length, the paper's says nothing.
 bool isSame(CompositionRequest one, CompositionRequest other) {
@@ -34,11 +31,6 @@ bool isSame(CompositionRequest one, CompositionRequest other) {
     each->label.length = 0;
   }
   return one.asText() == other.asText();
-}
-
-double inkScale(const LabelPage& label) {
-  const double area = std::max(1.0, label.width * label.length);
-  return std::min(kMostInkScale, std::sqrt(kInkPixels / area));
 }
 
 }  // namespace

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "base/Result.h"
+#include "composition/LabelInk.h"
 #include "host/dialog/Background.h"
 #include "host/dialog/Composing.h"
 #include "host/dialog/LabelPicture.h"

@@ -3,34 +3,13 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
 
 namespace cutline {
 namespace {
 
 constexpr double kMillimetre = 72 / 25.4;  // in points; sizes this close are the same
 constexpr double kHundred = 100;
-constexpr double kRounding = 1e-6;
 constexpr double kHardlyShrunk = 0.995;
-constexpr int kHalfTurn = 180;
-
-// Of a page that reaches beyond its label nobody sees here where its ink ends.
-bool isWholeOn(const ComposedPage& page, const LabelPage& label) {
-  const bool isQuarter = page.turn % kHalfTurn != 0;
-  const double across = (isQuarter ? page.size.height : page.size.width) * page.scale;
-  const double along = (isQuarter ? page.size.width : page.size.height) * page.scale;
-  return across <= label.width + kMillimetre && along <= label.length + kMillimetre;
-}
-
-// The percentage at which nothing of the label is lost; nothing where nothing is.
-std::optional<int> percentFor(const ComposedPage& page, const LabelPage& label,
-                              const LayoutSettings& settings, const Ink& ink) {
-  const auto sure = percentWithoutLoss(page.size, label, settings, ink.surely);
-  if (!sure) return std::nullopt;
-  return percentWithoutLoss(page.size, label, settings, ink.perhaps).value_or(*sure);
-}
-
-int percentOf(double scale) { return static_cast<int>(std::floor(scale * kHundred + kRounding)); }
 
 bool isNear(double one, double other) { return std::abs(one - other) <= kMillimetre; }
 
@@ -61,22 +40,6 @@ constexpr std::array kSheets = std::to_array<Sheet>({
 });
 
 }  // namespace
-
-std::optional<EdgeLoss> edgeLoss(const CompositionReport& report, const LayoutSettings& settings,
-                                 const std::map<int, std::optional<Ink>>& inks) {
-  if (settings.scaling == Scaling::fill) return std::nullopt;
-  EdgeLoss loss{{}, std::numeric_limits<int>::max()};
-  for (int label = 0; label < static_cast<int>(report.pages.size()); ++label) {
-    const ComposedPage& page = report.pages[static_cast<std::size_t>(label)];
-    const auto found = inks.find(label);
-    const bool hasInk = found != inks.end() && found->second && isWholeOn(page, report.label);
-    const std::optional<int> percent =
-        hasInk ? percentFor(page, report.label, settings, *found->second) : std::nullopt;
-    if (percent) loss.labels.push_back(label);
-    loss.percent = std::min(loss.percent, percent.value_or(percentOf(page.scale)));
-  }
-  return loss.labels.empty() ? std::nullopt : std::optional(loss);
-}
 
 const PaperSize* betterPaper(const CompositionReport& report, const std::vector<PaperSize>& papers,
                              const PaperSize& current) {

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "composition/EdgeLoss.h"
 #include "host/dialog/DialogLanguage.h"
 #include "host/dialog/HistoryBar.h"
 #include "host/dialog/LabelNotices.h"

@@ -13,6 +13,9 @@ namespace cutline {
 // No resource of a bundle comes near this size.
 inline constexpr std::size_t kLargestResource = std::size_t{16} << 20;
 
+// Nor has a picture of a bundle as many pixels.
+inline constexpr double kMostPicturePixels = 1 << 24;
+
 // The bytes of a regular file; nothing when it is none, cannot be read or is larger than `limit`.
 std::optional<std::string> readResource(const std::filesystem::path& path,
                                         std::size_t limit = kLargestResource) noexcept;

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "composition/EdgeLoss.h"
 #include "host/dialog/LabelNotices.h"
 
 namespace cutline {

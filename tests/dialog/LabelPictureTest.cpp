@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "composition/LabelInk.h"
 #include "host/dialog/LabelPicture.h"
 
 namespace cutline {

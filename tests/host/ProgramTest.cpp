@@ -69,6 +69,27 @@ class Program : public testing::Test {
   test::TemporaryFolder mDirectory;
 };
 
+// Black from edge to edge of a label of 24 x 50 mm, whose edges cannot be printed.
+constexpr char kEdgeToEdge[] =
+    "<svg xmlns='http://www.w3.org/2000/svg' width='50mm' height='24mm'>"
+    "<rect width='100%' height='100%'/></svg>";
+constexpr char kKeep[] =
+    "--dry-run out.pdf --ppd " CUTLINE_SOURCE_DIR "/samples/ppd/tape-a.ppd -o media=W24H50 ";
+
+TEST_F(Program, SaysThatEdgesWillBeCutOffAndWhatKeepsThem) {
+  std::ofstream(file("full.svg")) << kEdgeToEdge;
+  const std::string warning = "cutline: edges will be cut off on label 1: -o ";
+  const Outcome whole = run(kKeep + std::string("-o print-scaling=none full.svg"));
+  EXPECT_EQ(whole.status, 0);
+  ASSERT_TRUE(whole.err.starts_with(warning)) << whole.err;
+  const auto end = whole.err.find(" keeps them\n");
+  ASSERT_NE(end, std::string::npos) << whole.err;
+  const std::string remedy = whole.err.substr(warning.size(), end - warning.size());
+  EXPECT_EQ(run(kKeep + ("-o " + remedy) + " full.svg").err, "");
+  EXPECT_EQ(run(kKeep + std::string("-q -o print-scaling=none full.svg")).err, "");
+  EXPECT_EQ(run(kKeep + std::string("-o print-scaling=fill full.svg")).err, "");
+}
+
 TEST_F(Program, ShowsWhatWouldBeSent) {
   const Outcome outcome = run("--ppd tape.ppd --options -n 2 -P 1-3 -o 'LxHalfCut=ON media=W24'");
   EXPECT_EQ(outcome.status, 0);

@@ -1,4 +1,5 @@
 #include <QPainter>
+#include <filesystem>
 
 #include "platform/ports/Drawing.h"
 #include "qt/QtPicture.h"
@@ -42,6 +43,15 @@ TEST_F(QtPictureTest, DamagedPictureDrawsNothing) {
   EXPECT_TRUE(QtPicture::isPictureFile(picture.path()));
   const QImage image = painted(picture, {0, 0, 80, 40});
   EXPECT_EQ(image.pixel(40, 20), 0xffffffff);
+}
+
+TEST_F(QtPictureTest, ABitmapThatIsNotWholeDrawsNothing) {
+  QImage whole(400, 200, QImage::Format_RGB32);
+  whole.fill(Qt::black);
+  QtPicture picture(files.add("half.bmp", ""));
+  ASSERT_TRUE(whole.save(QString::fromStdString(picture.path())));
+  std::filesystem::resize_file(picture.path(), 100'000);
+  EXPECT_EQ(painted(picture, {0, 0, 80, 40}).pixel(40, 20), 0xffffffff);
 }
 
 TEST_F(QtPictureTest, IsReadOnlyOnce) {

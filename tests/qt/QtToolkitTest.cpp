@@ -1,3 +1,4 @@
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
@@ -62,6 +63,16 @@ TEST_F(QtToolkitTest, AlertWithoutAMessageSaysItsInformativeText) {
   EXPECT_EQ(buttons, QStringList("OK"));
   EXPECT_TRUE(modal);
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(QtToolkitTest, NeitherTextOfAnAlertIsReadAsHtml) {
+  QStringList read;
+  whenAlertOpens([&](QMessageBox& box) {
+    for (const QLabel* label : box.findChildren<QLabel*>())
+      if (label->textFormat() != Qt::PlainText) read << label->text();
+  });
+  toolkit.runModal({"<b>Stop</b>?", "The <img src=\"job\"> is printing.", {"OK"}});
+  EXPECT_EQ(read, QStringList());
 }
 
 TEST_F(QtToolkitTest, AlertWithAMessageShowsBothTextsAndAllButtons) {

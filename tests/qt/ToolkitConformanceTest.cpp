@@ -1,5 +1,6 @@
 // What a panel relies on, whichever toolkit shows it. TextFieldConformanceTest has the text fields.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <QImage>
 #include <QImageWriter>
@@ -7,6 +8,7 @@
 #include <memory>
 #include <vector>
 
+#include "platform/lib/ResourceFile.h"
 #include "platform/ports/Controls.h"
 #include "platform/ports/Drawing.h"
 #include "platform/ports/PopUpButton.h"
@@ -248,6 +250,23 @@ TYPED_TEST(ToolkitConformance, PictureTellsItsSize) {
   EXPECT_EQ(image->size(), (Size{40, 20}));
   EXPECT_EQ(this->toolkit.imageWithContentsOfFile(files.add("b.svg", "words")), nullptr);
   EXPECT_EQ(this->toolkit.imageWithContentsOfFile("/nonexistent"), nullptr);
+}
+
+TYPED_TEST(ToolkitConformance, RefusesAPictureOfTooManyBytesOrPixels) {
+  PictureFiles files;
+  const std::string path = files.addPlain("a.svg", "#00ff00");
+  ASSERT_EQ(::truncate(path.c_str(), kLargestResource + 1), 0);
+  EXPECT_EQ(this->toolkit.imageWithContentsOfFile(path), nullptr);
+  for (const int side : {4000, 5000}) {
+    QImage picture(side, side, QImage::Format_Mono);
+    picture.fill(1);
+    const std::string bitmap = files.add("b.png", "");
+    ASSERT_TRUE(picture.save(QString::fromStdString(bitmap)));
+    const bool isSmall = side * side <= kMostPicturePixels;
+    EXPECT_EQ(this->toolkit.imageWithContentsOfFile(bitmap) != nullptr, isSmall) << side;
+    ASSERT_EQ(::truncate(bitmap.c_str(), 20), 0);
+    EXPECT_EQ(this->toolkit.imageWithContentsOfFile(bitmap), nullptr);
+  }
 }
 
 TYPED_TEST(ToolkitConformance, ReadsThePicturesThatItSaysItReadsAndNoOthers) {
