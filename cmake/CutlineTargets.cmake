@@ -20,6 +20,7 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/${CUTLINE_LIB_DIR})
 set(CMAKE_BUILD_WITH_INSTALL_RPATH ON)
 
 option(CUTLINE_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+option(CUTLINE_RACES "Build with ThreadSanitizer; scripts/races runs it" OFF)
 option(CUTLINE_FUZZ "Build the fuzzers, too; takes clang, and the sanitizers with it" OFF)
 if(CUTLINE_FUZZ)
   set(CUTLINE_SANITIZE ON)
@@ -49,6 +50,12 @@ if(CUTLINE_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined
                       -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
+endif()
+
+if(CUTLINE_RACES)
+  set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g1")
+  add_compile_options(-fsanitize=thread)
+  add_link_options(-fsanitize=thread)
 endif()
 
 option(CUTLINE_COVERAGE "Build with counters of what runs; scripts/coverage reads them" OFF)
