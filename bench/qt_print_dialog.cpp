@@ -1,6 +1,8 @@
 // qt_print_dialog QUEUE
 // The toolkit's own print dialog with its page of printer options opened, as something to compare
 // with. Prints the moment when the dialog, and when the options, have been painted; then ends.
+#include <unistd.h>
+
 #include <QApplication>
 #include <QDialog>
 #include <QEvent>
@@ -10,19 +12,11 @@
 #include <QTabWidget>
 #include <QTimer>
 #include <cstdio>
-#include <ctime>
 #include <functional>
 
-namespace {
+#include "bench/Marks.h"
 
-void mark(const char* name) {
-  timespec now{};
-  clock_gettime(CLOCK_MONOTONIC, &now);
-  const double milliseconds =
-      static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
-  std::printf("MARK %s %.3f\n", name, milliseconds - qEnvironmentVariable("LX_T0").toDouble());
-  std::fflush(stdout);
-}
+namespace {
 
 // Calls back once, after the first paint of a dialog other than `except`.
 class FirstPaint : public QObject {
@@ -59,13 +53,13 @@ int main(int argc, char** argv) {
   FirstPaint options(&dialog, [](QWidget* window) {
     if (auto* tabs = window->findChild<QTabWidget*>()) tabs->setCurrentIndex(tabs->count() - 1);
     QTimer::singleShot(0, [] {
-      mark("options_painted");
+      cutline::mark("options_painted");
       std::fflush(stdout);
       _exit(0);
     });
   });
   FirstPaint opened(nullptr, [&dialog](QWidget*) {
-    mark("painted");
+    cutline::mark("painted");
     auto* properties = dialog.findChild<QPushButton*>("properties");
     if (properties == nullptr) _exit(1);
     properties->click();
