@@ -63,6 +63,11 @@ void FakeComposer::letGo() {
   mLetGo.notify_all();
 }
 
+void FakeComposer::forgetRequests() {
+  const std::scoped_lock lock(mMutex);
+  mRequests = {};
+}
+
 std::vector<CompositionRequest> FakeComposer::requests() {
   const std::scoped_lock lock(mMutex);
   return mRequests;

@@ -33,6 +33,7 @@ class FakeComposer : public std::enable_shared_from_this<FakeComposer> {
   void letGo();
 
   std::vector<CompositionRequest> requests();
+  void forgetRequests();
   // The documents of the last one.
   std::vector<std::string> paths();
   // How many of the requests were answered, and how many stopped while they waited.
