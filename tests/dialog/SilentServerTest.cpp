@@ -11,6 +11,8 @@
 namespace cutline {
 namespace {
 
+constexpr int kSmallestWidth = 800;
+
 class SilentServerTest : public DialogTest {
  protected:
   void startJob() {
@@ -42,6 +44,7 @@ TEST_F(SilentServerTest, AJobThatIsWatchedIsSaidToBeUnknownUntilItIsKnownAgain) 
   startWatching();
   server().setGone(false, /*isSilent=*/true);
   EXPECT_TRUE(waitUntil([this] { return shows(QStringLiteral("does not answer how it is")); }));
+  EXPECT_LE(dialog().minimumSizeHint().width(), kSmallestWidth);
   server().setGone(false);
   EXPECT_TRUE(waitUntil([this] { return shows(QStringLiteral("Printing label 7")); }));
   server().setStatuses({jobStatus(JobState::completed)});
