@@ -1,5 +1,7 @@
 #include "host/dialog/Background.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QObject>
 #include <condition_variable>
 #include <deque>
@@ -10,9 +12,23 @@
 namespace cutline {
 
 struct Background::Shared {
+  // Hears on the maker's thread that there is something to deliver.
+  class Receiver : public QObject {
+   public:
+    explicit Receiver(Shared& shared) : mShared(shared) {}
+    bool event(QEvent* event) override {
+      if (event->type() != QEvent::User) return QObject::event(event);
+      mShared.deliver();
+      return true;
+    }
+
+   private:
+    Shared& mShared;
+  };
+
   std::mutex mutex;
   std::condition_variable workEnded;
-  std::unique_ptr<QObject> receiver = std::make_unique<QObject>();  // null once nobody listens
+  std::unique_ptr<QObject> receiver = std::make_unique<Receiver>(*this);  // null: nobody listens
   std::deque<Delivery> deliveries;
   int running = 0;
 
@@ -22,8 +38,7 @@ struct Background::Shared {
     const std::scoped_lock lock(mutex);
     if (!receiver || !delivery) return;
     deliveries.push_back(std::move(delivery));
-    QMetaObject::invokeMethod(
-        receiver.get(), [this] { deliver(); }, Qt::QueuedConnection);
+    QCoreApplication::postEvent(receiver.get(), new QEvent(QEvent::User));
   }
 
   // One for each event, as a delivery may end this.
