@@ -29,12 +29,12 @@ using namespace std::chrono_literals;
 
 int points() { return std::getenv("CUTLINE_LONG_TESTS") != nullptr ? 100 : 6; }
 
-enum class Printing { byCommand, byDialog };
+enum class WayToPrint { byCommand, byDialog };
 
 // Print is pressed as soon as the labels are there.
-std::vector<std::string> wordsFor(Printing printing) {
+std::vector<std::string> wordsFor(WayToPrint printing) {
   const std::string program = built("bin/cutline");
-  if (printing == Printing::byCommand) return {program, "--print", "-q"};
+  if (printing == WayToPrint::byCommand) return {program, "--print", "-q"};
   return {"QT_QPA_PLATFORM=offscreen", "QT_QPA_GENERIC_PLUGINS=presser",
           "QT_PLUGIN_PATH=" + built("tests/programs"), program};
 }
@@ -43,7 +43,7 @@ std::vector<std::string> wordsFor(Printing printing) {
 class PrintingProgram {
  public:
   PrintingProgram(const std::string& server, const std::string& temporary, const std::string& title,
-                  const std::string& document, Printing printing = Printing::byCommand) {
+                  const std::string& document, WayToPrint printing = WayToPrint::byCommand) {
     std::vector<std::string> words = {"env", "CUPS_SERVER=" + server, "TMPDIR=" + temporary,
                                       "XDG_STATE_HOME=" + temporary, "LANGUAGE=en"};
     std::ranges::copy(wordsFor(printing), std::back_inserter(words));
@@ -203,7 +203,7 @@ TEST_F(KilledProgram, LeavesOneWholeJobOrNoneWhereverTheDialogEnds) {
   {
     DeadlyWay free;
     const PrintingProgram printing(free.path(), mTemporary.path(), "free", labels(),
-                                   Printing::byDialog);
+                                   WayToPrint::byDialog);
     EXPECT_TRUE(comesTrue([&] { return jobsOf("free").whole == 1; }));
     all = free.passed();
     printing.kill();
@@ -214,7 +214,7 @@ TEST_F(KilledProgram, LeavesOneWholeJobOrNoneWhereverTheDialogEnds) {
     const std::size_t most = all * (count + i) / (2 * count);
     const std::string title = "dialog killed after " + std::to_string(most) + " bytes";
     DeadlyWay way(most);
-    PrintingProgram printing(way.path(), mTemporary.path(), title, labels(), Printing::byDialog);
+    PrintingProgram printing(way.path(), mTemporary.path(), title, labels(), WayToPrint::byDialog);
     way.setVictim(printing);
     printing.wait();
     jobs += expectOneWholeOrNone(title);
