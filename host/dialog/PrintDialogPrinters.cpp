@@ -1,6 +1,7 @@
 // The part of PrintDialog that has to do with the print server: which printers there are, which one
 // is open, how it is.
 #include <QApplication>
+#include <QPointer>
 #include <QPushButton>
 #include <algorithm>
 #include <initializer_list>
@@ -163,8 +164,11 @@ void PrintDialog::takeSetUp(const PrinterChoice& choice) {
   const std::shared_ptr<PpdFile> before = mModel.ppdFile();
   if (choice.ppd->fingerprint() == before->fingerprint()) return;
   const Settings settings = mModel.settings();
+  const QPointer<QWidget> focused = focusWidget();
   openPrinter(choice);
   mModel.restore(settings);
+  // It was the panel's. Qt would go on to the next button, which Return would press from then on.
+  if (!focused) mJobForm->focusCopies();
   const QString name = toQString(now.name.printer);
   const QString lost = lostSettings(*before, settings.options, mModel.settings().options);
   mNotices->setNotice(

@@ -47,6 +47,16 @@ TEST_F(SetUpAnewTest, ItIsShownAnewAndWhatItLacksIsNamed) {
   EXPECT_NE(sent()["PageSize"], "W24H30");
 }
 
+// The boxes of the panel go with the old driver, also the one that the keyboard was at.
+TEST_F(SetUpAnewTest, ReturnStillPrints) {
+  open();
+  box("LxHalfCut")->setFocus();
+  server().setUpAnew("tape", samplePpd("roll"), 200);
+  EXPECT_TRUE(waitUntil([this] { return shows(QStringLiteral("no longer has: ")); }));
+  EXPECT_EQ(dialog().focusWidget(), named<QWidget>("Copies"));
+  EXPECT_TRUE(printButton()->isDefault());
+}
+
 TEST_F(SetUpAnewTest, TheSameDriverIsNoNews) {
   open();
   server().setUpAnew("tape", samplePpd("tape-a"), 200);
