@@ -66,8 +66,9 @@ Result<BundleFiles> openFiles(const std::filesystem::path& path) {
 bool hasOurAbi(const FileDescriptor& code) {
   const std::string numbers = codeSection(code, kPlugInAbiSection).value_or(std::string());
   std::vector<std::uint32_t> all(numbers.size() / sizeof kPlugInAbiVersion);
+  if (all.empty()) return false;
   std::memcpy(all.data(), numbers.data(), all.size() * sizeof kPlugInAbiVersion);
-  return !all.empty() && std::ranges::count(all, kPlugInAbiVersion) == std::ssize(all);
+  return std::ranges::count(all, kPlugInAbiVersion) == std::ssize(all);
 }
 
 // Why the code is not loaded; empty when it is. Found before any of it runs.
