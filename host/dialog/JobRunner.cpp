@@ -14,6 +14,17 @@ constexpr int kMostMissed = 10;  // answers in a row of a server that does answe
 constexpr int kSilenceMilliseconds = 3000;
 constexpr int kGivingUpMilliseconds = 700;
 
+// The server takes options that the printer no longer has, and prints something else.
+Result<Done> checkSetUp(PrintServer& server, const PrintRequest& job) {
+  if (job.setUpSince == 0) return Done{};
+  const Result<Destination> now = server.find(job.destination);
+  if (!now || now->setUpSince == 0 || now->setUpSince == job.setUpSince) return Done{};
+  return Error{Sentence(Phrase("host",
+                               "\"%1\" was set up anew on the print server: look at the settings, "
+                               "then print again"),
+                        {job.destination.text()})};
+}
+
 }  // namespace
 
 // Also of what was sent by then: who gives up next is seen before the last byte goes, or else sees
@@ -33,21 +44,6 @@ JobRunner::JobRunner(std::shared_ptr<PrintServer> server, QObject* parent)
   connect(&mSilence, &QTimer::timeout, this, &JobRunner::noteSilence);
   connect(&mPatience, &QTimer::timeout, this, &JobRunner::letGo);
 }
-
-namespace {
-
-// The server takes options that the printer no longer has, and prints something else.
-Result<Done> checkSetUp(PrintServer& server, const PrintRequest& job) {
-  if (job.setUpSince == 0) return Done{};
-  const Result<Destination> now = server.find(job.destination);
-  if (!now || now->setUpSince == 0 || now->setUpSince == job.setUpSince) return Done{};
-  return Error{Sentence(Phrase("host",
-                               "\"%1\" was set up anew on the print server: look at the settings, "
-                               "then print again"),
-                        {job.destination.text()})};
-}
-
-}  // namespace
 
 // Asked to stop before its document is there, it ends without having sent anything.
 void JobRunner::start(const PrintRequest& request, Composing composing) {
