@@ -2,7 +2,7 @@
 
 #include <unistd.h>
 
-#include <cerrno>
+#include "base/Uninterrupted.h"
 
 namespace cutline {
 
@@ -13,8 +13,7 @@ FileDescriptor::~FileDescriptor() {
 bool writeAll(int descriptor, const void* bytes, std::size_t size) noexcept {
   const auto* from = static_cast<const char*>(bytes);
   while (size > 0) {
-    const ssize_t written = ::write(descriptor, from, size);
-    if (written < 0 && errno == EINTR) continue;
+    const ssize_t written = uninterrupted([&] { return ::write(descriptor, from, size); });
     if (written <= 0) return false;
     from += written;
     size -= static_cast<std::size_t>(written);

@@ -14,6 +14,7 @@
 
 #include "base/FileDescriptor.h"
 #include "base/Numbers.h"
+#include "base/Uninterrupted.h"
 #include "composition/CompositionErrors.h"
 #include "composition/HelperProcess.h"
 
@@ -82,8 +83,8 @@ Answer readToEnd(int descriptor, steady_clock::time_point end) {
       answer.isInTime = false;
       break;
     }
-    const ssize_t count = ::read(descriptor, block.data(), block.size());
-    if (count < 0 && errno == EINTR) continue;
+    const ssize_t count =
+        uninterrupted([&] { return ::read(descriptor, block.data(), block.size()); });
     if (count <= 0) break;
     answer.text.append(block.data(), static_cast<std::size_t>(count));
   }

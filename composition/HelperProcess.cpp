@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "base/FileDescriptor.h"
+#include "base/Uninterrupted.h"
 
 namespace cutline {
 namespace {
@@ -122,11 +123,7 @@ void HelperProcess::kill() const noexcept {
 
 int HelperProcess::wait() noexcept {
   int status = -1;
-  while (::waitpid(mProcess, &status, 0) < 0) {
-    if (errno == EINTR) continue;
-    status = -1;
-    break;
-  }
+  uninterrupted([&] { return ::waitpid(mProcess, &status, 0); });
   mProcess = 0;
   return status;
 }

@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "base/FileDescriptor.h"
+#include "base/Uninterrupted.h"
 #include "composition/DrawerMessages.h"
 #include "composition/HelperProcess.h"
 
@@ -69,8 +70,7 @@ Got Connection::receive(void* bytes, std::size_t size, steady_clock::time_point 
     if (left.count() <= 0) return Got::tooLate;
     pollfd wait{socket.get(), POLLIN, 0};
     if (::poll(&wait, 1, static_cast<int>(left.count())) <= 0) continue;
-    const ssize_t count = ::recv(socket.get(), to, size, 0);
-    if (count < 0 && errno == EINTR) continue;
+    const ssize_t count = uninterrupted([&] { return ::recv(socket.get(), to, size, 0); });
     if (count <= 0) return Got::ended;
     to += count;
     size -= static_cast<std::size_t>(count);

@@ -13,6 +13,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Uninterrupted.h"
 #include "composition/CompositionErrors.h"
 #include "composition/helper/ScratchFolder.h"
 
@@ -80,7 +81,7 @@ struct Files {
 
 int ended(pid_t process) {
   int status = -1;
-  while (::waitpid(process, &status, 0) < 0 && errno == EINTR) continue;
+  uninterrupted([&] { return ::waitpid(process, &status, 0); });
   return status;
 }
 

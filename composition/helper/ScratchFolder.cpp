@@ -11,26 +11,25 @@
 #include <utility>
 
 #include "base/TemporaryFile.h"
+#include "base/Uninterrupted.h"
 
 namespace cutline {
 namespace {
 
 constexpr char kEnd = '\0';
 
-Error noKeeper() {
-  return Error{std::string("cannot keep temporary files: ") + std::strerror(errno)};
-}
+std::string notKept(const std::string& reason) { return "cannot keep temporary files: " + reason; }
+
+Error noKeeper() { return Error{notKept(std::strerror(errno))}; }
 
 // The folder's path, or the reason why there is none, which begins with no slash.
 std::string answerOf(const Result<TemporaryFolder>& folder) {
-  return (folder ? folder->path() : folder.error().message) + kEnd;
+  return (folder ? folder->path() : notKept(folder.error().message)) + kEnd;
 }
 
 void awaitEnd(int tie) {
   char byte = 0;
-  ssize_t count = 0;
-  do count = ::read(tie, &byte, 1);
-  while (count > 0 || (count < 0 && errno == EINTR));
+  while (uninterrupted([&] { return ::read(tie, &byte, 1); }) > 0) continue;
 }
 
 // Alone with the tie: nobody waits for other descriptors because of this process, and what ends
@@ -54,8 +53,7 @@ std::string answerFrom(int tie) {
   std::string answer;
   std::array<char, 512> block{};
   while (!answer.ends_with(kEnd)) {
-    const ssize_t count = ::read(tie, block.data(), block.size());
-    if (count < 0 && errno == EINTR) continue;
+    const ssize_t count = uninterrupted([&] { return ::read(tie, block.data(), block.size()); });
     if (count <= 0) return {};
     answer.append(block.data(), static_cast<std::size_t>(count));
   }
@@ -88,7 +86,7 @@ ScratchFolder::ScratchFolder(std::string path, FileDescriptor tie, pid_t keeper)
 ScratchFolder::~ScratchFolder() {
   if (!mTie) return;  // moved away
   mTie = FileDescriptor();
-  while (::waitpid(mKeeper, nullptr, 0) < 0 && errno == EINTR) continue;
+  uninterrupted([&] { return ::waitpid(mKeeper, nullptr, 0); });
 }
 
 }  // namespace cutline

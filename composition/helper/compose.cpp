@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "base/FileDescriptor.h"
+#include "base/Uninterrupted.h"
 #include "composition/Composition.h"
 #include "composition/helper/Confinement.h"
 #include "composition/helper/PostScript.h"
@@ -35,8 +36,8 @@ std::optional<std::string> readAll(int descriptor) {
   std::string text;
   std::array<char, 4096> block;
   for (;;) {
-    const ssize_t count = ::read(descriptor, block.data(), block.size());
-    if (count < 0 && errno == EINTR) continue;
+    const ssize_t count =
+        uninterrupted([&] { return ::read(descriptor, block.data(), block.size()); });
     if (count < 0) return std::nullopt;
     if (count == 0) return text;
     text.append(block.data(), static_cast<std::size_t>(count));

@@ -18,6 +18,7 @@
 #include <new>
 
 #include "base/FileDescriptor.h"
+#include "base/Uninterrupted.h"
 #include "composition/DrawerMessages.h"
 #include "composition/helper/Confinement.h"
 
@@ -40,8 +41,8 @@ constexpr ProcessLimits kLimits = {.memory = 1U << 30U,
 bool readRequest(DrawRequest& request) {
   auto* to = reinterpret_cast<char*>(&request);
   for (std::size_t got = 0; got < sizeof request;) {
-    const ssize_t count = ::read(STDIN_FILENO, to + got, sizeof request - got);
-    if (count < 0 && errno == EINTR) continue;
+    const ssize_t count =
+        uninterrupted([&] { return ::read(STDIN_FILENO, to + got, sizeof request - got); });
     if (count <= 0) return false;
     got += static_cast<std::size_t>(count);
   }

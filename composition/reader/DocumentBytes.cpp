@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstring>
 
+#include "base/Uninterrupted.h"
 #include "composition/reader/Refusal.h"
 
 namespace cutline {
@@ -15,10 +16,8 @@ constexpr std::size_t kStep = 65536;
 
 // How many bytes were read from there; 0 at the end.
 std::size_t readSome(int descriptor, char* to, std::size_t size, std::size_t from) {
-  ssize_t got = 0;
-  do {
-    got = ::pread(descriptor, to, size, static_cast<off_t>(from));
-  } while (got < 0 && errno == EINTR);
+  const ssize_t got =
+      uninterrupted([&] { return ::pread(descriptor, to, size, static_cast<off_t>(from)); });
   if (got < 0) throw Refusal{DocumentProblem::broken, std::strerror(errno)};
   return static_cast<std::size_t>(got);
 }

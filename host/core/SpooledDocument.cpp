@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/FileDescriptor.h"
+#include "base/Uninterrupted.h"
 
 namespace cutline {
 
@@ -22,8 +23,7 @@ Result<std::size_t> copyAll(int from, int to) {
   std::array<char, kBlock> block;
   std::size_t total = 0;
   for (;;) {
-    const ssize_t count = ::read(from, block.data(), block.size());
-    if (count < 0 && errno == EINTR) continue;
+    const ssize_t count = uninterrupted([&] { return ::read(from, block.data(), block.size()); });
     if (count < 0) return Error{"cannot read standard input: " + systemReason()};
     if (count == 0) return total;
     if (!writeAll(to, block.data(), static_cast<std::size_t>(count)))

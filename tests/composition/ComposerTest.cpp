@@ -14,6 +14,7 @@
 #include "tests/composition/Children.h"
 #include "tests/composition/Composed.h"
 #include "tests/composition/DrawnPdf.h"
+#include "tests/composition/RefusedCall.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace cutline {
@@ -277,6 +278,67 @@ TEST_F(Composer, EndsAnInterpreterWithItsProgram) {
   source.request_stop();
   composer.join();
   EXPECT_TRUE(waitUntil([&] { return running().empty(); }));
+}
+
+TEST_F(Composer, ReadsNothingWhereItCannotBeConfined) {
+  const test::RefusedCall refused{"landlock_restrict_self"};
+  const std::string program = mFolder.write("page.ps", "%!PS\nshowpage\n");
+  for (const std::string& path : {pdf(), program}) {
+    EXPECT_EQ(test::saidWithout(refused,
+                                [&] { return errorOf(compose(kHelpers, {path}, labelRequest())); }),
+              refusal(path, "its reader failed: it cannot be confined"));
+  }
+}
+
+TEST_F(Composer, NamesTheSystemsReasonWhereItCannotBeAsked) {
+  const auto errorWithout = [&](const char* call) {
+    return test::saidWithout({call, {}, EMFILE},
+                             [&] { return errorOf(compose(kHelpers, {pdf()}, labelRequest())); });
+  };
+  EXPECT_EQ(errorWithout("memfd_create"), "cannot ask the composer: Too many open files");
+  EXPECT_EQ(errorWithout("pipe2"), "cannot ask the composer: Too many open files");
+  EXPECT_EQ(errorWithout("fcntl"), "cannot start the program \"" + std::string(kHelpers) +
+                                       "/cutline-compose\": Too many open files");
+}
+
+// Which of them are the last is known only when all of them are there.
+TEST_F(Composer, CountsAllPagesWhereNotTheFirstAreWanted) {
+  const std::string program = mFolder.write("pages.ps", "%!PS\nshowpage showpage showpage\n");
+  std::vector<CompositionRequest> requests(3, labelRequest());
+  requests[0].pages.isReversed = true;
+  requests[1].pages.set = PageSet::even;
+  requests[2].pages.ranges = *PageRanges::parse("2-3");
+  for (CompositionRequest& request : requests) {
+    request.pages.most = 1;
+    const Result<ComposedDocument> composed = compose(kHelpers, {program}, request);
+    ASSERT_TRUE(composed) << errorOf(composed);
+    EXPECT_EQ(composed->report.documentPages, 3);
+    EXPECT_EQ(composed->report.pages.size(), 1U);
+  }
+}
+
+TEST_F(Composer, NamesWhatThePagesAreThatNoDocumentHas) {
+  CompositionRequest request = labelRequest();
+  request.pages.ranges = *PageRanges::parse("2-5");
+  EXPECT_EQ(errorOf(compose(kHelpers, {pdf()}, request)),
+            "page range \"2-5\": the document has 2 pages, and no page 3");
+}
+
+TEST_F(Composer, SaysThatThereIsNoDocument) {
+  EXPECT_EQ(errorOf(compose(kHelpers, {}, labelRequest())), "there is no document");
+}
+
+// As on file systems that have none; nothing is left behind all the same.
+TEST_F(Composer, NeedsNoFilesWithoutNames) {
+  const test::RefusedCall nameless{"openat", test::Argument{2, O_TMPFILE | O_RDWR | O_CLOEXEC},
+                                   EOPNOTSUPP};
+  EXPECT_EQ(test::saidWithout(nameless,
+                              [&] {
+                                const auto composed = compose(kHelpers, {pdf()}, labelRequest());
+                                return composed ? std::to_string(composed->report.pages.size())
+                                                : errorOf(composed);
+                              }),
+            "2");
 }
 
 }  // namespace

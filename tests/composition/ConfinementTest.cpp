@@ -10,6 +10,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
@@ -19,6 +20,7 @@
 #include <vector>
 
 #include "composition/helper/Confinement.h"
+#include "tests/composition/RefusedCall.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace cutline {
@@ -233,6 +235,77 @@ TEST_F(Confinement, AnInterpreterWritesInItsFolderAlone) {
   EXPECT_EQ(endOfInterpreter(own.path(), make(inside)), 0);
   EXPECT_EQ(endOfInterpreter(own.path(), make(outside)), EACCES);
   EXPECT_TRUE(mFolder.isEmpty());
+}
+
+// With a limit of each kind, so that each step is taken.
+constexpr ProcessLimits kEachLimit = {
+    .memory = 1U << 30U, .fileSize = 1U << 20U, .cpuSeconds = 30, .files = 64, .wallSeconds = 60};
+
+std::string wordsOf(bool isConfined) { return isConfined ? "confined" : "refused"; }
+
+// What is not confined in every respect must not look at what anybody may have made.
+TEST_F(Confinement, IsNoneWhereTheSystemRefusesAStep) {
+  const auto limit = [](auto resource) { return test::Argument{1, resource}; };
+  const test::RefusedCall steps[] = {
+      {"prctl", test::Argument{0, PR_SET_NO_NEW_PRIVS}},
+      {"prctl", test::Argument{0, PR_SET_DUMPABLE}},
+      {"prctl", test::Argument{0, PR_SET_PDEATHSIG}},
+      {"prlimit64", limit(RLIMIT_CPU)},
+      {"prlimit64", limit(RLIMIT_CORE)},
+      {"prlimit64", limit(RLIMIT_FSIZE)},
+      {"prlimit64", limit(RLIMIT_NOFILE)},
+      {"openat"},
+      {"landlock_create_ruleset"},
+      {"landlock_add_rule"},
+      {"landlock_restrict_self"},
+      {"seccomp"},
+  };
+  for (std::size_t at = 0; at < std::size(steps); ++at) {
+    const auto confined = [] { return wordsOf(confine(kEachLimit)); };
+    const auto interpreter = [&] {
+      return wordsOf(confineInterpreter(kEachLimit, mFolder.path().c_str()));
+    };
+    EXPECT_EQ(test::saidWithout(steps[at], confined), "refused") << at << steps[at].name;
+    EXPECT_EQ(test::saidWithout(steps[at], interpreter), "refused") << at << steps[at].name;
+  }
+  EXPECT_EQ(test::saidWithout(
+                {"prlimit64", limit(RLIMIT_AS)},
+                [&] { return wordsOf(confineInterpreter(kEachLimit, mFolder.path().c_str())); }),
+            "refused");
+}
+
+TEST_F(Confinement, IsTheFilterAloneWhereTheSystemHasNoLandlock) {
+  for (const int reason : {ENOSYS, EOPNOTSUPP}) {
+    const std::string said =
+        test::saidWithout({"landlock_create_ruleset", {}, reason}, []() -> std::string {
+          if (!confine(kPlenty)) return "refused";
+          return ::open("/etc/passwd", O_RDWR) < 0 && ::socket(AF_INET, SOCK_STREAM, 0) < 0
+                     ? "confined"
+                     : "open";
+        });
+    EXPECT_EQ(said, "confined") << reason;
+  }
+}
+
+// The number of the last descriptor that there can be.
+int lastDescriptor() {
+  int last = -1;
+  for (int next = 0; next >= 0; next = ::dup(STDIN_FILENO)) last = std::max(last, next);
+  return last;
+}
+
+TEST_F(Confinement, LeavesALimitThatIsLowerAlready) {
+  const ProcessLimits limits = {.files = 16};
+  EXPECT_EQ(resultOf(lastDescriptor, limits), 15);
+  const pid_t child = ::fork();
+  if (child == 0) {
+    const rlimit low{12, 12};
+    ::setrlimit(RLIMIT_NOFILE, &low);
+    ::_exit(confine(limits) ? lastDescriptor() : kNotConfined);
+  }
+  int status = -1;
+  ::waitpid(child, &status, 0);
+  EXPECT_EQ(WEXITSTATUS(status), 11);
 }
 
 }  // namespace

@@ -1,14 +1,19 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <chrono>
 #include <csignal>
+#include <filesystem>
 #include <thread>
 
 #include "base/FileDescriptor.h"
+#include "composition/DrawerMessages.h"
 #include "composition/PageDrawer.h"
 #include "tests/composition/Children.h"
 #include "tests/composition/DrawnPdf.h"
+#include "tests/composition/RefusedCall.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace cutline {
 namespace {
@@ -143,6 +148,73 @@ TEST(PageDrawer, GivesUpAPageThatTakesTooLong) {
   const Result<PageImage> next = drawer->draw(1, 1);
   ASSERT_TRUE(next) << next.error().message;
   EXPECT_EQ(at(*next, 5, 45), kInk);
+}
+
+// A drawer that says these words and then listens.
+class SayingDrawer {
+ public:
+  template <typename... Words>
+  explicit SayingDrawer(const Words&... words) {
+    std::string bytes;
+    (bytes.append(reinterpret_cast<const char*>(&words), sizeof words), ...);
+    const std::string said = mFolder.write("said", bytes);
+    const std::string program =
+        mFolder.write(kDrawerName, "#!/bin/sh\ncat " + said + "\nhead -c 16 >/dev/null\n");
+    ::chmod(program.c_str(), 0755);
+  }
+  std::string errorOfPage() const {
+    const auto drawer = PageDrawer::open(mFolder.path(), fileWith(kTwoPages));
+    return drawer ? errorOf((*drawer)->draw(0, 1)) : drawer.error().message;
+  }
+
+ private:
+  test::TemporaryFolder mFolder;
+};
+
+TEST(PageDrawer, BelievesNoPictureThatCannotBe) {
+  const std::string failed = "page 1 cannot be drawn: its reader failed";
+  const DrawerGreeting greeting{1};
+  const auto fine = DrawnState::fine;
+  for (const DrawAnswer& answer :
+       {DrawAnswer{fine, -1, 1}, DrawAnswer{fine, 1, 0}, DrawAnswer{fine, 100'000, 100'000},
+        // Of which nothing comes.
+        DrawAnswer{fine, 2, 2}, DrawAnswer{static_cast<DrawnState>(9), 1, 1}})
+    EXPECT_EQ(SayingDrawer(greeting, answer).errorOfPage(), failed) << answer.width;
+  EXPECT_EQ(SayingDrawer(DrawerGreeting{0}).errorOfPage(),
+            "the pages cannot be drawn: its reader failed");
+}
+
+TEST(PageDrawer, SaysThatItsProgramIsGone) {
+  const test::TemporaryFolder folder;
+  const std::string program = folder / kDrawerName;
+  std::filesystem::create_symlink(std::string(kDrawerFolder) + "/" + kDrawerName, program);
+  const auto drawer = PageDrawer::open(folder.path(), fileWith(kTwoPages));
+  ASSERT_TRUE(drawer) << drawer.error().message;
+  std::filesystem::remove(program);
+  ::kill(childrenOfThisProcess().at(0), SIGKILL);
+  (*drawer)->draw(0, 1);
+  EXPECT_EQ(errorOf((*drawer)->draw(0, 1)), "page 1 cannot be drawn: cannot start the program \"" +
+                                                program + "\": No such file or directory");
+}
+
+TEST(PageDrawer, DrawsNothingWhereItCannotBeConfined) {
+  EXPECT_EQ(test::saidWithout({"landlock_restrict_self"},
+                              [] {
+                                const auto drawer =
+                                    PageDrawer::open(kDrawerFolder, fileWith(kTwoPages));
+                                return drawer ? "" : drawer.error().message;
+                              }),
+            "the pages cannot be drawn: its reader failed");
+}
+
+TEST(PageDrawer, SaysThatItCannotBeReached) {
+  EXPECT_EQ(test::saidWithout({"socketpair", {}, EMFILE},
+                              [] {
+                                const auto drawer =
+                                    PageDrawer::open(kDrawerFolder, fileWith(kTwoPages));
+                                return drawer ? "" : drawer.error().message;
+                              }),
+            "the pages cannot be drawn: Too many open files");
 }
 
 }  // namespace

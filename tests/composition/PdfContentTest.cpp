@@ -205,6 +205,11 @@ TEST(PdfContentTest, HiddenLayersStayHidden) {
        false},
       {"/AS[<</Event/View/Category[/Print]/OCGs[@]>>]", "/Usage<</Print<</PrintState/OFF>>>>",
        true},
+      // What says nothing of printing, or nothing that can be understood.
+      {"/AS[<</Event/Print/OCGs[7 @]>>]", "", true},
+      {"/AS[<</Event/Print/OCGs[@]>>]", "/Usage<</Print<<>>>>", true},
+      {"/OFF[@]/AS[<</Event/Print/OCGs[@]>>]", "/Usage<</Print<</PrintState(ON)>>>>", false},
+      {"/OFF[@]/AS[7]", "", false},
   };
   for (const auto& row : rows) {
     Composed composed(layeredPdf(row.settings, row.layer));

@@ -47,6 +47,7 @@ TEST(PdfPagesTest, APageIsShownAsItsEntriesSay) {
       {"/MediaBox[0 0 40 80]/Rotate -90", kCornerMark, {80, 40}, {80, 80, 90, 90}},
       {"/MediaBox[0 0 40 80]/Rotate 450", kCornerMark, {80, 40}, {10, 110, 20, 120}},
       {"/MediaBox[0 0 40 80]/Rotate 45", kCornerMark, {40, 80}, {30, 60, 40, 70}},
+      {"/MediaBox[0 0 40 80]/Rotate 90.5", kCornerMark, {40, 80}, {30, 60, 40, 70}},
       {"/MediaBox[0 0 40 80]/Rotate/East", kCornerMark, {40, 80}, {30, 60, 40, 70}},
       {"/MediaBox[-20 -10 20 70]", "-20 -10 10 10 re f", {40, 80}, {30, 60, 40, 70}},
       {"/MediaBox[40 80 0 0]", kCornerMark, {40, 80}, {30, 60, 40, 70}},
@@ -200,6 +201,21 @@ TEST(PdfPagesTest, AFilledLabelShowsThePagesMiddle) {
   CompositionRequest request = labelRequest();
   request.layout.scaling = Scaling::fill;
   EXPECT_TRUE(Composed(document.bytes(), request).isMarkedAt({50, 20, 70, 40}));
+}
+
+// Too much to be read at once.
+TEST(PdfPagesTest, APdfOfManyMegabytesIsAPageLikeAnyOther) {
+  PdfDocument document;
+  document.addPage("/MediaBox[0 0 40 80]",
+                   kCornerMark + std::string(std::size_t{17} * 1024 * 1024, ' '));
+  const std::string pdf =
+      document.bytes([](QPDFWriter& writer) { writer.setCompressStreams(false); });
+  ASSERT_GT(pdf.size(), std::size_t{16} * 1024 * 1024);
+  CompositionRequest request = labelRequest();
+  request.layout.turn = Turn::portrait;
+  Composed composed(pdf, request);
+  ASSERT_EQ(composed.problem(), std::nullopt);
+  EXPECT_TRUE(composed.isMarkedAt({30, 60, 40, 70}));
 }
 
 }  // namespace

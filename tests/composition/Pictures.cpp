@@ -67,6 +67,11 @@ class PngWriter {
                  PNG_RESOLUTION_METER);
   }
 
+  void exif(std::string block) {
+    png_set_eXIf_1(mPng, mInfo, static_cast<png_uint_32>(block.size()),
+                   reinterpret_cast<png_bytep>(block.data()));
+  }
+
   void blackAndWhite() {
     const png_color colours[] = {{0, 0, 0}, {255, 255, 255}};
     png_set_PLTE(mPng, mInfo, colours, 2);
@@ -90,10 +95,12 @@ class PngWriter {
 
 }  // namespace
 
-std::string pngOf(const Pixels& pixels, Density density, bool isInterlaced) {
+std::string pngOf(const Pixels& pixels, Density density, bool isInterlaced,
+                  const std::string& exif) {
   PngWriter writer;
   writer.header(pixels, 8, kPngKinds[pixels.channels - 1], isInterlaced);
   writer.density(density);
+  if (!exif.empty()) writer.exif(exif);
   return writer.write(pixels);
 }
 
@@ -191,7 +198,8 @@ void writePage(TIFF* file, const Pixels& pixels, const TiffForm& form) {
     TIFFSetField(file, TIFFTAG_EXTRASAMPLES, 1, &opacity);
   }
   if (form.density.across > 0) {
-    TIFFSetField(file, TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH);
+    TIFFSetField(file, TIFFTAG_RESOLUTIONUNIT,
+                 form.isOfCentimetre ? RESUNIT_CENTIMETER : RESUNIT_INCH);
     TIFFSetField(file, TIFFTAG_XRESOLUTION, form.density.across);
     TIFFSetField(file, TIFFTAG_YRESOLUTION, form.density.along);
   }
@@ -241,14 +249,14 @@ std::string tiffOf(const std::vector<Pixels>& pages, const TiffForm& form) {
   return memory.bytes();
 }
 
-std::string exifOf(unsigned orientation, Density density, bool isBigEndian) {
+std::string exifOf(unsigned orientation, Density density, bool isBigEndian, unsigned unit) {
   constexpr unsigned kRationals = 8 + 2 + 4 * 12 + 4;
   ExifWriter writer(isBigEndian);
   writer.number(4, 2);
   writer.entry(0x112, 3, orientation);
   writer.entry(0x11a, 5, kRationals);
   writer.entry(0x11b, 5, kRationals + 8);
-  writer.entry(0x128, 3, 2);
+  writer.entry(0x128, 3, unit);
   writer.number(0, 4);
   for (const double dots : {density.across, density.along}) {
     writer.number(static_cast<unsigned>(dots * 10), 4);

@@ -26,7 +26,9 @@ struct Density {
   double along = 0;
 };
 
-std::string pngOf(const Pixels& pixels, Density density = {}, bool isInterlaced = false);
+// With a block of Exif where it is not empty.
+std::string pngOf(const Pixels& pixels, Density density = {}, bool isInterlaced = false,
+                  const std::string& exif = {});
 // One channel's black pixels as the first of two colours, and all others as the second, white.
 std::string palettePngOf(const Pixels& pixels, int bits, Density density);
 // With a block of Exif where it is not empty; three channels or one.
@@ -39,11 +41,14 @@ struct TiffForm {
   unsigned orientation = 1;
   bool isBlackAndWhite = false;  // of one channel: a bit a pixel
   Density density;
+  bool isOfCentimetre = false;  // the density
 };
 // A picture a page, all of the same form.
 std::string tiffOf(const std::vector<Pixels>& pages, const TiffForm& form = {});
 
-// A block of Exif that says how a picture is turned, and its density.
-std::string exifOf(unsigned orientation, Density density = {}, bool isBigEndian = false);
+// A block of Exif that says how a picture is turned, and its density: of an inch, or for the unit
+// 3, of a centimetre.
+std::string exifOf(unsigned orientation, Density density = {}, bool isBigEndian = false,
+                   unsigned unit = 2);
 
 }  // namespace cutline::test

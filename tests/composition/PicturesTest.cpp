@@ -238,5 +238,55 @@ TEST(PicturesTest, ATiffThatComesBackToItselfEnds) {
   EXPECT_EQ(Composed(tiff).pages(), 1);
 }
 
+// A JPEG states it in its first block, after the name of its form and its version.
+std::string jpegWithUnit(std::string jpeg, char unit) {
+  jpeg.at(jpeg.find("JFIF") + 7) = unit;
+  return jpeg;
+}
+
+TEST(PicturesTest, ADensityMayBeThatOfACentimetre) {
+  constexpr Density kOfCentimetre{100, 100};
+  TiffForm form;
+  form.density = kOfCentimetre;
+  form.isOfCentimetre = true;
+  const Pixels pixels = markedPixels(80, 160);
+  for (const std::string& picture :
+       {jpegWithUnit(jpegOf(pixels, kOfCentimetre), 2), tiffOf({pixels}, form),
+        jpegOf(pixels, {}, exifOf(1, kOfCentimetre, false, 3))}) {
+    const Composed composed(picture);
+    ASSERT_EQ(composed.problem(), std::nullopt);
+    EXPECT_NEAR(composed.report().pages.at(0).size.width, 80 / 254.0 * 72, 0.01);
+  }
+}
+
+TEST(PicturesTest, ADensityWithoutAUnitIsNoSize) {
+  const Pixels pixels = markedPixels(40, 80);
+  for (const char unit : {'\0', '\x7'}) {
+    Composed composed(jpegWithUnit(jpegOf(pixels, kDensity), unit));
+    ASSERT_EQ(composed.problem(), std::nullopt);
+    EXPECT_FALSE(composed.report().pages[0].size.isStated);
+  }
+}
+
+TEST(PicturesTest, APicturesOwnDensityGoesBeforeTheCamerasOne) {
+  expectInMiddle(jpegOf(markedPixels(80, 160), kDensity, exifOf(1, {300, 300})), "both");
+}
+
+TEST(PicturesTest, APngIsTurnedAsItWasTaken) {
+  CompositionRequest request = labelRequest();
+  request.layout.turn = Turn::portrait;
+  Composed composed(pngOf(markedPixels(80, 160), kDensity, false, exifOf(3)), request);
+  EXPECT_TRUE(composed.isPictureMarkedAt({60, 60, 70, 65}));
+}
+
+// None of these can be stored in a PDF, or as one page of it.
+TEST(PicturesTest, PicturesThatNoPageCanHaveAreRefused) {
+  std::string arithmetic = jpegOf(markedPixels(8, 8));
+  arithmetic.at(arithmetic.find("\xff\xc0") + 1) = '\xc9';
+  EXPECT_EQ(Composed(arithmetic).problem(), DocumentProblem::unknownKind);
+  const std::string moving("RIFF\x16\0\0\0WEBPVP8X\x0a\0\0\0\x02\0\0\0\x07\0\0\x07\0\0", 30);
+  EXPECT_EQ(Composed(moving).problem(), DocumentProblem::unknownKind);
+}
+
 }  // namespace
 }  // namespace cutline::test

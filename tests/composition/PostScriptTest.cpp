@@ -16,6 +16,7 @@
 #include "composition/helper/PostScript.h"
 #include "tests/composition/Children.h"
 #include "tests/composition/MemoryFile.h"
+#include "tests/composition/RefusedCall.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace cutline {
@@ -167,6 +168,31 @@ TEST_F(PostScript, AnInterpreterThatIsMissingIsNamed) {
   ::setenv("PATH", path.c_str(), 1);
   ASSERT_EQ(problemOf(result), DocumentProblem::missingModule);
   EXPECT_EQ(result.problem->detail, "gs");
+}
+
+TEST_F(PostScript, SaysWhyItsFilesCannotBeKept) {
+  const auto detailWithout = [](const test::RefusedCall& call) {
+    return test::saidWithout(call, [] {
+      const PostScriptResult result = interpret("showpage");
+      return result.problem ? result.problem->detail : "no problem";
+    });
+  };
+  EXPECT_EQ(detailWithout({"socketpair", {}, EMFILE}),
+            "cannot keep temporary files: Too many open files");
+  EXPECT_EQ(detailWithout({"clone", {}, EAGAIN}),
+            "cannot keep temporary files: Resource temporarily unavailable");
+  const std::string unmade = detailWithout({"mkdir", {}, ENOSPC});
+  EXPECT_TRUE(unmade.starts_with("cannot keep temporary files: " + mOwn.path())) << unmade;
+  EXPECT_TRUE(unmade.ends_with(": No space left on device")) << unmade;
+}
+
+TEST_F(PostScript, IsNotInterpretedWhereItCannotBeConfined) {
+  EXPECT_EQ(test::saidWithout({"landlock_add_rule"},
+                              [] {
+                                const PostScriptResult result = interpret("showpage");
+                                return result.problem ? result.problem->detail : "no problem";
+                              }),
+            "it cannot be confined");
 }
 
 }  // namespace

@@ -165,6 +165,20 @@ TEST(TypesetText, AFormFeedEndsALabel) {
   EXPECT_EQ(textSet("Shelf 12\fShelf 13\n", kLines).count(), 2);
 }
 
+TEST(TypesetText, ReadsEachKindOfLineEnd) {
+  const SetPages pages = textSet("Shelf 12\rShelf 13\r\nShelf 14\nShelf 15\r", kLines);
+  ASSERT_EQ(pages.count(), 4);
+  EXPECT_EQ(pages.text(1), "Shelf 13");
+  EXPECT_EQ(pages.text(3), "Shelf 15");
+}
+
+TEST(TypesetText, LeavesControlCharactersOut) {
+  EXPECT_EQ(textSet("Shelf\x07 1\x7f"
+                    "2\x1b")
+                .text(0),
+            "Shelf 12");
+}
+
 struct Script {
   const char* name;
   const char* text;
@@ -350,6 +364,8 @@ TEST(TypesetDrawing, RefusesWhatIsNoDrawing) {
   EXPECT_EQ(problemOfDrawing(""), DocumentProblem::damaged);
   EXPECT_EQ(problemOfDrawing(drawing("width='1e9' height='1'", "")), DocumentProblem::badSize);
   EXPECT_EQ(problemOfDrawing(drawing("width='0' height='1'", "")), DocumentProblem::badSize);
+  EXPECT_EQ(problemOfDrawing(drawing("width='1' height='0'", "")), DocumentProblem::badSize);
+  EXPECT_EQ(problemOfDrawing(drawing("", "")), DocumentProblem::badSize);
 }
 
 // The whole page would be black if anything of the file were shown.

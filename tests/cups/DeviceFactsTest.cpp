@@ -124,5 +124,34 @@ TEST(DeviceFacts, AreUnknownWhereNobodyIsAsked) {
     expectNothing(askDevice(uri));
 }
 
+TEST(DeviceFacts, LeaveOutMediaWithoutBothMeasures) {
+  const OnePrinter printer(answerWith([](ipp_t* answer) {
+    // A roll that is cut to any length, one of which nothing is said, and labels.
+    ipp_t* roll = ippNew();
+    ipp_t* size = ippNew();
+    ippAddInteger(size, IPP_TAG_PRINTER, IPP_TAG_INTEGER, "x-dimension", 6200);
+    ippAddRange(size, IPP_TAG_PRINTER, "y-dimension", 100, 100000);
+    ippAddCollection(roll, IPP_TAG_PRINTER, "media-size", size);
+    ippDelete(size);
+    ipp_t* nameless = ippNew();
+    ippAddString(nameless, IPP_TAG_PRINTER, IPP_TAG_KEYWORD, "media-type", nullptr, "labels");
+    ipp_t* labels = mediaOf(6200, 2900);
+    const ipp_t* all[] = {roll, nameless, labels};
+    ippAddCollections(answer, IPP_TAG_PRINTER, "media-col-ready", 3, all);
+    for (ipp_t* each : {roll, nameless, labels}) ippDelete(each);
+  }));
+  const std::vector<MediaMeasures> expected{{6200, 2900}};
+  EXPECT_EQ(printer.ask().ready, expected);
+}
+
+TEST(DeviceFacts, LeaveOutNamesOfMediaThatSayNoSize) {
+  const OnePrinter printer(answerWith([](ipp_t* answer) {
+    const char* const names[] = {"roll", "oe_label_62x29mm"};
+    ippAddStrings(answer, IPP_TAG_PRINTER, IPP_TAG_KEYWORD, "media-ready", 2, nullptr, names);
+  }));
+  const std::vector<MediaMeasures> expected{{6200, 2900}};
+  EXPECT_EQ(printer.ask().ready, expected);
+}
+
 }  // namespace
 }  // namespace cutline

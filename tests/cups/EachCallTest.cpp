@@ -11,6 +11,10 @@
 #include <thread>
 #include <vector>
 
+#include "cups/AskQueue.h"
+#include "cups/HeldJobSteps.h"
+#include "cups/HeldJobs.h"
+#include "cups/JobEvents.h"
 #include "cups/JobStatus.h"
 #include "cups/PpdFile.h"
 #include "cups/PrintJob.h"
@@ -133,6 +137,21 @@ class EachCallTest : public test::ServerTest {
          }},
         {"watch", [=](const auto& server) { return errorOf(jobStatus(server, name, 1)); }},
         {"cancel", [=](const auto& server) { return errorOf(cancelJob(server, name, 999999)); }},
+        {"list ask queues", [](const auto& server) { return errorOf(askQueues(server)); }},
+        {"add an ask queue",
+         [=](const auto& server) { return errorOf(addAskQueue(server, name.printer)); }},
+        {"remove an ask queue",
+         [=](const auto& server) { return errorOf(removeAskQueue(server, name.printer)); }},
+        {"find a waiting job", [](const auto& server) { return errorOf(heldJob(server, 1)); }},
+        {"find jobs in its place",
+         [](const auto& server) { return errorOf(jobsInPlaceOf(server, 1)); }},
+        {"fetch its document",
+         [](const auto& server) { return errorOf(fetchJobDocument(server, 1)); }},
+        {"change it", [](const auto& server) { return errorOf(setHeldJobOptions(server, 1, {})); }},
+        {"mark it", [](const auto& server) { return errorOf(markJob(server, 1, "mark", "1")); }},
+        {"move it", [=](const auto& server) { return errorOf(moveJob(server, 1, name.printer)); }},
+        {"release it", [](const auto& server) { return errorOf(releaseJob(server, 1)); }},
+        {"give it up", [](const auto& server) { return errorOf(cancelWaitingJob(server, 1)); }},
     };
   }
 
@@ -181,6 +200,15 @@ TEST_F(EachCallTest, EndsInTimeAndSaysWhatHappenedWhateverTheServerDoes) {
   RecordProperty(
       "longest_ms",
       static_cast<int>(std::chrono::duration_cast<std::chrono::milliseconds>(longest).count()));
+}
+
+// Who looks by himself then misses nothing.
+TEST_F(EachCallTest, ASubscriptionThatTheServerDeniesIsNone) {
+  const SocketServer server([](int client) { answerBody(client, "403 Forbidden", ""); });
+  JobEvents events(server.options());
+  EXPECT_EQ(events.look(), JobEvents::News::unknown);
+  EXPECT_EQ(events.look(), JobEvents::News::unknown);
+  EXPECT_EQ(events.subscription(), 0);
 }
 
 }  // namespace

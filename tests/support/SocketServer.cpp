@@ -30,7 +30,7 @@ FileDescriptor listenAt(const std::string& path) {
   FileDescriptor listener = newSocket();
   const sockaddr_un address = addressOf(path);
   if (::bind(listener.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
-      ::listen(listener.get(), 16) != 0)
+      ::listen(listener.get(), SOMAXCONN) != 0)
     throw std::runtime_error("no socket at " + path);
   return listener;
 }
