@@ -21,7 +21,7 @@ namespace {
 
 Result<Done> showSummary(const CommandLine& line, PluginLoader& plugIns, const Streams& streams) {
   HeadlessSession session(line, plugIns, streams.notes);
-  Result<Done> opened = session.openSelected();
+  Result<Done> opened = session.openToCompose();
   if (!opened) return opened;
   const Result<std::optional<int>> pages = pagesToPlan(line, session);
   if (!pages) return pages.error();

@@ -121,12 +121,11 @@ Result<Done> checkFiles(const CommandLine& line) {
   return Error{"-o raw sends one document at a time"};
 }
 
-Result<ComposedDocument> composeFor(HeadlessSession& session, const CommandLine& line) {
+Result<ComposedDocument> composeFor(HeadlessSession& session) {
   PrintModel& model = session.model();
   CompositionRequest request = model.compositionRequest();
   request.pages = model.pageSelection();
-  const std::string helpers = Installation::ofThisProgram().helperDirectory();
-  Result<ComposedDocument> composed = compose(helpers, line.files, request);
+  Result<ComposedDocument> composed = session.takeComposer().compose(request);
   if (!composed) return composed;
   if (request.lengthBounds) model.takeContentLength(composed->report.label.length);
   if (model.jobLayout().placing.scaling == Scaling::automatic)
@@ -138,9 +137,11 @@ Result<Done> printDocuments(const CommandLine& line, PluginLoader& plugIns,
                             const Streams& streams) {
   if (Result<Done> checked = checkFiles(line); !checked) return checked;
   HeadlessSession session(line, plugIns, streams.notes);
-  if (Result<Done> opened = session.openSelected(); !opened) return opened;
-  if (line.asked.isRaw()) return send(line, line.files.front(), session, streams);
-  const Result<ComposedDocument> composed = composeFor(session, line);
+  const bool isRaw = line.asked.isRaw();
+  const Result<Done> opened = isRaw ? session.openSelected() : session.openToCompose();
+  if (!opened) return opened;
+  if (isRaw) return send(line, line.files.front(), session, streams);
+  const Result<ComposedDocument> composed = composeFor(session);
   if (!composed) return composed.error();
   noteEdgeLoss(*composed, session, line);
   return send(line, composed->file->path(), session, streams);
@@ -149,8 +150,8 @@ Result<Done> printDocuments(const CommandLine& line, PluginLoader& plugIns,
 Result<Done> keepDocument(const CommandLine& line, PluginLoader& plugIns, const Streams& streams) {
   if (Result<Done> checked = checkFiles(line); !checked) return checked;
   HeadlessSession session(line, plugIns, streams.notes);
-  if (Result<Done> opened = session.openSelected(); !opened) return opened;
-  const Result<ComposedDocument> composed = composeFor(session, line);
+  if (Result<Done> opened = session.openToCompose(); !opened) return opened;
+  const Result<ComposedDocument> composed = composeFor(session);
   if (!composed) return composed.error();
   noteEdgeLoss(*composed, session, line);
   if (Result<Done> kept = keepAs(line.dryRunPath, *composed); !kept) return kept;

@@ -8,8 +8,9 @@ namespace cutline {
 
 // What can be said of the command line's documents without a printer is said before one is asked.
 Result<Done> checkFiles(const CommandLine& line);
-// These documents on labels. Where the length follows them, the session's model has it afterwards.
-Result<ComposedDocument> composeFor(HeadlessSession& session, const CommandLine& line);
+// The line's documents on labels. Where the length follows them, the session's model has it
+// afterwards.
+Result<ComposedDocument> composeFor(HeadlessSession& session);
 
 // Prints the documents of the command line; with --wait it ends when the job has ended.
 Result<Done> printDocuments(const CommandLine& line, PluginLoader& plugIns, const Streams& streams);

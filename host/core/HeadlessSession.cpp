@@ -1,12 +1,22 @@
 #include "host/core/HeadlessSession.h"
 
 #include <ostream>
+#include <utility>
 
 #include "base/Visible.h"
 #include "host/core/CutWordsFiles.h"
+#include "host/core/Installation.h"
 #include "host/core/PrinterSelection.h"
 
 namespace cutline {
+
+namespace {
+
+StartedComposer startComposer(const CommandLine& line) {
+  return {Installation::ofThisProgram().helperDirectory(), line.files};
+}
+
+}  // namespace
 
 HeadlessSession::HeadlessSession(const CommandLine& line, PluginLoader& plugIns,
                                  std::ostream& notes)
@@ -29,6 +39,18 @@ Result<Done> HeadlessSession::openSelected() {
   for (const Deviation& deviation : mModel.deviations()) note(deviation.sentence.english());
   for (const Sentence& conflict : mModel.conflicts()) note(conflict.english());
   return Done{};
+}
+
+Result<Done> HeadlessSession::openToCompose() {
+  if (!mLine.files.empty()) mComposer = startComposer(mLine);
+  return openSelected();
+}
+
+StartedComposer HeadlessSession::takeComposer() {
+  if (!mComposer) return startComposer(mLine);
+  StartedComposer composer = std::move(*mComposer);
+  mComposer.reset();
+  return composer;
 }
 
 // At once, because it may be all that is heard for a while.

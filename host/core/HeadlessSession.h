@@ -2,8 +2,10 @@
 #pragma once
 
 #include <iosfwd>
+#include <optional>
 #include <string>
 
+#include "composition/Composer.h"
 #include "host/core/CommandLine.h"
 #include "host/core/HostPlatform.h"
 #include "host/core/PluginLoader.h"
@@ -28,6 +30,11 @@ class HeadlessSession {
   void open(const PrinterChoice& choice);
   // Opens the printer of the command line, and tells what will be otherwise than asked.
   Result<Done> openSelected();
+  // The same for a command that is to compose the line's documents: the composer starts while the
+  // printer is looked for.
+  Result<Done> openToCompose();
+  // The composer of the line's documents, started by now. Once only.
+  StartedComposer takeComposer();
   void note(const std::string& text);
 
  private:
@@ -37,6 +44,7 @@ class HeadlessSession {
   PlainToolkit mToolkit;
   HostPlatform mPlatform;
   PrintModel mModel;
+  std::optional<StartedComposer> mComposer;
 };
 
 }  // namespace cutline

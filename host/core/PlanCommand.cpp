@@ -21,7 +21,7 @@ void writePlanWords(const CutPlan& plan, std::ostream& out) {
 
 Result<std::optional<int>> pagesToPlan(const CommandLine& line, HeadlessSession& session) {
   if (line.files.empty()) return std::optional<int>();
-  const Result<ComposedDocument> composed = composeFor(session, line);
+  const Result<ComposedDocument> composed = composeFor(session);
   if (!composed) return composed.error();
   return std::optional(composed->report.documentPages);
 }
@@ -29,7 +29,7 @@ Result<std::optional<int>> pagesToPlan(const CommandLine& line, HeadlessSession&
 Result<Done> showPlan(const CommandLine& line, PluginLoader& plugIns, const Streams& streams) {
   if (Result<Done> checked = checkFiles(line); !checked) return checked;
   HeadlessSession session(line, plugIns, streams.notes);
-  if (Result<Done> opened = session.openSelected(); !opened) return opened;
+  if (Result<Done> opened = session.openToCompose(); !opened) return opened;
   if (line.files.empty()) session.note("no document is named: this is the plan of one label");
   const Result<std::optional<int>> pages = pagesToPlan(line, session);
   if (!pages) return pages.error();

@@ -236,6 +236,41 @@ TEST_F(Composer, StopsAtOnceWhenItWasAskedBefore) {
   EXPECT_FALSE(compose(helpersWith(endless()), {pdf()}, labelRequest(), source.get_token()));
 }
 
+TEST_F(Composer, IsAskedLaterThanStarted) {
+  const std::string path = pdf();
+  StartedComposer started(kHelpers, {path});
+  EXPECT_EQ(childrenOfThisProcess().size(), 1U);
+  std::filesystem::remove(path);
+  const Result<ComposedDocument> composed = std::move(started).compose(labelRequest());
+  ASSERT_TRUE(composed) << errorOf(composed);
+  EXPECT_EQ(composed->report.pages.size(), 2U);
+}
+
+TEST_F(Composer, EndsWhenItIsNeverAsked) {
+  { const StartedComposer started(kHelpers, {pdf()}); }
+  { const StartedComposer started(helpersWith(endless()), {pdf()}); }
+  EXPECT_TRUE(childrenOfThisProcess().empty());
+}
+
+TEST_F(Composer, SaysWhenAskedWhatWentWrongBefore) {
+  StartedComposer missing(kHelpers, {mFolder / "no.pdf"});
+  EXPECT_EQ(errorOf(std::move(missing).compose(labelRequest())),
+            refusal(mFolder / "no.pdf", "No such file or directory"));
+  StartedComposer ended(helpersWith(endingWith("kill -SEGV $$")), {pdf()});
+  std::this_thread::sleep_for(200ms);
+  EXPECT_EQ(errorOf(std::move(ended).compose(labelRequest())),
+            refusal(mFolder / "labels.pdf", "its reader failed"));
+}
+
+// More than fits between two programs at a time.
+TEST_F(Composer, GivesUpAProgramThatDoesNotReadItsRequest) {
+  const auto start = steady_clock::now();
+  CompositionRequest request = labelRequest();
+  request.text.font = std::string(4U << 20U, 'f');
+  EXPECT_NE(errorOf(compose(helpersWith(endless()), {pdf()}, request, {}, 300ms)), "");
+  EXPECT_LT(steady_clock::now() - start, 5s);
+}
+
 TEST_F(Composer, PassesNothingButTheDocuments) {
   const std::string list = mFolder / "list";
   // As a library may leave one.
@@ -291,14 +326,14 @@ TEST_F(Composer, ReadsNothingWhereItCannotBeConfined) {
 }
 
 TEST_F(Composer, NamesTheSystemsReasonWhereItCannotBeAsked) {
-  const auto errorWithout = [&](const char* call) {
-    return test::saidWithout({call, {}, EMFILE},
-                             [&] { return errorOf(compose(kHelpers, {pdf()}, labelRequest())); });
-  };
-  EXPECT_EQ(errorWithout("memfd_create"), "cannot ask the composer: Too many open files");
-  EXPECT_EQ(errorWithout("pipe2"), "cannot ask the composer: Too many open files");
-  EXPECT_EQ(errorWithout("fcntl"), "cannot start the program \"" + std::string(kHelpers) +
-                                       "/cutline-compose\": Too many open files");
+  const std::string program = std::string(kHelpers) + "/cutline-compose";
+  for (const char* call : {"socketpair", "pipe2", "fcntl"}) {
+    EXPECT_EQ(
+        test::saidWithout({call, {}, EMFILE},
+                          [&] { return errorOf(compose(kHelpers, {pdf()}, labelRequest())); }),
+        "cannot start the program \"" + program + "\": Too many open files")
+        << call;
+  }
 }
 
 // Which of them are the last is known only when all of them are there.
