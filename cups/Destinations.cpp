@@ -245,7 +245,12 @@ Result<Destination> findDestination(const ServerOptions& server,
                                     const std::optional<DestinationName>& name) {
   const auto connection = ServerConnection::open(server);
   if (!connection) return connection.error();
-  return name ? findNamed(connection->get(), *name) : findDefault(connection->get());
+  return findDestinationOn(*connection, name);
+}
+
+Result<Destination> findDestinationOn(const ServerConnection& connection,
+                                      const std::optional<DestinationName>& name) {
+  return name ? findNamed(connection.get(), *name) : findDefault(connection.get());
 }
 
 bool serverAnswers(const ServerOptions& server) {

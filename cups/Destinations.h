@@ -12,12 +12,17 @@
 
 namespace cutline {
 
+class ServerConnection;
+
 Result<std::vector<Destination>> listDestinations(const ServerOptions& server);
 
 // The named destination, or the user's default one (LPDEST, PRINTER, saved default, server's
 // default). An unknown name is an error that lists the known ones.
 Result<Destination> findDestination(const ServerOptions& server,
                                     const std::optional<DestinationName>& name);
+// The same over a connection that is there already.
+Result<Destination> findDestinationOn(const ServerConnection& connection,
+                                      const std::optional<DestinationName>& name);
 
 // Whether there is a print server at all, whatever it says. May block for a while.
 bool serverAnswers(const ServerOptions& server);

@@ -132,11 +132,16 @@ Result<std::shared_ptr<PpdFile>> PpdFile::fetch(const ServerOptions& server,
                                                 const std::string& printer) {
   const auto connection = ServerConnection::open(server);
   if (!connection) return connection.error();
+  return fetchOn(*connection, printer);
+}
+
+Result<std::shared_ptr<PpdFile>> PpdFile::fetchOn(const ServerConnection& connection,
+                                                  const std::string& printer) {
   const Sentence name(Phrase("cups", "the PPD of \"%1\""), {printer});
   const auto file =
-      fetchServerFile(connection->get(), "/printers/" + printer + ".ppd", kLargestPpd, name);
+      fetchServerFile(connection.get(), "/printers/" + printer + ".ppd", kLargestPpd, name);
   if (!file) return file.error();
-  if (file->status != HTTP_STATUS_OK) return notFetched(connection->get(), printer, file->status);
+  if (file->status != HTTP_STATUS_OK) return notFetched(connection.get(), printer, file->status);
   FileDescriptor copy = memoryFile(file->contents);
   if (!copy) return noMemoryFor(name);
   Result<std::string> contents = ppdContents(std::move(copy), name);

@@ -15,6 +15,8 @@ struct ppd_file_s;
 
 namespace cutline {
 
+class ServerConnection;
+
 // A page size of the PPD. Sizes in points.
 struct PaperSize {
   std::string name;  // the PageSize choice
@@ -68,6 +70,9 @@ class PpdFile {
   // Fetches the queue's PPD from the server, into memory: no file is left behind. May block.
   static Result<std::shared_ptr<PpdFile>> fetch(const ServerOptions& server,
                                                 const std::string& printer);
+  // The same over a connection that is there already.
+  static Result<std::shared_ptr<PpdFile>> fetchOn(const ServerConnection& connection,
+                                                  const std::string& printer);
 
   ppd_file_s* get() const noexcept { return mPpd; }
   // Of the file's contents: another one for another file, as good as ever.

@@ -51,11 +51,12 @@ struct Counts {
 
 // The parameters' keywords go on with the option's name.
 void count(std::string_view line, Counts& counts) {
+  if (!line.starts_with(kStatementLimit.keyword)) return;
+  ++counts.statements;
   const std::string_view keyword = line.substr(0, line.find_first_of(" \t:"));
   const auto* limit = std::ranges::find(kLimits, keyword, &Limit::keyword);
   if (limit != kLimits.end()) ++counts.limited[static_cast<std::size_t>(limit - kLimits.begin())];
   if (keyword.starts_with(kParameterStart)) ++counts.parameters;
-  if (keyword.starts_with(kStatementLimit.keyword)) ++counts.statements;
 }
 
 Error tooMany(const Sentence& name, const Limit& limit, std::size_t number) {

@@ -37,10 +37,9 @@ using Languages = std::vector<std::string>;
 // "de" for `*de.Translation LxMirror/Spiegeln: ""`; empty for a line that is in no language. As to
 // libcups 2.4.2, names of two letters and those with a territory are languages.
 std::string_view languageOfLine(std::string_view line) {
-  for (const std::size_t size : {2U, 5U}) {
-    const bool names = line.starts_with('*') && line.size() > size + 1;
-    if (names && line.find(kSeparator) == size + 1) return line.substr(1, size);
-  }
+  if (!line.starts_with('*')) return {};
+  for (const std::size_t size : {2U, 5U})
+    if (line.substr(0, size + 2).find(kSeparator) == size + 1) return line.substr(1, size);
   return {};
 }
 

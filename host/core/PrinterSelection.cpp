@@ -1,6 +1,7 @@
 #include "host/core/PrinterSelection.h"
 
 #include "cups/Destinations.h"
+#include "cups/ServerConnection.h"
 #include "host/core/OptionTable.h"
 
 namespace cutline {
@@ -15,26 +16,36 @@ Result<PrinterChoice> readPpd(const std::string& path) {
   return PrinterChoice{destination, *ppd};
 }
 
+Result<PrinterChoice> choiceOf(const Destination& destination,
+                               const Result<std::shared_ptr<PpdFile>>& ppd) {
+  if (!ppd) return ppd.error();
+  return PrinterChoice{destination, *ppd};
+}
+
+Result<PrinterChoice> askedForDevice(Result<PrinterChoice> choice) {
+  if (choice) choice->destination.device = askDevice(choice->destination.deviceURI);
+  return choice;
+}
+
+// Both are asked for on one connection, which takes as long to make as either.
 Result<PrinterChoice> findPrinter(const CommandLine& commandLine) {
   if (commandLine.ppdPath) return readPpd(*commandLine.ppdPath);
-  const Result<Destination> destination =
-      findDestination(commandLine.server, commandLine.destination);
+  const auto connection = ServerConnection::open(commandLine.server);
+  if (!connection) return connection.error();
+  const Result<Destination> destination = findDestinationOn(*connection, commandLine.destination);
   if (!destination) return destination.error();
-  return selectPrinter(commandLine.server, *destination);
+  return askedForDevice(
+      choiceOf(*destination, PpdFile::fetchOn(*connection, destination->name.printer)));
 }
 
 }  // namespace
 
 Result<PrinterChoice> findDriver(const ServerOptions& server, const Destination& destination) {
-  const Result<std::shared_ptr<PpdFile>> ppd = PpdFile::fetch(server, destination.name.printer);
-  if (!ppd) return ppd.error();
-  return PrinterChoice{destination, *ppd};
+  return choiceOf(destination, PpdFile::fetch(server, destination.name.printer));
 }
 
 Result<PrinterChoice> selectPrinter(const ServerOptions& server, const Destination& destination) {
-  Result<PrinterChoice> choice = findDriver(server, destination);
-  if (choice) choice->destination.device = askDevice(destination.deviceURI);
-  return choice;
+  return askedForDevice(findDriver(server, destination));
 }
 
 Result<PrinterChoice> selectPrinter(const CommandLine& commandLine) {
