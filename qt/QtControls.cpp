@@ -89,10 +89,24 @@ class ElidingCheckBox : public QCheckBox {
   }
 
  private:
+  // To measure a text takes longer than to draw it, and a box is drawn more often than it changes.
   QString elided(const QStyleOptionButton& option) const {
     const QRect room = style()->subElementRect(QStyle::SE_CheckBoxContents, &option, this);
-    return fontMetrics().elidedText(text(), Qt::ElideRight, room.width(), Qt::TextShowMnemonic);
+    const Measured asked{text(), font(), room.width()};
+    if (mMeasured == asked) return mElided;
+    mMeasured = asked;
+    mElided = fontMetrics().elidedText(text(), Qt::ElideRight, room.width(), Qt::TextShowMnemonic);
+    return mElided;
   }
+
+  struct Measured {
+    QString text;
+    QFont font;
+    int room = -1;
+    friend bool operator==(const Measured&, const Measured&) = default;
+  };
+  mutable Measured mMeasured;
+  mutable QString mElided;
 };
 
 Qt::CheckState toCheckState(int state) {

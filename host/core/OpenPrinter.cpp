@@ -123,9 +123,10 @@ void OpenPrinter::mark(const std::string& keyword, const std::string& choice) {
   mPanels->report(nullptr, keyword, choice);
 }
 
-bool OpenPrinter::isReachedByPanels(const PpdOption& option) const {
+bool OpenPrinter::isReachedByPanels(const PpdOption& option,
+                                    const std::set<std::string>& withBox) const {
   if (!mPanels->declares(option.keyword)) return false;
-  if (mPanels->boxKeywords().contains(option.keyword)) return option.choices.size() <= 2;
+  if (withBox.contains(option.keyword)) return option.choices.size() <= 2;
   return !panelMayLackControl(mOptions, option.keyword);
 }
 

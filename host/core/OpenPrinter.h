@@ -65,8 +65,10 @@ class OpenPrinter final : private PanelHostOwner {
   // What is sent otherwise than wanted, or against a rule, or unseen.
   std::vector<Deviation> deviations() const;
   // False for an option that no panel declared, or some choice of which its panel's controls do not
-  // reach: the dialog shows a list for it.
-  bool isReachedByPanels(const PpdOption& option) const;
+  // reach: the dialog shows a list for it. `withBox` is keywordsWithBox(), for many options at
+  // once.
+  bool isReachedByPanels(const PpdOption& option, const std::set<std::string>& withBox) const;
+  std::set<std::string> keywordsWithBox() const { return mPanels->boxKeywords(); }
   // The user's last choice, which gives way last.
   const std::string& lastChosen() const noexcept { return mLastChosen; }
 

@@ -118,11 +118,12 @@ Result<Done> PrintModel::setCustomPaper(const std::string& name) {
 
 std::vector<GeneratedGroup> PrintModel::generatedOptions() const {
   std::vector<GeneratedGroup> groups;
+  const std::set<std::string> withBox = mPrinter->keywordsWithBox();
   for (const OptionGroup& group : mPrinter->options().groups()) {
     GeneratedGroup generated{group.text, {}};
     for (const PpdOption& option : group.options) {
       if (hasOwnControl(option.keyword) || option.choices.empty()) continue;
-      if (mPrinter->isReachedByPanels(option)) continue;
+      if (mPrinter->isReachedByPanels(option, withBox)) continue;
       generated.options.push_back({option, mPrinter->ppd().markedChoice(option.keyword)});
     }
     if (!generated.options.empty()) groups.push_back(std::move(generated));

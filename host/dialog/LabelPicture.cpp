@@ -69,6 +69,16 @@ void tintLost(QImage& image, const Inside& inside) {
   });
 }
 
+bool isGrey(const QImage& image) {
+  QRgb colours = 0;
+  for (int row = 0; row < image.height(); ++row) {
+    const auto* const line = reinterpret_cast<const QRgb*>(image.constScanLine(row));
+    for (int column = 0; column < image.width(); ++column)
+      colours |= line[column] ^ (line[column] >> 8U);
+  }
+  return (colours & 0xffffU) == 0;
+}
+
 }  // namespace
 
 QImage pictureOf(const PageImage& page, double scale, const LabelPage& label,
@@ -77,6 +87,19 @@ QImage pictureOf(const PageImage& page, double scale, const LabelPage& label,
   if (look.isMonochrome) makeGrey(image);
   tintLost(image, Inside(label, scale));
   return label.upright == 0 ? image : image.transformed(QTransform().rotate(-label.upright));
+}
+
+QImage inkAlone(const QImage& picture) {
+  const QImage image = picture.convertToFormat(QImage::Format_RGB32);
+  if (!isGrey(image)) return picture;
+  QImage ink(image.size(), QImage::Format_Alpha8);
+  for (int row = 0; row < image.height(); ++row) {
+    const auto* const from = reinterpret_cast<const QRgb*>(image.constScanLine(row));
+    uchar* const to = ink.scanLine(row);
+    for (int column = 0; column < image.width(); ++column)
+      to[column] = static_cast<uchar>(kWhite - qBlue(from[column]));
+  }
+  return ink;
 }
 
 }  // namespace cutline

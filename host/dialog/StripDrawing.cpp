@@ -12,13 +12,14 @@ constexpr double kPixelsPerMillimetre = 72 / 25.4;  // at the scale of 1
 
 StripDrawing::StripDrawing(const StripCanvas& canvas, const StripColours& colours,
                            const StripContent& content, const StripLayout& layout,
-                           const QRectF& area)
+                           const QRectF& area, StripTexts& numbers)
     : mCanvas(canvas),
       mContent(content),
       mLayout(layout),
       mRules(content.plan.rules()),
       mColours(colours),
       mArea(area),
+      mNumbers(numbers),
       mTape(canvas, mColours, mRules.settings().isSpecialTape),
       mSigns(canvas, mColours, layout.breadth(), StripLayout::backing()) {}
 
@@ -151,7 +152,7 @@ void StripDrawing::drawRuler(const Lane& lane) const {
   const bool across = mLayout.runsAcross();
   const double from = across ? mArea.left() : mArea.top();
   const double to = across ? mArea.right() : mArea.bottom();
-  StripRuler ruler(mCanvas, mColours, scale);
+  StripRuler ruler(mCanvas, mColours, mNumbers, scale, mLayout.ruler());
   const double place = lane.across - StripLayout::knives() - mLayout.ruler();
   const double length = *plan.run().labelLength;
   if (lane.first == 1 && mRules.hasLeader() && mRules.settings().leader)

@@ -6,14 +6,15 @@
 #include "host/dialog/StripLayout.h"
 #include "host/dialog/StripSigns.h"
 #include "host/dialog/StripTape.h"
+#include "host/dialog/StripTexts.h"
 
 namespace cutline {
 
 class StripDrawing {
  public:
-  // `area`: what is seen of the strip.
+  // `area`: what is seen of the strip. `numbers`: those of the ruler, with its font.
   StripDrawing(const StripCanvas& canvas, const StripColours& colours, const StripContent& content,
-               const StripLayout& layout, const QRectF& area);
+               const StripLayout& layout, const QRectF& area, StripTexts& numbers);
 
   using Lane = StripLayout::Lane;
   void drawTape(const Lane& lane) const;
@@ -42,6 +43,7 @@ class StripDrawing {
   const KnifeRules& mRules;
   StripColours mColours;
   QRectF mArea;
+  StripTexts& mNumbers;
   StripTape mTape;
   StripSigns mSigns;
 };

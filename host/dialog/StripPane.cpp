@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "host/dialog/Icons.h"
+#include "host/dialog/WrappedLabel.h"
 
 namespace cutline {
 namespace {
@@ -19,9 +20,9 @@ constexpr int kPaneGap = 12;
 StripPane::StripPane(QWidget* parent)
     : QWidget(parent),
       mStrip(new StripView(this)),
-      mSentence(new QLabel(this)),
+      mSentence(new WrappedLabel(this)),
       mPrevious(makeButton(tr("Previous label"), &StripPane::showPrevious)),
-      mPosition(new QLabel(this)),
+      mPosition(new WrappedLabel(this)),
       mNext(makeButton(tr("Next label"), &StripPane::showNext)),
       mZoomOut(makeButton(tr("Zoom out"), &StripPane::zoomOut)),
       mFit(makeButton(tr("Fit the job into the view"), &StripPane::zoomToFit)),
@@ -51,10 +52,6 @@ void StripPane::makeLayout() {
   QFont larger = mSentence->font();
   larger.setPointSizeF(larger.pointSizeF() * kSentenceShare);
   mSentence->setFont(larger);
-  mSentence->setTextFormat(Qt::PlainText);
-  mSentence->setWordWrap(true);
-  mPosition->setTextFormat(Qt::PlainText);
-  mPosition->setWordWrap(true);
   mPosition->setForegroundRole(QPalette::PlaceholderText);
 }
 

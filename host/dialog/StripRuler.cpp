@@ -1,5 +1,6 @@
 #include "host/dialog/StripRuler.h"
 
+#include <QFontMetricsF>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -7,6 +8,7 @@
 namespace cutline {
 namespace {
 
+const QString kWidest = QStringLiteral("0000");
 constexpr double kFontShare = 0.72;  // of the dialog's font
 constexpr double kTick = 4;
 constexpr double kLongTick = 6;
@@ -26,23 +28,22 @@ QFont StripRuler::fontFor(const QFont& font) {
 
 double StripRuler::extent(const QFont& font, bool runsAcross) {
   const QFontMetricsF metrics(fontFor(font));
-  const double text =
-      runsAcross ? metrics.height() : metrics.horizontalAdvance(QStringLiteral("0000"));
+  const double text = runsAcross ? metrics.height() : metrics.horizontalAdvance(kWidest);
   return std::ceil(text + kLongTick + kSpace);
 }
 
-StripRuler::StripRuler(const StripCanvas& canvas, const StripColours& colours, double scale)
+StripRuler::StripRuler(const StripCanvas& canvas, const StripColours& colours, StripTexts& numbers,
+                       double scale, double extent)
     : mCanvas(canvas),
       mColours(colours),
-      mFont(fontFor(canvas.painter().font())),
-      mMetrics(mFont),
+      mNumbers(numbers),
+      mHeight(QFontMetricsF(numbers.font()).height()),
       mScale(scale),
-      mExtent(extent(canvas.painter().font(), canvas.runsAcross())),
+      mExtent(extent),
       mStep(stepOfNumbers()) {}
 
 int StripRuler::stepOfNumbers() const {
-  const double number =
-      mCanvas.runsAcross() ? mMetrics.horizontalAdvance(QStringLiteral("0000")) : mMetrics.height();
+  const double number = mCanvas.runsAcross() ? mNumbers.width(kWidest) : mHeight;
   const auto* step = std::find_if(kTickSteps.begin(), kTickSteps.end() - 1, [&](int each) {
     return each >= 50 && each * mScale > kAirOfNumbers * number;
   });
@@ -60,10 +61,7 @@ void StripRuler::draw(double along, double across, double from, double to, doubl
   const auto millimetreAt = [&](double place) { return from + (place - along) / mScale; };
   const auto first = static_cast<std::int64_t>(std::ceil(millimetreAt(start) / pitch - 1e-6));
   const auto last = static_cast<std::int64_t>(std::floor(millimetreAt(end) / pitch + 1e-6));
-  QPainter& painter = mCanvas.painter();
-  painter.save();
-  painter.setFont(mFont);
-  painter.setPen(mColours.rulerText);
+  mCanvas.painter().setPen(mColours.rulerText);
   for (std::int64_t tick = first; tick <= last; ++tick) {
     const double at = along + (static_cast<double>(tick * pitch) - from) * mScale;
     const bool isLong = tick * pitch % mStep == 0;
@@ -71,18 +69,18 @@ void StripRuler::draw(double along, double across, double from, double to, doubl
     mCanvas.lineAcross(at - mCanvas.hair() / 2, base - length, length, mColours.ruler);
     if (isLong) drawNumber(at, across, tick * pitch);
   }
-  painter.restore();
 }
 
+// Beside the long ticks, and in the middle before them where the strip runs across.
 void StripRuler::drawNumber(double along, double across, std::int64_t number) {
   const QString text = QString::number(number);
-  const double width = mMetrics.horizontalAdvance(text);
+  const double width = mNumbers.width(text);
   const double room = mExtent - kLongTick - kSpace;
   const QRectF place =
       mCanvas.runsAcross()
-          ? mCanvas.rect(along - width / 2, across, width + 1, room)
-          : mCanvas.rect(along - mMetrics.height() / 2, across, mMetrics.height(), room);
-  mCanvas.painter().drawText(place, Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip, text);
+          ? mCanvas.rect(along - width / 2, across, width, mHeight)
+          : mCanvas.rect(along - mHeight / 2, across + room - width, mHeight, width);
+  mNumbers.draw(mCanvas.painter(), place.topLeft(), text);
 }
 
 }  // namespace cutline

@@ -2,21 +2,23 @@
 #pragma once
 
 #include <QFont>
-#include <QFontMetricsF>
 #include <cstdint>
 
 #include "host/dialog/StripCanvas.h"
 #include "host/dialog/StripColours.h"
+#include "host/dialog/StripTexts.h"
 
 namespace cutline {
 
 class StripRuler {
  public:
-  // `scale`: pixels a millimetre. The painter has the font of the numbers.
-  StripRuler(const StripCanvas& canvas, const StripColours& colours, double scale);
+  // `scale`: pixels a millimetre. `extent`: its room across the strip. `numbers` have its font.
+  StripRuler(const StripCanvas& canvas, const StripColours& colours, StripTexts& numbers,
+             double scale, double extent);
 
-  // How much room it takes across the strip, with this font.
+  // How much room it takes across the strip, beside texts in this font.
   static double extent(const QFont& font, bool runsAcross);
+  // The font of its numbers there.
   static QFont fontFor(const QFont& font);
 
   // From the millimetre `from` to `to`; the first lies at `along`. Only what lies between the
@@ -29,8 +31,8 @@ class StripRuler {
 
   const StripCanvas& mCanvas;
   const StripColours& mColours;
-  QFont mFont;
-  QFontMetricsF mMetrics;
+  StripTexts& mNumbers;
+  double mHeight;  // of a number
   double mScale;
   double mExtent;
   int mStep;  // millimetres from number to number

@@ -62,12 +62,14 @@ void StripTape::drawFabric(const Stretch& stretch) const {
   mCanvas.lineAlong(stretch.along, stretch.across + breadth, stretch.length, mColours.stitch);
   QPen stitches(mColours.stitch, mCanvas.hair(), Qt::CustomDashLine, Qt::FlatCap);
   stitches.setDashPattern({5, 3});
-  mCanvas.painter().setPen(stitches);
+  QPainter& painter = mCanvas.painter();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(stitches);
   for (const double from : {kSelvage, breadth - kSelvage}) {
-    mCanvas.painter().drawLine(
-        mCanvas.point(stretch.along, stretch.across + from),
-        mCanvas.point(stretch.along + stretch.length, stretch.across + from));
+    painter.drawLine(mCanvas.point(stretch.along, stretch.across + from),
+                     mCanvas.point(stretch.along + stretch.length, stretch.across + from));
   }
+  painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
 void StripTape::drawLabel(const Stretch& stretch) const { drawBody(stretch, mColours.face); }

@@ -13,6 +13,7 @@
 #include <set>
 
 #include "host/dialog/LabelAsSeen.h"
+#include "host/dialog/LabelPicture.h"
 #include "host/dialog/StripColours.h"
 #include "host/dialog/StripRuler.h"
 #include "qt/accessibility.h"
@@ -111,7 +112,7 @@ void StripView::describe() {
 }
 
 void StripView::showPage(int page, double scale, const QImage& image) {
-  mCache.insert(page, scale, image);
+  mCache.insert(page, scale, inkAlone(image));
   viewport()->update();
 }
 

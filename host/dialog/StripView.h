@@ -11,6 +11,7 @@
 #include "host/dialog/DocumentPages.h"
 #include "host/dialog/StripContent.h"
 #include "host/dialog/StripLayout.h"
+#include "host/dialog/StripTexts.h"
 
 namespace cutline {
 
@@ -109,6 +110,8 @@ class StripView : public QAbstractScrollArea {
   std::optional<StripLayout> mLayout;
   double mPixelsPerStep = 1;  // of the scroll bars
   PageCache mCache;
+  StripTexts mCaptions;
+  StripTexts mNumbers;
 };
 
 }  // namespace cutline

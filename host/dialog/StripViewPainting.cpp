@@ -5,6 +5,7 @@
 
 #include "host/dialog/LabelAsSeen.h"
 #include "host/dialog/StripDrawing.h"
+#include "host/dialog/StripRuler.h"
 #include "host/dialog/StripView.h"
 
 namespace cutline {
@@ -33,6 +34,7 @@ class StripView::LabelPainter {
   QRectF snapped(const QRectF& rect) const;
   QRectF pictureRect(const QImage& picture, std::uint64_t label) const;
   QString fittingCaption(std::uint64_t label, double room) const;
+  void paintPill(const QRectF& pill) const;
   QRectF captionRoom(std::uint64_t label) const;
 
   StripView& mView;
@@ -53,6 +55,7 @@ void StripView::LabelPainter::paintLabel(std::uint64_t label) const {
   const QRectF area = printableAsSeen(mView.mContent->label);
   const QRectF whole = seen(label);
   mPainter.save();
+  mPainter.setRenderHint(QPainter::Antialiasing);
   mPainter.setBrush(Qt::NoBrush);
   mPainter.setPen(QPen(mColours.printable, mCanvas.hair(), Qt::DotLine));
   const double half = mCanvas.hair() / 2;
@@ -64,7 +67,8 @@ void StripView::LabelPainter::paintLabel(std::uint64_t label) const {
     if (mView.mIsDimmed) mPainter.setOpacity(kDimmedOpacity);
     if (mView.mContent->plan.rules().settings().mirrors) picture = picture.mirrored(true, false);
     mPainter.setClipRect(snapped(whole));
-    mPainter.setCompositionMode(QPainter::CompositionMode_Multiply);
+    const bool isInk = picture.format() == QImage::Format_Alpha8;
+    if (!isInk) mPainter.setCompositionMode(QPainter::CompositionMode_Multiply);
     mPainter.drawImage(pictureRect(picture, label), picture);
   }
   mPainter.restore();
@@ -88,9 +92,8 @@ QRectF StripView::LabelPainter::captionRoom(std::uint64_t label) const {
 
 // The longest words that have room; none at all where not even the number has.
 QString StripView::LabelPainter::fittingCaption(std::uint64_t label, double room) const {
-  const QFontMetricsF metrics(mPainter.font());
   for (const QString& words : mView.captions(label)) {
-    if (metrics.horizontalAdvance(words) + 2 * kPillPadding <= room) return words;
+    if (mView.mCaptions.width(words) + 2 * kPillPadding <= room) return words;
   }
   return {};
 }
@@ -100,18 +103,22 @@ void StripView::LabelPainter::paintCaption(std::uint64_t label) const {
   const QString words = fittingCaption(label, room.width() + kPillPadding);
   if (words.isEmpty()) return;
   const bool isCurrent = label == mView.mCurrent && mView.labelCount() > 1;
-  const QFontMetricsF metrics(mPainter.font());
-  const QSizeF size(metrics.horizontalAdvance(words) + 2 * kPillPadding, metrics.height());
+  const double height = QFontMetricsF(mView.mCaptions.font()).height();
+  const QSizeF size(mView.mCaptions.width(words) + 2 * kPillPadding, height);
   const double left = mCanvas.runsAcross() ? room.center().x() - size.width() / 2 : room.left();
   const double top = mCanvas.runsAcross() ? room.top() : room.center().y() - size.height() / 2;
   const QRectF pill = snapped(QRectF(QPointF(left, top), size));
-  if (isCurrent) {
-    mPainter.setPen(Qt::NoPen);
-    mPainter.setBrush(mView.palette().color(QPalette::Highlight));
-    mPainter.drawRoundedRect(pill, size.height() / 2, size.height() / 2);
-  }
+  if (isCurrent) paintPill(pill);
   mPainter.setPen(isCurrent ? mView.palette().color(QPalette::HighlightedText) : mColours.caption);
-  mPainter.drawText(pill, Qt::AlignCenter | Qt::TextDontClip, words);
+  mView.mCaptions.draw(mPainter, pill.topLeft() + QPointF(kPillPadding, 0), words);
+}
+
+void StripView::LabelPainter::paintPill(const QRectF& pill) const {
+  mPainter.setRenderHint(QPainter::Antialiasing);
+  mPainter.setPen(Qt::NoPen);
+  mPainter.setBrush(mView.palette().color(QPalette::Highlight));
+  mPainter.drawRoundedRect(pill, pill.height() / 2, pill.height() / 2);
+  mPainter.setRenderHint(QPainter::Antialiasing, false);
 }
 
 void StripView::paintEvent(QPaintEvent* event) {
@@ -122,12 +129,15 @@ void StripView::paintEvent(QPaintEvent* event) {
 }
 
 void StripView::paintStrip(QPainter& painter) {
-  painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+  // Nearly all lies on whole pixels, and is painted faster without smooth edges.
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  mCaptions.setFont(font());
+  mNumbers.setFont(StripRuler::fontFor(font()));
   const StripColours colours = StripColours::of(palette());
   const QRectF area(offset(), QSizeF(viewport()->size()));
   const StripCanvas canvas(painter, mLayout->runsAcross(), offset(),
                            viewport()->mapTo(window(), QPoint(0, 0)), devicePixelRatioF());
-  const StripDrawing drawing(canvas, colours, *mContent, *mLayout, area);
+  const StripDrawing drawing(canvas, colours, *mContent, *mLayout, area, mNumbers);
   const LabelPainter labels(*this, painter, canvas, colours);
   const StripLayout::Range lanes = mLayout->lanesIn(area);
   for (std::uint64_t index = lanes.first; index <= lanes.last; ++index) {

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QPainter>
+
 #include "composition/LabelInk.h"
 #include "host/dialog/LabelPicture.h"
 
@@ -103,6 +105,43 @@ TEST(Ink, IsCountedInPointsOfThePaperAtAnyScale) {
 
 TEST(Ink, WhatIsNearlyWhiteIsNone) {
   EXPECT_FALSE(inkOf(withPixel(1, 2, 0xfff0f0f0), 1, labelAt(0)));
+}
+
+// `picture` over a ground, as the preview lays it.
+QImage laidOn(const QImage& ground, const QImage& picture, QPainter::CompositionMode mode) {
+  QImage result = ground;
+  QPainter painter(&result);
+  painter.setCompositionMode(mode);
+  painter.drawImage(0, 0, picture);
+  return result;
+}
+
+TEST(InkAlone, LooksLikeThePictureThatColoursTheTape) {
+  QImage picture(256, 1, QImage::Format_RGB32);
+  for (int grey = 0; grey < 256; ++grey) picture.setPixel(grey, 0, qRgb(grey, grey, grey));
+  const QImage ink = inkAlone(picture);
+  ASSERT_EQ(ink.format(), QImage::Format_Alpha8);
+  for (const QRgb tape : {0xfffdfdfb, 0xffe6eef8, 0xff000000}) {
+    QImage ground(256, 1, QImage::Format_ARGB32_Premultiplied);
+    ground.fill(tape);
+    const QImage laid = laidOn(ground, ink, QPainter::CompositionMode_SourceOver);
+    const QImage multiplied = laidOn(ground, picture, QPainter::CompositionMode_Multiply);
+    for (int grey = 0; grey < 256; ++grey) {
+      const QRgb one = laid.pixel(grey, 0);
+      const QRgb other = multiplied.pixel(grey, 0);
+      EXPECT_NEAR(qRed(one), qRed(other), 1) << grey;
+      EXPECT_NEAR(qBlue(one), qBlue(other), 1) << grey;
+    }
+  }
+}
+
+TEST(InkAlone, LeavesAPictureWithAColourAsItIs) {
+  for (const QRgb colour : {qRgb(0, 0, 1), qRgb(0, 1, 0), qRgb(255, 254, 255)}) {
+    QImage picture(4, 6, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    picture.setPixel(3, 5, colour);
+    EXPECT_EQ(inkAlone(picture), picture);
+  }
 }
 
 }  // namespace
