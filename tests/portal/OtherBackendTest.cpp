@@ -1,6 +1,8 @@
 // Which backend is the desktop's own.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "portal/OtherBackend.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -72,6 +74,58 @@ TEST_F(OtherBackendTest, AFileOfTheUsersOwnHidesTheSystems) {
                 {QString::fromStdString(home.path()), QString::fromStdString(mFolder.path())},
                 {QStringLiteral("GNOME")}),
             QStringLiteral("org.example.home"));
+}
+
+TEST_F(OtherBackendTest, ALinkThatLeadsNowhereIsNone) {
+  std::filesystem::create_symlink("/nonexistent", mFolder / "a.portal");
+  add("b", "b", "gnome");
+  EXPECT_EQ(other({"GNOME"}), QStringLiteral("org.example.b"));
+}
+
+// A variable as long as the object lives.
+class Variable {
+ public:
+  Variable(const char* name, const char* value) : mName(name), mOld(qgetenv(name)) {
+    mWasSet = qEnvironmentVariableIsSet(name);
+    value != nullptr ? qputenv(name, value) : qunsetenv(name);
+  }
+  ~Variable() { mWasSet ? qputenv(mName, mOld) : qunsetenv(mName); }
+  Variable(const Variable&) = delete;
+  Variable& operator=(const Variable&) = delete;
+
+ private:
+  const char* mName;
+  QByteArray mOld;
+  bool mWasSet = false;
+};
+
+TEST(PortalFolders, AreTheUsersOwnBeforeTheSystems) {
+  const Variable only("XDG_DESKTOP_PORTAL_DIR", nullptr);
+  const Variable home("XDG_DATA_HOME", "/home/a/data");
+  {
+    const Variable all("XDG_DATA_DIRS", "/opt/share::/usr/share");
+    EXPECT_EQ(backendFolders(), QStringList({"/home/a/data/xdg-desktop-portal/portals",
+                                             "/opt/share/xdg-desktop-portal/portals",
+                                             "/usr/share/xdg-desktop-portal/portals"}));
+  }
+  const Variable all("XDG_DATA_DIRS", nullptr);
+  EXPECT_EQ(backendFolders(), QStringList({"/home/a/data/xdg-desktop-portal/portals",
+                                           "/usr/local/share/xdg-desktop-portal/portals",
+                                           "/usr/share/xdg-desktop-portal/portals"}));
+}
+
+TEST(PortalFolders, AreTheOneThatThePortalItselfIsTold) {
+  const Variable only("XDG_DESKTOP_PORTAL_DIR", "/portals");
+  EXPECT_EQ(backendFolders(), QStringList("/portals"));
+}
+
+TEST(PortalDesktops, AreNamedTheNearestFirst) {
+  {
+    const Variable desktops("XDG_CURRENT_DESKTOP", "ubuntu:GNOME");
+    EXPECT_EQ(currentDesktops(), QStringList({"ubuntu", "GNOME"}));
+  }
+  const Variable none("XDG_CURRENT_DESKTOP", nullptr);
+  EXPECT_EQ(currentDesktops(), QStringList());
 }
 
 }  // namespace
