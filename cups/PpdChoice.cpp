@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 #include "base/Lists.h"
 #include "cups/CustomSize.h"
@@ -109,6 +110,10 @@ bool isCustomValue(const std::string& choice) {
   return choice.starts_with("Custom.") || choice.starts_with('{');
 }
 
+bool isList(const ppd_option_t& option, const std::string& choice) {
+  return option.ui == PPD_UI_PICKMANY && choice.find(',') != std::string::npos;
+}
+
 }  // namespace
 
 std::string markedText(ppd_file_t* ppd, const ppd_option_t& option) {
@@ -136,9 +141,26 @@ Result<Done> checkChoiceOf(ppd_file_t* ppd, const ppd_option_t& option, const st
     return checkCustom(ppd, option, choice);
   }
   if (isUnusableSize(ppd, option.keyword, choice)) return noPaper(choice);
-  if (choiceNamed(option, choice)) return Done{};
+  const auto isKnown = [&](const std::string& name) {
+    return choiceNamed(option, name) != nullptr;
+  };
+  if (isList(option, choice) ? std::ranges::all_of(partsBetweenCommas(choice), isKnown)
+                             : isKnown(choice))
+    return Done{};
   return Error{Sentence(Phrase("cups", "the option %1 has no choice \"%2\": %3"),
                         {std::string(option.keyword), choice, choiceNames(option)})};
+}
+
+bool markList(ppd_file_t* ppd, const std::string& keyword, const std::string& choice) {
+  const ppd_option_t* option = ppdFindOption(ppd, keyword.c_str());
+  if (!option || !isList(*option, choice)) return false;
+  for (ppd_choice_t& each : choicesOf(*option)) {
+    // libcups' list of what is marked finds a choice by its option.
+    if (std::exchange(each.marked, '\0') != 0) cupsArrayRemove(ppd->marked, &each);
+  }
+  for (const std::string& part : partsBetweenCommas(choice))
+    ppdMarkOption(ppd, option->keyword, part.c_str());
+  return true;
 }
 
 }  // namespace cutline

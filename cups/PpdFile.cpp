@@ -154,10 +154,12 @@ void PpdFile::mark(const std::vector<OptionList>& layers) const {
   for (const OptionList& layer : layers) {
     const CupsOptions options(withoutUnusableSizes(mPpd, layer));
     cupsMarkOptions(mPpd, options.size(), options.data());
+    for (const auto& [keyword, choice] : layer) markList(mPpd, keyword, choice);
   }
 }
 
 void PpdFile::markChoice(const std::string& keyword, const std::string& choice) const {
+  if (markList(mPpd, keyword, choice)) return;
   if (!isUnusableSize(mPpd, keyword, choice)) ppdMarkOption(mPpd, keyword.c_str(), choice.c_str());
 }
 

@@ -23,6 +23,9 @@ TEST(PpdFacts, NameTheFilterPrograms) {
             Programs{"three"});
   EXPECT_EQ(filterPrograms(*ppdWith("*cupsFilter2: \"image/pwg-raster image/pwg-raster 100 -\"\n")),
             Programs());
+  EXPECT_EQ(filterPrograms(
+                *ppdWith("*cupsFilter2: \"a/b c/d 1 one\"\n*cupsFilter2: \"e/f c/d 1 one\"\n")),
+            Programs{"one"});
 }
 
 TEST(PpdFacts, SayWhoMakesCopies) {
@@ -34,9 +37,11 @@ TEST(PpdFacts, SayWhoMakesCopies) {
 TEST(PpdFacts, HaveTheOptionsOfAFinishing) {
   const auto ppd = ppdWith(
       "*cupsIPPFinishings 60/trim-after-pages: \"*CutMedia EndOfPage\"\n"
-      "*cupsIPPFinishings 20/staple: \"*One A *Two B odd\"\n");
+      "*cupsIPPFinishings 20/staple: \"*One A *Two B odd\"\n"
+      "*cupsIPPFinishings 21/other: \"One A * B *Two C\"\n");
   EXPECT_EQ(optionsForFinishing(*ppd, 60), (OptionList{{"CutMedia", "EndOfPage"}}));
   EXPECT_EQ(optionsForFinishing(*ppd, 20), (OptionList{{"One", "A"}, {"Two", "B"}}));
+  EXPECT_EQ(optionsForFinishing(*ppd, 21), (OptionList{{"Two", "C"}}));
   EXPECT_EQ(optionsForFinishing(*ppd, 3), OptionList());
   EXPECT_EQ(optionsForFinishing(*ppd, 6), OptionList());
 }

@@ -126,6 +126,31 @@ TEST_F(PpdFileTest, SeveralChoicesOfAnOptionAreMarkedTogether) {
   EXPECT_EQ(ppd->markedOptions().back(), (OptionList::value_type{"Darkness", "Normal,Dark"}));
 }
 
+TEST_F(PpdFileTest, SeveralChoicesOfAnOptionAreWhatTheyAreOneByOne) {
+  const auto ppd = openedText(replaced(fixtureText("tape.ppd"), "*Darkness/Darkness: PickOne",
+                                       "*Darkness/Darkness: PickMany"));
+  EXPECT_EQ(ppd->spelled({"darkness", "normal,DARK"}),
+            (OptionList::value_type{"Darkness", "Normal,Dark"}));
+  EXPECT_TRUE(ppd->checkChoice("Darkness", "Normal,Dark"));
+  EXPECT_FALSE(ppd->checkChoice("Darkness", "Normal,Purple"));
+  EXPECT_FALSE(mTape->checkChoice("Darkness", "Normal,Dark")) << "it takes one";
+  ppd->mark({{{"Darkness", "Normal,Dark"}}});
+  EXPECT_EQ(ppd->markedOptions().back(), (OptionList::value_type{"Darkness", "Normal,Dark"}));
+  // The default choice is none of them.
+  ppd->mark({{{"Darkness", "Light,Dark"}}});
+  EXPECT_EQ(ppd->markedOptions().back(), (OptionList::value_type{"Darkness", "Light,Dark"}));
+  ppd->markChoice("Darkness", "Light,Normal");
+  EXPECT_EQ(ppd->markedOptions().back(), (OptionList::value_type{"Darkness", "Light,Normal"}));
+}
+
+TEST_F(PpdFileTest, ChoicesAreSpelledAsThePpdSpellsThem) {
+  EXPECT_EQ(mTape->spelled({"lxhalfcut", "on"}), (OptionList::value_type{"LxHalfCut", "ON"}));
+  EXPECT_EQ(mTape->spelled({"LxHalfCut", "Maybe"}), (OptionList::value_type{"LxHalfCut", "Maybe"}));
+  EXPECT_EQ(mTape->spelled({"pagesize", "Custom.24x80mm"}),
+            (OptionList::value_type{"PageSize", "Custom.24x80mm"}));
+  EXPECT_EQ(mTape->spelled({"job-priority", "70"}), (OptionList::value_type{"job-priority", "70"}));
+}
+
 TEST_F(PpdFileTest, AnOptionWithoutChoicesIsHarmless) {
   const auto ppd = openedText(replaced(fixtureText("tape.ppd"), "*CloseGroup: Quality",
                                        "*OpenUI *Hollow/Hollow: PickOne\n*CloseUI: *Hollow\n"

@@ -1,4 +1,7 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <pwd.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -8,6 +11,7 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "base/FileDescriptor.h"
 #include "cups/SavedOptions.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -170,6 +174,48 @@ TEST_F(SavedOptionsTest, AHomeThatCannotBeWrittenIsNamedWithItsReason) {
         << saved.error().message;
     EXPECT_TRUE(saved.error().message.ends_with(": " + row.reason)) << saved.error().message;
   }
+}
+
+std::string errorOfSaving() {
+  const Result<Done> done = saveEntry({"tape", "own"}, {{"LxHalfCut", "ON"}});
+  return done ? "" : done.error().message;
+}
+
+// Nobody's options are that many: what is there is not read into memory, and stays.
+TEST_F(SavedOptionsTest, AFileThatIsTooLargeStaysAsItIs) {
+  const std::string path = mHome.write(".cups/lpoptions", "Dest tape copies=5\n");
+  std::filesystem::resize_file(path, (std::size_t{16} << 20U) + 100'000);
+  EXPECT_EQ(errorOfSaving(), "the options cannot be saved in \"" + path + "\": it is too large");
+  EXPECT_EQ(std::filesystem::file_size(path), (std::size_t{16} << 20U) + 100'000);
+}
+
+TEST_F(SavedOptionsTest, WhatIsSavedAlreadyIsNotWrittenAgain) {
+  EXPECT_EQ(errorOfSaving(), "");
+  const std::string path = mHome / ".cups/lpoptions";
+  struct stat before {};
+  struct stat after {};
+  ASSERT_EQ(::stat(path.c_str(), &before), 0);
+  EXPECT_EQ(errorOfSaving(), "");
+  ASSERT_EQ(::stat(path.c_str(), &after), 0);
+  EXPECT_EQ(before.st_ino, after.st_ino);
+}
+
+TEST_F(SavedOptionsTest, AProgramThatKeepsTheFileLockedIsWaitedForAndNamed) {
+  const std::string path = mHome.write(".cups/lpoptions", "Dest tape copies=5\n");
+  const FileDescriptor lock(::open((path + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600));
+  ASSERT_EQ(::flock(lock.get(), LOCK_EX), 0);
+  EXPECT_EQ(errorOfSaving(), "the options cannot be saved in \"" + path +
+                                 "\": another program keeps it locked; try again");
+  ASSERT_EQ(::flock(lock.get(), LOCK_UN), 0);
+  EXPECT_EQ(errorOfSaving(), "");
+}
+
+// As services run; libcups' own programs then use the administrator's file as well.
+TEST_F(SavedOptionsTest, WithoutAHomeInTheEnvironmentItIsTheUsersOwn) {
+  unsetenv("HOME");
+  const passwd* user = getpwuid(getuid());
+  ASSERT_NE(user, nullptr);
+  EXPECT_EQ(userOptionsPath(), std::string(user->pw_dir) + "/.cups/lpoptions");
 }
 
 TEST_F(SavedOptionsTest, WhatIsLongerThanALineIsRefused) {
