@@ -58,18 +58,29 @@ if(CUTLINE_RACES)
   add_link_options(-fsanitize=thread)
 endif()
 
-option(CUTLINE_COVERAGE "Build with counters of what runs; scripts/coverage reads them" OFF)
+option(CUTLINE_COVERAGE "Build with clang's counters of what runs; scripts/coverage reads them" OFF)
 if(CUTLINE_COVERAGE)
-  add_compile_options(--coverage -fprofile-update=atomic -fprofile-abs-path)
-  add_link_options(--coverage)
+  set(CMAKE_CXX_FLAGS_DEBUG "-O1")
+  # Each program and library maps a file for its counters, which all its processes share: so those count,
+  # too, that are killed, or confined before their end. The name is compiled in, as some are started
+  # without an environment.
+  set(COUNTERS -fprofile-instr-generate=${CMAKE_BINARY_DIR}/counters/%m%c.profraw)
+  add_compile_options(${COUNTERS} -fcoverage-mapping -fprofile-update=atomic
+                      "SHELL:-mllvm -runtime-counter-relocation"
+                      # What is unnamed is told apart by its source, which each target of this build has.
+                      "SHELL:-Xclang -main-file-name -Xclang $<TARGET_PROPERTY:NAME>.cpp")
+  add_link_options(${COUNTERS})
 endif()
 
 if(CUTLINE_FUZZ)
   set(CMAKE_CXX_FLAGS_RELEASE "-O1 -gline-tables-only")
   add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
+if(CUTLINE_FUZZ OR CUTLINE_COVERAGE)
   # clang 14 cannot take one of qpdf's headers.
   add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-DJSON_HH>
-                      $<$<COMPILE_LANGUAGE:CXX>:-include${CMAKE_SOURCE_DIR}/tests/fuzz/QpdfJson.h>)
+                      $<$<COMPILE_LANGUAGE:CXX>:-include${CMAKE_SOURCE_DIR}/cmake/QpdfJson.h>)
 endif()
 
 # cutline_exports(TARGET MAP): what the map doesn't name stays inside.
