@@ -2,9 +2,10 @@
 
 #include <libxml/parser.h>
 #include <libxml/tree.h>
-#include <libxml/xmlsave.h>
 #include <plist/plist.h>
 
+#include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <memory>
 #include <utility>
@@ -22,20 +23,14 @@ struct NodeDeleter {
 using OwnedNode = std::unique_ptr<void, NodeDeleter>;
 
 struct FreeDeleter {
-  void operator()(void* memory) const noexcept { std::free(memory); }
+  void operator()(char* memory) const noexcept { std::free(memory); }
 };
-template <typename T>
-using Owned = std::unique_ptr<T, FreeDeleter>;
+using OwnedBytes = std::unique_ptr<char, FreeDeleter>;
 
 struct DocumentDeleter {
   void operator()(xmlDoc* document) const noexcept { xmlFreeDoc(document); }
 };
 using Document = std::unique_ptr<xmlDoc, DocumentDeleter>;
-
-struct BufferDeleter {
-  void operator()(xmlBuffer* buffer) const noexcept { xmlBufferFree(buffer); }
-};
-using Buffer = std::unique_ptr<xmlBuffer, BufferDeleter>;
 
 // The library tells standard error of bytes that it cannot decode, whatever it was asked to keep to
 // itself; what a file holds is nothing to say there.
@@ -56,80 +51,60 @@ class QuietLibrary {
 // Null when the bytes are not one well-formed document, in whatever encoding it declares, or when
 // its elements are nested beyond the library's own bound (256). Fetches nothing, expands no entity.
 Document parseDocument(std::string_view xml) {
-  constexpr int kQuietAndAlone = XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
+  constexpr int kQuietAndAlone =
+      XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_COMPACT;
   return Document(
       xmlReadMemory(xml.data(), static_cast<int>(xml.size()), nullptr, nullptr, kQuietAndAlone));
 }
 
-bool isList(const xmlNode* element) { return xmlStrEqual(element->name, BAD_CAST "plist") != 0; }
+std::string_view textAt(const xmlChar* text) {
+  return text ? reinterpret_cast<const char*>(text) : std::string_view();
+}
 
-// The element of the list alone, in UTF-8: the parsing library takes no other encoding, no byte
-// order mark and no document without an end for what they are. Null when the document is no list of
-// one value.
-Buffer listIn(const Document& document) {
-  xmlNode* root = document ? xmlDocGetRootElement(document.get()) : nullptr;
-  if (!root || !isList(root) || xmlChildElementCount(root) != 1) return nullptr;
-  if (isList(xmlFirstElementChild(root))) return nullptr;
-  Buffer list(xmlBufferCreate());
-  const auto options = XML_SAVE_NO_DECL | XML_SAVE_AS_XML;
-  xmlSaveCtxt* saving = xmlSaveToBuffer(list.get(), "UTF-8", options);
-  xmlSaveTree(saving, root);
-  return xmlSaveClose(saving) < 0 ? nullptr : std::move(list);
+// A list's elements are in no namespace that they would have to name.
+bool isNamed(const xmlNode* element, std::string_view name) {
+  return textAt(element->name) == name && (!element->ns || !element->ns->prefix);
 }
 
 using Value = PropertyList::Value;
-std::optional<PropertyList> valueOf(plist_t node, int depth);
+std::optional<PropertyList> valueOf(xmlNode* element, int depth);
 
-Value booleanOf(plist_t node) {
-  std::uint8_t value = 0;
-  plist_get_bool_val(node, &value);
-  return value != 0;
+// The characters within; nothing where there is more than characters, such as an entity.
+std::optional<std::string> charactersOf(const xmlNode* element) {
+  std::string text;
+  for (const xmlNode* node = element->children; node; node = node->next) {
+    if (node->type == XML_COMMENT_NODE || node->type == XML_PI_NODE) continue;
+    if (node->type != XML_TEXT_NODE && node->type != XML_CDATA_SECTION_NODE) return std::nullopt;
+    text += textAt(node->content);
+  }
+  return text;
 }
 
-Value integerOf(plist_t node) {
-  std::uint64_t value = 0;
-  plist_get_uint_val(node, &value);
-  return static_cast<std::int64_t>(value);
+std::optional<Value> stringOf(xmlNode* element, int /*depth*/) {
+  auto text = charactersOf(element);
+  if (!text) return std::nullopt;
+  return std::move(*text);
 }
 
-Value realOf(plist_t node) {
-  double value = 0;
-  plist_get_real_val(node, &value);
-  return value;
+template <bool kValue>
+std::optional<Value> booleanOf(xmlNode* /*element*/, int /*depth*/) {
+  return kValue;
 }
 
-Value stringOf(plist_t node) {
-  char* text = nullptr;
-  plist_get_string_val(node, &text);
-  const Owned<char> owner(text);
-  return std::string(text ? text : "");
+// Whether the element holds elements alone, with blanks and comments between them.
+bool isContainer(const xmlNode* element) {
+  for (const xmlNode* node = element->children; node; node = node->next) {
+    const bool isText = node->type == XML_TEXT_NODE && xmlIsBlankNode(node) == 0;
+    if (isText || node->type == XML_CDATA_SECTION_NODE || node->type == XML_ENTITY_REF_NODE)
+      return false;
+  }
+  return true;
 }
 
-Value dataOf(plist_t node) {
-  char* bytes = nullptr;
-  std::uint64_t length = 0;
-  plist_get_data_val(node, &bytes, &length);
-  const Owned<char> owner(bytes);
-  return bytes ? PropertyList::Data(bytes, bytes + length) : PropertyList::Data();
-}
-
-Value dateOf(plist_t node) {
-  using namespace std::chrono;
-  constexpr sys_days kEpochOfLists = year(2001) / January / 1;
-  std::int32_t wholeSeconds = 0;
-  std::int32_t rest = 0;
-  plist_get_date_val(node, &wholeSeconds, &rest);
-  return kEpochOfLists + seconds(wholeSeconds) + duration_cast<milliseconds>(microseconds(rest));
-}
-
-std::optional<Value> arrayOf(plist_t node, int depth) {
+std::optional<Value> arrayOf(xmlNode* element, int depth) {
+  if (!isContainer(element)) return std::nullopt;
   PropertyList::Array array;
-  plist_array_iter created = nullptr;
-  plist_array_new_iter(node, &created);
-  const Owned<void> iterator(created);
-  plist_t item = nullptr;
-  for (plist_array_next_item(node, created, &item); item;
-       plist_array_next_item(node, created, &item)) {
+  for (xmlNode* item = xmlFirstElementChild(element); item; item = xmlNextElementSibling(item)) {
     auto value = valueOf(item, depth + 1);
     if (!value) return std::nullopt;
     array.push_back(std::move(*value));
@@ -137,50 +112,90 @@ std::optional<Value> arrayOf(plist_t node, int depth) {
   return array;
 }
 
-std::optional<Value> dictionaryOf(plist_t node, int depth) {
+std::optional<Value> dictionaryOf(xmlNode* element, int depth) {
+  if (!isContainer(element)) return std::nullopt;
   PropertyList::Dictionary dictionary;
-  plist_dict_iter created = nullptr;
-  plist_dict_new_iter(node, &created);
-  const Owned<void> iterator(created);
-  while (true) {
-    char* name = nullptr;
-    plist_t item = nullptr;
-    plist_dict_next_item(node, created, &name, &item);
-    const Owned<char> key(name);
-    if (!item) return dictionary;
-    auto value = valueOf(item, depth + 1);
+  for (xmlNode* key = xmlFirstElementChild(element); key;) {
+    xmlNode* item = xmlNextElementSibling(key);
+    auto name = isNamed(key, "key") ? charactersOf(key) : std::nullopt;
+    auto value = name && item ? valueOf(item, depth + 1) : std::nullopt;
     if (!value) return std::nullopt;
-    dictionary.insert_or_assign(name ? name : "", std::move(*value));
+    dictionary.insert_or_assign(std::move(*name), std::move(*value));
+    key = xmlNextElementSibling(item);
   }
+  return dictionary;
 }
 
-// Nothing when the node is nested too deeply or of a kind that has no value here.
-std::optional<Value> convert(plist_t node, int depth) {
+// The value of an element without elements, read by the library of lists.
+OwnedNode nodeOf(const xmlNode* element) {
+  const auto text = charactersOf(element);
+  if (!text || text->find_first_of("<&") != std::string::npos) return nullptr;
+  const std::string name(textAt(element->name));
+  const std::string xml = "<plist><" + name + '>' + *text + "</" + name + "></plist>";
+  plist_t node = nullptr;
+  plist_from_xml(xml.data(), static_cast<std::uint32_t>(xml.size()), &node);
+  return OwnedNode(node);
+}
+
+std::optional<Value> integerOf(xmlNode* element, int /*depth*/) {
+  const OwnedNode node = nodeOf(element);
+  if (!node || plist_get_node_type(node.get()) != PLIST_UINT) return std::nullopt;
+  std::uint64_t value = 0;
+  plist_get_uint_val(node.get(), &value);
+  return static_cast<std::int64_t>(value);
+}
+
+std::optional<Value> realOf(xmlNode* element, int /*depth*/) {
+  const OwnedNode node = nodeOf(element);
+  if (!node || plist_get_node_type(node.get()) != PLIST_REAL) return std::nullopt;
+  double value = 0;
+  plist_get_real_val(node.get(), &value);
+  return value;
+}
+
+std::optional<Value> dataOf(xmlNode* element, int /*depth*/) {
+  const OwnedNode node = nodeOf(element);
+  if (!node || plist_get_node_type(node.get()) != PLIST_DATA) return std::nullopt;
+  char* bytes = nullptr;
+  std::uint64_t length = 0;
+  plist_get_data_val(node.get(), &bytes, &length);
+  const OwnedBytes owner(bytes);
+  return bytes ? PropertyList::Data(bytes, bytes + length) : PropertyList::Data();
+}
+
+std::optional<Value> dateOf(xmlNode* element, int /*depth*/) {
+  using namespace std::chrono;
+  constexpr sys_days kEpochOfLists = year(2001) / January / 1;
+  const OwnedNode node = nodeOf(element);
+  if (!node || plist_get_node_type(node.get()) != PLIST_DATE) return std::nullopt;
+  std::int32_t wholeSeconds = 0;
+  std::int32_t rest = 0;
+  plist_get_date_val(node.get(), &wholeSeconds, &rest);
+  return kEpochOfLists + seconds(wholeSeconds) + duration_cast<milliseconds>(microseconds(rest));
+}
+
+struct Kind {
+  std::string_view element;
+  std::optional<Value> (*read)(xmlNode*, int depth);
+};
+constexpr std::array kKinds = std::to_array<Kind>({
+    {"string", stringOf},
+    {"dict", dictionaryOf},
+    {"array", arrayOf},
+    {"true", booleanOf<true>},
+    {"false", booleanOf<false>},
+    {"integer", integerOf},
+    {"real", realOf},
+    {"data", dataOf},
+    {"date", dateOf},
+});
+
+// Nothing when the element is nested too deeply or of no kind of value.
+std::optional<PropertyList> valueOf(xmlNode* element, int depth) {
   if (depth > kDeepest) return std::nullopt;
-  switch (plist_get_node_type(node)) {
-    case PLIST_BOOLEAN:
-      return booleanOf(node);
-    case PLIST_UINT:
-      return integerOf(node);
-    case PLIST_REAL:
-      return realOf(node);
-    case PLIST_STRING:
-      return stringOf(node);
-    case PLIST_DATA:
-      return dataOf(node);
-    case PLIST_ARRAY:
-      return arrayOf(node, depth);
-    case PLIST_DICT:
-      return dictionaryOf(node, depth);
-    case PLIST_DATE:
-      return dateOf(node);
-    default:
-      return std::nullopt;
-  }
-}
-
-std::optional<PropertyList> valueOf(plist_t node, int depth) {
-  auto value = convert(node, depth);
+  const auto kind = std::ranges::find_if(
+      kKinds, [&](const Kind& each) { return isNamed(element, each.element); });
+  auto value = kind == kKinds.end() ? std::nullopt : kind->read(element, depth);
   if (!value) return std::nullopt;
   return PropertyList(std::move(*value));
 }
@@ -190,13 +205,11 @@ std::optional<PropertyList> valueOf(plist_t node, int depth) {
 std::optional<PropertyList> PropertyList::parseXML(std::string_view xml) noexcept {
   if (xml.empty() || xml.size() > kLongestText) return std::nullopt;
   const QuietLibrary quiet;
-  const Buffer list = listIn(parseDocument(xml));
-  if (!list) return std::nullopt;
-  plist_t parsed = nullptr;
-  plist_from_xml(reinterpret_cast<const char*>(xmlBufferContent(list.get())),
-                 static_cast<std::uint32_t>(xmlBufferLength(list.get())), &parsed);
-  const OwnedNode root(parsed);
-  return root ? valueOf(root.get(), 0) : std::nullopt;
+  const Document document = parseDocument(xml);
+  xmlNode* root = document ? xmlDocGetRootElement(document.get()) : nullptr;
+  if (!root || !isNamed(root, "plist") || !isContainer(root)) return std::nullopt;
+  xmlNode* value = xmlFirstElementChild(root);
+  return value && !xmlNextElementSibling(value) ? valueOf(value, 0) : std::nullopt;
 }
 
 std::optional<double> PropertyList::number() const noexcept {
