@@ -174,11 +174,11 @@ std::optional<Value> dateOf(xmlNode* element, int /*depth*/) {
   return kEpochOfLists + seconds(wholeSeconds) + duration_cast<milliseconds>(microseconds(rest));
 }
 
-struct Kind {
+struct ElementReader {
   std::string_view element;
   std::optional<Value> (*read)(xmlNode*, int depth);
 };
-constexpr std::array kKinds = std::to_array<Kind>({
+constexpr std::array kElementReaders = std::to_array<ElementReader>({
     {"string", stringOf},
     {"dict", dictionaryOf},
     {"array", arrayOf},
@@ -194,8 +194,8 @@ constexpr std::array kKinds = std::to_array<Kind>({
 std::optional<PropertyList> valueOf(xmlNode* element, int depth) {
   if (depth > kDeepest) return std::nullopt;
   const auto kind = std::ranges::find_if(
-      kKinds, [&](const Kind& each) { return isNamed(element, each.element); });
-  auto value = kind == kKinds.end() ? std::nullopt : kind->read(element, depth);
+      kElementReaders, [&](const ElementReader& each) { return isNamed(element, each.element); });
+  auto value = kind == kElementReaders.end() ? std::nullopt : kind->read(element, depth);
   if (!value) return std::nullopt;
   return PropertyList(std::move(*value));
 }
