@@ -1,215 +1,178 @@
 #include "platform/lib/PropertyList.h"
 
-#include <libxml/parser.h>
-#include <libxml/tree.h>
-#include <plist/plist.h>
+#include <expat.h>
 
-#include <algorithm>
-#include <array>
-#include <cstdlib>
 #include <memory>
 #include <utility>
+
+#include "base/Transcoding.h"
+#include "platform/lib/ListElements.h"
 
 namespace cutline {
 namespace {
 
-constexpr int kDeepest = 64;
-// No list of ours comes near it, and a tree of it has still room in memory.
+constexpr std::size_t kDeepest = 64;
+// No list of ours comes near it, and what is read of it has still room in memory.
 constexpr std::size_t kLongestText = std::size_t{4} << 20;
-
-struct NodeDeleter {
-  void operator()(void* node) const noexcept { plist_free(node); }
-};
-using OwnedNode = std::unique_ptr<void, NodeDeleter>;
-
-struct FreeDeleter {
-  void operator()(char* memory) const noexcept { std::free(memory); }
-};
-using OwnedBytes = std::unique_ptr<char, FreeDeleter>;
-
-struct DocumentDeleter {
-  void operator()(xmlDoc* document) const noexcept { xmlFreeDoc(document); }
-};
-using Document = std::unique_ptr<xmlDoc, DocumentDeleter>;
-
-// The library tells standard error of bytes that it cannot decode, whatever it was asked to keep to
-// itself; what a file holds is nothing to say there.
-class QuietLibrary {
- public:
-  QuietLibrary() noexcept : mBefore(xmlStructuredError), mContext(xmlStructuredErrorContext) {
-    xmlSetStructuredErrorFunc(nullptr, [](void*, xmlError*) {});
-  }
-  ~QuietLibrary() { xmlSetStructuredErrorFunc(mContext, mBefore); }
-  QuietLibrary(const QuietLibrary&) = delete;
-  QuietLibrary& operator=(const QuietLibrary&) = delete;
-
- private:
-  xmlStructuredErrorFunc mBefore;
-  void* mContext;
-};
-
-// Null when the bytes are not one well-formed document, in whatever encoding it declares, or when
-// its elements are nested beyond the library's own bound (256). Fetches nothing, expands no entity.
-Document parseDocument(std::string_view xml) {
-  constexpr int kQuietAndAlone =
-      XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_COMPACT;
-  return Document(
-      xmlReadMemory(xml.data(), static_cast<int>(xml.size()), nullptr, nullptr, kQuietAndAlone));
-}
-
-std::string_view textAt(const xmlChar* text) {
-  return text ? reinterpret_cast<const char*>(text) : std::string_view();
-}
-
-// A list's elements are in no namespace that they would have to name.
-bool isNamed(const xmlNode* element, std::string_view name) {
-  return textAt(element->name) == name && (!element->ns || !element->ns->prefix);
-}
+constexpr std::string_view kBlanks = " \t\r\n";
+constexpr char kUtf8[] = "UTF-8";
 
 using Value = PropertyList::Value;
-std::optional<PropertyList> valueOf(xmlNode* element, int depth);
+using Holds = ListElement::Holds;
 
-// The characters within; nothing where there is more than characters, such as an entity.
-std::optional<std::string> charactersOf(const xmlNode* element) {
-  std::string text;
-  for (const xmlNode* node = element->children; node; node = node->next) {
-    if (node->type == XML_COMMENT_NODE || node->type == XML_PI_NODE) continue;
-    if (node->type != XML_TEXT_NODE && node->type != XML_CDATA_SECTION_NODE) return std::nullopt;
-    text += textAt(node->content);
-  }
-  return text;
-}
-
-std::optional<Value> stringOf(xmlNode* element, int /*depth*/) {
-  auto text = charactersOf(element);
-  if (!text) return std::nullopt;
-  return std::move(*text);
-}
-
-template <bool kValue>
-std::optional<Value> booleanOf(xmlNode* /*element*/, int /*depth*/) {
-  return kValue;
-}
-
-// Whether the element holds elements alone, with blanks and comments between them.
-bool isContainer(const xmlNode* element) {
-  for (const xmlNode* node = element->children; node; node = node->next) {
-    const bool isText = node->type == XML_TEXT_NODE && xmlIsBlankNode(node) == 0;
-    if (isText || node->type == XML_CDATA_SECTION_NODE || node->type == XML_ENTITY_REF_NODE)
-      return false;
-  }
-  return true;
-}
-
-std::optional<Value> arrayOf(xmlNode* element, int depth) {
-  if (!isContainer(element)) return std::nullopt;
-  PropertyList::Array array;
-  for (xmlNode* item = xmlFirstElementChild(element); item; item = xmlNextElementSibling(item)) {
-    auto value = valueOf(item, depth + 1);
-    if (!value) return std::nullopt;
-    array.push_back(std::move(*value));
-  }
-  return array;
-}
-
-std::optional<Value> dictionaryOf(xmlNode* element, int depth) {
-  if (!isContainer(element)) return std::nullopt;
-  PropertyList::Dictionary dictionary;
-  for (xmlNode* key = xmlFirstElementChild(element); key;) {
-    xmlNode* item = xmlNextElementSibling(key);
-    auto name = isNamed(key, "key") ? charactersOf(key) : std::nullopt;
-    auto value = name && item ? valueOf(item, depth + 1) : std::nullopt;
-    if (!value) return std::nullopt;
-    dictionary.insert_or_assign(std::move(*name), std::move(*value));
-    key = xmlNextElementSibling(item);
-  }
-  return dictionary;
-}
-
-// The value of an element without elements, read by the library of lists.
-OwnedNode nodeOf(const xmlNode* element) {
-  const auto text = charactersOf(element);
-  if (!text || text->find_first_of("<&") != std::string::npos) return nullptr;
-  const std::string name(textAt(element->name));
-  const std::string xml = "<plist><" + name + '>' + *text + "</" + name + "></plist>";
-  plist_t node = nullptr;
-  plist_from_xml(xml.data(), static_cast<std::uint32_t>(xml.size()), &node);
-  return OwnedNode(node);
-}
-
-std::optional<Value> integerOf(xmlNode* element, int /*depth*/) {
-  const OwnedNode node = nodeOf(element);
-  if (!node || plist_get_node_type(node.get()) != PLIST_UINT) return std::nullopt;
-  std::uint64_t value = 0;
-  plist_get_uint_val(node.get(), &value);
-  return static_cast<std::int64_t>(value);
-}
-
-std::optional<Value> realOf(xmlNode* element, int /*depth*/) {
-  const OwnedNode node = nodeOf(element);
-  if (!node || plist_get_node_type(node.get()) != PLIST_REAL) return std::nullopt;
-  double value = 0;
-  plist_get_real_val(node.get(), &value);
-  return value;
-}
-
-std::optional<Value> dataOf(xmlNode* element, int /*depth*/) {
-  const OwnedNode node = nodeOf(element);
-  if (!node || plist_get_node_type(node.get()) != PLIST_DATA) return std::nullopt;
-  char* bytes = nullptr;
-  std::uint64_t length = 0;
-  plist_get_data_val(node.get(), &bytes, &length);
-  const OwnedBytes owner(bytes);
-  return bytes ? PropertyList::Data(bytes, bytes + length) : PropertyList::Data();
-}
-
-std::optional<Value> dateOf(xmlNode* element, int /*depth*/) {
-  using namespace std::chrono;
-  constexpr sys_days kEpochOfLists = year(2001) / January / 1;
-  const OwnedNode node = nodeOf(element);
-  if (!node || plist_get_node_type(node.get()) != PLIST_DATE) return std::nullopt;
-  std::int32_t wholeSeconds = 0;
-  std::int32_t rest = 0;
-  plist_get_date_val(node.get(), &wholeSeconds, &rest);
-  return kEpochOfLists + seconds(wholeSeconds) + duration_cast<milliseconds>(microseconds(rest));
-}
-
-struct ElementReader {
-  std::string_view element;
-  std::optional<Value> (*read)(xmlNode*, int depth);
+// An element that is not closed yet, and what was read of it.
+struct OpenElement {
+  const ListElement* element;
+  std::string text = {};
+  PropertyList::Array values = {};  // of a list, one
+  PropertyList::Dictionary entries = {};
+  std::optional<std::string> key = {};  // that waits for its value
 };
-constexpr std::array kElementReaders = std::to_array<ElementReader>({
-    {"string", stringOf},
-    {"dict", dictionaryOf},
-    {"array", arrayOf},
-    {"true", booleanOf<true>},
-    {"false", booleanOf<false>},
-    {"integer", integerOf},
-    {"real", realOf},
-    {"data", dataOf},
-    {"date", dateOf},
-});
 
-// Nothing when the element is nested too deeply or of no kind of value.
-std::optional<PropertyList> valueOf(xmlNode* element, int depth) {
-  if (depth > kDeepest) return std::nullopt;
-  const auto kind = std::ranges::find_if(
-      kElementReaders, [&](const ElementReader& each) { return isNamed(element, each.element); });
-  auto value = kind == kElementReaders.end() ? std::nullopt : kind->read(element, depth);
-  if (!value) return std::nullopt;
-  return PropertyList(std::move(*value));
+// Builds the value of a document as the parser tells of its parts. What is no list stops the
+// parser.
+class ListReader {
+ public:
+  explicit ListReader(XML_Parser parser) : mParser(parser) {}
+
+  // Nothing unless the whole document was read.
+  std::optional<PropertyList> take() { return std::move(mList); }
+
+  void open(std::string_view name) {
+    if (mIsRefused) return;
+    const ListElement* element = listElement(name);
+    if (!element || mOpen.size() > kDeepest + 1 || !mayHold(*element)) return refuse();
+    mOpen.push_back({element});
+  }
+
+  void addText(std::string_view text) {
+    if (mIsRefused) return;
+    OpenElement& last = mOpen.back();
+    if (last.element->holds == Holds::text || last.element->holds == Holds::key)
+      last.text += text;
+    else if (text.find_first_not_of(kBlanks) != text.npos)
+      refuse();
+  }
+
+  void close() {
+    if (mIsRefused) return;
+    OpenElement last = std::move(mOpen.back());
+    mOpen.pop_back();
+    if (last.element->holds == Holds::list) return finish(last);
+    if (last.element->holds == Holds::key) {
+      mOpen.back().key = std::move(last.text);
+      return;
+    }
+    auto value = valueOf(last);
+    if (!value) return refuse();
+    add(PropertyList(std::move(*value)));
+  }
+
+  // The parser still tells of the end of an element that it has read as a whole.
+  void refuse() {
+    mIsRefused = true;
+    XML_StopParser(mParser, XML_FALSE);
+  }
+
+ private:
+  // Whether the element may stand where the parser is.
+  bool mayHold(const ListElement& inner) const {
+    if (mOpen.empty()) return inner.holds == Holds::list;
+    if (inner.holds == Holds::list) return false;
+    const OpenElement& outer = mOpen.back();
+    const bool isKey = inner.holds == Holds::key;
+    switch (outer.element->holds) {
+      case Holds::list:
+        return !isKey && outer.values.empty();
+      case Holds::values:
+        return !isKey;
+      case Holds::keysAndValues:
+        return isKey != outer.key.has_value();
+      default:
+        return false;
+    }
+  }
+
+  static std::optional<Value> valueOf(OpenElement& last) {
+    if (last.element->valueOf) return last.element->valueOf(last.text);
+    if (last.element->holds == Holds::values) return std::move(last.values);
+    if (last.key) return std::nullopt;
+    return std::move(last.entries);
+  }
+
+  void add(PropertyList value) {
+    OpenElement& outer = mOpen.back();
+    if (outer.element->holds != Holds::keysAndValues) {
+      outer.values.push_back(std::move(value));
+      return;
+    }
+    outer.entries.insert_or_assign(std::move(*outer.key), std::move(value));
+    outer.key.reset();
+  }
+
+  void finish(OpenElement& list) {
+    if (list.values.empty()) return refuse();
+    mList = std::move(list.values.front());
+  }
+
+  XML_Parser mParser;
+  std::vector<OpenElement> mOpen;
+  std::optional<PropertyList> mList;
+  bool mIsRefused = false;
+};
+
+ListReader& readerOf(void* data) { return *static_cast<ListReader*>(data); }
+
+struct ParserDeleter {
+  void operator()(XML_Parser parser) const noexcept { XML_ParserFree(parser); }
+};
+using OwnedParser = std::unique_ptr<XML_ParserStruct, ParserDeleter>;
+
+// Expands no entity and fetches nothing: that there is a handler for what is left, which does
+// nothing, makes the parser tell of entities instead.
+void setHandlers(XML_Parser parser, ListReader& reader) {
+  XML_SetUserData(parser, &reader);
+  XML_SetElementHandler(
+      parser, [](void* data, const XML_Char* name, const XML_Char**) { readerOf(data).open(name); },
+      [](void* data, const XML_Char*) { readerOf(data).close(); });
+  XML_SetCharacterDataHandler(parser, [](void* data, const XML_Char* text, int length) {
+    readerOf(data).addText({text, static_cast<std::size_t>(length)});
+  });
+  XML_SetDefaultHandler(parser, [](void*, const XML_Char*, int) {});
+  XML_SetSkippedEntityHandler(parser,
+                              [](void* data, const XML_Char*, int) { readerOf(data).refuse(); });
+  XML_SetExternalEntityRefHandler(parser,
+                                  [](XML_Parser, const XML_Char*, const XML_Char*, const XML_Char*,
+                                     const XML_Char*) -> int { return XML_STATUS_ERROR; });
+}
+
+// The list, or the encoding that the parser would have to know.
+std::optional<PropertyList> read(std::string_view xml, const char* encoding, std::string& unknown) {
+  const OwnedParser parser(XML_ParserCreate(encoding));
+  if (!parser) return std::nullopt;
+  ListReader reader(parser.get());
+  setHandlers(parser.get(), reader);
+  XML_SetUnknownEncodingHandler(
+      parser.get(),
+      [](void* name, const XML_Char* encoding, XML_Encoding*) -> int {
+        *static_cast<std::string*>(name) = encoding;
+        return XML_STATUS_ERROR;
+      },
+      &unknown);
+  const auto length = static_cast<int>(xml.size());
+  if (XML_Parse(parser.get(), xml.data(), length, XML_TRUE) != XML_STATUS_OK) return std::nullopt;
+  return reader.take();
 }
 
 }  // namespace
 
 std::optional<PropertyList> PropertyList::parseXML(std::string_view xml) noexcept {
-  if (xml.empty() || xml.size() > kLongestText) return std::nullopt;
-  const QuietLibrary quiet;
-  const Document document = parseDocument(xml);
-  xmlNode* root = document ? xmlDocGetRootElement(document.get()) : nullptr;
-  if (!root || !isNamed(root, "plist") || !isContainer(root)) return std::nullopt;
-  xmlNode* value = xmlFirstElementChild(root);
-  return value && !xmlNextElementSibling(value) ? valueOf(value, 0) : std::nullopt;
+  if (xml.size() > kLongestText) return std::nullopt;
+  std::string encoding;
+  auto list = read(xml, nullptr, encoding);
+  if (encoding.empty()) return list;
+  const auto text = transcoded(xml, encoding, kUtf8);
+  return text ? read(*text, kUtf8, encoding) : std::nullopt;
 }
 
 std::optional<double> PropertyList::number() const noexcept {
