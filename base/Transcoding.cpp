@@ -43,10 +43,16 @@ class Converter {
   iconv_t mHandle;
 };
 
+// To iconv no name is the locale's encoding, and what follows a slash asks it to replace.
+bool isPlainName(const std::string& name) {
+  return !name.empty() && name.find('/') == std::string::npos;
+}
+
 }  // namespace
 
 std::optional<std::string> transcoded(std::string_view text, const std::string& from,
                                       const std::string& to) {
+  if (!isPlainName(from) || !isPlainName(to)) return std::nullopt;
   Converter converter(from, to);
   if (!converter.isOpen()) return std::nullopt;
   std::string result;

@@ -8,7 +8,8 @@
 namespace cutline {
 
 // Nothing where an encoding is not known, where the bytes are not text of the first one, and where
-// the second one lacks a character: nothing is replaced. The names are those of iconv_open.
+// the second one lacks a character: nothing is replaced. The names are those of iconv_open, without
+// the words that ask it to replace.
 std::optional<std::string> transcoded(std::string_view text, const std::string& from,
                                       const std::string& to);
 

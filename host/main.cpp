@@ -1,3 +1,4 @@
+#include <malloc.h>
 #include <unistd.h>
 
 #include <new>
@@ -19,5 +20,7 @@ namespace {
 
 int main(int argc, char** argv) {
   std::set_new_handler(endWithoutMemory);
+  // A thread beside the dialog lives for a moment; what it needs comes and goes with the rest.
+  ::mallopt(M_ARENA_MAX, 1);
   return cutline::runProgram(argc, argv);
 }

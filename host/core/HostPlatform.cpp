@@ -4,7 +4,7 @@
 
 #include <array>
 
-#include "plain/IcuTextEncodings.h"
+#include "plain/LocaleTextEncodings.h"
 
 namespace cutline {
 
@@ -33,7 +33,7 @@ void HostSystemLog::log(const std::string& message) noexcept {
   syslog(LOG_USER | LOG_NOTICE, "%s", message.c_str());
 }
 
-HostPlatform::HostPlatform(Toolkit& toolkit) : mEncodings(std::make_unique<IcuTextEncodings>()) {
+HostPlatform::HostPlatform(Toolkit& toolkit) : mEncodings(std::make_unique<LocaleTextEncodings>()) {
   openlog("cutline", LOG_PID, LOG_USER);
   Platform platform;
   platform.toolkit = &toolkit;

@@ -1,6 +1,7 @@
 #include "host/dialog/SettingsPane.h"
 
 #include <QBoxLayout>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -90,6 +91,13 @@ bool SettingsPane::eventFilter(QObject* watched, QEvent* event) {
 void SettingsPane::resizeEvent(QResizeEvent* event) {
   QScrollArea::resizeEvent(event);
   arrange();
+}
+
+// Bars of the size that it had before would stay for the first frame.
+void SettingsPane::showEvent(QShowEvent* event) {
+  QScrollArea::showEvent(event);
+  QEvent now(QEvent::LayoutRequest);
+  QCoreApplication::sendEvent(this, &now);
 }
 
 void SettingsPane::arrange() {

@@ -44,6 +44,7 @@ class SettingsPane : public QScrollArea {
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   void arrange();

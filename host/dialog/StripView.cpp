@@ -127,7 +127,7 @@ StripRoom StripView::room() const {
 void StripView::layOut() {
   if (!mContent) return;
   mLayout.emplace(*mContent, room(), mZoom);
-  setBars();
+  if (isVisible()) setBars();
   wantPages();
   viewport()->update();
 }
@@ -241,6 +241,15 @@ void StripView::leaveLarge() {
 void StripView::resizeEvent(QResizeEvent* event) {
   QAbstractScrollArea::resizeEvent(event);
   layOut();
+}
+
+// Before, the view has hardly any room: bars that it needed then would be seen for a moment. Those
+// that it needs now would wait for the loop of events, as its size has only just changed.
+void StripView::showEvent(QShowEvent* event) {
+  QAbstractScrollArea::showEvent(event);
+  layOut();
+  QEvent now(QEvent::LayoutRequest);
+  QCoreApplication::sendEvent(this, &now);
 }
 
 void StripView::changeEvent(QEvent* event) {

@@ -1,4 +1,4 @@
-// Conversions between text encodings. Implemented on ICU (IcuTextEncodings) and by tests.
+// Conversions between text encodings. Implemented by LocaleTextEncodings and by tests.
 #pragma once
 
 #include <cstddef>

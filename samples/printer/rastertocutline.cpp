@@ -1,6 +1,7 @@
 // The driver of the virtual label printer: a CUPS filter from raster pages to the printer's
 // commands.
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -21,6 +22,16 @@ using namespace cutline::printer;
 
 // The places of a filter's arguments.
 enum Argument { kJob = 1, kUser, kTitle, kCopies, kOptions, kFile };
+
+// Many times what the largest label takes. A header may name lines of gigabytes, and libcups makes
+// room for one before anybody can look at it.
+void limitMemory() {
+#ifndef CUTLINE_SANITIZED
+  constexpr rlim_t kMost = rlim_t{1} << 30U;
+  const rlimit limit{kMost, kMost};
+  ::setrlimit(RLIMIT_AS, &limit);
+#endif
+}
 
 int fail(const std::string& problem) {
   std::fprintf(stderr, "ERROR: %s\n", problem.c_str());
@@ -66,6 +77,7 @@ int main(int count, char* arguments[]) {
     return EXIT_FAILURE;
   }
   std::signal(SIGPIPE, SIG_IGN);
+  limitMemory();
   const char* ppd = std::getenv("PPD");
   const auto choices = choicesOf(ppd == nullptr ? "" : ppd, arguments[kOptions]);
   if (!choices) return fail("The printer's PPD file cannot be read.");

@@ -37,6 +37,8 @@ TEST(Transcoding, ReplacesNothing) {
 TEST(Transcoding, KnowsNotEachEncoding) {
   EXPECT_FALSE(transcoded("a", "no-such", "UTF-8"));
   EXPECT_FALSE(transcoded("a", "UTF-8", "no-such"));
+  EXPECT_FALSE(transcoded("a", "", "UTF-8"));
+  EXPECT_FALSE(transcoded("라", "UTF-8", "ISO-8859-1//TRANSLIT"));
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The platform of a test: the plain toolkit and ICU's encodings with a few screws to turn, current
+// The platform of a test: the plain toolkit and its encodings with a few screws to turn, current
 // as long as the object lives.
 #pragma once
 
@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "plain/IcuTextEncodings.h"
+#include "plain/LocaleTextEncodings.h"
 #include "plain/PlainImage.h"
 #include "plain/PlainToolkit.h"
 #include "plain/PlainView.h"
@@ -76,7 +76,7 @@ class TestPlatform {
 
   TestToolkit toolkit;
   TestSystemVersion version;
-  IcuTextEncodings encodings;
+  LocaleTextEncodings encodings;
   LocalNotificationCenter center;
 
  private:

@@ -14,12 +14,15 @@ constexpr int kJobId = 17;
 
 }  // namespace
 
+// A printer that is there already is set up anew.
 void FakePrintServer::addPrinter(const std::string& name, const std::string& ppdPath) {
+  mPpdPaths[name] = ppdPath;
   Destination destination;
   destination.name.printer = name;
+  if (std::ranges::find(mDestinations, destination.name, &Destination::name) != mDestinations.end())
+    return;
   destination.state = PrinterState::idle;
   mDestinations.push_back(destination);
-  mPpdPaths[name] = ppdPath;
 }
 
 void FakePrintServer::addInstance(const std::string& printer, const std::string& instance,

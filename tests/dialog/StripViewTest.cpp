@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QScrollBar>
 #include <QTest>
+#include <QVBoxLayout>
 #include <QWheelEvent>
 #include <algorithm>
 #include <cstdlib>
@@ -70,6 +71,27 @@ TEST_F(StripViewTest, WantsTheVisiblePagesOnly) {
 TEST_F(StripViewTest, WantsThePagesThatItIsScrolledTo) {
   mStrip.verticalScrollBar()->setValue(mStrip.verticalScrollBar()->maximum());
   EXPECT_EQ(mWanted.back().page, 39);
+}
+
+TEST(StripViewInAWindow, HasNoBarsInItsFirstFrameThatItWillNotNeed) {
+  QWidget window;
+  auto* strip = new StripView(&window);
+  (new QVBoxLayout(&window))->addWidget(strip);
+  strip->setContent(jobOf(3));
+  window.resize(1000, 300);
+  window.show();
+  EXPECT_FALSE(strip->horizontalScrollBar()->isVisible());
+  EXPECT_FALSE(strip->verticalScrollBar()->isVisible());
+}
+
+TEST(StripViewInAWindow, HasTheBarsThatItNeedsInItsFirstFrame) {
+  QWidget window;
+  auto* strip = new StripView(&window);
+  (new QVBoxLayout(&window))->addWidget(strip);
+  strip->setContent(jobOf(400));
+  window.resize(1000, 300);
+  window.show();
+  EXPECT_TRUE(strip->verticalScrollBar()->isVisible());
 }
 
 TEST_F(StripViewTest, WantsNoPageTwice) {

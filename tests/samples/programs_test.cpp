@@ -70,6 +70,13 @@ TEST_F(Programs, DrawWhatThePictureListSays) {
   }
 }
 
+TEST_F(Programs, MakeNoRoomForLinesOfGigabytes) {
+  const CommandResult result = run(ppd() + filter() + " 7 somebody title 1 '' <" +
+                                   quoted(source("tests/fuzz/corpus/raster/lines-of-gigabytes")));
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.errors, "ERROR: The document has no pages to print.\n");
+}
+
 TEST_F(Programs, KeepALineBreakInATitleOutOfTheList) {
   const std::string title = " $'two\\nLxHalfCut=ON' 1 '' ";
   run(ppd() + filter() + " 7 somebody" + title + '<' + raster() + " | " + uri() + backend() +

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "plain/IcuTextEncodings.h"
+#include "plain/LocaleTextEncodings.h"
 #include "plain/RecordingSystemLog.h"
 #include "platform/ports/NotificationCenter.h"
 #include "platform/ports/Platform.h"
@@ -44,7 +44,7 @@ class TypingPlatform {
 
   BeepingToolkit toolkit;
   RecordingSystemLog log;
-  IcuTextEncodings encodings{"UTF-8"};
+  LocaleTextEncodings encodings{"UTF-8"};
   std::vector<Notification> posted;
 
  private:

@@ -5,7 +5,7 @@
 #include <map>
 #include <string>
 
-#include "plain/IcuTextEncodings.h"
+#include "plain/LocaleTextEncodings.h"
 
 namespace cutline {
 namespace {
@@ -19,7 +19,7 @@ struct PairRow {
 
 class EncodedPairs : public testing::TestWithParam<PairRow> {
  protected:
-  IcuTextEncodings encodings{"ISO-8859-1"};
+  LocaleTextEncodings encodings{"ISO-8859-1"};
 };
 
 TEST_P(EncodedPairs, ConvertBothWays) {
@@ -47,8 +47,8 @@ INSTANTIATE_TEST_SUITE_P(
                             std::string("a\0b", 3)}),
     [](const auto& row) { return std::string(row.param.name); });
 
-TEST(IcuTextEncodings, BytesThatAreNotValidAreNotDecoded) {
-  const IcuTextEncodings encodings("UTF-8");
+TEST(LocaleTextEncodings, BytesThatAreNotValidAreNotDecoded) {
+  const LocaleTextEncodings encodings("UTF-8");
   EXPECT_FALSE(encodings.decode("B\xE4nder", TextEncoding::ascii));
   EXPECT_FALSE(encodings.decode("B\xE4nder", TextEncoding::utf8));
   EXPECT_FALSE(encodings.decode("\xE2\x82", TextEncoding::utf8));
@@ -57,8 +57,8 @@ TEST(IcuTextEncodings, BytesThatAreNotValidAreNotDecoded) {
   EXPECT_FALSE(encodings.decode("\xFF", TextEncoding::system));
 }
 
-TEST(IcuTextEncodings, TextThatWouldLoseSomethingIsNotEncoded) {
-  const IcuTextEncodings encodings("ISO-8859-1");
+TEST(LocaleTextEncodings, TextThatWouldLoseSomethingIsNotEncoded) {
+  const LocaleTextEncodings encodings("ISO-8859-1");
   EXPECT_FALSE(encodings.encode("Bänder", TextEncoding::ascii));
   EXPECT_FALSE(encodings.encode("라벨", TextEncoding::macRoman));
   EXPECT_FALSE(encodings.encode("라벨", TextEncoding::system));
@@ -66,8 +66,8 @@ TEST(IcuTextEncodings, TextThatWouldLoseSomethingIsNotEncoded) {
   EXPECT_FALSE(encodings.encode("\xFF", TextEncoding::utf8));
 }
 
-TEST(IcuTextEncodings, InvisibleCharactersAreNotDroppedWhereAnEncodingLacksThem) {
-  const IcuTextEncodings encodings("ISO-8859-1");
+TEST(LocaleTextEncodings, InvisibleCharactersAreNotDroppedWhereAnEncodingLacksThem) {
+  const LocaleTextEncodings encodings("ISO-8859-1");
   EXPECT_EQ(encodings.encode("\u00AD", TextEncoding::system), "\xAD");
   for (const char* text : {"\u00AD", "\u200B", "a\u200Db", "\u2060", "\uFE0F"}) {
     EXPECT_FALSE(encodings.encode(text, TextEncoding::ascii)) << text;
@@ -76,25 +76,25 @@ TEST(IcuTextEncodings, InvisibleCharactersAreNotDroppedWhereAnEncodingLacksThem)
   EXPECT_FALSE(encodings.encode("\u200B", TextEncoding::system));
 }
 
-TEST(IcuTextEncodings, AnErrorDoesNotSpoilTheNextConversion) {
-  const IcuTextEncodings encodings("ISO-2022-JP");
+TEST(LocaleTextEncodings, AnErrorDoesNotSpoilTheNextConversion) {
+  const LocaleTextEncodings encodings("ISO-2022-JP");
   EXPECT_FALSE(encodings.encode("日\xFF", TextEncoding::system));
   EXPECT_FALSE(encodings.decode("\x1B$B\x46", TextEncoding::system));
   EXPECT_EQ(encodings.decode("plain", TextEncoding::system), "plain");
   EXPECT_EQ(encodings.encode("plain", TextEncoding::system), "plain");
 }
 
-TEST(IcuTextEncodings, MultibyteSystemEncodingsCountTheirBytes) {
-  const IcuTextEncodings encodings("EUC-KR");
+TEST(LocaleTextEncodings, MultibyteSystemEncodingsCountTheirBytes) {
+  const LocaleTextEncodings encodings("EUC-KR");
   const auto bytes = encodings.encode("라벨", TextEncoding::system);
   ASSERT_TRUE(bytes);
   EXPECT_EQ(bytes->size(), 4U);
   EXPECT_EQ(encodings.decode(*bytes, TextEncoding::system), "라벨");
 }
 
-TEST(IcuTextEncodings, UTF8TakesThePlaceOfASystemCodesetThatIsNotKnown) {
-  for (const char* codeset : {"ARMSCII-8", "KOI8-T", "PT154", "TCVN5712-1", "utf"}) {
-    const IcuTextEncodings encodings(codeset);
+TEST(LocaleTextEncodings, UTF8TakesThePlaceOfASystemCodesetThatIsNotKnown) {
+  for (const char* codeset : {"", "no-such", "utf", "ISO-8859-1//IGNORE"}) {
+    const LocaleTextEncodings encodings(codeset);
     EXPECT_EQ(encodings.decode("WN", TextEncoding::system), "WN") << codeset;
     EXPECT_EQ(encodings.decode("Bänder", TextEncoding::system), "Bänder") << codeset;
     EXPECT_EQ(encodings.encode("라벨", TextEncoding::system), "라벨") << codeset;
@@ -103,15 +103,37 @@ TEST(IcuTextEncodings, UTF8TakesThePlaceOfASystemCodesetThatIsNotKnown) {
   }
 }
 
-TEST(IcuTextEncodings, OffersEachEncodingOnce) {
-  auto offered = IcuTextEncodings("UTF-8").availableStringEncodings();
+TEST(LocaleTextEncodings, KnowTheCodesetsOfLocales) {
+  for (const char* codeset : {"ARMSCII-8", "KOI8-R", "KOI8-T", "PT154", "TCVN5712-1", "GB18030"}) {
+    const LocaleTextEncodings encodings(codeset);
+    EXPECT_EQ(encodings.decode("WN", TextEncoding::system), "WN") << codeset;
+    EXPECT_FALSE(encodings.encode("\xFF", TextEncoding::system)) << codeset;
+  }
+  EXPECT_EQ(LocaleTextEncodings("KOI8-R").decode("\xC1", TextEncoding::system), "а");
+}
+
+TEST(LocaleTextEncodings, MacRomanHasACharacterForEachByte) {
+  const LocaleTextEncodings encodings("UTF-8");
+  for (int byte = 0; byte < 256; ++byte) {
+    const std::string bytes(1, static_cast<char>(byte));
+    const auto text = encodings.decode(bytes, TextEncoding::macRoman);
+    ASSERT_TRUE(text) << byte;
+    EXPECT_EQ(encodings.encode(*text, TextEncoding::macRoman), bytes) << *text;
+  }
+  EXPECT_EQ(encodings.decode("\xC6\xDB\xF0", TextEncoding::macRoman), "∆€\uF8FF");
+  EXPECT_FALSE(encodings.encode("Δ", TextEncoding::macRoman)) << "the Greek letter";
+  EXPECT_FALSE(encodings.encode("¤", TextEncoding::macRoman));
+}
+
+TEST(LocaleTextEncodings, OffersEachEncodingOnce) {
+  auto offered = LocaleTextEncodings("UTF-8").availableStringEncodings();
   std::sort(offered.begin(), offered.end());
   EXPECT_EQ(offered, (std::vector<TextEncoding>{TextEncoding::ascii, TextEncoding::utf8,
                                                 TextEncoding::macRoman, TextEncoding::system}));
 }
 
-TEST(IcuTextEncodings, ConvertsLongTexts) {
-  const IcuTextEncodings encodings("UTF-8");
+TEST(LocaleTextEncodings, ConvertsLongTexts) {
+  const LocaleTextEncodings encodings("UTF-8");
   std::string text;
   for (int i = 0; i < 100000; ++i) text += "라";
   EXPECT_EQ(encodings.decode(text, TextEncoding::utf8), text);
