@@ -85,7 +85,8 @@ endif()
 
 # cutline_exports(TARGET MAP): what the map doesn't name stays inside.
 function(cutline_exports TARGET MAP)
-  target_link_options(${TARGET} PRIVATE LINKER:--version-script=${MAP})
+  # Nothing stands in for a function of ours, so the loader need not look for one that is in the library.
+  target_link_options(${TARGET} PRIVATE LINKER:--version-script=${MAP} LINKER:-Bsymbolic-functions)
   set_property(TARGET ${TARGET} APPEND PROPERTY LINK_DEPENDS ${MAP})
 endfunction()
 
