@@ -125,6 +125,12 @@ bool JobStatus::saysMoreThanItsState() const { return !remarksOf(reasons).empty(
 
 Sentence JobStatus::text() const { return withRemarks(rowOf(state).text, remarksOf(reasons)); }
 
+std::optional<int> kilobytesAtServer(const ServerConnection& connection,
+                                     const DestinationName& destination, int jobId) {
+  const IppMessage answer = answerTo(connection.get(), jobRequest(destination, jobId));
+  return answer ? ippNumber(answer.get(), "job-k-octets") : std::nullopt;
+}
+
 Result<JobStatus> jobStatus(const ServerOptions& server, const DestinationName& destination,
                             int jobId) {
   const auto connection = ServerConnection::open(server);

@@ -11,6 +11,8 @@
 
 namespace cutline {
 
+class ServerConnection;
+
 enum class JobState { pending, held, processing, stopped, canceled, aborted, completed };
 
 struct JobStatus {
@@ -34,6 +36,10 @@ struct JobStatus {
 // Asks the server, so it may block.
 Result<JobStatus> jobStatus(const ServerOptions& server, const DestinationName& destination,
                             int jobId);
+
+// JobStatus::kilobytes alone, asked on a connection that is there.
+std::optional<int> kilobytesAtServer(const ServerConnection& connection,
+                                     const DestinationName& destination, int jobId);
 
 // The same question about one's own job, wherever it is by now, and of its state alone; nothing
 // where the server does not tell, or has forgotten the job.

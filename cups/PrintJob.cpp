@@ -134,13 +134,23 @@ Sending send(ServerConnection& connection, Outgoing& job) {
   return sending;
 }
 
+// The way of the document may end with its answer.
+std::optional<int> kilobytesOf(const ServerOptions& server, const ServerConnection& connection,
+                               const Outgoing& job) {
+  const DestinationName& name = job.request.destination;
+  if (const auto told = kilobytesAtServer(connection, name, job.jobId)) return told;
+  const auto status = jobStatus(server, name, job.jobId);
+  return status ? status->kilobytes : std::nullopt;
+}
+
 // Asks the server what it has of the document. A server that does not tell, or has forgotten the
 // job already, is believed: it said that it has taken it.
-Sending arrived(const ServerOptions& server, const Outgoing& job) {
+Sending arrived(const ServerOptions& server, const ServerConnection& connection,
+                const Outgoing& job) {
   constexpr std::uint64_t kKilobyte = 1024;
-  const auto status = jobStatus(server, job.request.destination, job.jobId);
-  if (!status || !status->kilobytes) return Sending::done;
-  const bool isWhole = *status->kilobytes * kKilobyte >= job.document.size;
+  const auto kilobytes = kilobytesOf(server, connection, job);
+  if (!kilobytes) return Sending::done;
+  const bool isWhole = *kilobytes * kKilobyte >= job.document.size;
   return isWhole ? Sending::done : Sending::incomplete;
 }
 
@@ -210,7 +220,7 @@ Result<int> submitJob(const ServerOptions& server, const PrintRequest& request,
   if (!connection) return connection.error();
 
   Sending sending = send(*connection, job);
-  if (sending == Sending::done) sending = arrived(server, job);
+  if (sending == Sending::done) sending = arrived(server, *connection, job);
   if (sending == Sending::done) return job.jobId;
   const Error error = whyNotSent(sending, request);
   connection = Error{};  // hangs up in the middle of the request, so the server drops it

@@ -86,7 +86,7 @@ TEST_F(Encodings, DefaultsBeforePrintingAreUTF8) {
 // What is ASCII by the rules of PPDs is read as such, whatever the system writes.
 class EncodingsOnEBCDIC : public PanelTest {
  protected:
-  TestPlatform ebcdic{"ibm-037"};
+  TestPlatform ebcdic{"IBM037"};
 };
 
 TEST_F(EncodingsOnEBCDIC, KeywordsAreReadAlike) {

@@ -140,9 +140,12 @@ TEST_F(PortalTest, TwoApplicationsHaveADialogEach) {
   }
   press(dialogWith("Print 5 labels"), "Print 5 labels");
   EXPECT_TRUE(waitForDialogs(1));
+  // A dialog that has much to do is not seen for a moment.
+  EXPECT_TRUE(waitUntil([this] { return !nothingNew(); }));
   EXPECT_EQ(newJob().number("labels"), 5);
   press(dialogWith("Print 3 labels"), "Print 3 labels");
   EXPECT_TRUE(waitForDialogs(0));
+  EXPECT_TRUE(waitUntil([this] { return !nothingNew(); }));
   EXPECT_EQ(newJob().number("labels"), 3);
 }
 
