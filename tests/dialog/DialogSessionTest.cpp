@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QImage>
 #include <QLabel>
 #include <QScreen>
@@ -11,12 +12,14 @@
 #include <algorithm>
 #include <filesystem>
 #include <future>
+#include <map>
 
 #include "host/core/CommandLine.h"
 #include "host/core/Installation.h"
 #include "host/core/PluginLoader.h"
 #include "host/dialog/DialogSession.h"
 #include "host/dialog/OpenBar.h"
+#include "host/dialog/PanelViews.h"
 #include "host/dialog/Remembered.h"
 #include "tests/dialog/DialogTest.h"
 
@@ -78,6 +81,50 @@ class DialogSessionTest : public testing::Test {
   std::string mErrors;
   QObject mTimers;
 };
+
+// Which widgets were painted when the dialog was seen for the first time, and where.
+class FirstFrame : public QObject {
+ public:
+  FirstFrame() { QApplication::instance()->installEventFilter(this); }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (mIsOver || event->type() != QEvent::Paint) return false;
+    if (qobject_cast<PrintDialog*>(watched))
+      QTimer::singleShot(0, this, [this] { mIsOver = true; });
+    if (auto* widget = qobject_cast<QWidget*>(watched)) mPlaces[widget] = placeOf(*widget);
+    return false;
+  }
+
+  bool isOver() const { return mIsOver; }
+  bool has(QWidget* widget) const { return mPlaces.contains(widget); }
+  // Whether it still lies where it was painted.
+  bool stays(QWidget* widget) const { return mPlaces.at(widget) == placeOf(*widget); }
+
+ private:
+  static QRect placeOf(QWidget& widget) {
+    return {widget.mapTo(widget.window(), QPoint()), widget.size()};
+  }
+
+  std::map<QWidget*, QRect> mPlaces;
+  bool mIsOver = false;
+};
+
+// What is seen first is where it stays.
+TEST_F(DialogSessionTest, TheFirstFrameHasThePanel) {
+  const FirstFrame frame;
+  closeWhen([&] {
+    if (!frame.isOver() || !shows("12 labels")) return false;
+    int ofThePanel = 0;
+    for (QCheckBox* box : shownDialog()->findChildren<QCheckBox*>()) {
+      if (box->visibleRegion().isEmpty()) continue;
+      EXPECT_TRUE(frame.has(box) && frame.stays(box)) << box->text().toStdString();
+      ofThePanel += shownDialog()->findChild<PanelFrame*>()->isAncestorOf(box) ? 1 : 0;
+    }
+    EXPECT_GT(ofThePanel, 0);
+    return true;
+  });
+  run();
+}
 
 TEST_F(DialogSessionTest, TheSnapshotHoldsPanelAndDocument) {
   const QTemporaryDir directory;
