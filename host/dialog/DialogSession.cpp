@@ -259,20 +259,16 @@ void DialogSession::open(const PrinterChoice& printer) {
 
 void DialogSession::show() {
   if (mDialog->isVisible()) return;
-  // Layouts of what is not seen yet keep what they knew of it, and learn what has changed with the
-  // next turn of the loop of events; the panel would be missing in the first frame.
-  for (QWidget* each : mDialog->findChildren<QWidget*>()) each->updateGeometry();
   QSize size = kWindowSize;
   if (isForAPerson(mLine)) {
     const QSize last = Remembered().windowSize();
     if (!last.isEmpty()) size = last;
   }
-  size = size.expandedTo(mDialog->minimumSizeHint());
   if (mLine.command != Command::snapshot) {
     const QSize room = mDialog->screen()->availableSize() - QSize(kScreenMargin, kScreenMargin);
     size = size.boundedTo(room);
   }
-  mDialog->resize(size);
+  mDialog->layOut(size);
   if (mLine.parentWindow) setParentWindow(*mDialog, *mLine.parentWindow);
   mDialog->show();
 }

@@ -85,6 +85,8 @@ class PrintDialog : public QDialog, private PrintModelListener {
   // What is in the dialog now.
   const std::vector<std::string>& documents() const noexcept { return mSource.paths; }
 
+  // Before it is shown: takes the size, or what it needs at least, and lays itself out in it.
+  void layOut(QSize size);
   // What can be opened again at a click, newest first.
   void setRecentDocuments(const std::vector<std::string>& paths);
 

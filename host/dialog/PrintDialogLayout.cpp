@@ -77,6 +77,17 @@ void PrintDialog::makeLayout() {
   column->addWidget(mBottom);
 }
 
+// Layouts of what is not seen yet keep what they knew of it, and learn what has changed with the
+// next turn of the loop of events: the first frame would be without the panel.
+void PrintDialog::layOut(QSize size) {
+  for (QWidget* each : findChildren<QWidget*>()) each->updateGeometry();
+  resize(size.expandedTo(minimumSizeHint()));
+  layout()->activate();
+  auto* settings = findChild<SettingsPane*>();
+  settings->arrange();
+  settings->updateGeometry();
+}
+
 QWidget* PrintDialog::makeJobSide() {
   auto* side = new QWidget(mSettings);
   auto* column = new QVBoxLayout(side);

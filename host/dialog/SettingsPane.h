@@ -40,6 +40,8 @@ class SettingsPane : public QScrollArea {
   // All settings, without having to scroll.
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
+  // Chooses the columns by the width that it has. Needed only before it is shown.
+  void arrange();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -47,8 +49,6 @@ class SettingsPane : public QScrollArea {
   void showEvent(QShowEvent* event) override;
 
  private:
-  void arrange();
-
   QWidget* mFirst;
   QWidget* mSecond;
   QBoxLayout* mColumns;
