@@ -120,6 +120,8 @@ TEST_P(WithoutWindow, PrintsWhatTheDialogPrints) {
   }
 }
 
+// Where a sanitizer watches, the programs that look at documents are heard, too.
+#ifndef __SANITIZE_ADDRESS__
 constexpr const char* kGuiLibraries[] = {"libQt6", "libX11", "libxcb", "libwayland", "libpoppler"};
 
 TEST_F(EndToEndTest, CommandsWithoutAWindowLoadNoGuiLibrary) {
@@ -142,6 +144,7 @@ TEST_F(EndToEndTest, CommandsWithoutAWindowLoadNoGuiLibrary) {
   EXPECT_EQ(shown.status, kExitDone) << shown.output;
   EXPECT_NE(shown.errors.find("libQt6Widgets"), std::string::npos);
 }
+#endif
 
 }  // namespace
 
