@@ -73,25 +73,28 @@ TEST_F(StripViewTest, WantsThePagesThatItIsScrolledTo) {
   EXPECT_EQ(mWanted.back().page, 39);
 }
 
-TEST(StripViewInAWindow, HasNoBarsInItsFirstFrameThatItWillNotNeed) {
+// In a window of 1000 by 300; nothing that waits for the loop of events has come.
+struct ShownStrip {
+  explicit ShownStrip(unsigned pages) : strip(new StripView(&window)) {
+    (new QVBoxLayout(&window))->addWidget(strip);
+    strip->setContent(jobOf(pages));
+    window.resize(1000, 300);
+    window.show();
+  }
+
   QWidget window;
-  auto* strip = new StripView(&window);
-  (new QVBoxLayout(&window))->addWidget(strip);
-  strip->setContent(jobOf(3));
-  window.resize(1000, 300);
-  window.show();
-  EXPECT_FALSE(strip->horizontalScrollBar()->isVisible());
-  EXPECT_FALSE(strip->verticalScrollBar()->isVisible());
+  StripView* strip;
+};
+
+TEST(StripViewInItsFirstFrame, HasNoBarsWhereAllIsSeen) {
+  const ShownStrip shown(3);
+  EXPECT_FALSE(shown.strip->horizontalScrollBar()->isVisible());
+  EXPECT_FALSE(shown.strip->verticalScrollBar()->isVisible());
 }
 
-TEST(StripViewInAWindow, HasTheBarsThatItNeedsInItsFirstFrame) {
-  QWidget window;
-  auto* strip = new StripView(&window);
-  (new QVBoxLayout(&window))->addWidget(strip);
-  strip->setContent(jobOf(400));
-  window.resize(1000, 300);
-  window.show();
-  EXPECT_TRUE(strip->verticalScrollBar()->isVisible());
+TEST(StripViewInItsFirstFrame, HasABarWhereThereIsMore) {
+  const ShownStrip shown(400);
+  EXPECT_TRUE(shown.strip->verticalScrollBar()->isVisible());
 }
 
 TEST_F(StripViewTest, WantsNoPageTwice) {
