@@ -83,6 +83,14 @@ bool answers(http_t* http) {
 
 }  // namespace
 
+// Works around libcups 2.4.2, which loses what unpacks a body when that is not read to its end. To
+// flush it is the end; no more can come by then, however much the server would send.
+void ServerConnection::Close::operator()(http_t* http) const noexcept {
+  ::shutdown(httpGetFd(http), SHUT_RDWR);
+  httpFlush(http);
+  httpClose(http);
+}
+
 ServerConnection::ServerConnection(http_t* http) : mHttp(http) {
   limitTime();
   httpSetTimeout(http, static_cast<double>(kServerPatience.count()), giveUp, nullptr);

@@ -31,7 +31,7 @@ class ServerConnection {
 
  private:
   struct Close {
-    void operator()(http_t* http) const noexcept { httpClose(http); }
+    void operator()(http_t* http) const noexcept;
   };
   explicit ServerConnection(http_t* http);
   std::unique_ptr<http_t, Close> mHttp;
