@@ -37,13 +37,13 @@ struct JobStatus {
 Result<JobStatus> jobStatus(const ServerOptions& server, const DestinationName& destination,
                             int jobId);
 
-// JobStatus::kilobytes alone, asked on a connection that is there.
-std::optional<int> kilobytesAtServer(const ServerConnection& connection,
-                                     const DestinationName& destination, int jobId);
-
 // The same question about one's own job, wherever it is by now, and of its state alone; nothing
 // where the server does not tell, or has forgotten the job.
 std::optional<JobState> jobState(const ServerOptions& server, int jobId);
+
+// JobStatus::kilobytes alone, asked on a connection that is there; nothing where no answer comes.
+std::optional<int> kilobytesAtServer(const ServerConnection& connection,
+                                     const DestinationName& destination, int jobId);
 
 // The job as people and the server's commands name it: PRINTER-NUMBER.
 std::string jobName(const DestinationName& destination, int jobId);

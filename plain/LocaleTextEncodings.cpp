@@ -71,8 +71,9 @@ bool isKnown(const std::string& codeset) {
   return codeset == kUTF8 || transcoded({}, codeset, kUTF8);
 }
 
-// Bytes that are to be in an encoding, and are text of it as they stand.
-std::optional<std::string> checked(std::string_view bytes, bool isText) {
+// Of the encodings that have the bytes of UTF-8.
+std::optional<std::string> sameInUtf8(std::string_view bytes, TextEncoding encoding) {
+  const bool isText = encoding == TextEncoding::ascii ? isAscii(bytes) : isUtf8(bytes);
   if (!isText) return std::nullopt;
   return std::string(bytes);
 }
@@ -97,32 +98,20 @@ LocaleTextEncodings::LocaleTextEncodings(std::string systemCodeset)
 
 std::optional<std::string> LocaleTextEncodings::decode(std::string_view bytes,
                                                        TextEncoding encoding) const noexcept {
-  switch (encoding) {
-    case TextEncoding::ascii:
-      return checked(bytes, isAscii(bytes));
-    case TextEncoding::macRoman:
-      return fromMacRoman(bytes);
-    case TextEncoding::system:
-      if (mSystemCodeset != kUTF8) return transcoded(bytes, mSystemCodeset, kUTF8);
-      [[fallthrough]];
-    default:
-      return checked(bytes, isUtf8(bytes));
-  }
+  if (encoding == TextEncoding::macRoman) return fromMacRoman(bytes);
+  if (isOwn(encoding)) return transcoded(bytes, mSystemCodeset, kUTF8);
+  return sameInUtf8(bytes, encoding);
 }
 
 std::optional<std::string> LocaleTextEncodings::encode(std::string_view utf8,
                                                        TextEncoding encoding) const noexcept {
-  switch (encoding) {
-    case TextEncoding::ascii:
-      return checked(utf8, isAscii(utf8));
-    case TextEncoding::macRoman:
-      return toMacRoman(utf8);
-    case TextEncoding::system:
-      if (mSystemCodeset != kUTF8) return transcoded(utf8, kUTF8, mSystemCodeset);
-      [[fallthrough]];
-    default:
-      return checked(utf8, isUtf8(utf8));
-  }
+  if (encoding == TextEncoding::macRoman) return toMacRoman(utf8);
+  if (isOwn(encoding)) return transcoded(utf8, kUTF8, mSystemCodeset);
+  return sameInUtf8(utf8, encoding);
+}
+
+bool LocaleTextEncodings::isOwn(TextEncoding encoding) const noexcept {
+  return encoding == TextEncoding::system && mSystemCodeset != kUTF8;
 }
 
 std::vector<TextEncoding> LocaleTextEncodings::availableStringEncodings() const noexcept {

@@ -28,6 +28,9 @@ class LocaleTextEncodings final : public TextEncodings {
   std::vector<TextEncoding> availableStringEncodings() const noexcept override;
 
  private:
+  // Whether it is the system's and not UTF-8.
+  bool isOwn(TextEncoding encoding) const noexcept;
+
   std::string mSystemCodeset;
 };
 

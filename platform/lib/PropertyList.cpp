@@ -41,6 +41,7 @@ class ListReader {
   void open(std::string_view name) {
     if (mIsRefused) return;
     const ListElement* element = listElement(name);
+    // The list itself is one of those that are open.
     if (!element || mOpen.size() > kDeepest + 1 || !mayHold(*element)) return refuse();
     mOpen.push_back({element});
   }

@@ -123,7 +123,7 @@ TEST_F(DialogSessionTest, TheFirstFrameHasThePanel) {
     EXPECT_GT(ofThePanel, 0);
     return true;
   });
-  run();
+  EXPECT_EQ(run(), kExitCancelled);
 }
 
 TEST_F(DialogSessionTest, TheSnapshotHoldsPanelAndDocument) {
