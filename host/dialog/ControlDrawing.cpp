@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 
+#include "host/dialog/BoxDrawing.h"
+
 namespace cutline {
 namespace {
 
@@ -31,15 +33,6 @@ QColor shaded(const QColor& colour, const QStyleOption& option) {
   return has(option, QStyle::State_MouseOver) ? colour.darker(kHoverShade) : colour;
 }
 
-// Its line lies on whole pixels.
-void drawBox(QPainter& painter, const QRectF& rect, double radius, const QColor& fill,
-             const QColor& edge) {
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(edge);
-  painter.setBrush(fill);
-  painter.drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
-}
-
 void drawRing(QPainter& painter, const QRectF& rect, const QColor& colour) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(colour, 1));
@@ -63,7 +56,7 @@ void drawButtonPanel(QPainter& painter, const QStyleOption& option) {
   const QColor plain = option.palette.color(isOn ? QPalette::Midlight : QPalette::Button);
   const QColor edge = filled || hasKeyboard(option) ? accent : option.palette.color(QPalette::Mid);
   painter.save();
-  drawBox(painter, option.rect, kButtonRadius, shaded(filled ? accent : plain, option), edge);
+  drawBox(painter, option.rect, {kButtonRadius, shaded(filled ? accent : plain, option), edge});
   if (hasKeyboard(option))
     drawRing(painter, option.rect,
              filled ? option.palette.color(QPalette::HighlightedText) : accent);
@@ -76,8 +69,9 @@ void drawFlatButton(QPainter& painter, const QStyleOption& option) {
   const QColor accent = option.palette.color(QPalette::Highlight);
   const QColor ground = option.palette.color(QPalette::Midlight);
   painter.save();
-  drawBox(painter, option.rect, kButtonRadius, isTouched ? shaded(ground, option) : Qt::transparent,
-          hasKeyboard(option) ? accent : Qt::transparent);
+  drawBox(painter, option.rect,
+          {kButtonRadius, isTouched ? shaded(ground, option) : Qt::transparent,
+           hasKeyboard(option) ? accent : Qt::transparent});
   if (hasKeyboard(option)) drawRing(painter, option.rect, accent);
   painter.restore();
 }
@@ -89,7 +83,8 @@ void drawCheckMark(QPainter& painter, const QStyleOption& option) {
   const QColor ground = palette.color(isOn ? QPalette::Highlight : QPalette::Base);
   const QColor edge = isOn ? ground : palette.color(QPalette::PlaceholderText);
   painter.save();
-  drawBox(painter, option.rect, kButtonRadius - 1, shaded(ground, option), shaded(edge, option));
+  drawBox(painter, option.rect, {kButtonRadius - 1, shaded(ground, option), shaded(edge, option)});
+  painter.setRenderHint(QPainter::Antialiasing);
   painter.translate(option.rect.topLeft());
   painter.scale(option.rect.width() / kTickSide, option.rect.height() / kTickSide);
   painter.setPen(QPen(palette.color(QPalette::HighlightedText), kTickStroke, Qt::SolidLine,

@@ -8,6 +8,7 @@
 #include <QScrollBar>
 
 #include "host/dialog/Appearance.h"
+#include "host/dialog/BoxDrawing.h"
 
 namespace cutline {
 namespace {
@@ -36,17 +37,14 @@ void Card::add(QWidget* part) { mColumn->addWidget(part); }
 
 void Card::addStretch() { mColumn->addStretch(1); }
 
-// Its edge seldom changes, and takes longer to paint than what lies within.
+// Its edge seldom changes.
 void Card::paintEvent(QPaintEvent* event) {
   const CardColours& colours = isDark(palette()) ? kDarkCards : kLightCards;
   QPainter painter(this);
   const int edge = static_cast<int>(kCardRadius);
   if (rect().adjusted(edge, edge, -edge, -edge).contains(event->rect()))
     return painter.fillRect(event->rect(), QColor(colours.ground));
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QColor(colours.edge));
-  painter.setBrush(QColor(colours.ground));
-  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kCardRadius, kCardRadius);
+  drawBox(painter, rect(), {kCardRadius, QColor(colours.ground), QColor(colours.edge)});
 }
 
 SettingsPane::SettingsPane(QWidget* content, QWidget* first, QWidget* second, QWidget* parent)

@@ -1,7 +1,6 @@
 #include "host/dialog/StripPane.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -20,9 +19,9 @@ constexpr int kPaneGap = 12;
 StripPane::StripPane(QWidget* parent)
     : QWidget(parent),
       mStrip(new StripView(this)),
-      mSentence(new WrappedLabel(this)),
+      mSentence(new LabelRoom(this)),
       mPrevious(makeButton(tr("Previous label"), &StripPane::showPrevious)),
-      mPosition(new WrappedLabel(this)),
+      mPosition(new LabelRoom(this)),
       mNext(makeButton(tr("Next label"), &StripPane::showNext)),
       mZoomOut(makeButton(tr("Zoom out"), &StripPane::zoomOut)),
       mFit(makeButton(tr("Fit the job into the view"), &StripPane::zoomToFit)),
@@ -52,7 +51,7 @@ void StripPane::makeLayout() {
   QFont larger = mSentence->font();
   larger.setPointSizeF(larger.pointSizeF() * kSentenceShare);
   mSentence->setFont(larger);
-  mPosition->setForegroundRole(QPalette::PlaceholderText);
+  mPosition->label().setForegroundRole(QPalette::PlaceholderText);
 }
 
 QToolButton* StripPane::makeButton(const QString& name, void (StripPane::*step)()) {

@@ -6,10 +6,11 @@
 
 #include "host/dialog/StripView.h"
 
-class QLabel;
 class QToolButton;
 
 namespace cutline {
+
+class LabelRoom;
 
 class StripPane : public QWidget {
   Q_OBJECT
@@ -34,9 +35,9 @@ class StripPane : public QWidget {
   void zoomIn();
 
   StripView* mStrip;
-  QLabel* mSentence;
+  LabelRoom* mSentence;
   QToolButton* mPrevious;
-  QLabel* mPosition;
+  LabelRoom* mPosition;
   QToolButton* mNext;
   QToolButton* mZoomOut;
   QToolButton* mFit;

@@ -55,7 +55,6 @@ void StripView::LabelPainter::paintLabel(std::uint64_t label) const {
   const QRectF area = printableAsSeen(mView.mContent->label);
   const QRectF whole = seen(label);
   mPainter.save();
-  mPainter.setRenderHint(QPainter::Antialiasing);
   mPainter.setBrush(Qt::NoBrush);
   mPainter.setPen(QPen(mColours.printable, mCanvas.hair(), Qt::DotLine));
   const double half = mCanvas.hair() / 2;

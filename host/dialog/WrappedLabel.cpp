@@ -1,5 +1,7 @@
 #include "host/dialog/WrappedLabel.h"
 
+#include <QEvent>
+
 namespace cutline {
 
 WrappedLabel::WrappedLabel(QWidget* parent) : QLabel(parent) {
@@ -16,6 +18,37 @@ int WrappedLabel::heightForWidth(int width) const {
   const auto known = mHeights.constFind(width);
   if (known != mHeights.cend()) return *known;
   return *mHeights.insert(width, QLabel::heightForWidth(width));
+}
+
+LabelRoom::LabelRoom(QWidget* parent) : QWidget(parent), mLabel(new WrappedLabel(this)) {
+  QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
+  policy.setHeightForWidth(true);
+  setSizePolicy(policy);
+}
+
+void LabelRoom::setText(const QString& text) {
+  if (text == mLabel->text()) return;
+  mLabel->setText(text);
+  askForHeight();
+}
+
+QSize LabelRoom::sizeHint() const { return {0, mLabel->fontMetrics().height()}; }
+
+QSize LabelRoom::minimumSizeHint() const { return sizeHint(); }
+
+// The label's wish to be laid out, as of another font, comes here.
+bool LabelRoom::event(QEvent* event) {
+  if (event->type() == QEvent::LayoutRequest) askForHeight();
+  return QWidget::event(event);
+}
+
+void LabelRoom::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  mLabel->setGeometry(rect());
+}
+
+void LabelRoom::askForHeight() {
+  if (heightForWidth(width()) != height()) updateGeometry();
 }
 
 }  // namespace cutline
