@@ -53,8 +53,7 @@ const QImage& leastBox(const BoxLook& look, int ratio) {
       std::ranges::find_if(boxes, [&](const LeastBox& box) { return box.isOf(look, ratio); });
   if (known != boxes.end()) return known->picture;
   if (boxes.size() == kMostLooks) boxes.clear();  // another theme's, by now
-  boxes.push_back(
-      {look.fill.rgba(), look.edge.rgba(), look.radius, ratio, pictureOf(look, ratio)});
+  boxes.push_back({look.fill.rgba(), look.edge.rgba(), look.radius, ratio, pictureOf(look, ratio)});
   return boxes.back().picture;
 }
 

@@ -1,5 +1,8 @@
 #include "host/dialog/DocumentPages.h"
 
+#include <sys/resource.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -22,6 +25,15 @@ struct DocumentLoader::Drawn {
 namespace {
 
 constexpr int kPatienceMilliseconds = 300;
+constexpr int kNiceness = 10;  // above the window's own
+
+// Where there is one processor for both, the window is drawn before its document. For the calling
+// thread and the programs that it starts; a system that refuses loses nothing else.
+void giveWayToWindow() {
+  const auto thread = static_cast<id_t>(::gettid());
+  static_cast<void>(
+      ::setpriority(PRIO_PROCESS, thread, ::getpriority(PRIO_PROCESS, 0) + kNiceness));
+}
 
 // Whether both ask for the same: where the content chooses the length, the paper's says nothing.
 bool isSame(CompositionRequest one, CompositionRequest other) {
@@ -82,6 +94,7 @@ void DocumentLoader::ask(bool isFirst) {
   mBackground.start([this, isFirst, asked = ++mAsked, paths = mPaths, tools = mTools,
                      request = std::move(request),
                      stop = mStop.get_token()]() -> Background::Delivery {
+    giveWayToWindow();
     const Result<ComposedDocument> composed = tools.compose(paths, request, stop);
     if (!composed) {
       return [this, asked, isFirst, error = composed.error()] { take(asked, isFirst, error); };

@@ -1,8 +1,10 @@
 // The loader of documents: what it composes and draws, in which order, and what it drops.
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include <QTest>
 #include <QThread>
+#include <atomic>
 
 #include "host/dialog/DocumentPages.h"
 #include "tests/dialog/DialogTest.h"
@@ -67,6 +69,29 @@ class DocumentPagesTest : public testing::Test {
   bool mIsSettled = false;
   DocumentLoader mLoader;
 };
+
+// What is drawn gives way, too: the drawer is started by the thread that composes.
+TEST_F(DocumentPagesTest, ComposingGivesWayToTheWindow) {
+  const int own = ::getpriority(PRIO_PROCESS, 0);
+  std::atomic<int> composing{own};
+  std::atomic<int> opening{own};
+  DocumentTools tools = mComposer->tools();
+  const DocumentTools fake = tools;
+  tools.compose = [&, fake](const auto& paths, const auto& request, std::stop_token stop) {
+    composing = ::getpriority(PRIO_PROCESS, 0);
+    return fake.compose(paths, request, std::move(stop));
+  };
+  tools.open = [&, fake](const ComposedDocument& composed) {
+    opening = ::getpriority(PRIO_PROCESS, 0);
+    return fake.open(composed);
+  };
+  mLoader.setDocuments({"/nowhere/labels.pdf"}, tools);
+  compose(requestFor());
+  ASSERT_TRUE(settle());
+  EXPECT_GT(composing, own);
+  EXPECT_GT(opening, own);
+  EXPECT_EQ(::getpriority(PRIO_PROCESS, 0), own);
+}
 
 TEST_F(DocumentPagesTest, TheFirstLabelIsComposedBeforeTheRest) {
   setDocument();
