@@ -50,6 +50,9 @@ if(CUTLINE_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined
                       -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL Clang)
+    add_compile_definitions(__SANITIZE_ADDRESS__=1)  # as gcc has it
+  endif()
 endif()
 
 if(CUTLINE_RACES)
@@ -77,7 +80,7 @@ if(CUTLINE_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
-if(CUTLINE_FUZZ OR CUTLINE_COVERAGE)
+if(CMAKE_CXX_COMPILER_ID STREQUAL Clang)
   # clang 14 cannot take one of qpdf's headers.
   add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-DJSON_HH>
                       $<$<COMPILE_LANGUAGE:CXX>:-include${CMAKE_SOURCE_DIR}/cmake/QpdfJson.h>)
@@ -100,9 +103,10 @@ function(cutline_sources OUT)
   set(${OUT} ${FOUND} PARENT_SCOPE)
 endfunction()
 
-# Test programs end in <build>/tests; the list of them is what the test command runs.
+# Test programs end in <build>/tests; the list of them is what the test command runs. SHARDS: in so many
+# processes, for programs that wait for most of their time. Each leaves its report in <build>/reports.
 function(cutline_add_test NAME)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LIBS;ENVIRONMENT" ${ARGN})
+  cmake_parse_arguments(ARG "" "SHARDS" "SOURCES;LIBS;ENVIRONMENT" ${ARGN})
   add_executable(${NAME} ${ARG_SOURCES})
   target_link_libraries(${NAME} PRIVATE ${ARG_LIBS})
   set_target_properties(${NAME} PROPERTIES
@@ -110,6 +114,20 @@ function(cutline_add_test NAME)
     INSTALL_RPATH "$ORIGIN/../${CUTLINE_LIB_DIR}")
   target_compile_definitions(${NAME} PRIVATE
     CUTLINE_SOURCE_DIR="${CMAKE_SOURCE_DIR}" CUTLINE_BUILD_DIR="${CMAKE_BINARY_DIR}")
-  add_test(NAME ${NAME} COMMAND ${NAME})
-  set_tests_properties(${NAME} PROPERTIES TIMEOUT 1800 ENVIRONMENT "${ARG_ENVIRONMENT}")
+  if(NOT ARG_SHARDS)
+    cutline_add_run(${NAME} ${NAME} "${ARG_ENVIRONMENT}")
+    return()
+  endif()
+  foreach(SHARD RANGE 1 ${ARG_SHARDS})
+    math(EXPR INDEX "${SHARD} - 1")
+    cutline_add_run(${NAME}_${SHARD} ${NAME}
+      "${ARG_ENVIRONMENT};GTEST_TOTAL_SHARDS=${ARG_SHARDS};GTEST_SHARD_INDEX=${INDEX}")
+    set_tests_properties(${NAME}_${SHARD} PROPERTIES COST 100)  # begins first
+  endforeach()
+endfunction()
+
+function(cutline_add_run NAME PROGRAM ENVIRONMENT)
+  add_test(NAME ${NAME} COMMAND ${PROGRAM})
+  set_tests_properties(${NAME} PROPERTIES TIMEOUT 1800
+    ENVIRONMENT "${ENVIRONMENT};GTEST_OUTPUT=xml:${CMAKE_BINARY_DIR}/reports/${NAME}.xml")
 endfunction()

@@ -13,6 +13,7 @@
 
 #include "platform/lib/Languages.h"
 #include "platform/ports/Controls.h"
+#include "tests/support/qt/waiting.h"
 
 namespace cutline {
 
@@ -47,7 +48,7 @@ std::string oddPpd(const std::string& name) {
 }
 
 bool waitUntil(const std::function<bool()>& condition) {
-  return QTest::qWaitFor(condition, kPatience);
+  return test::waitUntil(condition, kPatience);
 }
 
 DialogTest::DialogTest() : mPlatform(mToolkit) {}

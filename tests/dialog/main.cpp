@@ -14,6 +14,8 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   testing::InitGoogleTest(&argc, argv);
   const QApplication application(argc, argv);
+  // A test that closes its only window would end every loop that a later one waits in.
+  QApplication::setQuitOnLastWindowClosed(false);
   QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
   cutline::applyStyle();
   cutline::applyAppearance(false);
