@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <iterator>
+#include <optional>
 
 #include "base/FileDescriptor.h"
 #include "host/core/Installation.h"
@@ -30,9 +31,16 @@ std::string userSettings() {
   return home != nullptr && *home != '\0' ? std::string(home) + "/.config" : std::string();
 }
 
-// At most one byte more than a file may have.
-std::string contentsOf(const FileDescriptor& file) {
-  std::string text(kLargest + 1, '\0');
+// The size of a regular file; none of anything else.
+std::optional<std::size_t> sizeOf(const FileDescriptor& file) {
+  struct stat facts {};
+  if (fstat(file.get(), &facts) != 0 || !S_ISREG(facts.st_mode)) return std::nullopt;
+  return static_cast<std::size_t>(facts.st_size);
+}
+
+// At most one byte more than it is large, and than a file may have.
+std::string contentsOf(const FileDescriptor& file, std::size_t whole) {
+  std::string text(std::min(whole, kLargest) + 1, '\0');
   std::size_t size = 0;
   while (size < text.size()) {
     const ssize_t count = read(file.get(), text.data() + size, text.size() - size);
@@ -41,11 +49,6 @@ std::string contentsOf(const FileDescriptor& file) {
   }
   text.resize(size);
   return text;
-}
-
-bool isRegular(const FileDescriptor& file) {
-  struct stat facts {};
-  return fstat(file.get(), &facts) == 0 && S_ISREG(facts.st_mode);
 }
 
 bool isPlain(const std::string& text) {
@@ -61,7 +64,8 @@ CutWordsText readFile(const std::string& path) {
   if (!file && (errno == ENOENT || errno == ENOTDIR)) return {};
   if (!file)
     return {{}, {{Phrase("host", "\"%1\" cannot be read: %2"), {path, std::strerror(errno)}}}};
-  const std::string text = isRegular(file) ? contentsOf(file) : std::string(1, '\0');
+  const std::optional<std::size_t> size = sizeOf(file);
+  const std::string text = size ? contentsOf(file, *size) : std::string(1, '\0');
   if (isPlain(text)) return cutWordsIn(text, path);
   return {{},
           {{Phrase("host", "\"%1\" is left out: it is no plain text of at most %2 kB"),

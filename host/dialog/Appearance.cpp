@@ -145,6 +145,16 @@ void OutlinedStyle::drawControl(ControlElement element, const QStyleOption* opti
   QProxyStyle::drawControl(element, &onAccent, painter, widget);
 }
 
+void OutlinedStyle::drawItemText(QPainter* painter, const QRect& room, int flags,
+                                 const QPalette& palette, bool isEnabled, const QString& text,
+                                 QPalette::ColorRole role) const {
+  const QPen before = painter->pen();
+  if (role != QPalette::NoRole) painter->setPen(QPen(palette.brush(role), before.widthF()));
+  if (!mTexts.draw(*painter, room, flags, text))
+    QProxyStyle::drawItemText(painter, room, flags, palette, isEnabled, text, role);
+  painter->setPen(before);
+}
+
 void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                   QPainter* painter, const QWidget* widget) const {
   if (element == PE_IndicatorCheckBox) return drawCheckMark(*painter, *option);

@@ -4,6 +4,8 @@
 #include <QPalette>
 #include <QProxyStyle>
 
+#include "host/dialog/ControlTexts.h"
+
 namespace cutline {
 
 QPalette lightPalette();
@@ -45,9 +47,14 @@ class OutlinedStyle : public QProxyStyle {
                          const QWidget* widget) const override;
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
+  void drawItemText(QPainter* painter, const QRect& room, int flags, const QPalette& palette,
+                    bool isEnabled, const QString& text, QPalette::ColorRole role) const override;
   // Long lists open with a scroll bar, where Fusion would cover the screen with them.
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* answer) const override;
+
+ private:
+  mutable ControlTexts mTexts;  // a cache of what is drawn again and again
 };
 
 }  // namespace cutline
