@@ -15,8 +15,10 @@ namespace {
 constexpr qsizetype kMostTexts = 512;
 constexpr double kNoLimit = 1e6;
 constexpr QChar kMnemonicSign = QLatin1Char('&');
-constexpr int kKnownFlags =
-    Qt::AlignHorizontal_Mask | Qt::AlignVertical_Mask | Qt::TextSingleLine | Qt::TextShowMnemonic;
+// What has room on one line is not wrapped, and what has no tabs has none to expand.
+constexpr int kKnownFlags = Qt::AlignHorizontal_Mask | Qt::AlignVertical_Mask | Qt::TextSingleLine |
+                            Qt::TextShowMnemonic | Qt::TextWordWrap | Qt::TextExpandTabs |
+                            Qt::TextForceLeftToRight;
 
 // What the toolkit takes for a line's end, a tab or the end of a longer form of a text.
 bool isSpecial(QChar character) {

@@ -10,6 +10,8 @@ namespace cutline {
 namespace {
 
 constexpr QRect kRoom(5, 3, 330, 44);
+constexpr int kLabel =
+    Qt::AlignLeft | Qt::TextWordWrap | Qt::TextExpandTabs | Qt::TextForceLeftToRight;
 constexpr int kBox = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic;
 
 struct TextCase {
@@ -78,6 +80,9 @@ const std::array kTexts = std::to_array<TextCase>({
     {"OneLine", "Tape 24 mm", Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine},
     {"Accents", "D\u00e9coupe \u00e0 mi-chair", kBox},
     {"Japanese", "\u30cf\u30fc\u30d5\u30ab\u30c3\u30c8(&H)", kBox},
+    {"LabelOfAField", "&Copies:", kBox | Qt::TextForceLeftToRight},
+    {"OneLineOfMany", "12 labels, cut after each label", kLabel},
+    {"OneLineAbove", "12 labels, cut", kLabel | Qt::AlignTop},
     {"BlanksAround", " a b ", Qt::AlignCenter},
 });
 
@@ -98,7 +103,7 @@ const std::array kOthers = std::to_array<TextCase>({
     {"Empty", "", kBox},
     {"TwoLines", "one\ntwo", kBox},
     {"Tab", "one\ttwo", kBox},
-    {"Wrapped", "Half cut", kBox | Qt::TextWordWrap},
+    {"Wrapped", "12 labels, cut after each label, half cut between, 612 mm of tape", kLabel},
     {"HiddenMnemonic", "&Half cut", Qt::AlignLeft | Qt::TextHideMnemonic},
     {"FromRightToLeft", "\u05d7\u05d9\u05ea\u05d5\u05da", kBox},
     {"TooLong", "A text that is longer than all the room that there is for it in this test", kBox},
