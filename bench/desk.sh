@@ -31,6 +31,7 @@ display_server=$!
 read -r display <"$place/display"
 export DISPLAY=:$display
 
-# measure WORDS COMMAND...: the figures of $runs runs, after two that do not count.
-measure() { "$build/bench/launch" "$1" "$runs" 2 "${@:2}"; }
+# measure -- WORDS COMMAND... [-- WORDS COMMAND...]: the figures of $runs runs of each, started in turn, after
+# two that do not count.
+measure() { "$build/bench/launch" "$runs" 2 "$@"; }
 print_machine() { echo "# $runs runs after 2 warm-ups; $(nproc) cores, load $(cut -d' ' -f1 /proc/loadavg)"; }

@@ -1,7 +1,8 @@
-// launch LABEL RUNS WARMUPS COMMAND [ARGUMENT ...]
-// Runs a command again and again and prints, for each figure that it reports with a line
-// "MARK name value", and for the process as a whole, the median, the least and the greatest. The
-// command finds the moment of its own start (CLOCK_MONOTONIC, milliseconds) in LX_T0.
+// launch RUNS WARMUPS -- LABEL COMMAND [ARGUMENT ...] [-- LABEL COMMAND [ARGUMENT ...]] ...
+// Runs the commands in turn, again and again, so that a slower minute of the machine is
+// everybody's, and prints, for each figure that one reports with a line "MARK name value", and for
+// the process as a whole, the median, the least and the greatest. A command finds the moment of its
+// own start (CLOCK_MONOTONIC, milliseconds) in LX_T0.
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -9,9 +10,11 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <ctime>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -76,30 +79,52 @@ double median(std::vector<double> values) {
   return values.size() % 2 != 0 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
 }
 
-void print(const char* label, const Figures& figures) {
-  for (const auto& [name, values] : figures) {
-    const auto [least, greatest] = std::minmax_element(values.begin(), values.end());
-    std::printf("%-28s %-16s median %9.2f  min %9.2f  max %9.2f  n=%zu\n", label, name.c_str(),
-                median(values), *least, *greatest, values.size());
+struct Series {
+  const char* label;
+  std::vector<char*> command;  // null behind the last word
+  Figures figures = {};
+  int failures = 0;
+};
+
+// Each begins behind a "--" with its label.
+std::vector<Series> seriesIn(char** words) {
+  std::vector<Series> all;
+  while (*words != nullptr && std::strcmp(*words, "--") == 0 && words[1] != nullptr) {
+    Series series{*++words, {}};
+    while (*++words != nullptr && std::strcmp(*words, "--") != 0) series.command.push_back(*words);
+    if (series.command.empty()) return {};
+    series.command.push_back(nullptr);
+    all.push_back(std::move(series));
   }
+  return *words == nullptr ? all : std::vector<Series>();
+}
+
+void print(const Series& series) {
+  for (const auto& [name, values] : series.figures) {
+    const auto [least, greatest] = std::minmax_element(values.begin(), values.end());
+    std::printf("%-28s %-16s median %9.2f  min %9.2f  max %9.2f  n=%zu\n", series.label,
+                name.c_str(), median(values), *least, *greatest, values.size());
+  }
+  if (series.failures > 0) std::printf("%-28s FAILED RUNS %d\n", series.label, series.failures);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc < 5) {
-    std::fputs("usage: launch LABEL RUNS WARMUPS COMMAND [ARGUMENT ...]\n", stderr);
+  std::vector<Series> all = argc > 3 ? seriesIn(argv + 3) : std::vector<Series>();
+  if (all.empty()) {
+    std::fputs("usage: launch RUNS WARMUPS -- LABEL COMMAND [ARGUMENT ...] [-- ...]\n", stderr);
     return 2;
   }
-  const int runs = std::atoi(argv[2]);
-  const int warmups = std::atoi(argv[3]);
-  Figures figures;
-  int failures = 0;
+  const int runs = std::atoi(argv[1]);
+  const int warmups = std::atoi(argv[2]);
   for (int i = 0; i < warmups + runs; ++i) {
-    Figures ignored;
-    if (!runOnce(argv + 4, i < warmups ? ignored : figures)) ++failures;
+    for (Series& series : all) {
+      Figures ignored;
+      const bool isRun = runOnce(series.command.data(), i < warmups ? ignored : series.figures);
+      if (!isRun) ++series.failures;
+    }
   }
-  print(argv[1], figures);
-  if (failures > 0) std::printf("%-28s FAILED RUNS %d\n", argv[1], failures);
-  return failures > 0 ? 1 : 0;
+  for (const Series& series : all) print(series);
+  return std::ranges::any_of(all, [](const Series& each) { return each.failures > 0; }) ? 1 : 0;
 }
