@@ -92,7 +92,7 @@ ControlTexts::~ControlTexts() = default;
 
 bool ControlTexts::draw(QPainter& painter, const QRect& room, int flags, const QString& text) {
   if (!isPlain(text, flags) || painter.layoutDirection() == Qt::RightToLeft) return false;
-  const Line& line = laidOut(text, painter.font(), (flags & Qt::TextShowMnemonic) != 0);
+  const Line& line = laidOut(text, painter, (flags & Qt::TextShowMnemonic) != 0);
   const QPointF place = placeIn(room, line.size, flags);
   if (!QRectF(room).contains(QRectF(place, line.size))) return false;
   line.layout->draw(&painter, place);
@@ -109,20 +109,23 @@ void ControlTexts::drawUnderlines(QPainter& painter, const Line& line, QPointF p
   painter.setPen(before);
 }
 
-const ControlTexts::Line& ControlTexts::laidOut(const QString& text, const QFont& font,
+const ControlTexts::Line& ControlTexts::laidOut(const QString& text, const QPainter& painter,
                                                 bool hasMnemonic) {
   if (mLines.size() > kMostTexts) mLines.clear();
   std::shared_ptr<std::vector<Line>>& lines = mLines[text];
   if (!lines) lines = std::make_shared<std::vector<Line>>();
+  const QFont& font = painter.font();
+  const int dotsPerInch = painter.device()->logicalDpiY();
   const auto known = std::ranges::find_if(*lines, [&](const Line& line) {
-    return line.hasMnemonic == hasMnemonic && line.font == font;
+    return line.hasMnemonic == hasMnemonic && line.dotsPerInch == dotsPerInch && line.font == font;
   });
   if (known != lines->end()) return *known;
   Marked words = hasMnemonic ? marked(text) : Marked{text, {}};
   std::unique_ptr<QTextLayout> layout = layoutOf(words.text, font);
   const QTextLine line = layout->lineAt(0);
   const QSizeF size(line.naturalTextWidth(), line.ascent() + line.descent());
-  lines->push_back({font, hasMnemonic, std::move(layout), std::move(words.underlined), size});
+  lines->push_back(
+      {font, dotsPerInch, hasMnemonic, std::move(layout), std::move(words.underlined), size});
   return lines->back();
 }
 

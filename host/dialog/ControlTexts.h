@@ -26,6 +26,7 @@ class ControlTexts {
  private:
   struct Line {
     QFont font;
+    int dotsPerInch;  // of the screen, which another one may not have
     bool hasMnemonic;
     std::unique_ptr<QTextLayout> layout;
     std::vector<int> underlined;  // letters of the layout's text
@@ -33,7 +34,7 @@ class ControlTexts {
   };
 
   static void drawUnderlines(QPainter& painter, const Line& line, QPointF place);
-  const Line& laidOut(const QString& text, const QFont& font, bool hasMnemonic);
+  const Line& laidOut(const QString& text, const QPainter& painter, bool hasMnemonic);
 
   QHash<QString, std::shared_ptr<std::vector<Line>>> mLines;
 };

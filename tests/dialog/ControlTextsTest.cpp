@@ -112,6 +112,27 @@ const std::array kOthers = std::to_array<TextCase>({
 INSTANTIATE_TEST_SUITE_P(Texts, OtherTextsTest, testing::ValuesIn(kOthers),
                          [](const auto& info) { return std::string(info.param.name); });
 
+// As of a window that is moved to another screen.
+TEST(ControlTextsOfTwoScreens, AreAsLargeAsOnEach) {
+  ControlTexts texts;
+  const auto picture = [&texts](int dotsPerMetre, bool isControl) {
+    QImage drawn = ground(1);
+    drawn.setDotsPerMeterY(dotsPerMetre);
+    drawn.setDotsPerMeterX(dotsPerMetre);
+    QPainter painter(&drawn);
+    painter.setFont(QFont(QFont(), &drawn));
+    if (isControl)
+      EXPECT_TRUE(texts.draw(painter, kRoom, kBox, QStringLiteral("&Half cut")));
+    else
+      painter.drawText(kRoom, kBox, QStringLiteral("&Half cut"));
+    painter.end();
+    return drawn;
+  };
+  for (const int dotsPerMetre : {3780, 5670, 3780})
+    EXPECT_EQ(picture(dotsPerMetre, true), picture(dotsPerMetre, false)) << dotsPerMetre;
+  EXPECT_NE(picture(3780, true), picture(5670, true));
+}
+
 TEST(ManyControlTexts, AreForgottenAndDrawnAgain) {
   ControlTexts texts;
   for (int i = 0; i < 2000; ++i) {
