@@ -1,8 +1,6 @@
 #include "host/core/CutWordsFiles.h"
 
 #include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <array>
@@ -14,6 +12,7 @@
 
 #include "base/FileDescriptor.h"
 #include "host/core/Installation.h"
+#include "platform/lib/ResourceFile.h"
 
 namespace cutline {
 
@@ -31,31 +30,11 @@ std::string userSettings() {
   return home != nullptr && *home != '\0' ? std::string(home) + "/.config" : std::string();
 }
 
-// The size of a regular file; none of anything else.
-std::optional<std::size_t> sizeOf(const FileDescriptor& file) {
-  struct stat facts {};
-  if (fstat(file.get(), &facts) != 0 || !S_ISREG(facts.st_mode)) return std::nullopt;
-  return static_cast<std::size_t>(facts.st_size);
-}
-
-// At most one byte more than it is large, and than a file may have.
-std::string contentsOf(const FileDescriptor& file, std::size_t whole) {
-  std::string text(std::min(whole, kLargest) + 1, '\0');
-  std::size_t size = 0;
-  while (size < text.size()) {
-    const ssize_t count = read(file.get(), text.data() + size, text.size() - size);
-    if (count <= 0) break;
-    size += static_cast<std::size_t>(count);
-  }
-  text.resize(size);
-  return text;
-}
-
 bool isPlain(const std::string& text) {
   const auto isControl = [](unsigned char byte) {
     return (byte < ' ' && byte != '\t' && byte != '\n' && byte != '\r') || byte == 0x7f;
   };
-  return text.size() <= kLargest && std::ranges::none_of(text, isControl);
+  return std::ranges::none_of(text, isControl);
 }
 
 CutWordsText readFile(const std::string& path) {
@@ -64,9 +43,8 @@ CutWordsText readFile(const std::string& path) {
   if (!file && (errno == ENOENT || errno == ENOTDIR)) return {};
   if (!file)
     return {{}, {{Phrase("host", "\"%1\" cannot be read: %2"), {path, std::strerror(errno)}}}};
-  const std::optional<std::size_t> size = sizeOf(file);
-  const std::string text = size ? contentsOf(file, *size) : std::string(1, '\0');
-  if (isPlain(text)) return cutWordsIn(text, path);
+  const std::optional<std::string> text = readResource(file, kLargest);
+  if (text && isPlain(*text)) return cutWordsIn(*text, path);
   return {{},
           {{Phrase("host", "\"%1\" is left out: it is no plain text of at most %2 kB"),
             {path, std::to_string(kLargest / kKilobyte)}}}};

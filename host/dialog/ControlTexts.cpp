@@ -5,6 +5,7 @@
 #include <QTextOption>
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <ranges>
 #include <utility>
 
@@ -12,7 +13,7 @@ namespace cutline {
 namespace {
 
 // More than a dialog shows.
-constexpr qsizetype kMostTexts = 512;
+constexpr std::size_t kMostTexts = 512;
 constexpr double kNoLimit = 1e6;
 constexpr QChar kMnemonicSign = QLatin1Char('&');
 // What has room on one line is not wrapped, and what has no tabs has none to expand.
@@ -112,21 +113,20 @@ void ControlTexts::drawUnderlines(QPainter& painter, const Line& line, QPointF p
 const ControlTexts::Line& ControlTexts::laidOut(const QString& text, const QPainter& painter,
                                                 bool hasMnemonic) {
   if (mLines.size() > kMostTexts) mLines.clear();
-  std::shared_ptr<std::vector<Line>>& lines = mLines[text];
-  if (!lines) lines = std::make_shared<std::vector<Line>>();
+  std::vector<Line>& lines = mLines[text];
   const QFont& font = painter.font();
   const int dotsPerInch = painter.device()->logicalDpiY();
-  const auto known = std::ranges::find_if(*lines, [&](const Line& line) {
+  const auto known = std::ranges::find_if(lines, [&](const Line& line) {
     return line.hasMnemonic == hasMnemonic && line.dotsPerInch == dotsPerInch && line.font == font;
   });
-  if (known != lines->end()) return *known;
+  if (known != lines.end()) return *known;
   Marked words = hasMnemonic ? marked(text) : Marked{text, {}};
   std::unique_ptr<QTextLayout> layout = layoutOf(words.text, font);
   const QTextLine line = layout->lineAt(0);
   const QSizeF size(line.naturalTextWidth(), line.ascent() + line.descent());
-  lines->push_back(
+  lines.push_back(
       {font, dotsPerInch, hasMnemonic, std::move(layout), std::move(words.underlined), size});
-  return lines->back();
+  return lines.back();
 }
 
 }  // namespace cutline

@@ -3,10 +3,10 @@
 #pragma once
 
 #include <QFont>
-#include <QHash>
 #include <QPainter>
 #include <QString>
 #include <memory>
+#include <unordered_map>
 #include <vector>
 
 class QTextLayout;
@@ -36,7 +36,7 @@ class ControlTexts {
   static void drawUnderlines(QPainter& painter, const Line& line, QPointF place);
   const Line& laidOut(const QString& text, const QPainter& painter, bool hasMnemonic);
 
-  QHash<QString, std::shared_ptr<std::vector<Line>>> mLines;
+  std::unordered_map<QString, std::vector<Line>> mLines;
 };
 
 }  // namespace cutline

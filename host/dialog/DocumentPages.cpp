@@ -1,7 +1,6 @@
 #include "host/dialog/DocumentPages.h"
 
 #include <sys/resource.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cmath>
@@ -30,9 +29,7 @@ constexpr int kNiceness = 10;  // above the window's own
 // Where there is one processor for both, the window is drawn before its document. For the calling
 // thread and the programs that it starts; a system that refuses loses nothing else.
 void giveWayToWindow() {
-  const auto thread = static_cast<id_t>(::gettid());
-  static_cast<void>(
-      ::setpriority(PRIO_PROCESS, thread, ::getpriority(PRIO_PROCESS, 0) + kNiceness));
+  static_cast<void>(::setpriority(PRIO_PROCESS, 0, ::getpriority(PRIO_PROCESS, 0) + kNiceness));
 }
 
 // Whether both ask for the same: where the content chooses the length, the paper's says nothing.

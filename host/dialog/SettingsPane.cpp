@@ -37,7 +37,7 @@ void Card::add(QWidget* part) { mColumn->addWidget(part); }
 
 void Card::addStretch() { mColumn->addStretch(1); }
 
-// Its edge seldom changes.
+// What lies within its edge is a fill, and changes more often.
 void Card::paintEvent(QPaintEvent* event) {
   const CardColours& colours = isDark(palette()) ? kDarkCards : kLightCards;
   QPainter painter(this);

@@ -21,9 +21,7 @@ int WrappedLabel::heightForWidth(int width) const {
 }
 
 LabelRoom::LabelRoom(QWidget* parent) : QWidget(parent), mLabel(new WrappedLabel(this)) {
-  QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
-  policy.setHeightForWidth(true);
-  setSizePolicy(policy);
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
 }
 
 void LabelRoom::setText(const QString& text) {
