@@ -254,7 +254,8 @@ Result<Destination> findDestinationOn(const ServerConnection& connection,
 }
 
 bool serverAnswers(const ServerOptions& server) {
-  return static_cast<bool>(ServerConnection::open(server));
+  const auto connection = ServerConnection::open(server);
+  return connection && connection->isAnswered();
 }
 
 Result<Done> saveDestinationOptions(const DestinationName& name, const OptionList& options) {

@@ -84,6 +84,13 @@ Result<std::string> ppdContents(const std::string& path, const Sentence& name) {
   return ppdContents(std::move(file), name);
 }
 
+Result<std::string> unpackedPpd(std::string contents, const Sentence& name) {
+  if (!contents.starts_with(kPackedSign)) return contents;
+  FileDescriptor packed = memoryFile(contents);
+  if (!packed) return unopenedPpd(name, std::string(std::strerror(errno)));
+  return ppdContents(std::move(packed), name);
+}
+
 FileDescriptor memoryFile(std::string_view contents) {
   FileDescriptor file(memfd_create("ppd", MFD_CLOEXEC));
   const bool isWritten = file && writeAll(file.get(), contents.data(), contents.size());

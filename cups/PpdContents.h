@@ -19,6 +19,9 @@ Result<std::string> ppdContents(FileDescriptor file, const Sentence& name);
 // The same of a regular file; an error for every other kind, which could be without end.
 Result<std::string> ppdContents(const std::string& path, const Sentence& name);
 
+// The same of contents that are in memory, at most kLargestPpd of them.
+Result<std::string> unpackedPpd(std::string contents, const Sentence& name);
+
 // A new descriptor that reads these contents; none, with errno set, when there is no memory for it.
 FileDescriptor memoryFile(std::string_view contents);
 

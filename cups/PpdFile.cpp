@@ -138,13 +138,10 @@ Result<std::shared_ptr<PpdFile>> PpdFile::fetch(const ServerOptions& server,
 Result<std::shared_ptr<PpdFile>> PpdFile::fetchOn(const ServerConnection& connection,
                                                   const std::string& printer) {
   const Sentence name(Phrase("cups", "the PPD of \"%1\""), {printer});
-  const auto file =
-      fetchServerFile(connection.get(), "/printers/" + printer + ".ppd", kLargestPpd, name);
+  auto file = fetchServerFile(connection.get(), "/printers/" + printer + ".ppd", kLargestPpd, name);
   if (!file) return file.error();
   if (file->status != HTTP_STATUS_OK) return notFetched(connection.get(), printer, file->status);
-  FileDescriptor copy = memoryFile(file->contents);
-  if (!copy) return noMemoryFor(name);
-  Result<std::string> contents = ppdContents(std::move(copy), name);
+  Result<std::string> contents = unpackedPpd(std::move(file->contents), name);
   if (!contents) return contents.error();
   return read(std::move(*contents), name);
 }

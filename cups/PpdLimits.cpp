@@ -49,14 +49,20 @@ struct Counts {
   std::size_t statements = 0;
 };
 
+bool isOf(std::string_view line, std::string_view keyword) {
+  constexpr std::string_view kEnds = " \t:";
+  if (!line.starts_with(keyword)) return false;
+  return line.size() == keyword.size() || kEnds.find(line[keyword.size()]) != kEnds.npos;
+}
+
 // The parameters' keywords go on with the option's name.
 void count(std::string_view line, Counts& counts) {
   if (!line.starts_with(kStatementLimit.keyword)) return;
   ++counts.statements;
-  const std::string_view keyword = line.substr(0, line.find_first_of(" \t:"));
-  const auto* limit = std::ranges::find(kLimits, keyword, &Limit::keyword);
+  const auto* limit =
+      std::ranges::find_if(kLimits, [line](const Limit& each) { return isOf(line, each.keyword); });
   if (limit != kLimits.end()) ++counts.limited[static_cast<std::size_t>(limit - kLimits.begin())];
-  if (keyword.starts_with(kParameterStart)) ++counts.parameters;
+  if (line.starts_with(kParameterStart)) ++counts.parameters;
 }
 
 Error tooMany(const Sentence& name, const Limit& limit, std::size_t number) {

@@ -37,10 +37,12 @@ using Languages = std::vector<std::string>;
 // "de" for `*de.Translation LxMirror/Spiegeln: ""`; empty for a line that is in no language. As to
 // libcups 2.4.2, names of two letters and those with a territory are languages.
 std::string_view languageOfLine(std::string_view line) {
+  constexpr std::size_t kShortest = 2;
+  constexpr std::size_t kLongest = 5;
   if (!line.starts_with('*')) return {};
-  for (const std::size_t size : {2U, 5U})
-    if (line.substr(0, size + 2).find(kSeparator) == size + 1) return line.substr(1, size);
-  return {};
+  const std::size_t end = line.substr(0, kLongest + 2).find(kSeparator);
+  if (end != kShortest + 1 && end != kLongest + 1) return {};
+  return line.substr(1, end - 1);
 }
 
 // What a PPD says of its languages.

@@ -70,17 +70,6 @@ bool isDenial(ipp_status_t status) {
   return std::ranges::find(kDenials, status) != kDenials.end();
 }
 
-// Works around libcups 2.4.2: where a printer cannot be found it asks on a connection of its own,
-// which waits for minutes. So a server that keeps silent is to be known before.
-bool answers(http_t* http) {
-  httpClearFields(http);
-  if (httpOptions(http, "*") != 0) return false;
-  http_status_t status = HTTP_STATUS_CONTINUE;
-  while (status == HTTP_STATUS_CONTINUE) status = httpUpdate(http);
-  httpFlush(http);
-  return status != HTTP_STATUS_ERROR;
-}
-
 }  // namespace
 
 // Works around libcups 2.4.2, which loses what unpacks a body when that is not read to its end. To
@@ -112,8 +101,17 @@ Result<ServerConnection> ServerConnection::open(const ServerOptions& server) {
   ServerConnection connection(http);
   if (isInsistedOn(cupsEncryption()) && httpEncryption(http, cupsEncryption()) != 0)
     return noServer();
-  if (!answers(http)) return noServer();
   return connection;
+}
+
+bool ServerConnection::isAnswered() const noexcept {
+  http_t* http = get();
+  httpClearFields(http);
+  if (httpOptions(http, "*") != 0) return false;
+  http_status_t status = HTTP_STATUS_CONTINUE;
+  while (status == HTTP_STATUS_CONTINUE) status = httpUpdate(http);
+  httpFlush(http);
+  return status != HTTP_STATUS_ERROR;
 }
 
 std::string serverText() {

@@ -20,10 +20,13 @@ inline constexpr std::chrono::seconds kServerPatience{7};
 
 class ServerConnection {
  public:
-  // Applies the options to this thread and connects.
+  // Applies the options to this thread and connects. A server that has taken the connection need
+  // not answer on it.
   static Result<ServerConnection> open(const ServerOptions& server);
 
   http_t* get() const noexcept { return mHttp.get(); }
+  // Whether the server answers a question that asks for nothing. May wait.
+  bool isAnswered() const noexcept;
   // A document takes as long as its way is: from now on the server need only not keep silent.
   void takeTime() noexcept { mDeadline->lift(); }
   // From now on the time runs anew, for what comes back.

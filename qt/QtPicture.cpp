@@ -5,12 +5,12 @@
 #include <QImageReader>
 #include <QPainter>
 #include <QSvgRenderer>
-#include <QXmlStreamReader>
 #include <algorithm>
 #include <array>
 #include <cmath>
 
 #include "platform/lib/ResourceFile.h"
+#include "platform/lib/VectorPicture.h"
 #include "qt/QtText.h"
 
 namespace cutline {
@@ -27,8 +27,7 @@ QByteArray pictureBytes(const std::string& path) {
 }
 
 bool isVector(const QByteArray& bytes) {
-  QXmlStreamReader reader(bytes);
-  return reader.readNextStartElement() && reader.name() == QLatin1String("svg");
+  return isVectorPicture({bytes.data(), static_cast<std::size_t>(bytes.size())});
 }
 
 bool hasTooManyPixels(const QSize& size) {

@@ -19,10 +19,16 @@ std::optional<std::string> imageFileType(std::size_t index) {
   return toolkit ? toolkit->imageFileType(index) : std::nullopt;
 }
 
-std::optional<std::string> pathOfFile(const std::filesystem::path& path) {
+// The names of the files that stand there, without those in its folders.
+std::set<std::string> filesIn(const std::filesystem::path& folder) {
+  std::set<std::string> names;
   std::error_code error;
-  if (!std::filesystem::is_regular_file(path, error)) return std::nullopt;
-  return path.string();
+  for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
+       entry.increment(error)) {
+    std::error_code unknown;
+    if (entry->is_regular_file(unknown)) names.insert(entry->path().filename().string());
+  }
+  return names;
 }
 
 std::optional<PropertyList> readPropertyList(const std::filesystem::path& path) {
@@ -95,10 +101,12 @@ std::string DirectoryBundle::localizedStringForKey(
 std::optional<std::string> DirectoryBundle::pathForImageResource(
     const std::string& name) const noexcept {
   if (!isResourceName(name)) return std::nullopt;
-  if (auto path = pathOfFile(mResources / name)) return path;
+  if (!mFiles) mFiles = filesIn(mResources);
+  if (mFiles->contains(name)) return mResources / name;
   std::size_t index = 0;
   while (const auto type = imageFileType(index++)) {
-    if (auto path = pathOfFile(mResources / (name + "." + *type))) return path;
+    const std::string file = name + '.' + *type;
+    if (mFiles->contains(file)) return mResources / file;
   }
   return std::nullopt;
 }

@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -44,7 +45,9 @@ class DirectoryBundle final : public Bundle {
   std::filesystem::path mResources;
   PropertyList mInfo;
   std::vector<std::string> mLocalizations;
-  mutable std::map<std::string, Table> mTables;  // read at the first question for each
+  // Read at the first question for each.
+  mutable std::map<std::string, Table> mTables;
+  mutable std::optional<std::set<std::string>> mFiles;
 };
 
 }  // namespace cutline

@@ -80,8 +80,8 @@ const std::vector<Fault>& faults() {
   static const std::vector<Fault> kFaults{
       {"hangs up at once", [](int) {}},
       {"is silent", test::keepSilent, kSilence},
-      {"is silent after its first answer", [](int client) { fallSilent(client, 170); }, kSilence},
-      {"is silent in the middle of an answer", [](int client) { fallSilent(client, 500); },
+      {"is silent after saying to go on", [](int client) { fallSilent(client, 25); }, kSilence},
+      {"is silent in the middle of an answer", [](int client) { fallSilent(client, 200); },
        kSilence},
       {"sends a byte a second", drip},
       {"hangs up in the middle", [](int client) { test::relayBack(client, realServer(), 400); }},
