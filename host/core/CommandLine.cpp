@@ -21,6 +21,7 @@ enum LongOption {
   kPrint,
   kDryRun,
   kWait,
+  kEach,
   kSummary,
   kOptions,
   kPlan,
@@ -47,6 +48,7 @@ constexpr option kLongOptions[] = {{"ppd", required_argument, nullptr, kPpd},
                                    {"print", no_argument, nullptr, kPrint},
                                    {"dry-run", required_argument, nullptr, kDryRun},
                                    {"wait", no_argument, nullptr, kWait},
+                                   {"each", no_argument, nullptr, kEach},
                                    {"summary", no_argument, nullptr, kSummary},
                                    {"options", no_argument, nullptr, kOptions},
                                    {"plan", no_argument, nullptr, kPlan},
@@ -86,6 +88,7 @@ Print labels and tapes: shows a print dialog with the printer's cut options.
   --print                print at once, without a window; FILE absent or - reads standard input
   --dry-run PDF          write what would be sent into this file, show with which options, and end
   --wait                 with --print: end when the job has ended
+  --each                 with --print: every FILE is a job of its own, instead of all one job
   --summary              show the plan in a sentence and the panel's summary, and end
   --options              show what would be sent with the job and end
   --plan                 show where the tape would be cut and end
@@ -111,7 +114,8 @@ labels is said with -o:
 Exit status: 0 done, 1 error, 2 wrong usage, 3 cancelled with nothing printed. --print is
 done when the print server has taken the whole document; with --wait, when the job has ended
 and something came out: it is an error when the job was cancelled or given up, or ended
-without a page.
+without a page. With --each a document that cannot be read keeps no other from being printed,
+and is an error.
 )";
 
 using Problem = std::optional<std::string>;
@@ -242,6 +246,8 @@ Problem apply(CommandLine& line, int option, const std::string& text) {
       return setDryRun(line, text);
     case kWait:
       return turnOn(line.waits);
+    case kEach:
+      return turnOn(line.isEach);
     case kSummary:
       return setCommand(line, Command::summary);
     case kOptions:
@@ -310,10 +316,19 @@ Problem checkHeldJob(const CommandLine& line) {
   return std::nullopt;
 }
 
+Problem checkEach(const CommandLine& line) {
+  if (!line.isEach) return std::nullopt;
+  if (line.command != Command::print) return "--each goes with --print only";
+  const bool hasInput = std::find(line.files.begin(), line.files.end(), "-") != line.files.end();
+  if (line.files.empty() || hasInput) return "--each takes documents by their names";
+  return std::nullopt;
+}
+
 Problem checkTogether(const CommandLine& line) {
   if (Problem problem = checkAskQueue(line)) return problem;
   if (Problem problem = checkHeldJob(line)) return problem;
   if (line.waits && line.command != Command::print) return "--wait goes with --print only";
+  if (Problem problem = checkEach(line)) return problem;
   if (Problem problem = checkForPrograms(line)) return problem;
   if (line.asJson && line.command != Command::plan) return "--json goes with --plan only";
   const bool isUnseen = line.command == Command::print || line.command == Command::options;

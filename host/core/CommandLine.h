@@ -54,6 +54,7 @@ struct CommandLine {
   bool asJson = false;                         // --json: the plan for other programs
   bool isQuiet = false;                        // -q: no notes, only errors
   bool waits = false;                          // --wait: until the job has ended
+  bool isEach = false;                         // --each: every document is a job of its own
   bool marks = false;                          // --marks: times on standard output, then end
   // For programs that open the dialog on somebody's behalf; not in the help text.
   bool isOnce = false;      // --once: the dialog closes when its job is out

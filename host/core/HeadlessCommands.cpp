@@ -8,6 +8,7 @@
 #include "host/core/AskQueueCommand.h"
 #include "host/core/ChoicesCommand.h"
 #include "host/core/CutRules.h"
+#include "host/core/HeadlessComposing.h"
 #include "host/core/HeadlessPrinting.h"
 #include "host/core/HeadlessSession.h"
 #include "host/core/JobPlan.h"
@@ -84,10 +85,10 @@ constexpr Row kCommands[] = {{Command::print, printDocuments}, {Command::dryRun,
 
 }  // namespace
 
-Result<Done> runHeadlessCommand(const CommandLine& line, PluginLoader& plugIns, std::ostream& out,
-                                std::ostream& notes) {
+Result<Done> runHeadlessCommand(const CommandLine& line, PluginLoader& plugIns,
+                                const Streams& streams) {
   for (const Row& row : kCommands)
-    if (row.command == line.command) return row.run(line, plugIns, {out, notes});
+    if (row.command == line.command) return row.run(line, plugIns, streams);
   return Error{"this command needs a window"};
 }
 

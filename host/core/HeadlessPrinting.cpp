@@ -1,163 +1,118 @@
 #include "host/core/HeadlessPrinting.h"
 
-#include <algorithm>
-#include <chrono>
-#include <cmath>
-#include <filesystem>
-#include <iostream>
-#include <map>
-#include <optional>
-#include <thread>
+#include <ostream>
 
 #include "base/Visible.h"
-#include "composition/EdgeLoss.h"
-#include "composition/PageDrawer.h"
-#include "cups/Destinations.h"
-#include "cups/DocumentFile.h"
-#include "cups/PrintJob.h"
-#include "host/core/Installation.h"
-#include "host/core/JobEnd.h"
+#include "host/core/HeadlessComposing.h"
+#include "host/core/HeadlessSending.h"
 
 namespace cutline {
 
 namespace {
 
-// Short against what a printer needs for a label.
-constexpr std::chrono::milliseconds kBetweenQuestions{250};
-constexpr double kWhole = 100;
+// A document, or all of them, that become one job.
+using Files = std::vector<std::string>;
 
-std::string nameOf(const CommandLine& line) {
-  return std::filesystem::path(line.files.front()).filename().string();
-}
+class Printing {
+ public:
+  Printing(const CommandLine& line, PluginLoader& plugIns, const Streams& streams)
+      : mLine(line), mStreams(streams), mSession(line, plugIns, streams.notes) {}
 
-void noteShrunkPages(const CompositionReport& report, HeadlessSession& session) {
-  const auto& pages = report.pages;
-  const auto isShrunk = [](const ComposedPage& page) {
-    return page.size.isStated && page.scale < 1;
-  };
-  const auto count = std::count_if(pages.begin(), pages.end(), isShrunk);
-  if (count == 0) return;
-  const auto first = std::find_if(pages.begin(), pages.end(), isShrunk);
-  const std::string percent = std::to_string(std::lround(first->scale * kWhole));
-  session.note(count == 1 ? "a page is larger than its label: it is shrunk to " + percent + " %"
-                          : std::to_string(count) +
-                                " pages are larger than their labels: the first is shrunk to " +
-                                percent + " %");
-}
-
-std::map<int, std::optional<Ink>> inksOf(PageDrawer& drawer, const LabelPage& label) {
-  std::map<int, std::optional<Ink>> inks;
-  const double scale = inkScale(label);
-  for (int page = 0; page < std::min(drawer.pageCount(), kMostInks); ++page) {
-    const Result<PageImage> image = drawer.draw(page, scale);
-    if (image) inks[page] = inkOf(*image, scale, label);
+  Result<Done> printTogether() {
+    if (Result<Done> opened = open(mLine.files); !opened) return opened;
+    const Result<std::string> path = pathToSend(mLine.files, {});
+    if (!path) return path.error();
+    const Result<int> job = sendDocument(mLine, *path, mLine.files, mSession, mStreams);
+    if (!job) return job.error();
+    return mLine.waits ? followJob(mLine, *job, mSession) : Result<Done>(Done{});
   }
-  return inks;
-}
 
-// A document that cannot be drawn is printed all the same.
-void noteEdgeLoss(const ComposedDocument& composed, HeadlessSession& session,
-                  const CommandLine& line) {
-  if (line.isQuiet) return;
-  const auto drawer =
-      PageDrawer::open(Installation::ofThisProgram().helperDirectory(), composed.file);
-  if (!drawer) return;
-  const auto loss = edgeLoss(composed.report, session.model().jobLayout().placing,
-                             inksOf(**drawer, composed.report.label));
-  if (!loss) return;
-  const std::size_t count = loss->labels.size();
-  session.note("edges will be cut off on " +
-               (count == 1 ? "label " + std::to_string(loss->labels.front() + 1)
-                           : std::to_string(count) + " labels") +
-               ": -o natural-scaling=" + std::to_string(loss->percent) + " keeps them");
-}
+  Result<Done> printEach() {
+    if (Result<Done> opened = open({mLine.files.front()}); !opened) return opened;
+    mSettings = mSession.model().settings();
+    for (std::size_t at = 0; at < mLine.files.size() && mLastTried.empty(); ++at) print(at);
+    if (mLine.waits) follow();
+    return mPrinted == mLine.files.size() ? Result<Done>(Done{}) : notPrinted();
+  }
 
-// What goes to the printer as it is has no pages that the server could count.
-Result<Done> follow(const CommandLine& line, const DestinationName& name, int job,
-                    HeadlessSession& session) {
-  const auto ask = [&] {
-    Result<JobStatus> status = jobStatus(line.server, name, job);
-    if (status && line.asked.isRaw()) status->pages.reset();
-    return status;
-  };
-  const auto trouble = [&]() -> std::string {
-    const auto printer = findDestination(line.server, DestinationName{name.printer, std::nullopt});
-    return printer && printer->needsAttention() ? printer->stateText().english() : "";
-  };
-  return waitForEnd({jobName(name, job), ask,
-                     [] { std::this_thread::sleep_for(kBetweenQuestions); },
-                     [&](const std::string& text) { session.note(text); }, trouble});
-}
+ private:
+  Result<Done> open(const Files& first) {
+    if (!mLine.asked.isRaw()) mSession.startComposer(first);
+    return mSession.openSelected();
+  }
 
-Result<Done> send(const CommandLine& line, const std::string& path, HeadlessSession& session,
-                  const Streams& streams) {
-  const Result<OptionList> options = session.model().prepareToPrint();
-  if (!options) return options.error();
-  const DestinationName name = session.model().destination().name;
-  const Result<int> job = submitJob(
-      line.server, {name, path, line.title.value_or(nameOf(line)), *options, nameOf(line)},
-      [](std::uint64_t, std::uint64_t) { return true; });
-  if (!job) return job.error();
-  streams.out << "request id is " << visible(jobName(name, *job)) << " (" << line.files.size()
-              << " file(s))" << std::endl;
-  return line.waits ? follow(line, name, *job, session) : Result<Done>(Done{});
-}
+  // What becomes of these files for the printer. The next ones' composer starts meanwhile, since a
+  // program takes as long to start as a document to be sent.
+  Result<std::string> pathToSend(const Files& files, const Files& next) {
+    if (mLine.asked.isRaw()) return files.front();
+    Result<ComposedDocument> composed = composeToPrint(mLine, mSession);
+    if (!next.empty()) mSession.startComposer(next);
+    if (!composed) return composed.error();
+    mDocument = std::move(composed->file);
+    return mDocument->path();
+  }
 
-Result<Done> keepAs(const std::string& path, const ComposedDocument& composed) {
-  std::error_code problem;
-  std::filesystem::copy_file(composed.file->path(), path,
-                             std::filesystem::copy_options::overwrite_existing, problem);
-  if (!problem) return Done{};
-  return Error{path + ": the document cannot be written (" + problem.message() +
-               "): name another file, or make its folder"};
-}
+  // Where the length follows the document, it is not to follow the one before.
+  void forgetLength() {
+    PrintModel& model = mSession.model();
+    if (model.compositionRequest().lengthBounds) model.restore(mSettings);
+  }
+
+  void print(std::size_t at) {
+    if (at > 0) forgetLength();
+    const Files files{mLine.files[at]};
+    const bool isLast = at + 1 == mLine.files.size();
+    const Result<std::string> path =
+        pathToSend(files, isLast ? Files() : Files{mLine.files[at + 1]});
+    if (!path) return tell(path.error());
+    const Result<int> job = sendDocument(mLine, *path, files, mSession, mStreams);
+    if (!job) {
+      if (!isLast) mLastTried = files.front();
+      return tell(job.error());
+    }
+    mJobs.push_back(*job);
+    ++mPrinted;
+  }
+
+  void follow() {
+    for (const int job : mJobs) {
+      const Result<Done> ended = followJob(mLine, job, mSession);
+      if (ended) continue;
+      tell(ended.error());
+      --mPrinted;
+    }
+  }
+
+  // At once, as the others may take all night.
+  void tell(const Error& error) {
+    mStreams.errors << "cutline: " << visible(error.message) << std::endl;
+  }
+
+  Error notPrinted() const {
+    const std::size_t count = mLine.files.size() - mPrinted;
+    std::string text = std::to_string(count) + " of " + std::to_string(mLine.files.size()) +
+                       (count == 1 ? " documents was not printed" : " documents were not printed");
+    if (!mLastTried.empty()) text += "; none behind \"" + mLastTried + "\" was tried";
+    return Error{text};
+  }
+
+  const CommandLine& mLine;
+  const Streams& mStreams;
+  HeadlessSession mSession;
+  std::shared_ptr<const TemporaryFile> mDocument;
+  Settings mSettings;  // before the first document
+  std::vector<int> mJobs;
+  std::size_t mPrinted = 0;
+  std::string mLastTried;  // the document that the printer did not take
+};
 
 }  // namespace
-
-Result<Done> checkFiles(const CommandLine& line) {
-  for (const std::string& path : line.files)
-    if (const Result<DocumentFile> file = DocumentFile::open(path); !file) return file.error();
-  if (!line.asked.isRaw() || line.files.size() == 1) return Done{};
-  return Error{"-o raw sends one document at a time"};
-}
-
-Result<ComposedDocument> composeFor(HeadlessSession& session) {
-  PrintModel& model = session.model();
-  CompositionRequest request = model.compositionRequest();
-  request.pages = model.pageSelection();
-  Result<ComposedDocument> composed = session.takeComposer().compose(request);
-  if (!composed) return composed;
-  if (request.lengthBounds) model.takeContentLength(composed->report.label.length);
-  if (model.jobLayout().placing.scaling == Scaling::automatic)
-    noteShrunkPages(composed->report, session);
-  return composed;
-}
 
 Result<Done> printDocuments(const CommandLine& line, PluginLoader& plugIns,
                             const Streams& streams) {
   if (Result<Done> checked = checkFiles(line); !checked) return checked;
-  HeadlessSession session(line, plugIns, streams.notes);
-  const bool isRaw = line.asked.isRaw();
-  const Result<Done> opened = isRaw ? session.openSelected() : session.openToCompose();
-  if (!opened) return opened;
-  if (isRaw) return send(line, line.files.front(), session, streams);
-  const Result<ComposedDocument> composed = composeFor(session);
-  if (!composed) return composed.error();
-  noteEdgeLoss(*composed, session, line);
-  return send(line, composed->file->path(), session, streams);
-}
-
-Result<Done> keepDocument(const CommandLine& line, PluginLoader& plugIns, const Streams& streams) {
-  if (Result<Done> checked = checkFiles(line); !checked) return checked;
-  HeadlessSession session(line, plugIns, streams.notes);
-  if (Result<Done> opened = session.openToCompose(); !opened) return opened;
-  const Result<ComposedDocument> composed = composeFor(session);
-  if (!composed) return composed.error();
-  noteEdgeLoss(*composed, session, line);
-  if (Result<Done> kept = keepAs(line.dryRunPath, *composed); !kept) return kept;
-  for (const auto& [name, value] : session.model().jobOptions())
-    streams.out << visible(name) << "=" << visible(value) << "\n";
-  return Done{};
+  Printing printing(line, plugIns, streams);
+  return line.isEach ? printing.printEach() : printing.printTogether();
 }
 
 }  // namespace cutline

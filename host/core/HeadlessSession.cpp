@@ -10,14 +10,6 @@
 
 namespace cutline {
 
-namespace {
-
-StartedComposer startComposer(const CommandLine& line) {
-  return {Installation::ofThisProgram().helperDirectory(), line.files};
-}
-
-}  // namespace
-
 HeadlessSession::HeadlessSession(const CommandLine& line, PluginLoader& plugIns,
                                  std::ostream& notes)
     : mLine(line),
@@ -42,12 +34,16 @@ Result<Done> HeadlessSession::openSelected() {
 }
 
 Result<Done> HeadlessSession::openToCompose() {
-  if (!mLine.files.empty()) mComposer = startComposer(mLine);
+  if (!mLine.files.empty()) startComposer(mLine.files);
   return openSelected();
 }
 
+void HeadlessSession::startComposer(const std::vector<std::string>& files) {
+  mComposer.emplace(Installation::ofThisProgram().helperDirectory(), files);
+}
+
 StartedComposer HeadlessSession::takeComposer() {
-  if (!mComposer) return startComposer(mLine);
+  if (!mComposer) startComposer(mLine.files);
   StartedComposer composer = std::move(*mComposer);
   mComposer.reset();
   return composer;

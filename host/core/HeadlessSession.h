@@ -14,10 +14,12 @@
 
 namespace cutline {
 
-// Where a command writes what was asked of it, and what there is to remark.
+// Where a command writes what was asked of it, one line "cutline: ..." for each thing to know that
+// is no failure, and the same for what went wrong while it goes on.
 struct Streams {
   std::ostream& out;
   std::ostream& notes;
+  std::ostream& errors;
 };
 
 class HeadlessSession {
@@ -33,7 +35,9 @@ class HeadlessSession {
   // The same for a command that is to compose the line's documents: the composer starts while the
   // printer is looked for.
   Result<Done> openToCompose();
-  // The composer of the line's documents, started by now. Once only.
+  // Starts a composer for these documents.
+  void startComposer(const std::vector<std::string>& files);
+  // The composer that was started last, or one of the line's documents. Once only.
   StartedComposer takeComposer();
   void note(const std::string& text);
 

@@ -3,7 +3,7 @@
 #include <ostream>
 
 #include "base/Visible.h"
-#include "host/core/HeadlessPrinting.h"
+#include "host/core/HeadlessComposing.h"
 #include "host/core/JobPlan.h"
 #include "strip/PlanJson.h"
 #include "strip/PlanWords.h"

@@ -12,6 +12,7 @@
 #include "host/core/CommandLine.h"
 #include "host/core/DialogModule.h"
 #include "host/core/HeadlessCommands.h"
+#include "host/core/HeadlessSession.h"
 #include "host/core/HeldJobInHand.h"
 #include "host/core/Installation.h"
 #include "host/core/Module.h"
@@ -48,7 +49,7 @@ int showDialog(const CommandLine& line, PluginLoader& plugIns) {
 int runWithoutWindow(const CommandLine& line, PluginLoader& plugIns) {
   std::ostream nowhere(nullptr);
   std::ostream& notes = line.isQuiet ? nowhere : std::cerr;
-  const Result<Done> done = runHeadlessCommand(line, plugIns, std::cout, notes);
+  const Result<Done> done = runHeadlessCommand(line, plugIns, {std::cout, notes, std::cerr});
   return done ? endOutput() : fail(done.error());
 }
 

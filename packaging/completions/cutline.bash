@@ -87,7 +87,7 @@ _cutline() {
   esac
   if [[ $current == -* && $before != --ppd && $before != --dry-run && $before != --snapshot ]]; then
     mapfile -t COMPREPLY < <(compgen -W '-d -n -P -t -o -h -E -U -q --ppd --print --dry-run --wait
-      --summary --options --plan --json --choices --snapshot --scale --dark --list --ask-queue --held-job --plugin-dir
+      --each --summary --options --plan --json --choices --snapshot --scale --dark --list --ask-queue --held-job --plugin-dir
       --marks --help --version' -- "$current")
     return
   fi

@@ -85,6 +85,8 @@ TEST(CommandLineTest, EachCommandHasItsOption) {
   EXPECT_EQ(parse({"--version"})->command, Command::version);
   EXPECT_FALSE(parse({"--print", "f"})->waits);
   EXPECT_TRUE(parse({"--wait", "--print", "f"})->waits);
+  EXPECT_FALSE(parse({"--print", "f", "g"})->isEach);
+  EXPECT_TRUE(parse({"--print", "--each", "f", "g"})->isEach);
   const auto snapshot = parse({"--snapshot", "a.png", "--scale", "2", "--dark", "--marks"});
   ASSERT_TRUE(snapshot);
   EXPECT_EQ(snapshot->command, Command::snapshot);
@@ -112,6 +114,10 @@ TEST(CommandLineTest, WrongUsageIsNamed) {
                                                        {"--print", "--summary"},
                                                        {"--wait"},
                                                        {"--wait", "--options"},
+                                                       {"--each", "a"},
+                                                       {"--each", "--dry-run", "a.pdf", "a"},
+                                                       {"--each", "--print"},
+                                                       {"--each", "--print", "a", "-"},
                                                        {"--json"},
                                                        {"--once", "--print"},
                                                        {"--choose", "--plan"},
@@ -168,10 +174,10 @@ TEST(CommandLineTest, AMinusStandsForStandardInput) {
 
 TEST(CommandLineTest, TheHelpNamesEveryOption) {
   for (const char* option :
-       {"-d",           "-n",     "-P",        "-t",         "-o",        "-h",        "-E",
-        "-U",           "--ppd",  "--print",   "--wait",     "--dry-run", "--summary", "--options",
-        "--plan",       "--json", "--choices", "--snapshot", "--scale",   "--dark",    "--list",
-        "--plugin-dir", "--help", "--version", "-q"})
+       {"-d",        "-n",           "-P",      "-t",        "-o",         "-h",        "-E",
+        "-U",        "--ppd",        "--print", "--wait",    "--each",     "--dry-run", "--summary",
+        "--options", "--plan",       "--json",  "--choices", "--snapshot", "--scale",   "--dark",
+        "--list",    "--plugin-dir", "--help",  "--version", "-q"})
     EXPECT_NE(helpText().find(option), std::string::npos) << option;
 }
 

@@ -29,15 +29,20 @@ EndToEndTest::EndToEndTest() {
   std::filesystem::remove(server().home() + "/.cups/lpoptions");
 }
 
-PrintedJob EndToEndTest::newJob() {
+std::vector<PrintedJob> EndToEndTest::newJobs() {
   server().waitUntilIdle();
   const std::set<int> now = server().printedJobs();
-  std::set<int> fresh;
+  std::vector<PrintedJob> fresh;
   for (const int job : now)
-    if (!mBefore.contains(job)) fresh.insert(job);
-  EXPECT_EQ(fresh.size(), 1U);
+    if (!mBefore.contains(job)) fresh.emplace_back(server(), job);
   mBefore = now;
-  return {server(), fresh.size() == 1 ? *fresh.begin() : 0};
+  return fresh;
+}
+
+PrintedJob EndToEndTest::newJob() {
+  const std::vector<PrintedJob> fresh = newJobs();
+  EXPECT_EQ(fresh.size(), 1U);
+  return fresh.size() == 1 ? fresh.front() : PrintedJob(server(), 0);
 }
 
 bool EndToEndTest::nothingNew() const {

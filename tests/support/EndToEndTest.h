@@ -6,6 +6,7 @@
 
 #include <set>
 #include <string>
+#include <vector>
 
 #include "tests/support/Command.h"
 #include "tests/support/PrintedJob.h"
@@ -32,6 +33,8 @@ class EndToEndTest : public testing::Test {
   // The one job that was printed since the test began, or since the last call. Fails the test, and
   // answers an empty job, unless there is exactly one.
   PrintedJob newJob();
+  // All of them, in their order.
+  std::vector<PrintedJob> newJobs();
   // Whether nothing was printed since then; waits until the server has no job left.
   bool nothingNew() const;
 
