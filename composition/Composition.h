@@ -32,6 +32,7 @@ struct PageSelection {
   PageSet set = PageSet::all;
   bool isReversed = false;
   int most = 0;  // only so many of them, from the beginning; 0 for all
+  friend bool operator==(const PageSelection&, const PageSelection&) = default;
 };
 
 struct CompositionRequest {

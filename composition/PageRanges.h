@@ -26,6 +26,10 @@ class PageRanges {
   // An error that names the first page that a document of `pageCount` pages lacks.
   Result<Done> checkWithin(int pageCount) const;
 
+  friend bool operator==(const PageRanges& one, const PageRanges& other) noexcept {
+    return one.mText == other.mText;
+  }
+
  private:
   struct Range {
     int first;  // counted from 1

@@ -3,13 +3,14 @@
 
 #include <cstdint>
 #include <optional>
-#include <vector>
+
+#include "strip/PageList.h"
 
 namespace cutline {
 
 struct LabelRun {
-  // The document's pages that are printed, counted from 1, in their order.
-  std::vector<unsigned> pages = {};
+  // The document's pages that are printed.
+  PageList pages = {};
   unsigned copies = 1;
   // The whole document once a copy, or else each page as often as there are copies.
   bool isCollated = false;

@@ -22,6 +22,7 @@
 #include "host/core/SettingsHistory.h"
 #include "platform/ports/PrintDialogPanel.h"
 #include "platform/ports/Toolkit.h"
+#include "strip/PageList.h"
 
 namespace cutline {
 
@@ -112,6 +113,9 @@ class PrintModel final : public ActionObserver {
   void takeContentLength(double length);
   // Which pages are printed, in which order. Ranges that were saved and are none pick all.
   PageSelection pageSelection() const;
+  // The selected of so many pages. Looked for only when it is another selection, or of another
+  // number, than the last time.
+  PageList pagesToPrint(int documentPages) const;
   // What the composer is asked, but for the documents' names: every page of them, since the preview
   // shows those that are not printed, too.
   CompositionRequest compositionRequest() const;
@@ -165,6 +169,12 @@ class PrintModel final : public ActionObserver {
   PrintModelListener* mListener = nullptr;
   std::optional<JobLayout> mLayout;  // as set
   std::optional<bool> mIsCollated;   // as set
+  struct PickedPages {
+    PageSelection selection;
+    int documentPages = 0;
+    PageList pages;
+  };
+  mutable PickedPages mPicked;
   std::unique_ptr<OpenPrinter> mPrinter;
 };
 

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "composition/PickedPages.h"
 #include "cups/CustomSize.h"
 #include "host/core/CutRules.h"
 #include "host/core/OpenPrinter.h"
@@ -80,6 +81,17 @@ PageSelection PrintModel::pageSelection() const {
   const JobLayout layout = jobLayout();
   const Result<PageRanges> ranges = PageRanges::parse(pageRanges());
   return {ranges ? *ranges : PageRanges(), layout.pageSet, layout.isReversed};
+}
+
+PageList PrintModel::pagesToPrint(int documentPages) const {
+  PageSelection selection = pageSelection();
+  if (mPicked.documentPages == documentPages && mPicked.selection == selection)
+    return mPicked.pages;
+  std::vector<unsigned> pages;
+  for (const int page : pickedPages(selection, documentPages))
+    pages.push_back(static_cast<unsigned>(page) + 1);
+  mPicked = {std::move(selection), documentPages, std::move(pages)};
+  return mPicked.pages;
 }
 
 CompositionRequest PrintModel::compositionRequest() const {

@@ -1,16 +1,12 @@
 #include "host/dialog/BoxDrawing.h"
 
 #include <QImage>
-#include <QTransform>
-#include <algorithm>
 #include <cmath>
-#include <cstddef>
-#include <vector>
+
+#include "host/dialog/DrawnOnce.h"
 
 namespace cutline {
 namespace {
-
-constexpr std::size_t kMostLooks = 64;
 
 void drawSmoothly(QPainter& painter, const QRectF& rect, const BoxLook& look) {
   painter.setRenderHint(QPainter::Antialiasing);
@@ -24,50 +20,12 @@ void drawSmoothly(QPainter& painter, const QRectF& rect, const BoxLook& look) {
 int cornerSide(const BoxLook& look) { return static_cast<int>(std::ceil(look.radius)) + 1; }
 
 // The least box with all of a look: four corners and a point between them.
-struct LeastBox {
-  QRgb fill;
-  QRgb edge;
-  double radius;
-  int ratio;
-  QImage picture;
-
-  bool isOf(const BoxLook& look, int pixels) const {
-    return fill == look.fill.rgba() && edge == look.edge.rgba() && radius == look.radius &&
-           ratio == pixels;
-  }
-};
-
-QImage pictureOf(const BoxLook& look, int ratio) {
-  const int side = 2 * cornerSide(look) + 1;
-  QImage picture(QSize(side, side) * ratio, QImage::Format_ARGB32_Premultiplied);
-  picture.fill(Qt::transparent);
-  QPainter painter(&picture);
-  painter.scale(ratio, ratio);
-  drawSmoothly(painter, QRectF(0, 0, side, side), look);
-  return picture;
-}
-
 const QImage& leastBox(const BoxLook& look, int ratio) {
-  static std::vector<LeastBox> boxes;
-  const auto known =
-      std::ranges::find_if(boxes, [&](const LeastBox& box) { return box.isOf(look, ratio); });
-  if (known != boxes.end()) return known->picture;
-  if (boxes.size() == kMostLooks) boxes.clear();  // another theme's, by now
-  boxes.push_back({look.fill.rgba(), look.edge.rgba(), look.radius, ratio, pictureOf(look, ratio)});
-  return boxes.back().picture;
-}
-
-bool isWhole(double pixels) { return std::abs(pixels - std::round(pixels)) < 1e-6; }
-
-// Pixels of the screen to a point, where the box lies on whole ones; 0 elsewhere.
-int wholeRatio(const QPainter& painter, const QRectF& rect) {
-  const QTransform device = painter.deviceTransform();
-  if (device.type() > QTransform::TxScale || device.m11() != device.m22()) return 0;
-  const double ratio = device.m11();
-  const QRectF pixels = device.mapRect(rect);
-  const bool lies = isWhole(pixels.left()) && isWhole(pixels.top()) && isWhole(pixels.width()) &&
-                    isWhole(pixels.height());
-  return lies && isWhole(ratio) ? static_cast<int>(std::round(ratio)) : 0;
+  static DrawnOnce<BoxLook> boxes;
+  const int side = 2 * cornerSide(look) + 1;
+  const QRect room(0, 0, side, side);
+  return boxes.picture(look, ratio, room,
+                       [&](QPainter& painter) { drawSmoothly(painter, room, look); });
 }
 
 // Puts a box together from the least one of its look.

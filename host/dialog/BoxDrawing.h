@@ -11,6 +11,7 @@ struct BoxLook {
   double radius = 0;  // points
   QColor fill;
   QColor edge;  // of the line, a point wide, on the inside of the box's rectangle
+  friend bool operator==(const BoxLook&, const BoxLook&) = default;
 };
 
 // Leaves the painter's pen, brush and hints changed. On whole pixels of the screen the corners are

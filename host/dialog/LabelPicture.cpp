@@ -91,14 +91,9 @@ QImage pictureOf(const PageImage& page, double scale, const LabelPage& label,
 
 QImage inkAlone(const QImage& picture) {
   const QImage image = picture.convertToFormat(QImage::Format_RGB32);
-  if (!isGrey(image)) return picture;
-  QImage ink(image.size(), QImage::Format_Alpha8);
-  for (int row = 0; row < image.height(); ++row) {
-    const auto* const from = reinterpret_cast<const QRgb*>(image.constScanLine(row));
-    uchar* const to = ink.scanLine(row);
-    for (int column = 0; column < image.width(); ++column)
-      to[column] = static_cast<uchar>(kWhite - qBlue(from[column]));
-  }
+  if (!isGrey(image)) return image;
+  QImage ink = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  forEachPixel(ink, [](QRgb& pixel, int, int) { pixel = qRgba(0, 0, 0, kWhite - qBlue(pixel)); });
   return ink;
 }
 

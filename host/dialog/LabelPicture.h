@@ -19,9 +19,9 @@ struct PrinterLook {
 QImage pictureOf(const PageImage& page, double scale, const LabelPage& label,
                  const PrinterLook& look);
 
-// What of the picture lies on the tape. Where it is black, white and grey alone that is its ink, as
-// alpha (QImage::Format_Alpha8), which is drawn much faster than a picture that is multiplied with
-// the tape's colour; any other picture is answered as it is.
+// What of the picture lies on the tape. Where it is black, white and grey alone that is its ink,
+// black with alpha, which is drawn much faster than a picture that is multiplied with the tape's
+// colour; any other is answered as it is, without alpha.
 QImage inkAlone(const QImage& picture);
 
 }  // namespace cutline

@@ -50,15 +50,4 @@ void StripCanvas::lineAcross(double along, double across, double breadth,
   mPainter.fillRect(line, colour);
 }
 
-QPolygonF StripCanvas::polygon(double along, double across,
-                               std::initializer_list<Corner> corners) const {
-  QPolygonF polygon;
-  const QPointF corner = rect(along, across, 0, 0).topLeft();
-  for (const Corner& each : corners) {
-    polygon.append(corner + (mRunsAcross ? QPointF(each.along, each.across)
-                                         : QPointF(each.across, each.along)));
-  }
-  return polygon;
-}
-
 }  // namespace cutline

@@ -4,7 +4,6 @@
 #include <QPainter>
 #include <QPointF>
 #include <QRectF>
-#include <initializer_list>
 
 namespace cutline {
 
@@ -27,12 +26,6 @@ class StripCanvas {
   // Lines as wide as a hair, from a place on.
   void lineAlong(double along, double across, double length, const QColor& colour) const;
   void lineAcross(double along, double across, double breadth, const QColor& colour) const;
-
-  struct Corner {
-    double along;
-    double across;
-  };
-  QPolygonF polygon(double along, double across, std::initializer_list<Corner> corners) const;
 
  private:
   QPainter& mPainter;

@@ -2,15 +2,15 @@
 
 #include <algorithm>
 
+#include "host/dialog/BladeDrawing.h"
+
 namespace cutline {
 namespace {
 
 constexpr double kHandle = 3;  // half its width
-constexpr double kBlade = 2;
-constexpr double kBack = 15;  // of the knife, above the tape
-constexpr double kHeel = 4;   // from handle to tape
-constexpr double kDepth = 8;  // to which a knife's tip comes into a gap
-constexpr double kTouch = 1;  // and into a face
+constexpr double kBack = 15;   // of the knife, above the tape
+constexpr double kDepth = 8;   // to which a knife's tip comes into a gap
+constexpr double kTouch = 1;   // and into a face
 constexpr double kNotch = 2;
 constexpr double kMarkLength = 7;  // length of a mark at either edge
 constexpr double kMarkWidth = 2;
@@ -25,15 +25,9 @@ constexpr int kPrinterAlpha = 120;
 
 // Its tip points to the tape.
 void StripSigns::drawKnife(double along, double across, double reach, const QColor& handle) const {
-  QPainter& painter = mCanvas.painter();
-  painter.save();
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(mColours.bladeEdge, 0.8));
-  painter.setBrush(mColours.blade);
-  painter.drawPolygon(mCanvas.polygon(
-      along, across, {{-kBlade, reach}, {kBlade, reach - 5}, {kBlade, -kHeel}, {-kBlade, -kHeel}}));
-  painter.restore();
-  mCanvas.fill(along - kHandle, across - kBack, 2 * kHandle, kBack - kHeel, handle);
+  drawBlade(mCanvas.painter(), mCanvas.rect(along, across, 0, 0).topLeft(),
+            {reach, mCanvas.runsAcross(), mColours.blade, mColours.bladeEdge});
+  mCanvas.fill(along - kHandle, across - kBack, 2 * kHandle, kBack - kBladeHeel, handle);
 }
 
 void StripSigns::drawFullCut(double along, double across) const {

@@ -66,8 +66,7 @@ void StripView::LabelPainter::paintLabel(std::uint64_t label) const {
     if (mView.mIsDimmed) mPainter.setOpacity(kDimmedOpacity);
     if (mView.mContent->plan.rules().settings().mirrors) picture = picture.mirrored(true, false);
     mPainter.setClipRect(snapped(whole));
-    const bool isInk = picture.format() == QImage::Format_Alpha8;
-    if (!isInk) mPainter.setCompositionMode(QPainter::CompositionMode_Multiply);
+    if (!picture.hasAlphaChannel()) mPainter.setCompositionMode(QPainter::CompositionMode_Multiply);
     mPainter.drawImage(pictureRect(picture, label), picture);
   }
   mPainter.restore();
@@ -165,7 +164,7 @@ void StripView::paintMessage(QPainter& painter) const {
 
 // Of the page with the highest number.
 QString StripView::widestCaption() const {
-  const std::vector<unsigned>& pages = mContent->plan.run().pages;
+  const PageList& pages = mContent->plan.run().pages;
   if (pages.empty()) return {};
   const auto highest = std::max_element(pages.begin(), pages.end()) - pages.begin();
   const auto copies = std::uint64_t{mContent->plan.run().copies};

@@ -7,6 +7,7 @@
 #include "strip/CutPlan.h"
 #include "tests/bundle/PanelTest.h"
 #include "tests/pictures/Meaning.h"
+#include "tests/support/Pages.h"
 
 namespace cutline::test {
 namespace {
@@ -58,7 +59,7 @@ const Meaning* meaningOf(const std::string& name, const Meaning (&rows)[Count]) 
 
 CutPlan planOf(const CutSettings& settings, unsigned labels) {
   LabelRun run;
-  run.pages.assign(labels, 1);
+  run.pages = test::pagesUpTo(labels);
   return {settings, run};
 }
 

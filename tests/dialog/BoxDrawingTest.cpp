@@ -2,13 +2,15 @@
 
 #include <QImage>
 #include <QPainter>
-#include <algorithm>
 #include <array>
 
 #include "host/dialog/BoxDrawing.h"
+#include "tests/dialog/PictureDifference.h"
 
 namespace cutline {
 namespace {
+
+using test::largestDifference;
 
 const QColor kGround(238, 240, 243);
 const QColor kFill(255, 255, 255);
@@ -32,19 +34,6 @@ QImage drawn(Drawing drawing, double ratio, const QRectF& rect, const BoxLook& l
   painter.translate(3, 2);
   drawing(painter, rect, look);
   return picture;
-}
-
-int difference(QRgb one, QRgb other) {
-  return std::max({std::abs(qRed(one) - qRed(other)), std::abs(qGreen(one) - qGreen(other)),
-                   std::abs(qBlue(one) - qBlue(other))});
-}
-
-int largestDifference(const QImage& one, const QImage& other) {
-  int largest = 0;
-  for (int y = 0; y < one.height(); ++y)
-    for (int x = 0; x < one.width(); ++x)
-      largest = std::max(largest, difference(one.pixel(x, y), other.pixel(x, y)));
-  return largest;
 }
 
 struct BoxCase {

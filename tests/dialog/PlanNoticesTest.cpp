@@ -4,14 +4,14 @@
 #include <numeric>
 
 #include "host/dialog/PlanNotices.h"
+#include "tests/support/Pages.h"
 
 namespace cutline {
 namespace {
 
 CutPlan planOf(unsigned pages, unsigned every, unsigned copies = 1) {
   LabelRun run;
-  run.pages.resize(pages);
-  std::iota(run.pages.begin(), run.pages.end(), 1U);
+  run.pages = test::pagesUpTo(pages);
   run.copies = copies;
   run.labelLength = 50;
   CutSettings settings;
@@ -42,9 +42,9 @@ TEST(PlanNotices, AskedIsAboveTwoMetresOrTwoHundredLabels) {
   EXPECT_FALSE(isMuch(planOf(39, 1)));  // 1.962 m
   EXPECT_TRUE(isMuch(planOf(40, 1)));
   LabelRun run;
-  run.pages.assign(200, 1);
+  run.pages = test::pagesUpTo(200);
   EXPECT_FALSE(isMuch(CutPlan({}, run)));
-  run.pages.push_back(1);
+  run.pages = test::pagesUpTo(201);
   EXPECT_TRUE(isMuch(CutPlan({}, run)));
 }
 

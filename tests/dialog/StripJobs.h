@@ -4,6 +4,7 @@
 #include <random>
 
 #include "host/dialog/StripContent.h"
+#include "tests/support/Pages.h"
 
 namespace cutline::test {
 
@@ -30,7 +31,7 @@ inline CutSettings tapeSettings() {
 inline StripContent jobOf(unsigned pages, const CutSettings& settings = tapeSettings(),
                           const LabelPage& label = tapeLabel()) {
   LabelRun run;
-  for (unsigned page = 1; page <= pages; ++page) run.pages.push_back(page);
+  run.pages = test::pagesUpTo(pages);
   run.labelLength = label.length / 72 * 25.4;
   return {label, CutPlan(settings, run), true};
 }

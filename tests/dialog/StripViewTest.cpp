@@ -153,7 +153,7 @@ TEST_F(StripViewTest, ShowsOnlyThePagesThatArePrinted) {
   ASSERT_GE(leftmost(Qt::red), 0);
   StripContent content = jobOf(40);
   LabelRun run = content.plan.run();
-  run.pages.erase(run.pages.begin());
+  run.pages = std::vector<unsigned>(run.pages.begin() + 1, run.pages.end());
   content.plan = CutPlan(tapeSettings(), run);
   mStrip.setContent(content);
   EXPECT_EQ(leftmost(Qt::red), -1);
@@ -319,7 +319,8 @@ TEST_F(StripViewTest, TheMenuOfALabelAsksForThisOneAlone) {
   QObject::connect(&mStrip, &StripView::onlyThisWanted, [&](unsigned page) { wanted = page; });
   StripContent content = jobOf(12);
   LabelRun run = content.plan.run();
-  std::reverse(run.pages.begin(), run.pages.end());
+  run.pages = std::vector<unsigned>(std::reverse_iterator(run.pages.end()),
+                                    std::reverse_iterator(run.pages.begin()));
   content.plan = CutPlan(tapeSettings(), run);
   mStrip.setContent(content);
   const QPoint place = (mStrip.stripLayout()->label(3).center() - mStrip.offset()).toPoint();

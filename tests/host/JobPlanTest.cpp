@@ -47,6 +47,24 @@ TEST(JobPlan, HasThePagesAndCopiesThatArePrinted) {
   EXPECT_EQ(reversed.run().pages, (std::vector<unsigned>{3, 2, 1}));
 }
 
+// The pages are looked for again where another selection, or another number, asks for it.
+TEST(JobPlan, HasThePagesOfTheSelectionThatThereIsNow) {
+  Dialog opened(asked({}, 1, "2-3"));
+  opened.open(tape());
+  EXPECT_EQ(planFor(opened.model(), 12).run().pages, (PageList{2, 3}));
+  EXPECT_EQ(planFor(opened.model(), 2).run().pages, (PageList{2}));
+  ASSERT_TRUE(opened.model().setPageRanges("1,3-"));
+  EXPECT_EQ(planFor(opened.model(), 4).run().pages, (PageList{1, 3, 4}));
+  EXPECT_EQ(planFor(opened.model(), 4).run().pages, (PageList{1, 3, 4}));
+  JobLayout layout = opened.model().jobLayout();
+  layout.isReversed = true;
+  opened.model().setJobLayout(layout);
+  EXPECT_EQ(planFor(opened.model(), 4).run().pages, (PageList{4, 3, 1}));
+  layout.pageSet = PageSet::odd;
+  opened.model().setJobLayout(layout);
+  EXPECT_EQ(planFor(opened.model(), 4).run().pages, (PageList{3, 1}));
+}
+
 TEST(JobPlan, IsCollatedWhereItIsAskedFor) {
   EXPECT_FALSE(planOf(asked({}, 2), 2).run().isCollated);
   const OptionList::value_type ways[] = {

@@ -13,6 +13,7 @@
 #include "strip/CutPlan.h"
 #include "tests/support/Command.h"
 #include "tests/support/Facts.h"
+#include "tests/support/Pages.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace cutline::test {
@@ -130,7 +131,7 @@ std::string plannedOutline(const CutPlan& plan) {
 
 CutPlan planOf(const Choices& choices, unsigned labels) {
   LabelRun run;
-  run.pages.assign(labels, 1);
+  run.pages = test::pagesUpTo(labels);
   run.labelLength = kLength * kDotLength;
   return {cutSettingsOf(choices), run};
 }

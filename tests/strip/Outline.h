@@ -4,6 +4,7 @@
 #include <string>
 
 #include "strip/CutPlan.h"
+#include "tests/support/Pages.h"
 
 namespace cutline::test {
 
@@ -18,7 +19,7 @@ inline std::string outlineOf(const CutPlan& plan) {
 // A document of so many pages.
 inline LabelRun runOf(unsigned pages, std::optional<double> length = 50) {
   LabelRun run;
-  for (unsigned page = 1; page <= pages; ++page) run.pages.push_back(page);
+  run.pages = test::pagesUpTo(pages);
   run.labelLength = length;
   return run;
 }
