@@ -2,12 +2,15 @@
 // How long a click on the half-cut box takes until the dialog has painted the answer: the box, the
 // preview's picture, the strip, its sentence and the summary. Milliseconds over CLICKS clicks for a
 // document of each number of LABELS, in the real dialog on the platform that QT_QPA_PLATFORM names;
-// and before that until a window with nothing but a box and a line of text has painted both.
+// and before that until a window with nothing but a box and a line of text has painted both. Then
+// how long it takes from another paper until the first label is composed for it, drawn and painted,
+// and from a digit typed for the copies until that is painted.
 #include <QApplication>
 #include <QCheckBox>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QTemporaryFile>
 #include <QTest>
 #include <QVBoxLayout>
@@ -15,6 +18,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,6 +28,8 @@
 #include "host/core/PluginLoader.h"
 #include "host/core/PrintModel.h"
 #include "host/dialog/Appearance.h"
+#include "host/dialog/DocumentPages.h"
+#include "host/dialog/JobForm.h"
 #include "host/dialog/PrintDialog.h"
 #include "platform/ports/Controls.h"
 #include "qt/QtToolkit.h"
@@ -33,6 +39,9 @@ namespace {
 using namespace cutline;
 
 constexpr int kPatience = 60'000;
+// Whoever counts instructions of a few clicks wants nothing else.
+constexpr int kFewClicks = 1000;
+constexpr int kMany = 10'000;  // labels, which take a second to compose
 
 // Notes when something of a window has been asked to paint.
 class PaintWatch : public QObject {
@@ -78,10 +87,10 @@ QCheckBox* boxOf(PrintModel& model, const std::string& keyword) {
   return static_cast<double>(timer.nsecsElapsed()) / 1e6;
 }
 
-void print(const std::string& words, std::vector<double> times) {
+void print(const std::string& words, const char* name, std::vector<double> times) {
   std::sort(times.begin(), times.end());
-  std::printf("%-28s %-16s median %9.2f  99.9 %% %8.2f  max %9.2f  n=%zu\n", words.c_str(),
-              "click_ms", times[times.size() / 2], times[times.size() * 999 / 1000], times.back(),
+  std::printf("%-28s %-16s median %9.2f  99.9 %% %8.2f  max %9.2f  n=%zu\n", words.c_str(), name,
+              times[times.size() / 2], times[times.size() * 999 / 1000], times.back(),
               times.size());
 }
 
@@ -105,7 +114,7 @@ bool measureToolkit(int clicks) {
   });
   window.show();
   if (!QTest::qWaitForWindowExposed(&window)) return false;
-  print("click, a box and a line", timesOf(box, clicks));
+  print("click, a box and a line", "click_ms", timesOf(box, clicks));
   return true;
 }
 
@@ -123,6 +132,50 @@ class LabelsFile {
  private:
   QTemporaryFile mFile;
 };
+
+// Until it is painted.
+double typeDigit(QSpinBox& copies, Qt::Key digit, PaintWatch& watch) {
+  copies.selectAll();
+  watch.reset();
+  QElapsedTimer timer;
+  timer.start();
+  QTest::keyClick(&copies, digit);
+  while (!watch.hasPainted()) QCoreApplication::processEvents();
+  QCoreApplication::sendPostedEvents();
+  QCoreApplication::processEvents();
+  return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
+
+// Until the first label of that paper is painted; nothing when it never is.
+std::optional<double> changePaper(PrintDialog& dialog, PrintModel& model, const std::string& paper,
+                                  PaintWatch& watch) {
+  QSignalSpy drawn(dialog.findChild<DocumentLoader*>(), &DocumentLoader::pageDrawn);
+  QSignalSpy settled(&dialog, &PrintDialog::becameSettled);
+  QElapsedTimer timer;
+  timer.start();
+  if (!model.setPaper(paper) || !drawn.wait(kPatience)) return std::nullopt;
+  watch.reset();
+  while (!watch.hasPainted()) QCoreApplication::processEvents();
+  const double time = static_cast<double>(timer.nsecsElapsed()) / 1e6;
+  return settled.wait(kPatience) ? std::optional(time) : std::nullopt;
+}
+
+// False when a paper's labels do not come.
+bool measureChanges(PrintDialog& dialog, PrintModel& model, const std::string& of, int changes) {
+  PaintWatch watch(dialog);
+  auto* const copies = dialog.findChild<JobForm*>()->findChild<QSpinBox*>();
+  std::vector<double> typed;
+  std::vector<double> changed;
+  for (int i = 0; i < changes; ++i) {
+    typed.push_back(typeDigit(*copies, i % 2 == 0 ? Qt::Key_2 : Qt::Key_1, watch));
+    const auto time = changePaper(dialog, model, i % 2 == 0 ? "W24H100" : "W24H50", watch);
+    if (!time) return false;
+    changed.push_back(*time);
+  }
+  print("copies typed" + of, "typed_ms", typed);
+  print("another paper" + of, "paper_ms", changed);
+  return true;
+}
 
 // False when the dialog has no such box, or does not come to show the document.
 bool measureClicks(const std::shared_ptr<PpdFile>& ppd, int clicks, int labels) {
@@ -144,8 +197,9 @@ bool measureClicks(const std::shared_ptr<PpdFile>& ppd, int clicks, int labels) 
   QCheckBox* box = boxOf(model, "LxHalfCut");
   if (box == nullptr) return false;
 
-  print("click, " + std::to_string(labels) + " labels", timesOf(*box, clicks));
-  return true;
+  const std::string of = ", " + std::to_string(labels) + " labels";
+  print("click" + of, "click_ms", timesOf(*box, clicks));
+  return clicks < kFewClicks || measureChanges(dialog, model, of, labels < kMany ? 101 : 15);
 }
 
 }  // namespace

@@ -80,10 +80,11 @@ if(CUTLINE_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
+# clang 14 cannot take one of qpdf's headers.
+set(CLANG_OPTIONS $<$<COMPILE_LANGUAGE:CXX>:-DJSON_HH>
+                  $<$<COMPILE_LANGUAGE:CXX>:-include${CMAKE_SOURCE_DIR}/cmake/QpdfJson.h>)
 if(CMAKE_CXX_COMPILER_ID STREQUAL Clang)
-  # clang 14 cannot take one of qpdf's headers.
-  add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-DJSON_HH>
-                      $<$<COMPILE_LANGUAGE:CXX>:-include${CMAKE_SOURCE_DIR}/cmake/QpdfJson.h>)
+  add_compile_options(${CLANG_OPTIONS})
 endif()
 
 # cutline_exports(TARGET MAP): what the map doesn't name stays inside.

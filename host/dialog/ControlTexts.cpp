@@ -9,13 +9,14 @@
 #include <ranges>
 #include <utility>
 
+#include "host/dialog/mnemonics.h"
+
 namespace cutline {
 namespace {
 
 // More than a dialog shows.
 constexpr std::size_t kMostTexts = 512;
 constexpr double kNoLimit = 1e6;
-constexpr QChar kMnemonicSign = QLatin1Char('&');
 // What has room on one line is not wrapped, and what has no tabs has none to expand.
 constexpr int kKnownFlags = Qt::AlignHorizontal_Mask | Qt::AlignVertical_Mask | Qt::TextSingleLine |
                             Qt::TextShowMnemonic | Qt::TextWordWrap | Qt::TextExpandTabs |
@@ -41,9 +42,9 @@ struct Marked {
 Marked marked(const QString& text) {
   Marked all;
   for (qsizetype at = 0; at < text.size(); ++at) {
-    if (text[at] == kMnemonicSign) {
+    if (text[at] == kMnemonicMark) {
       if (++at == text.size()) break;
-      if (text[at] != kMnemonicSign) all.underlined.push_back(static_cast<int>(all.text.size()));
+      if (text[at] != kMnemonicMark) all.underlined.push_back(static_cast<int>(all.text.size()));
     }
     all.text.append(text[at]);
   }

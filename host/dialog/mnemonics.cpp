@@ -16,7 +16,6 @@ namespace cutline {
 namespace {
 
 constexpr char16_t kAlphabet[] = u"ABCDEFGHIJKLMNOPQRSTUVWXYZ";
-constexpr QChar kMnemonicMark = QLatin1Char('&');
 
 bool isLetter(QChar character) {
   return QStringView(kAlphabet).contains(character.toUpper()) && character.unicode() < 0x80;

@@ -9,6 +9,9 @@ class QWidget;
 
 namespace cutline {
 
+// Before the letter in a text for the toolkit.
+inline constexpr QChar kMnemonicMark = QLatin1Char('&');
+
 // The letter in upper case; null when the text has none.
 QChar mnemonicIn(const QString& text);
 
