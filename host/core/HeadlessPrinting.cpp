@@ -62,6 +62,7 @@ class Printing {
     if (at > 0) forgetLength();
     const Files files{mLine.files[at]};
     const bool isLast = at + 1 == mLine.files.size();
+    mSession.setSubject(files.front());
     const Result<std::string> path =
         pathToSend(files, isLast ? Files() : Files{mLine.files[at + 1]});
     if (!path) return tell(path.error());
@@ -75,6 +76,7 @@ class Printing {
   }
 
   void follow() {
+    mSession.setSubject({});
     for (const int job : mJobs) {
       const Result<Done> ended = followJob(mLine, job, mSession);
       if (ended) continue;

@@ -51,7 +51,8 @@ StartedComposer HeadlessSession::takeComposer() {
 
 // At once, because it may be all that is heard for a while.
 void HeadlessSession::note(const std::string& text) {
-  mNotes << "cutline: " << visible(text) << std::endl;
+  const std::string about = mSubject.empty() ? "" : mSubject + ": ";
+  mNotes << "cutline: " << visible(about + text) << std::endl;
 }
 
 }  // namespace cutline

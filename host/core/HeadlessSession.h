@@ -4,6 +4,8 @@
 #include <iosfwd>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "composition/Composer.h"
 #include "host/core/CommandLine.h"
@@ -39,6 +41,8 @@ class HeadlessSession {
   void startComposer(const std::vector<std::string>& files);
   // The composer that was started last, or one of the line's documents. Once only.
   StartedComposer takeComposer();
+  // What the notes that follow are about, such as one of many documents; empty for nothing.
+  void setSubject(std::string subject) { mSubject = std::move(subject); }
   void note(const std::string& text);
 
  private:
@@ -49,6 +53,7 @@ class HeadlessSession {
   HostPlatform mPlatform;
   PrintModel mModel;
   std::optional<StartedComposer> mComposer;
+  std::string mSubject;
 };
 
 }  // namespace cutline

@@ -83,6 +83,19 @@ TEST_F(DocumentByItself, ThatCannotBeReadKeepsNoOtherBack) {
   EXPECT_EQ(newJobs().size(), 2U);
 }
 
+TEST_F(DocumentByItself, IsNamedInWhatThereIsToSayOfIt) {
+  const std::string large = mFolder / "large.pdf";
+  figureKinds().front().write(large, {400, 200});
+  const CommandResult result =
+      runProgram("--print --each -d tape24" + words({pdf("a.pdf"), large, pdf("b.pdf")}));
+  EXPECT_EQ(result.status, kExitDone) << result.errors;
+  EXPECT_TRUE(has(result, "cutline: " + large + ": a page is larger than its label"))
+      << result.errors;
+  EXPECT_FALSE(has(result, "a.pdf: ")) << result.errors;
+  EXPECT_FALSE(has(result, "b.pdf: ")) << result.errors;
+  EXPECT_EQ(newJobs().size(), 3U);
+}
+
 TEST_F(DocumentByItself, ThatIsMissingIsToldBeforeAnyIsPrinted) {
   const CommandResult result =
       runProgram("--print --each -d tape24" + words({pdf("a.pdf"), mFolder / "missing.pdf"}));
