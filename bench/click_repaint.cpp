@@ -75,13 +75,14 @@ QCheckBox* boxOf(PrintModel& model, const std::string& keyword) {
   return nullptr;
 }
 
-[[gnu::noinline]] double clickUntilPainted(QCheckBox& box, PaintWatch& watch) {
+template <typename Act>
+double untilPainted(PaintWatch& watch, const Act& act) {
   watch.reset();
   QElapsedTimer timer;
   timer.start();
-  QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(8, box.height() / 2));
+  act();
   while (!watch.hasPainted()) QCoreApplication::processEvents();
-  // What the click has made stale beyond the box.
+  // What has become stale beyond the control.
   QCoreApplication::sendPostedEvents();
   QCoreApplication::processEvents();
   return static_cast<double>(timer.nsecsElapsed()) / 1e6;
@@ -96,8 +97,11 @@ void print(const std::string& words, const char* name, std::vector<double> times
 
 std::vector<double> timesOf(QCheckBox& box, int clicks) {
   PaintWatch watch(*box.window());
+  const auto click = [&box] {
+    QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(8, box.height() / 2));
+  };
   std::vector<double> times;
-  for (int i = 0; i < clicks; ++i) times.push_back(clickUntilPainted(box, watch));
+  for (int i = 0; i < clicks; ++i) times.push_back(untilPainted(watch, click));
   return times;
 }
 
@@ -133,19 +137,6 @@ class LabelsFile {
   QTemporaryFile mFile;
 };
 
-// Until it is painted.
-double typeDigit(QSpinBox& copies, Qt::Key digit, PaintWatch& watch) {
-  copies.selectAll();
-  watch.reset();
-  QElapsedTimer timer;
-  timer.start();
-  QTest::keyClick(&copies, digit);
-  while (!watch.hasPainted()) QCoreApplication::processEvents();
-  QCoreApplication::sendPostedEvents();
-  QCoreApplication::processEvents();
-  return static_cast<double>(timer.nsecsElapsed()) / 1e6;
-}
-
 // Until the first label of that paper is painted; nothing when it never is.
 std::optional<double> changePaper(PrintDialog& dialog, PrintModel& model, const std::string& paper,
                                   PaintWatch& watch) {
@@ -167,7 +158,9 @@ bool measureChanges(PrintDialog& dialog, PrintModel& model, const std::string& o
   std::vector<double> typed;
   std::vector<double> changed;
   for (int i = 0; i < changes; ++i) {
-    typed.push_back(typeDigit(*copies, i % 2 == 0 ? Qt::Key_2 : Qt::Key_1, watch));
+    const Qt::Key digit = i % 2 == 0 ? Qt::Key_2 : Qt::Key_1;
+    copies->selectAll();
+    typed.push_back(untilPainted(watch, [&] { QTest::keyClick(copies, digit); }));
     const auto time = changePaper(dialog, model, i % 2 == 0 ? "W24H100" : "W24H50", watch);
     if (!time) return false;
     changed.push_back(*time);

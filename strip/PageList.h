@@ -31,7 +31,7 @@ class PageList {
   }
 
  private:
-  std::shared_ptr<const std::vector<unsigned>> mPages;  // never null
+  std::shared_ptr<const std::vector<unsigned>> mPages;  // null only where they were moved away
 };
 
 }  // namespace cutline

@@ -32,7 +32,7 @@ class Printing {
     mSettings = mSession.model().settings();
     for (std::size_t at = 0; at < mLine.files.size() && mLastTried.empty(); ++at) print(at);
     if (mLine.waits) follow();
-    return mPrinted == mLine.files.size() ? Result<Done>(Done{}) : notPrinted();
+    return mJobs.size() == mLine.files.size() ? Result<Done>(Done{}) : notPrinted();
   }
 
  private:
@@ -72,17 +72,15 @@ class Printing {
       return tell(job.error());
     }
     mJobs.push_back(*job);
-    ++mPrinted;
   }
 
   void follow() {
     mSession.setSubject({});
-    for (const int job : mJobs) {
+    std::erase_if(mJobs, [this](int job) {
       const Result<Done> ended = followJob(mLine, job, mSession);
-      if (ended) continue;
-      tell(ended.error());
-      --mPrinted;
-    }
+      if (!ended) tell(ended.error());
+      return !ended;
+    });
   }
 
   // At once, as the others may take all night.
@@ -91,7 +89,7 @@ class Printing {
   }
 
   Error notPrinted() const {
-    const std::size_t count = mLine.files.size() - mPrinted;
+    const std::size_t count = mLine.files.size() - mJobs.size();
     std::string text = std::to_string(count) + " of " + std::to_string(mLine.files.size()) +
                        (count == 1 ? " documents was not printed" : " documents were not printed");
     if (!mLastTried.empty()) text += "; none behind \"" + mLastTried + "\" was tried";
@@ -102,9 +100,8 @@ class Printing {
   const Streams& mStreams;
   HeadlessSession mSession;
   std::shared_ptr<const TemporaryFile> mDocument;
-  Settings mSettings;  // before the first document
-  std::vector<int> mJobs;
-  std::size_t mPrinted = 0;
+  Settings mSettings;      // before the first document
+  std::vector<int> mJobs;  // without those that are known to have printed nothing
   std::string mLastTried;  // the document that the printer did not take
 };
 

@@ -1,12 +1,10 @@
 #include "platform/lib/PropertyList.h"
 
-#include <expat.h>
-
-#include <memory>
 #include <utility>
 
 #include "base/Transcoding.h"
 #include "platform/lib/ListElements.h"
+#include "platform/lib/XmlParser.h"
 
 namespace cutline {
 namespace {
@@ -124,11 +122,6 @@ class ListReader {
 
 ListReader& readerOf(void* data) { return *static_cast<ListReader*>(data); }
 
-struct ParserDeleter {
-  void operator()(XML_Parser parser) const noexcept { XML_ParserFree(parser); }
-};
-using OwnedParser = std::unique_ptr<XML_ParserStruct, ParserDeleter>;
-
 // Expands no entity and fetches nothing: that there is a handler for what is left, which does
 // nothing, makes the parser tell of entities instead.
 void setHandlers(XML_Parser parser, ListReader& reader) {
@@ -149,7 +142,7 @@ void setHandlers(XML_Parser parser, ListReader& reader) {
 
 // The list, or the encoding that the parser would have to know.
 std::optional<PropertyList> read(std::string_view xml, const char* encoding, std::string& unknown) {
-  const OwnedParser parser(XML_ParserCreate(encoding));
+  const XmlParser parser(XML_ParserCreate(encoding));
   if (!parser) return std::nullopt;
   ListReader reader(parser.get());
   setHandlers(parser.get(), reader);

@@ -1,18 +1,12 @@
 #include "platform/lib/VectorPicture.h"
 
-#include <expat.h>
-
-#include <memory>
 #include <numeric>
 
 #include "platform/lib/ResourceFile.h"
+#include "platform/lib/XmlParser.h"
 
 namespace cutline {
 namespace {
-
-struct ParserDeleter {
-  void operator()(XML_Parser parser) const noexcept { XML_ParserFree(parser); }
-};
 
 struct Outermost {
   XML_Parser parser;
@@ -36,7 +30,7 @@ int readAsBytes(void* /*data*/, const XML_Char* /*name*/, XML_Encoding* encoding
 
 bool isVectorPicture(std::string_view bytes) noexcept {
   if (bytes.size() > kLargestResource) return false;
-  const std::unique_ptr<XML_ParserStruct, ParserDeleter> parser(XML_ParserCreate(nullptr));
+  const XmlParser parser(XML_ParserCreate(nullptr));
   if (!parser) return false;
   Outermost outermost{parser.get()};
   XML_SetUserData(parser.get(), &outermost);
