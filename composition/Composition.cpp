@@ -209,6 +209,11 @@ double numberOf(Kind kind) {
 
 }  // namespace
 
+int PageSelection::neededFirst() const {
+  const bool isFromBeginning = ranges.text().empty() && set == PageSet::all && !isReversed;
+  return isFromBeginning ? most : 0;
+}
+
 std::string CompositionRequest::asText() const {
   LineWriter writer;
   writeLabel(writer, label);

@@ -32,6 +32,10 @@ struct PageSelection {
   PageSet set = PageSet::all;
   bool isReversed = false;
   int most = 0;  // only so many of them, from the beginning; 0 for all
+
+  // How many of a document's first pages are enough; 0 where all are needed, as the first that are
+  // chosen may be any.
+  int neededFirst() const;
   friend bool operator==(const PageSelection&, const PageSelection&) = default;
 };
 
@@ -82,8 +86,8 @@ struct CompositionReport {
   std::optional<CompositionFailure> failure;  // nothing else counts then
   LabelPage label;                            // with its length, where the content chose it
   int documentPages = 0;                      // of all documents, before any selection
-  bool isPartial = false;                     // only their beginnings were read: there may be more
-  std::vector<ComposedPage> pages;            // of the PDF
+  bool isPartial = false;           // only their beginnings were read: there may be others
+  std::vector<ComposedPage> pages;  // of the PDF
 
   std::string asText() const;
   static std::optional<CompositionReport> parse(std::string_view text);

@@ -17,7 +17,7 @@
 #include "composition/helper/Confinement.h"
 #include "composition/helper/PostScript.h"
 #include "composition/helper/TypesetterModule.h"
-#include "composition/reader/ComposeDocuments.h"
+#include "composition/reader/DocumentComposer.h"
 #include "composition/reader/DocumentKind.h"
 
 namespace {
@@ -57,18 +57,11 @@ CompositionReport failed(DocumentProblem problem, int document, std::string deta
   return report;
 }
 
-// Nobody else chooses among the pages, so that the first of them are enough.
-int mostPages(const PageSelection& pages) {
-  const bool isFromTheBeginning =
-      pages.ranges.text().empty() && pages.set == PageSet::all && !pages.isReversed;
-  return isFromTheBeginning ? pages.most : 0;
-}
-
 bool needsTypesetter(DocumentKind kind) {
   return kind == DocumentKind::text || kind == DocumentKind::svg;
 }
 
-CompositionReport composed(const CompositionRequest& request) {
+CompositionReport composed(const CompositionRequest& request, DocumentComposer& composer) {
   std::vector<int> documents;
   std::vector<FileDescriptor> made;
   Typesetter* typesetter = nullptr;
@@ -77,7 +70,7 @@ CompositionReport composed(const CompositionRequest& request) {
     const DocumentKind kind = kindOf(documents.back());
     if (!typesetter && needsTypesetter(kind)) typesetter = loadedTypesetter();
     if (kind != DocumentKind::postScript) continue;
-    PostScriptResult result = pdfOfPostScript(documents.back(), mostPages(request.pages));
+    PostScriptResult result = pdfOfPostScript(documents.back(), request.pages.neededFirst());
     if (result.problem) return failed(result.problem->problem, at, result.problem->detail);
     documents.back() = result.pdf.get();
     made.push_back(std::move(result.pdf));
@@ -85,8 +78,8 @@ CompositionReport composed(const CompositionRequest& request) {
   ProcessLimits limits = kLimits;
   limits.files = static_cast<unsigned>(kFirstDocument + documents.size() + made.size()) + kOwnFiles;
   if (!confine(limits)) return failed(DocumentProblem::broken, 0, "it cannot be confined");
-  CompositionReport report = composeDocuments(request, documents, kOutput, typesetter);
-  report.isPartial |= !made.empty() && mostPages(request.pages) > 0;
+  CompositionReport report = composer.compose(request, documents, kOutput, typesetter);
+  report.isPartial |= !made.empty() && request.pages.neededFirst() > 0;
   return report;
 }
 
@@ -98,13 +91,14 @@ int main() {
   const auto request = text ? CompositionRequest::parse(*text) : std::nullopt;
   if (!request) return EXIT_FAILURE;
   CompositionReport report;
+  DocumentComposer composer;
   try {
-    report = composed(*request);
+    report = composed(*request, composer);
   } catch (const std::bad_alloc&) {
     report = failed(DocumentProblem::tooLarge, -1);
   }
   const std::string answer = report.asText();
-  // Without what a program does at its end: what read the documents may not be in order, and a
-  // sanitizer's search for leaks needs calls that are refused here.
+  // Without what a program does at its end: to let go of long documents takes a while, what read
+  // them may not be in order, and a sanitizer's search for leaks needs calls that are refused here.
   ::_exit(writeAll(STDOUT_FILENO, answer.data(), answer.size()) ? EXIT_SUCCESS : EXIT_FAILURE);
 }

@@ -20,7 +20,7 @@ struct DrawnPage {
   QPDFMatrix matrix;
 };
 
-// Every call throws what composeDocuments() makes a failure of: a Refusal, or what the library that
+// Every call throws what DocumentComposer makes a failure of: a Refusal, or what the library that
 // reads the document throws. Pages count from 0. It outlives the writing of the PDF that its forms
 // went into: they hold what they draw by reference.
 class DocumentSource {

@@ -58,8 +58,15 @@ void LabelWriter::addPage(const DrawnPage& drawn, const Placement& placement) {
   page.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
   page.replaceKey("/MediaBox", pdfBox({0, 0, mLabel.width, mLabel.length}));
   page.replaceKey("/Resources", resources);
-  page.replaceKey("/Contents", mPdf.newStream(content));
+  page.replaceKey("/Contents", contentStream(content));
   QPDFPageDocumentHelper(mPdf).addPage(mPdf.makeIndirectObject(page), /*first=*/false);
+}
+
+// Most labels of a job are placed alike, and each stream is compressed by itself.
+QPDFObjectHandle LabelWriter::contentStream(const std::string& content) {
+  QPDFObjectHandle& stream = mContents[content];
+  if (!stream.isInitialized()) stream = mPdf.newStream(content);
+  return stream;
 }
 
 void LabelWriter::addLayer(const QPDFObjectHandle& layer, bool isHidden) {
@@ -75,7 +82,9 @@ void LabelWriter::write(int output) {
   const File file = fileToWrite(output);
   QPDFWriter writer(mPdf);
   writer.setOutputFile("labels", file.get(), /*close_file=*/false);
-  writer.setObjectStreamMode(qpdf_o_generate);
+  // What came packed is packed, and what did not is small or was no larger before: to pack it, and
+  // the objects, would take as long as all the rest.
+  writer.setStreamDataMode(qpdf_s_preserve);
   writer.setMinimumPDFVersion(kVersion);
   writer.setDeterministicID(true);
   writer.write();

@@ -1,7 +1,9 @@
 // The PDF that goes to the printer: pages of exactly a label's size.
 #pragma once
 
+#include <map>
 #include <qpdf/QPDF.hh>
+#include <string>
 
 #include "composition/Layout.h"
 #include "composition/reader/DocumentSource.h"
@@ -22,7 +24,10 @@ class LabelWriter {
   void write(int output);
 
  private:
+  QPDFObjectHandle contentStream(const std::string& content);
+
   QPDF mPdf;
+  std::map<std::string, QPDFObjectHandle> mContents;
   LabelPage mLabel;
   bool mIsMirrored;
 };

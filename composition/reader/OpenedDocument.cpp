@@ -16,14 +16,6 @@
 namespace cutline {
 namespace {
 
-// How many labels of a text are needed; 0 for all. They are all needed where not the first ones are
-// chosen.
-int neededLabels(const PageSelection& pages) {
-  const bool isFromBeginning =
-      pages.ranges.text().empty() && pages.set == PageSet::all && !pages.isReversed;
-  return isFromBeginning ? pages.most : 0;
-}
-
 struct Opening {
   int descriptor;
   const CompositionRequest& request;
@@ -43,9 +35,9 @@ OpenedDocument openText(const Opening& opening) {
   TypesetProblem problem;
   if (!opening.needTypesetter().setText(contentsOf(opening.descriptor),
                                         textRoom(request, layout.turn), request.text,
-                                        neededLabels(request.pages), pages, problem))
+                                        request.pages.neededFirst(), pages, problem))
     throw Refusal{problem.problem, problem.detail};
-  return {std::make_unique<PdfSource>(std::move(pages)), layout, neededLabels(request.pages) > 0};
+  return {std::make_unique<PdfSource>(std::move(pages)), layout, request.pages.neededFirst() > 0};
 }
 
 OpenedDocument openDrawing(const Opening& opening) {
@@ -54,6 +46,13 @@ OpenedDocument openDrawing(const Opening& opening) {
   if (!opening.needTypesetter().setDrawing(contentsOf(opening.descriptor), pages, problem))
     throw Refusal{problem.problem, problem.detail};
   return {std::make_unique<PdfSource>(std::move(pages)), opening.request.layout};
+}
+
+OpenedDocument openPdf(const Opening& opening) {
+  const CompositionRequest& request = opening.request;
+  auto source = std::make_unique<PdfSource>(opening.descriptor, request.pages.neededFirst());
+  const bool isPartial = source->isPartial();
+  return {std::move(source), request.layout, isPartial};
 }
 
 template <typename Source>
@@ -66,7 +65,7 @@ struct Reader {
   OpenedDocument (*open)(const Opening&);
 };
 constexpr std::array kReaders = std::to_array<Reader>({
-    {DocumentKind::pdf, openFile<PdfSource>},
+    {DocumentKind::pdf, openPdf},
     {DocumentKind::png, openFile<PngSource>},
     {DocumentKind::jpeg, openFile<JpegSource>},
     {DocumentKind::tiff, openFile<TiffSource>},

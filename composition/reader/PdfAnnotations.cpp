@@ -3,6 +3,7 @@
 #include <string>
 
 #include "composition/reader/PdfContents.h"
+#include "composition/reader/PdfCopies.h"
 
 namespace cutline {
 namespace {
@@ -36,7 +37,7 @@ struct Drawing {
 
 }  // namespace
 
-PdfAnnotations::PdfAnnotations(QPDF& pdf) : mPdf(pdf) {
+PdfAnnotations::PdfAnnotations(QPDF& pdf, QPDF& labels) : mLabels(labels) {
   if (!pdf.getRoot().getKey("/AcroForm").isDictionary()) return;
   mFields.emplace(pdf);
   mFields->generateAppearancesIfNeeded();
@@ -74,10 +75,11 @@ QPDFObjectHandle PdfAnnotations::above(QPDFObjectHandle content, QPDFPageObjectH
     const std::string drawn =
         annotation.getPageContentForAppearance(name, frame.rotation, an_print, an_hidden);
     if (drawn.empty()) continue;
-    drawing.add(drawn, name, stream, annotation.getObjectHandle().getKey("/OC"));
+    drawing.add(drawn, name, copiedInto(mLabels, stream),
+                copiedInto(mLabels, annotation.getObjectHandle().getKey("/OC")));
   }
   if (drawing.count == 1) return content;
-  QPDFObjectHandle form = mPdf.newStream(drawing.content);
+  QPDFObjectHandle form = mLabels.newStream(drawing.content);
   describeForm(form, frame, drawing.resources());
   return form;
 }

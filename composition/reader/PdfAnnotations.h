@@ -12,11 +12,11 @@ namespace cutline {
 
 class PdfAnnotations {
  public:
-  // `pdf` outlives this.
-  explicit PdfAnnotations(QPDF& pdf);
+  // Of the pages of `pdf`, for labels of `labels`; both outlive this.
+  PdfAnnotations(QPDF& pdf, QPDF& labels);
 
-  // A form that draws the page's content and, above it, the annotations that are printed; `content`
-  // itself where there are none.
+  // A form of the labels' PDF that draws the page's content, a form of it, too, and above it the
+  // annotations that are printed; `content` itself where there are none.
   QPDFObjectHandle above(QPDFObjectHandle content, QPDFPageObjectHelper page,
                          const PdfFrame& frame);
 
@@ -26,7 +26,7 @@ class PdfAnnotations {
   QPDFObjectHandle appearance(QPDFAnnotationObjectHelper& annotation);
   void completeField(QPDFAnnotationObjectHelper& annotation, QPDFObjectHandle appearance);
 
-  QPDF& mPdf;
+  QPDF& mLabels;
   std::optional<QPDFAcroFormDocumentHelper> mFields;
 };
 

@@ -1,9 +1,11 @@
 #include "composition/reader/PdfContents.h"
 
 #include <qpdf/Pl_Concatenate.hh>
+#include <qpdf/Pl_Flate.hh>
 #include <utility>
 #include <vector>
 
+#include "composition/reader/PdfCopies.h"
 #include "composition/reader/PdfNumbers.h"
 
 namespace cutline {
@@ -15,7 +17,8 @@ class JoinedStreams : public QPDFObjectHandle::StreamDataProvider {
   explicit JoinedStreams(std::vector<QPDFObjectHandle> streams) : mStreams(std::move(streams)) {}
 
   void provideStreamData(QPDFObjGen const&, Pipeline* out) override {
-    Pl_Concatenate joined("contents", out);
+    Pl_Flate packed("packed contents", out, Pl_Flate::a_deflate);
+    Pl_Concatenate joined("contents", &packed);
     for (QPDFObjectHandle& stream : mStreams) {
       stream.pipeStreamData(&joined, 0, qpdf_dl_specialized, /*suppress_warnings=*/true);
       joined.writeCStr("\n");
@@ -25,6 +28,19 @@ class JoinedStreams : public QPDFObjectHandle::StreamDataProvider {
 
  private:
   std::vector<QPDFObjectHandle> mStreams;
+};
+
+// A stream as it is stored.
+class StoredStream : public QPDFObjectHandle::StreamDataProvider {
+ public:
+  explicit StoredStream(QPDFObjectHandle stream) : mStream(std::move(stream)) {}
+
+  void provideStreamData(QPDFObjGen const&, Pipeline* out) override {
+    mStream.pipeStreamData(out, 0, qpdf_dl_none, /*suppress_warnings=*/true);
+  }
+
+ private:
+  QPDFObjectHandle mStream;
 };
 
 // What is no stream is left out, as every reader does.
@@ -40,11 +56,18 @@ std::vector<QPDFObjectHandle> contentStreams(QPDFPageObjectHelper& page) {
   return streams;
 }
 
-QPDFObjectHandle joined(QPDF& pdf, std::vector<QPDFObjectHandle> streams) {
-  if (streams.size() == 1) return streams.front().copyStream();
-  QPDFObjectHandle stream = pdf.newStream();
-  stream.replaceStreamData(std::make_shared<JoinedStreams>(std::move(streams)),
-                           QPDFObjectHandle::newNull(), QPDFObjectHandle::newNull());
+QPDFObjectHandle contentStream(QPDF& labels, std::vector<QPDFObjectHandle> streams) {
+  QPDFObjectHandle stream = labels.newStream();
+  if (streams.size() != 1) {
+    stream.replaceStreamData(std::make_shared<JoinedStreams>(std::move(streams)),
+                             QPDFObjectHandle::newName("/FlateDecode"),
+                             QPDFObjectHandle::newNull());
+    return stream;
+  }
+  QPDFObjectHandle stored = streams.front().getDict();
+  stream.replaceStreamData(std::make_shared<StoredStream>(streams.front()),
+                           copiedInto(labels, stored.getKey("/Filter")),
+                           copiedInto(labels, stored.getKey("/DecodeParms")));
   return stream;
 }
 
@@ -58,13 +81,14 @@ void describeForm(QPDFObjectHandle form, const PdfFrame& frame, QPDFObjectHandle
   dictionary.replaceKey("/Resources", resources);
 }
 
-QPDFObjectHandle contentForm(QPDF& pdf, QPDFPageObjectHelper page, const PdfFrame& frame) {
-  QPDFObjectHandle form = joined(pdf, contentStreams(page));
+QPDFObjectHandle contentForm(QPDF& labels, QPDFPageObjectHelper page, const PdfFrame& frame) {
+  QPDFObjectHandle form = contentStream(labels, contentStreams(page));
   QPDFObjectHandle resources = page.getAttribute("/Resources", false);
-  describeForm(form, frame,
-               resources.isDictionary() ? resources : QPDFObjectHandle::newDictionary());
+  describeForm(
+      form, frame,
+      resources.isDictionary() ? copiedInto(labels, resources) : QPDFObjectHandle::newDictionary());
   QPDFObjectHandle group = page.getObjectHandle().getKey("/Group");
-  if (group.isDictionary()) form.getDict().replaceKey("/Group", group);
+  if (group.isDictionary()) form.getDict().replaceKey("/Group", copiedInto(labels, group));
   return form;
 }
 

@@ -11,6 +11,7 @@
 #include "composition/reader/DocumentBytes.h"
 #include "composition/reader/LabelWriter.h"
 #include "composition/reader/PdfContents.h"
+#include "composition/reader/PdfFirstPages.h"
 #include "composition/reader/PdfFrame.h"
 #include "composition/reader/PdfLayers.h"
 #include "composition/reader/PdfPageCount.h"
@@ -34,7 +35,7 @@ std::FILE* fileToRead(int descriptor) {
 
 }  // namespace
 
-PdfSource::PdfSource(int descriptor) {
+PdfSource::PdfSource(int descriptor, int needed) {
   mPdf.setSuppressWarnings(true);
   mBytes.pdf = startOf(descriptor, kInMemory + 1);
   if (mBytes.pdf.size() <= kInMemory) {
@@ -43,21 +44,27 @@ PdfSource::PdfSource(int descriptor) {
     mBytes.pdf = {};
     mPdf.processFile(kDescription, fileToRead(descriptor), /*close_file=*/true);
   }
-  open();
+  open(needed);
 }
 
 PdfSource::PdfSource(TypesetPages pages) : mBytes(std::move(pages)) {
   mPdf.setSuppressWarnings(true);
   mPdf.processMemoryFile(kDescription, mBytes.pdf.data(), mBytes.pdf.size());
-  open();
+  open(0);
 }
 
-void PdfSource::open() {
+void PdfSource::open(int needed) {
   if (!mPdf.allowPrintLowRes() && !mPdf.allowPrintHighRes())
     throw Refusal{DocumentProblem::unprintable, {}};
-  refuseTooManyPages(mPdf);
-  mPages = QPDFPageDocumentHelper(mPdf).getAllPages();
+  findPages(needed);
   if (mPages.empty()) throw Refusal{DocumentProblem::empty, {}};
+}
+
+void PdfSource::findPages(int needed) {
+  const std::optional<int> stated = keepFirstPages(mPdf, needed);
+  if (!stated) refuseTooManyPages(mPdf);
+  mPages = QPDFPageDocumentHelper(mPdf).getAllPages();
+  mPageCount = stated.value_or(static_cast<int>(mPages.size()));
 }
 
 PageSize PdfSource::pageSize(int page) {
@@ -68,14 +75,13 @@ PageSize PdfSource::pageSize(int page) {
 
 DrawnPage PdfSource::draw(int page, LabelWriter& labels) {
   if (!mAnnotations) {
-    mAnnotations.emplace(mPdf);
+    mAnnotations.emplace(mPdf, labels.pdf());
     copyLayers(mPdf, labels);
   }
   const PdfFrame frame = pdfFrame(pageAt(page));
   QPDFObjectHandle& content = mContents[contentKey(pageAt(page), frame)];
-  if (!content.isInitialized()) content = contentForm(mPdf, pageAt(page), frame);
-  QPDFObjectHandle form = mAnnotations->above(content, pageAt(page), frame);
-  return {labels.pdf().copyForeignObject(form), frame.matrix};
+  if (!content.isInitialized()) content = contentForm(labels.pdf(), pageAt(page), frame);
+  return {mAnnotations->above(content, pageAt(page), frame), frame.matrix};
 }
 
 }  // namespace cutline

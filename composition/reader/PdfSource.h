@@ -17,23 +17,29 @@ namespace cutline {
 
 class PdfSource : public DocumentSource {
  public:
-  // From an open file, which stays the caller's and is read from as long as this lives.
-  explicit PdfSource(int descriptor);
+  // From an open file, which stays the caller's and is read from as long as this lives. Only so
+  // many first pages are `needed`; 0 for all.
+  PdfSource(int descriptor, int needed);
   // From what a typesetter made.
   explicit PdfSource(TypesetPages pages);
 
-  int pageCount() override { return static_cast<int>(mPages.size()); }
+  // Only the first pages were looked for: no other may be asked for, and how many there are is what
+  // the PDF says.
+  bool isPartial() const noexcept { return mPageCount > static_cast<int>(mPages.size()); }
+  int pageCount() override { return mPageCount; }
   PageSize pageSize(int page) override;
   DrawnPage draw(int page, LabelWriter& labels) override;
 
  private:
   // Refuses what must not be printed, and finds the pages.
-  void open();
+  void open(int needed);
+  void findPages(int needed);
   QPDFPageObjectHelper& pageAt(int page) { return mPages.at(static_cast<std::size_t>(page)); }
 
   TypesetPages mBytes;
   QPDF mPdf;
   std::vector<QPDFPageObjectHelper> mPages;
+  int mPageCount = 0;
   std::optional<PdfAnnotations> mAnnotations;
   std::map<std::string, QPDFObjectHandle> mContents;  // by contentKey(): pages may share theirs
 };

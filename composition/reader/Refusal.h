@@ -1,4 +1,4 @@
-// Why a document cannot be composed, thrown by what reads it and caught by composeDocuments(): the
+// Why a document cannot be composed, thrown by what reads it and caught by DocumentComposer: the
 // libraries that read along throw as well.
 #pragma once
 

@@ -7,7 +7,7 @@
 #include <map>
 #include <stdexcept>
 
-#include "composition/reader/ComposeDocuments.h"
+#include "composition/reader/DocumentComposer.h"
 #include "tests/composition/MemoryFile.h"
 
 namespace cutline::test {
@@ -48,7 +48,7 @@ Composed::Composed(const std::vector<std::string>& documents, const CompositionR
   for (const std::string& document : documents)
     descriptors.push_back(files.emplace_back(document).descriptor());
   const MemoryFile output;
-  mReport = composeDocuments(request, descriptors, output.descriptor(), typesetter);
+  mReport = DocumentComposer().compose(request, descriptors, output.descriptor(), typesetter);
   if (mReport.failure) return;
   mPdf = output.bytes();
   mDrawn->document.reset(

@@ -81,6 +81,54 @@ TEST(PdfContentTest, WhatPagesShareGoesAlongOnce) {
   EXPECT_EQ(countOf(composed, "/Image"), 1);
 }
 
+QPDFObjectHandle labelOf(QPDF& pdf, const Composed& composed, std::size_t page) {
+  pdf.processMemoryFile("labels", composed.pdf().data(), composed.pdf().size());
+  return pdf.getAllPages().at(page);
+}
+
+// What is placed alike is drawn by the same few words.
+TEST(PdfContentTest, LabelsThatArePlacedAlikeShareWhatPlacesThem) {
+  PdfDocument document;
+  for (int page = 0; page < 3; ++page) document.addPage(kPage, kCornerMark);
+  document.addPage("/MediaBox[0 0 20 20]", kCornerMark);
+  const Composed composed(document.bytes());
+  QPDF pdf;
+  QPDFObjectHandle first = labelOf(pdf, composed, 0).getKey("/Contents");
+  std::vector<QPDFObjectHandle> labels = pdf.getAllPages();
+  EXPECT_EQ(first.getObjGen(), labels[2].getKey("/Contents").getObjGen());
+  EXPECT_NE(first.getObjGen(), labels[3].getKey("/Contents").getObjGen());
+}
+
+// What several streams draw is packed again when they become one.
+TEST(PdfContentTest, JoinedContentIsPacked) {
+  PdfDocument document;
+  const std::string part = document.addStream(std::string(5000, '\n'));
+  document.addPage(kPage + ("/Contents[" + part + ' ' + part + "]"));
+  const Composed composed(document.bytes());
+  QPDF pdf;
+  QPDFObjectHandle form =
+      labelOf(pdf, composed, 0).getKey("/Resources").getKey("/XObject").getKey("/Page");
+  EXPECT_LT(form.getRawStreamData()->getSize(), 200U);
+  EXPECT_EQ(form.getStreamData()->getSize(), 10002U);
+}
+
+// Resources may stand in the page itself, and refer to others from anywhere within.
+TEST(PdfContentTest, ResourcesWithoutANumberOfTheirOwnGoAlong) {
+  PdfDocument document;
+  const std::string space = document.add("[/Indexed /DeviceRGB 1 <ff0000 000000>]").unparse();
+  document.addPage(std::string(kPage) + "/Resources<</ColorSpace<</S[/Pattern " + space + "]/T " +
+                       space + ">>/ExtGState<</G<</ca 1/D[[2 1] 0]>>>>>>",
+                   "/G gs /T cs 0 sc 0 0 10 10 re f");
+  Composed composed(document.bytes());
+  ASSERT_EQ(composed.problem(), std::nullopt);
+  EXPECT_EQ(composed.colourAt(5, 5), 0xff0000U);
+  QPDF pdf;
+  QPDFObjectHandle form =
+      labelOf(pdf, composed, 0).getKey("/Resources").getKey("/XObject").getKey("/Page");
+  QPDFObjectHandle spaces = form.getDict().getKey("/Resources").getKey("/ColorSpace");
+  EXPECT_EQ(spaces.getKey("/S").getArrayItem(1).getObjGen(), spaces.getKey("/T").getObjGen());
+}
+
 TEST(PdfContentTest, PagesThatAreNotChosenAreLeftBehind) {
   PdfDocument document;
   for (int page = 0; page < 10; ++page) document.addPage(kPage, kCornerMark);

@@ -1,9 +1,10 @@
-#include "composition/reader/ComposeDocuments.h"
+#include "composition/reader/DocumentComposer.h"
 
 #include <algorithm>
 #include <cmath>
 #include <exception>
 #include <new>
+#include <optional>
 #include <qpdf/QPDFExc.hh>
 #include <stdexcept>
 
@@ -51,10 +52,12 @@ Refusal refusal() {
   }
 }
 
-class Composition {
+}  // namespace
+
+class DocumentComposer::Composing {
  public:
-  Composition(const CompositionRequest& request, Typesetter* typesetter)
-      : mRequest(request), mTypesetter(typesetter) {
+  Composing(CompositionRequest request, Typesetter* typesetter)
+      : mRequest(std::move(request)), mTypesetter(typesetter) {
     mReport.label = request.label;
   }
 
@@ -112,7 +115,7 @@ class Composition {
   }
 
   void writeLabels(int output) {
-    LabelWriter labels(mReport.label, mRequest.isMirrored);
+    LabelWriter& labels = mLabels.emplace(mReport.label, mRequest.isMirrored);
     for (const Page& page : mPages) {
       mCurrent = page.documentIndex;
       const Placement placement = placed(page.size, mReport.label, page.document->layout);
@@ -122,20 +125,23 @@ class Composition {
     labels.write(output);
   }
 
-  const CompositionRequest& mRequest;
+  CompositionRequest mRequest;
   Typesetter* mTypesetter;
   std::vector<OpenedDocument> mDocuments;
+  std::optional<LabelWriter> mLabels;  // reads from the documents as long as it lives
   std::vector<Page> mPages;
   int mCurrent = 0;  // the document that is being read
   CompositionReport mReport;
 };
 
-}  // namespace
+DocumentComposer::DocumentComposer() = default;
+DocumentComposer::~DocumentComposer() = default;
 
-CompositionReport composeDocuments(const CompositionRequest& request,
-                                   const std::vector<int>& documents, int output,
-                                   Typesetter* typesetter) {
-  return Composition(request, typesetter).compose(documents, output);
+CompositionReport DocumentComposer::compose(const CompositionRequest& request,
+                                            const std::vector<int>& documents, int output,
+                                            Typesetter* typesetter) {
+  mComposing = std::make_unique<Composing>(request, typesetter);
+  return mComposing->compose(documents, output);
 }
 
 }  // namespace cutline

@@ -1,0 +1,35 @@
+// Reads documents and writes them as one PDF on label pages. Runs in a confined process: whatever
+// a document does to its reader, nobody else is there.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "composition/Composition.h"
+
+namespace cutline {
+
+class Typesetter;
+
+// Holds what it has read and made until it goes, which takes a while for long documents: who ends
+// the process answers before that.
+class DocumentComposer {
+ public:
+  DocumentComposer();
+  DocumentComposer(const DocumentComposer&) = delete;
+  DocumentComposer& operator=(const DocumentComposer&) = delete;
+  ~DocumentComposer();
+
+  // `documents` are open files, one for each of the request's names, read from their beginnings;
+  // `output` is a file open for writing, empty. All stay the caller's. `typesetter` is borrowed;
+  // null where its module is missing, which fails for what needs it. PostScript has been made a PDF
+  // before. Where the report has a failure, what `output` holds says nothing.
+  CompositionReport compose(const CompositionRequest& request, const std::vector<int>& documents,
+                            int output, Typesetter* typesetter);
+
+ private:
+  class Composing;
+  std::unique_ptr<Composing> mComposing;
+};
+
+}  // namespace cutline
