@@ -1,5 +1,6 @@
 #include "composition/reader/DocumentBytes.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -22,10 +23,17 @@ std::size_t readSome(int descriptor, char* to, std::size_t size, std::size_t fro
   return static_cast<std::size_t>(got);
 }
 
+// As the file says, which may change while it is read; 0 where it does not say.
+std::size_t sizeOf(int descriptor) {
+  struct stat facts {};
+  return ::fstat(descriptor, &facts) == 0 ? static_cast<std::size_t>(facts.st_size) : 0;
+}
+
 }  // namespace
 
 std::string startOf(int descriptor, std::size_t most) {
   std::string bytes;
+  bytes.reserve(std::min(sizeOf(descriptor) + kStep, most));
   std::size_t got = 0;
   do {
     const std::size_t size = bytes.size();
