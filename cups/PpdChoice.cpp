@@ -127,6 +127,13 @@ std::string markedText(ppd_file_t* ppd, const ppd_option_t& option) {
   return text;
 }
 
+bool isAtDefault(const ppd_option_t& option) {
+  return std::ranges::all_of(choicesOf(option), [&](const ppd_choice_t& choice) {
+    return choice.marked == 0 || (std::strcmp(choice.choice, option.defchoice) == 0 &&
+                                  std::strcmp(choice.choice, kCustomChoice) != 0);
+  });
+}
+
 std::string spelledChoice(const ppd_option_t& option, const std::string& choice) {
   if (isCustomValue(choice)) return choice;
   if (option.ui != PPD_UI_PICKMANY) return spelledOne(option, choice);

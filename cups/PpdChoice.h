@@ -13,6 +13,10 @@ namespace cutline {
 // where an option takes them. Empty when nothing is marked.
 std::string markedText(ppd_file_t* ppd, const ppd_option_t& option);
 
+// Whether nothing else than the PPD's default is marked of the option. Never of a custom choice: it
+// may have other values than by default.
+bool isAtDefault(const ppd_option_t& option);
+
 // The choice as the PPD spells it; a text that is none of its choices, such as a custom value,
 // stays as it is. Several choices stand with commas where an option takes them.
 std::string spelledChoice(const ppd_option_t& option, const std::string& choice);

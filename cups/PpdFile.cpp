@@ -189,6 +189,17 @@ OptionList PpdFile::markedOptions() const {
   return marked;
 }
 
+OptionList PpdFile::markedBesideDefaults(
+    const std::set<std::string, std::less<>>& evenAtDefault) const {
+  OptionList marked;
+  forEachOption(mPpd, [&](const ppd_option_t& option) {
+    if (isAtDefault(option) && !evenAtDefault.contains(option.keyword)) return;
+    const std::string text = markedText(mPpd, option);
+    if (!text.empty()) marked.emplace_back(option.keyword, text);
+  });
+  return marked;
+}
+
 std::vector<OptionGroup> PpdFile::optionGroups() const {
   std::vector<OptionGroup> groups;
   forEachGroup(groupsOf(mPpd), [&](const ppd_group_t& group) {

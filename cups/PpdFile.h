@@ -2,8 +2,10 @@
 // made for it.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -97,6 +99,8 @@ class PpdFile {
   // Every option with a marked choice, in the PPD's order, installable options left out. Custom
   // choices with their values, as the server takes them.
   OptionList markedOptions() const;
+  // Those of them that are not at the PPD's default, and of the others those with these keywords.
+  OptionList markedBesideDefaults(const std::set<std::string, std::less<>>& evenAtDefault) const;
   // The groups that have options, in the PPD's order, subgroups after their group. Left out are the
   // installable options, the page region (it mirrors the page size) and choices that need a value.
   std::vector<OptionGroup> optionGroups() const;

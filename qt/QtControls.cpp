@@ -2,6 +2,8 @@
 
 #include <QEvent>
 #include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPointer>
 #include <QSignalBlocker>
 #include <QStyle>
 #include <QStyleOptionButton>
@@ -71,8 +73,29 @@ namespace {
 
 // Its frame is fixed by the panel's interface file: a longer text ends in an ellipsis, and the
 // tool tip has the rest.
+//
+// The toolkit draws a box at once when it is pressed, and again when it is let go of, before it
+// tells of the click; here it is drawn with all that the click changes.
 class ElidingCheckBox : public QCheckBox {
+ public:
+  ElidingCheckBox() {
+    connect(this, &QCheckBox::released, this, [this] { setUpdatesEnabled(true); });
+  }
+
  protected:
+  void mousePressEvent(QMouseEvent* event) override {
+    setUpdatesEnabled(false);
+    QCheckBox::mousePressEvent(event);
+    setUpdatesEnabled(true);
+  }
+
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    const QPointer<QWidget> self(this);
+    setUpdatesEnabled(false);
+    QCheckBox::mouseReleaseEvent(event);
+    if (self) setUpdatesEnabled(true);
+  }
+
   void initStyleOption(QStyleOptionButton* option) const override {
     QCheckBox::initStyleOption(option);
     option->text = elided(*option);

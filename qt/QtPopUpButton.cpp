@@ -110,9 +110,10 @@ void QtPopUpButton::userDidChoose(int index) noexcept {
 void QtPopUpButton::select(std::optional<std::size_t> index) noexcept {
   mSelected = index;
   nameCurrent();
-  if (!widget()) return;
+  const int row = index ? static_cast<int>(*index) : -1;
+  if (!widget() || widget()->currentIndex() == row) return;
   const QSignalBlocker quiet(widget());
-  widget()->setCurrentIndex(index ? static_cast<int>(*index) : -1);
+  widget()->setCurrentIndex(row);
   widget()->update();
 }
 

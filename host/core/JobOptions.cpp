@@ -39,12 +39,8 @@ void addMarked(OptionList& options, const OpenPrinter& printer, const std::strin
 }
 
 void addOthers(OptionList& options, const OpenPrinter& printer) {
-  for (const auto& [keyword, choice] : printer.ppd().markedOptions()) {
-    if (isSettledElsewhere(keyword)) continue;
-    const PpdOption* option = printer.options().find(keyword);
-    const bool isDefault = option != nullptr && option->defaultChoice == choice;
-    if (!isDefault || printer.wasAskedFor(keyword)) set(options, keyword, choice);
-  }
+  for (const auto& [keyword, choice] : printer.ppd().markedBesideDefaults(printer.askedFor()))
+    if (!isSettledElsewhere(keyword)) set(options, keyword, choice);
 }
 
 // The same again in IPP's numbers, for a PPD that has the options for it: they may say otherwise by

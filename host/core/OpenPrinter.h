@@ -43,8 +43,8 @@ class OpenPrinter final : private PanelHostOwner {
   // How the printer begins by itself, what was saved for the destination, and what was asked for
   // over it, in order.
   const std::vector<OptionList>& layers() const noexcept { return mLayers; }
-  // Somebody chose this option, so it is sent even at its default.
-  bool wasAskedFor(const std::string& keyword) const { return mAskedFor.contains(keyword); }
+  // Keywords of the PPD that somebody chose, so that they are sent even at their defaults.
+  const std::set<std::string, std::less<>>& askedFor() const noexcept { return mAskedFor; }
 
   // Starts again as the printer begins by itself, with these options over it.
   void restart(const OptionList& options);
@@ -112,7 +112,7 @@ class OpenPrinter final : private PanelHostOwner {
   OptionList mStart;  // see PrinterStart.h
   std::shared_ptr<PrintTicket> mTicket;
   std::vector<OptionList> mLayers;
-  std::set<std::string> mAskedFor;
+  std::set<std::string, std::less<>> mAskedFor;
   std::function<void()> mLayoutDidChange;
   int mHostCalls = 0;
   WantedChoices mWanted;

@@ -116,15 +116,21 @@ Result<Done> PrintModel::setCustomPaper(const std::string& name) {
   return Done{};
 }
 
-std::vector<GeneratedGroup> PrintModel::generatedOptions() const {
-  std::vector<GeneratedGroup> groups;
+const OptionTable& PrintModel::options() const noexcept { return mPrinter->options(); }
+
+std::string PrintModel::markedChoice(const std::string& keyword) const {
+  return mPrinter->ppd().markedChoice(keyword);
+}
+
+std::vector<OptionGroup> PrintModel::generatedOptions() const {
+  std::vector<OptionGroup> groups;
   const std::set<std::string> withBox = mPrinter->keywordsWithBox();
   for (const OptionGroup& group : mPrinter->options().groups()) {
-    GeneratedGroup generated{group.text, {}};
+    OptionGroup generated{group.name, group.text, {}};
     for (const PpdOption& option : group.options) {
       if (hasOwnControl(option.keyword) || option.choices.empty()) continue;
       if (mPrinter->isReachedByPanels(option, withBox)) continue;
-      generated.options.push_back({option, mPrinter->ppd().markedChoice(option.keyword)});
+      generated.options.push_back(option);
     }
     if (!generated.options.empty()) groups.push_back(std::move(generated));
   }

@@ -28,6 +28,7 @@ namespace cutline {
 
 class CheckBox;
 class OpenPrinter;
+class OptionTable;
 
 enum class ModelChange {
   printer,      // everything is new: panels, papers, generated options
@@ -76,9 +77,14 @@ class PrintModel final : public ActionObserver {
   // By PageSize choice. An unknown name is an error that lists the names.
   Result<Done> setPaper(const std::string& name);
 
-  // Options that the panels leave to the dialog, in the PPD's groups and order; installable options
-  // and the paper's own options left out. Empty when there are none.
-  std::vector<GeneratedGroup> generatedOptions() const;
+  // The PPD's; while open only.
+  const OptionTable& options() const noexcept;
+  // The marked choice's keyword; empty where none is marked. While open only.
+  std::string markedChoice(const std::string& keyword) const;
+  // Options that no panel takes care of, or some choice of which no control of a panel reaches, in
+  // the PPD's groups and order; installable options and the paper's own options left out. No group
+  // is empty.
+  std::vector<OptionGroup> generatedOptions() const;
   // A user's choice in the generated options. An unknown keyword or choice is an error.
   Result<Done> setOption(const std::string& keyword, const std::string& choice);
 

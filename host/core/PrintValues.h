@@ -42,16 +42,6 @@ struct PanelEntry {
   std::shared_ptr<PrintDialogPanel> panel;
 };
 
-// A PPD option that no panel takes care of, or some choice of which no control of a panel reaches.
-struct GeneratedOption {
-  PpdOption option;
-  std::string marked;  // the marked choice's keyword; empty when none is marked
-};
-struct GeneratedGroup {
-  std::string text;
-  std::vector<GeneratedOption> options;  // never empty
-};
-
 struct SummaryLine {
   std::string title;
   std::string value;

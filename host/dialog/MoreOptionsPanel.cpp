@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 #include <array>
 #include <optional>
+#include <utility>
 
 #include "qt/QtText.h"
 #include "qt/accessibility.h"
@@ -52,15 +53,15 @@ QLabel* makeHeading(const std::string& text, QWidget* parent) {
 
 }  // namespace
 
-MoreOptionsPanel::MoreOptionsPanel(QWidget* parent)
-    : QWidget(parent), mColumn(new QVBoxLayout(this)) {
+MoreOptionsPanel::MoreOptionsPanel(MarkOf markOf, QWidget* parent)
+    : QWidget(parent), mMarkOf(std::move(markOf)), mColumn(new QVBoxLayout(this)) {
   mColumn->setContentsMargins(0, 0, 0, 0);
   setAccessibleRole(*this, QAccessible::Grouping);
   setAccessibleName(tr("More printer options"));
 }
 
-void MoreOptionsPanel::setGroups(const std::vector<GeneratedGroup>& groups) {
-  mGroups = groups;
+void MoreOptionsPanel::setGroups(std::vector<OptionGroup> groups) {
+  mGroups = std::move(groups);
   mSetters.clear();
   delete mPage;
   mPage = nullptr;
@@ -78,31 +79,21 @@ void MoreOptionsPanel::build() {
   auto* form = new QFormLayout(mPage);
   form->setContentsMargins(0, 0, 0, 0);
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-  for (const GeneratedGroup& group : mGroups) addGroup(*form, group);
+  for (const OptionGroup& group : mGroups) addGroup(*form, group);
   mColumn->addWidget(mPage);
   showMarks();
 }
 
-void MoreOptionsPanel::setMarks(const std::vector<GeneratedGroup>& groups) {
-  mGroups = groups;
-  showMarks();
-}
-
 void MoreOptionsPanel::showMarks() {
-  for (const GeneratedGroup& group : mGroups) {
-    for (const GeneratedOption& each : group.options) {
-      const auto setter = mSetters.find(each.option.keyword);
-      if (setter != mSetters.end()) setter->second(each.marked);
-    }
-  }
+  for (const auto& [keyword, show] : mSetters) show(mMarkOf(keyword));
 }
 
-void MoreOptionsPanel::addGroup(QFormLayout& form, const GeneratedGroup& group) {
+void MoreOptionsPanel::addGroup(QFormLayout& form, const OptionGroup& group) {
   form.addRow(makeHeading(group.text, form.parentWidget()));
-  for (const GeneratedOption& each : group.options) {
-    QWidget* control = makeControl(each.option);
-    const QString title = toQString(each.option.text);
-    control->setObjectName(toQString(each.option.keyword));
+  for (const PpdOption& option : group.options) {
+    QWidget* control = makeControl(option);
+    const QString title = toQString(option.text);
+    control->setObjectName(toQString(option.keyword));
     control->setAccessibleName(title);
     if (qobject_cast<QCheckBox*>(control)) {
       form.addRow(control);

@@ -7,7 +7,7 @@
 #include <map>
 #include <vector>
 
-#include "host/core/PrintValues.h"
+#include "cups/PpdFile.h"
 
 class QFormLayout;
 class QVBoxLayout;
@@ -18,12 +18,15 @@ class MoreOptionsPanel : public QWidget {
   Q_OBJECT
 
  public:
-  explicit MoreOptionsPanel(QWidget* parent = nullptr);
+  // The marked choice of an option of the groups; empty where none is marked.
+  using MarkOf = std::function<std::string(const std::string& keyword)>;
+
+  explicit MoreOptionsPanel(MarkOf markOf, QWidget* parent = nullptr);
 
   // Builds the controls anew; while it is hidden, when it is shown: a driver has hundreds.
-  void setGroups(const std::vector<GeneratedGroup>& groups);
-  // The same options with other marks: moves the controls, and reports nothing.
-  void setMarks(const std::vector<GeneratedGroup>& groups);
+  void setGroups(std::vector<OptionGroup> groups);
+  // Moves the controls to where the marks are, and reports nothing.
+  void showMarks();
 
   void setVisible(bool visible) override;
 
@@ -32,14 +35,14 @@ class MoreOptionsPanel : public QWidget {
 
  private:
   void build();
-  void showMarks();
-  void addGroup(QFormLayout& form, const GeneratedGroup& group);
+  void addGroup(QFormLayout& form, const OptionGroup& group);
   QWidget* makeControl(const PpdOption& option);
   QWidget* makeCheckBox(const PpdOption& option);
   QWidget* makeComboBox(const PpdOption& option);
 
+  MarkOf mMarkOf;
   QVBoxLayout* mColumn;
-  std::vector<GeneratedGroup> mGroups;
+  std::vector<OptionGroup> mGroups;
   QWidget* mPage = nullptr;  // with the controls; null until they are built
   std::map<std::string, std::function<void(const std::string&)>> mSetters;  // by keyword
 };

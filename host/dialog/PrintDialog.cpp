@@ -72,7 +72,8 @@ PrintDialog::PrintDialog(PrintModel& model, std::shared_ptr<PrintServer> server,
       mNotices(new NoticeView(this)),
       mPresets(new PresetKeeper(model, *mServer, *mPresetBar, *mNotices, this)),
       mStripPane(new StripPane(this)),
-      mMoreOptions(new MoreOptionsPanel(mSettings)),
+      mMoreOptions(new MoreOptionsPanel(
+          [this](const std::string& keyword) { return mModel.markedChoice(keyword); }, mSettings)),
       mMoreButton(makeDisclosure(tr("&More printer options"), mSettings)),
       mOpen(new OpenBar(this)),
       mHistory(new HistoryBar(model, this)),
@@ -162,10 +163,11 @@ void PrintDialog::showPrinter() {
   mPanelFrame->setPanels(mModel.panels());
   mHints->watchPanels();
   mJobForm->setPapers(mModel.papers());
-  mMoreOptions->setGroups(mModel.generatedOptions());
-  mMoreButton->setEnabled(!mModel.generatedOptions().empty());
+  std::vector<OptionGroup> moreOptions = mModel.generatedOptions();
+  mMoreButton->setEnabled(!moreOptions.empty());
+  if (moreOptions.empty()) mMoreButton->setChecked(false);
+  mMoreOptions->setGroups(std::move(moreOptions));
   mOpen->setEnabled(true);
-  if (mModel.generatedOptions().empty()) mMoreButton->setChecked(false);
   for (const NoticeTopic topic : {NoticeTopic::failure, NoticeTopic::setUp}) mNotices->clear(topic);
   showPaper();
   showJob();
@@ -177,7 +179,7 @@ void PrintDialog::showPrinter() {
 void PrintDialog::showOptions() {
   mSummary->setLines(mModel.summary());
   showCuttingForm();
-  mMoreOptions->setMarks(mModel.generatedOptions());
+  mMoreOptions->showMarks();
   mNotices->setNotices(NoticeTopic::conflicts,
                        conflictNotices(mModel.conflicts(), [this] { resolveConflicts(); }));
   mNotices->setNotices(NoticeTopic::deviations, sentencesOf(mModel.deviations()));

@@ -22,10 +22,9 @@ namespace {
 
 const QString kCountKeyword = QStringLiteral("LxCutLabel");
 
-std::vector<unsigned> countsOf(const PpdFile& ppd) {
+std::vector<unsigned> countsOf(const OptionTable& options) {
   std::vector<unsigned> counts;
-  const OptionTable table(ppd);
-  const PpdOption* option = table.find(toUtf8(kCountKeyword));
+  const PpdOption* option = options.find(toUtf8(kCountKeyword));
   if (option == nullptr) return counts;
   for (const OptionChoice& choice : option->choices)
     counts.push_back(numberIn<unsigned>(choice.name).value_or(0));
@@ -66,7 +65,7 @@ void PrintDialog::showHelp() {
 
 // None where it is not known yet what is printed.
 void PrintDialog::showCuttingNotices(const CutPlan* plan) {
-  const std::vector<unsigned> counts = countsOf(*mModel.ppdFile());
+  const std::vector<unsigned> counts = countsOf(mModel.options());
   const auto odd = plan != nullptr ? oddPiece(*plan, counts, kMostCopies) : std::nullopt;
   if (!odd) return mNotices->clear(NoticeTopic::cutting);
   Notice notice{tr("The last piece has %1 of %2 labels.").arg(odd->last).arg(odd->each)};

@@ -109,6 +109,32 @@ TEST_F(PpdFileTest, MarkedOptionsComeInThePpdsOrderWithoutInstallableOnes) {
   EXPECT_EQ(mTape->markedOptions(), expected);
 }
 
+TEST_F(PpdFileTest, WhatIsAtItsDefaultCountsWhereItIsAskedFor) {
+  mTape->mark({{{"LxSpecialTape", "ON"}}});
+  EXPECT_EQ(mTape->markedBesideDefaults({}), (OptionList{{"LxSpecialTape", "ON"}}));
+  EXPECT_EQ(mTape->markedBesideDefaults({"Darkness", "Cutter"}),
+            (OptionList{{"LxSpecialTape", "ON"}, {"Darkness", "Normal"}}));
+}
+
+TEST_F(PpdFileTest, SeveralChoicesAreNoDefaultThoughItIsAmongThem) {
+  const auto ppd = openedText(replaced(fixtureText("tape.ppd"), "*Darkness/Darkness: PickOne",
+                                       "*Darkness/Darkness: PickMany"));
+  EXPECT_TRUE(ppd->markedBesideDefaults({}).empty());
+  ppd->markChoice("Darkness", "Dark");
+  EXPECT_EQ(ppd->markedBesideDefaults({}), (OptionList{{"Darkness", "Normal,Dark"}}));
+}
+
+// Its measures are not the default's.
+TEST_F(PpdFileTest, ACustomSizeIsNoDefault) {
+  const auto ppd = openedText(
+      replaced(fixtureText("tape.ppd"), "*DefaultPageSize: W24H100", "*DefaultPageSize: Custom"));
+  ppd->mark({{{"PageSize", "Custom.24x80mm"}}});
+  const OptionList marked = ppd->markedBesideDefaults({});
+  ASSERT_EQ(marked.size(), 1U);
+  EXPECT_EQ(marked.front().first, "PageSize");
+  EXPECT_NE(marked.front().second, "Custom");
+}
+
 TEST_F(PpdFileTest, AnOptionWithoutAValidDefaultHasNoMark) {
   const auto ppd =
       openedText(replaced(replaced(fixtureText("tape.ppd"), "*DefaultLxHalfCut: OFF\n", ""),

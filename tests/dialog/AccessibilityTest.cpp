@@ -231,13 +231,8 @@ TEST_F(AccessibilityTest, AGreyedBoxSaysSo) {
 
 // Further options of the printer are ticked as by a click, too.
 TEST_F(AccessibilityTest, AssistiveTechnologyTicksAGeneratedOption) {
-  MoreOptionsPanel panel;
-  GeneratedOption fan;
-  fan.option.keyword = "Fan";
-  fan.option.text = "Fan";
-  fan.option.choices = {{"False", "No"}, {"True", "Yes"}};
-  fan.marked = "False";
-  panel.setGroups({{"Group", {fan}}});
+  MoreOptionsPanel panel([](const std::string&) { return "False"; });
+  panel.setGroups({{"Group", "Group", {{"Fan", "Fan", "", {{"False", "No"}, {"True", "Yes"}}}}}});
   QString chosen;
   QObject::connect(&panel, &MoreOptionsPanel::optionChosen,
                    [&](const QString&, const QString& choice) { chosen = choice; });

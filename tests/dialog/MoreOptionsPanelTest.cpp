@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <map>
 #include <set>
 
 #include "host/dialog/MoreOptionsPanel.h"
@@ -22,9 +23,21 @@ std::set<std::string> keywordsShown(const QWidget& panel) {
   return keywords;
 }
 
-GeneratedOption option(const std::string& keyword, std::vector<OptionChoice> choices,
-                       const std::string& marked) {
-  return {PpdOption{keyword, "Text of " + keyword, "", std::move(choices)}, marked};
+PpdOption option(const std::string& keyword, std::vector<OptionChoice> choices) {
+  return {keyword, "Text of " + keyword, "", std::move(choices)};
+}
+
+std::vector<OptionGroup> group(std::vector<PpdOption> options) {
+  return {{"Group", "Group", std::move(options)}};
+}
+
+using Marks = std::map<std::string, std::string>;
+
+MoreOptionsPanel::MarkOf markIn(const Marks& marks) {
+  return [&marks](const std::string& keyword) {
+    const auto mark = marks.find(keyword);
+    return mark == marks.end() ? std::string() : mark->second;
+  };
 }
 
 class MoreOptionsPanelTest : public DialogTest {
@@ -49,11 +62,13 @@ TEST_F(MoreOptionsPanelTest, WithoutAPanelEveryOptionButPaperIsListed) {
   EXPECT_EQ(keywordsOnceOpened(), expected);
 }
 
+const std::vector<OptionChoice> kEdges = {{"Long", "Long"}, {"Short", "Short"}};
+
 TEST(MoreOptionsControlsTest, ASwitchBecomesACheckBoxInEitherOrder) {
-  MoreOptionsPanel panel;
-  panel.setGroups({{"Group",
-                    {option("First", {{"False", "No"}, {"True", "Yes"}}, "True"),
-                     option("Second", {{"ON", "On"}, {"OFF", "Off"}}, "OFF")}}});
+  const Marks marks = {{"First", "True"}, {"Second", "OFF"}};
+  MoreOptionsPanel panel(markIn(marks));
+  panel.setGroups(group({option("First", {{"False", "No"}, {"True", "Yes"}}),
+                         option("Second", {{"ON", "On"}, {"OFF", "Off"}})}));
   auto* first = panel.findChild<QCheckBox*>(QStringLiteral("First"));
   auto* second = panel.findChild<QCheckBox*>(QStringLiteral("Second"));
   ASSERT_NE(first, nullptr);
@@ -63,14 +78,12 @@ TEST(MoreOptionsControlsTest, ASwitchBecomesACheckBoxInEitherOrder) {
 }
 
 TEST(MoreOptionsControlsTest, WhatIsHiddenHasNoControlsUntilItIsShownWithTheLastMarks) {
-  MoreOptionsPanel panel;
+  Marks marks = {{"Edge", "Long"}};
+  MoreOptionsPanel panel(markIn(marks));
   panel.hide();
-  const auto groups = [](const char* marked) {
-    return std::vector<GeneratedGroup>{
-        {"Group", {option("Edge", {{"Long", "Long"}, {"Short", "Short"}}, marked)}}};
-  };
-  panel.setGroups(groups("Long"));
-  panel.setMarks(groups("Short"));
+  panel.setGroups(group({option("Edge", kEdges)}));
+  marks["Edge"] = "Short";
+  panel.showMarks();
   EXPECT_EQ(panel.findChild<QComboBox*>(), nullptr);
   panel.show();
   ASSERT_NE(panel.findChild<QComboBox*>(), nullptr);
@@ -80,9 +93,22 @@ TEST(MoreOptionsControlsTest, WhatIsHiddenHasNoControlsUntilItIsShownWithTheLast
   EXPECT_EQ(panel.findChild<QComboBox*>(), nullptr);
 }
 
+// A driver has hundreds of options, and a click elsewhere asks for none of them.
+TEST(MoreOptionsControlsTest, WhatIsHiddenAsksForNoMarks) {
+  int asked = 0;
+  MoreOptionsPanel panel([&asked](const std::string&) { return ++asked, std::string(); });
+  panel.hide();
+  panel.setGroups(group({option("Edge", kEdges)}));
+  panel.showMarks();
+  EXPECT_EQ(asked, 0);
+  panel.show();
+  EXPECT_EQ(asked, 1);
+}
+
 TEST(MoreOptionsControlsTest, ReportsTheChoicesOwnKeyword) {
-  MoreOptionsPanel panel;
-  panel.setGroups({{"Group", {option("Second", {{"ON", "On"}, {"OFF", "Off"}}, "OFF")}}});
+  const Marks marks = {{"Second", "OFF"}};
+  MoreOptionsPanel panel(markIn(marks));
+  panel.setGroups(group({option("Second", {{"ON", "On"}, {"OFF", "Off"}})}));
   QString chosen;
   QObject::connect(&panel, &MoreOptionsPanel::optionChosen,
                    [&](const QString& keyword, const QString& choice) {
@@ -93,35 +119,39 @@ TEST(MoreOptionsControlsTest, ReportsTheChoicesOwnKeyword) {
 }
 
 TEST(MoreOptionsControlsTest, TwoChoicesThatAreNoSwitchStayAList) {
-  MoreOptionsPanel panel;
-  panel.setGroups({{"Group", {option("Edge", {{"Long", "Long"}, {"Short", "Short"}}, "Short")}}});
+  const Marks marks = {{"Edge", "Short"}};
+  MoreOptionsPanel panel(markIn(marks));
+  panel.setGroups(group({option("Edge", kEdges)}));
   auto* edge = panel.findChild<QComboBox*>(QStringLiteral("Edge"));
   ASSERT_NE(edge, nullptr);
   EXPECT_EQ(edge->currentText(), QStringLiteral("Short"));
 }
 
 TEST(MoreOptionsControlsTest, NewMarksMoveTheControlsWithoutAReport) {
-  MoreOptionsPanel panel;
-  const std::vector<OptionChoice> choices = {{"Long", "Long"}, {"Short", "Short"}};
-  panel.setGroups({{"Group", {option("Edge", choices, "Short")}}});
+  Marks marks = {{"Edge", "Short"}};
+  MoreOptionsPanel panel(markIn(marks));
+  panel.setGroups(group({option("Edge", kEdges)}));
   bool isReported = false;
   QObject::connect(&panel, &MoreOptionsPanel::optionChosen, [&] { isReported = true; });
-  panel.setMarks({{"Group", {option("Edge", choices, "Long")}}});
+  marks["Edge"] = "Long";
+  panel.showMarks();
   EXPECT_EQ(panel.findChild<QComboBox*>()->currentText(), QStringLiteral("Long"));
   EXPECT_FALSE(isReported);
 }
 
 TEST(MoreOptionsControlsTest, AnUnmarkedOptionShowsNoChoice) {
-  MoreOptionsPanel panel;
-  panel.setGroups({{"Group", {option("Edge", {{"Long", "Long"}, {"Wide", "Wide"}}, "")}}});
+  const Marks marks;
+  MoreOptionsPanel panel(markIn(marks));
+  panel.setGroups(group({option("Edge", {{"Long", "Long"}, {"Wide", "Wide"}})}));
   EXPECT_EQ(panel.findChild<QComboBox*>()->currentIndex(), -1);
 }
 
 TEST(MoreOptionsControlsTest, AnAmpersandInAPpdTextIsNoMnemonic) {
-  MoreOptionsPanel panel;
-  GeneratedOption odd = option("Odd", {{"False", "No"}, {"True", "Yes"}}, "True");
-  odd.option.text = "Cut & Go";
-  panel.setGroups({{"Group", {odd}}});
+  const Marks marks = {{"Odd", "True"}};
+  MoreOptionsPanel panel(markIn(marks));
+  PpdOption odd = option("Odd", {{"False", "No"}, {"True", "Yes"}});
+  odd.text = "Cut & Go";
+  panel.setGroups(group({odd}));
   EXPECT_EQ(panel.findChild<QCheckBox*>()->text(), QStringLiteral("Cut && Go"));
   EXPECT_EQ(panel.findChild<QCheckBox*>()->accessibleName(), QStringLiteral("Cut & Go"));
 }

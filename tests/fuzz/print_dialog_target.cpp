@@ -74,11 +74,11 @@ void tryControls(PrintModel& model) {
 
 void tryChoices(PrintModel& model) {
   std::size_t tried = 0;
-  for (const GeneratedGroup& group : model.generatedOptions())
-    for (const GeneratedOption& option : group.options)
-      for (const OptionChoice& choice : option.option.choices) {
+  for (const OptionGroup& group : model.generatedOptions())
+    for (const PpdOption& option : group.options)
+      for (const OptionChoice& choice : option.choices) {
         if (++tried > kMostTried) return;
-        static_cast<void>(model.setOption(option.option.keyword, choice.name));
+        static_cast<void>(model.setOption(option.keyword, choice.name));
         look(model);
       }
 }

@@ -92,9 +92,9 @@ std::string Dialog::picture() {
 
 std::set<std::string> Dialog::generatedCutKeywords() {
   std::set<std::string> keywords;
-  for (const GeneratedGroup& group : mModel.generatedOptions())
-    for (const GeneratedOption& option : group.options)
-      if (isCutKeyword(option.option.keyword)) keywords.insert(option.option.keyword);
+  for (const OptionGroup& group : mModel.generatedOptions())
+    for (const PpdOption& option : group.options)
+      if (isCutKeyword(option.keyword)) keywords.insert(option.keyword);
   return keywords;
 }
 

@@ -244,8 +244,8 @@ TEST_F(PrintModelTest, TheLayoutIsRelayed) {
 TEST_F(PrintModelTest, OnlyOptionsThatNoPanelDeclaredAreGenerated) {
   const auto model = open();
   std::set<std::string> keywords;
-  for (const GeneratedGroup& group : model->generatedOptions())
-    for (const GeneratedOption& option : group.options) keywords.insert(option.option.keyword);
+  for (const OptionGroup& group : model->generatedOptions())
+    for (const PpdOption& option : group.options) keywords.insert(option.keyword);
   EXPECT_TRUE(keywords.contains("LxChainPrint"));
   for (const char* other : {"LxHalfCut", "LxMirror", "PageSize", "PageRegion"})
     EXPECT_FALSE(keywords.contains(other)) << other;

@@ -115,10 +115,10 @@ void RandomUser::choosePreset() {
 
 void RandomUser::chooseInTheList() {
   std::vector<std::pair<std::string, std::string>> offered;
-  for (const GeneratedGroup& group : mDialog.model().generatedOptions())
-    for (const GeneratedOption& each : group.options)
-      for (const OptionChoice& choice : each.option.choices)
-        offered.emplace_back(each.option.keyword, choice.name);
+  for (const OptionGroup& group : mDialog.model().generatedOptions())
+    for (const PpdOption& each : group.options)
+      for (const OptionChoice& choice : each.choices)
+        offered.emplace_back(each.keyword, choice.name);
   if (offered.empty()) return;
   const auto& [keyword, choice] = oneOf(offered, mDice);
   mStory += " choose " + keyword + "=" + choice;

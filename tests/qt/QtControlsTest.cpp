@@ -1,5 +1,6 @@
 #include <QCheckBox>
 #include <QHelpEvent>
+#include <QPointer>
 #include <QPushButton>
 #include <QToolTip>
 
@@ -37,6 +38,40 @@ TEST_F(QtCheckBoxTest, ClickChangesTheStateThenRunsTheActionThenTellsTheObserver
   EXPECT_EQ(observer.lastSender, box.get());
   click();
   EXPECT_EQ(box->state(), 0);
+}
+
+// The toolkit alone draws it three times.
+TEST_F(QtCheckBoxTest, AClickIsDrawnOnceWithAllThatItChanges) {
+  show();
+  QApplication::processEvents();
+  PaintCount paints(widget);
+  box->setAction([&](View*) {
+    EXPECT_EQ(paints.count, 0);
+    EXPECT_TRUE(widget->updatesEnabled());
+  });
+  click();
+  EXPECT_EQ(paints.afterAll(), 1);
+}
+
+TEST_F(QtCheckBoxTest, ThePressedBoxIsDrawnAsPressed) {
+  show();
+  QApplication::processEvents();
+  PaintCount paints(widget);
+  QTest::mousePress(widget, Qt::LeftButton, {}, QPoint(8, 11));
+  EXPECT_TRUE(widget->isDown());
+  EXPECT_EQ(paints.afterAll(), 1);
+  QTest::mouseRelease(widget, Qt::LeftButton, {}, QPoint(8, 200));
+  EXPECT_EQ(box->state(), 0) << "it was let go of beside the box";
+  EXPECT_TRUE(widget->updatesEnabled());
+  EXPECT_EQ(paints.afterAll(), 2);
+}
+
+TEST_F(QtCheckBoxTest, TheActionMayTakeTheBoxAway) {
+  show();
+  const QPointer<QWidget> shown(widget);
+  box->setAction([&](View*) { delete shown.data(); });
+  click();
+  EXPECT_EQ(shown, nullptr);
 }
 
 TEST_F(QtCheckBoxTest, SpaceBarIsAClick) {

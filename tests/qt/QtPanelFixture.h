@@ -33,6 +33,24 @@ struct RecordingObserver : ActionObserver {
   View* lastSender = nullptr;
 };
 
+// How often a widget is painted.
+class PaintCount : public QObject {
+ public:
+  explicit PaintCount(QWidget* widget) { widget->installEventFilter(this); }
+  int count = 0;
+  // Of what waits to be painted, too.
+  int afterAll() {
+    QApplication::processEvents();
+    return count;
+  }
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    count += event->type() == QEvent::Paint;
+    return false;
+  }
+};
+
 class QtPanelFixture : public testing::Test {
  protected:
   QtPanelFixture() {

@@ -62,6 +62,18 @@ constexpr QRgb kGreenItem = 0xff00ff00;
 constexpr QRgb kBlueItem = 0xff0000ff;
 constexpr QRgb kRedItem = 0xffff0000;
 
+TEST_F(QtPopUpButtonTest, WhatIsChosenAlreadyIsNotDrawnAgain) {
+  show();
+  popUp->selectItemWithTag(6);
+  QApplication::processEvents();
+  PaintCount paints(widget);
+  popUp->selectItemWithTag(6);
+  EXPECT_EQ(paints.afterAll(), 0);
+  popUp->selectItemWithTag(8);
+  EXPECT_EQ(paints.afterAll(), 1);
+  EXPECT_EQ(widget->currentIndex(), 2);
+}
+
 TEST_F(QtPopUpButtonTest, FirstEntryIsSelected) {
   EXPECT_EQ(popUp->selectedTag(), 4);
   EXPECT_EQ(widget->currentIndex(), 0);
