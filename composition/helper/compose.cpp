@@ -15,10 +15,11 @@
 #include "base/Uninterrupted.h"
 #include "composition/Composition.h"
 #include "composition/helper/Confinement.h"
+#include "composition/helper/LoadedModules.h"
 #include "composition/helper/PostScript.h"
-#include "composition/helper/TypesetterModule.h"
 #include "composition/reader/DocumentComposer.h"
 #include "composition/reader/DocumentKind.h"
+#include "composition/reader/PictureReader.h"
 
 namespace {
 
@@ -64,11 +65,12 @@ bool needsTypesetter(DocumentKind kind) {
 CompositionReport composed(const CompositionRequest& request, DocumentComposer& composer) {
   std::vector<int> documents;
   std::vector<FileDescriptor> made;
-  Typesetter* typesetter = nullptr;
+  ReaderModules modules;
   for (int at = 0; at < static_cast<int>(request.names.size()); ++at) {
     documents.push_back(kFirstDocument + at);
     const DocumentKind kind = kindOf(documents.back());
-    if (!typesetter && needsTypesetter(kind)) typesetter = loadedTypesetter();
+    if (!modules.typesetter && needsTypesetter(kind)) modules.typesetter = loadedTypesetter();
+    if (!modules.pictures && needsPictureReader(kind)) modules.pictures = loadedPictureReader();
     if (kind != DocumentKind::postScript) continue;
     PostScriptResult result = pdfOfPostScript(documents.back(), request.pages.neededFirst());
     if (result.problem) return failed(result.problem->problem, at, result.problem->detail);
@@ -78,7 +80,7 @@ CompositionReport composed(const CompositionRequest& request, DocumentComposer& 
   ProcessLimits limits = kLimits;
   limits.files = static_cast<unsigned>(kFirstDocument + documents.size() + made.size()) + kOwnFiles;
   if (!confine(limits)) return failed(DocumentProblem::broken, 0, "it cannot be confined");
-  CompositionReport report = composer.compose(request, documents, kOutput, typesetter);
+  CompositionReport report = composer.compose(request, documents, kOutput, modules);
   report.isPartial |= !made.empty() && request.pages.neededFirst() > 0;
   return report;
 }

@@ -56,8 +56,8 @@ Refusal refusal() {
 
 class DocumentComposer::Composing {
  public:
-  Composing(CompositionRequest request, Typesetter* typesetter)
-      : mRequest(std::move(request)), mTypesetter(typesetter) {
+  Composing(CompositionRequest request, const ReaderModules& modules)
+      : mRequest(std::move(request)), mModules(modules) {
     mReport.label = request.label;
   }
 
@@ -79,7 +79,7 @@ class DocumentComposer::Composing {
   void openAll(const std::vector<int>& documents) {
     for (const int descriptor : documents) {
       mCurrent = static_cast<int>(mDocuments.size());
-      mDocuments.push_back(openDocument(descriptor, mRequest, mTypesetter));
+      mDocuments.push_back(openDocument(descriptor, mRequest, mModules));
       mReport.documentPages += mDocuments.back().source->pageCount();
       mReport.isPartial |= mDocuments.back().isPartial;
     }
@@ -126,7 +126,7 @@ class DocumentComposer::Composing {
   }
 
   CompositionRequest mRequest;
-  Typesetter* mTypesetter;
+  ReaderModules mModules;
   std::vector<OpenedDocument> mDocuments;
   std::optional<LabelWriter> mLabels;  // reads from the documents as long as it lives
   std::vector<Page> mPages;
@@ -139,8 +139,8 @@ DocumentComposer::~DocumentComposer() = default;
 
 CompositionReport DocumentComposer::compose(const CompositionRequest& request,
                                             const std::vector<int>& documents, int output,
-                                            Typesetter* typesetter) {
-  mComposing = std::make_unique<Composing>(request, typesetter);
+                                            const ReaderModules& modules) {
+  mComposing = std::make_unique<Composing>(request, modules);
   return mComposing->compose(documents, output);
 }
 

@@ -6,10 +6,9 @@
 #include <vector>
 
 #include "composition/Composition.h"
+#include "composition/reader/ReaderModules.h"
 
 namespace cutline {
-
-class Typesetter;
 
 // Holds what it has read and made until it goes, which takes a while for long documents: who ends
 // the process answers before that.
@@ -21,11 +20,11 @@ class DocumentComposer {
   ~DocumentComposer();
 
   // `documents` are open files, one for each of the request's names, read from their beginnings;
-  // `output` is a file open for writing, empty. All stay the caller's. `typesetter` is borrowed;
-  // null where its module is missing, which fails for what needs it. PostScript has been made a PDF
-  // before. Where the report has a failure, what `output` holds says nothing.
+  // `output` is a file open for writing, empty. All stay the caller's. A module that is missing
+  // fails what needs it. PostScript has been made a PDF before. Where the report has a failure,
+  // what `output` holds says nothing.
   CompositionReport compose(const CompositionRequest& request, const std::vector<int>& documents,
-                            int output, Typesetter* typesetter);
+                            int output, const ReaderModules& modules);
 
  private:
   class Composing;

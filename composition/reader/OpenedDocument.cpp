@@ -7,25 +7,26 @@
 #include "composition/reader/DocumentKind.h"
 #include "composition/reader/JpegSource.h"
 #include "composition/reader/PdfSource.h"
+#include "composition/reader/PictureReader.h"
 #include "composition/reader/PngSource.h"
 #include "composition/reader/Refusal.h"
 #include "composition/reader/TextLayout.h"
-#include "composition/reader/TiffSource.h"
-#include "composition/reader/WebpSource.h"
 
 namespace cutline {
 namespace {
 
 struct Opening {
   int descriptor;
+  DocumentKind kind;
   const CompositionRequest& request;
-  Typesetter* typesetter;
-
-  Typesetter& needTypesetter() const {
-    if (typesetter == nullptr) throw Refusal{DocumentProblem::missingModule, {}};
-    return *typesetter;
-  }
+  const ReaderModules& modules;
 };
+
+template <typename Module>
+Module& needed(Module* module) {
+  if (module == nullptr) throw Refusal{DocumentProblem::missingModule, {}};
+  return *module;
+}
 
 OpenedDocument openText(const Opening& opening) {
   const CompositionRequest& request = opening.request;
@@ -33,9 +34,9 @@ OpenedDocument openText(const Opening& opening) {
   layout.turn = textTurn(request.label, layout.turn);
   TypesetPages pages;
   TypesetProblem problem;
-  if (!opening.needTypesetter().setText(contentsOf(opening.descriptor),
-                                        textRoom(request, layout.turn), request.text,
-                                        request.pages.neededFirst(), pages, problem))
+  if (!needed(opening.modules.typesetter)
+           .setText(contentsOf(opening.descriptor), textRoom(request, layout.turn), request.text,
+                    request.pages.neededFirst(), pages, problem))
     throw Refusal{problem.problem, problem.detail};
   return {std::make_unique<PdfSource>(std::move(pages)), layout, request.pages.neededFirst() > 0};
 }
@@ -43,7 +44,8 @@ OpenedDocument openText(const Opening& opening) {
 OpenedDocument openDrawing(const Opening& opening) {
   TypesetPages pages;
   TypesetProblem problem;
-  if (!opening.needTypesetter().setDrawing(contentsOf(opening.descriptor), pages, problem))
+  if (!needed(opening.modules.typesetter)
+           .setDrawing(contentsOf(opening.descriptor), pages, problem))
     throw Refusal{problem.problem, problem.detail};
   return {std::make_unique<PdfSource>(std::move(pages)), opening.request.layout};
 }
@@ -60,6 +62,11 @@ OpenedDocument openFile(const Opening& opening) {
   return {std::make_unique<Source>(opening.descriptor), opening.request.layout};
 }
 
+OpenedDocument openPicture(const Opening& opening) {
+  return {needed(opening.modules.pictures).open(opening.kind, opening.descriptor),
+          opening.request.layout};
+}
+
 struct Reader {
   DocumentKind kind;
   OpenedDocument (*open)(const Opening&);
@@ -68,8 +75,8 @@ constexpr std::array kReaders = std::to_array<Reader>({
     {DocumentKind::pdf, openPdf},
     {DocumentKind::png, openFile<PngSource>},
     {DocumentKind::jpeg, openFile<JpegSource>},
-    {DocumentKind::tiff, openFile<TiffSource>},
-    {DocumentKind::webp, openFile<WebpSource>},
+    {DocumentKind::tiff, openPicture},
+    {DocumentKind::webp, openPicture},
     {DocumentKind::svg, openDrawing},
     {DocumentKind::text, openText},
 });
@@ -77,11 +84,11 @@ constexpr std::array kReaders = std::to_array<Reader>({
 }  // namespace
 
 OpenedDocument openDocument(int descriptor, const CompositionRequest& request,
-                            Typesetter* typesetter) {
+                            const ReaderModules& modules) {
   const DocumentKind kind = documentKind(startOf(descriptor, kDocumentStart));
   const auto* reader = std::ranges::find(kReaders, kind, &Reader::kind);
   if (reader == kReaders.end()) throw Refusal{DocumentProblem::unknownKind, {}};
-  return reader->open({descriptor, request, typesetter});
+  return reader->open({descriptor, kind, request, modules});
 }
 
 }  // namespace cutline

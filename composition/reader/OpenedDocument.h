@@ -5,6 +5,7 @@
 
 #include "composition/Composition.h"
 #include "composition/reader/DocumentSource.h"
+#include "composition/reader/ReaderModules.h"
 #include "composition/typeset/Typesetter.h"
 
 namespace cutline {
@@ -15,9 +16,9 @@ struct OpenedDocument {
   bool isPartial = false;  // only as much was read as was asked for
 };
 
-// `descriptor` is an open file, which stays the caller's and open as long as the document;
-// `typesetter` is borrowed and may be null. Throws as DocumentSource does.
+// `descriptor` is an open file, which stays the caller's and open as long as the document. Throws
+// as DocumentSource does, also where a module is missing.
 OpenedDocument openDocument(int descriptor, const CompositionRequest& request,
-                            Typesetter* typesetter);
+                            const ReaderModules& modules);
 
 }  // namespace cutline

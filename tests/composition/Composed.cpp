@@ -8,6 +8,7 @@
 #include <stdexcept>
 
 #include "composition/reader/DocumentComposer.h"
+#include "composition/reader/LibraryPictureReader.h"
 #include "tests/composition/MemoryFile.h"
 
 namespace cutline::test {
@@ -48,7 +49,9 @@ Composed::Composed(const std::vector<std::string>& documents, const CompositionR
   for (const std::string& document : documents)
     descriptors.push_back(files.emplace_back(document).descriptor());
   const MemoryFile output;
-  mReport = DocumentComposer().compose(request, descriptors, output.descriptor(), typesetter);
+  LibraryPictureReader pictures;
+  mReport = DocumentComposer().compose(request, descriptors, output.descriptor(),
+                                       {typesetter, &pictures});
   if (mReport.failure) return;
   mPdf = output.bytes();
   mDrawn->document.reset(

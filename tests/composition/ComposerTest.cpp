@@ -14,6 +14,7 @@
 #include "tests/composition/Children.h"
 #include "tests/composition/Composed.h"
 #include "tests/composition/DrawnPdf.h"
+#include "tests/composition/Pictures.h"
 #include "tests/composition/RefusedCall.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -25,6 +26,9 @@ using std::chrono::steady_clock;
 using test::childrenOfThisProcess;
 using test::drawnPdf;
 using test::labelRequest;
+using test::markedPixels;
+using test::tiffOf;
+using test::webpOf;
 
 constexpr char kHelpers[] = CUTLINE_BUILD_DIR "/lib/cutline";
 constexpr std::uint32_t kBlack = 0xff000000;
@@ -115,10 +119,33 @@ TEST_F(Composer, ComposesEveryKind) {
   const std::string program = mFolder.write("page.ps",
                                             "%!PS\n<</PageSize [80 160]>> setpagedevice\n"
                                             "0 0 40 80 rectfill showpage\n");
+  const std::string tiff = mFolder.write("label.tiff", tiffOf({markedPixels(40, 80)}));
+  const std::string webp = mFolder.write("label.webp", webpOf(markedPixels(40, 80)));
   const Result<ComposedDocument> composed =
-      compose(kHelpers, {pdf(), picture, text, drawing, program}, labelRequest());
+      compose(kHelpers, {pdf(), picture, text, drawing, program, tiff, webp}, labelRequest());
   ASSERT_TRUE(composed) << errorOf(composed);
-  EXPECT_EQ(composed->report.documentPages, 2 + 1 + 2 + 1 + 1);
+  EXPECT_EQ(composed->report.documentPages, 2 + 1 + 2 + 1 + 1 + 1 + 1);
+}
+
+// What a reader in a module refuses is told as by the program itself.
+TEST_F(Composer, TellsOfADamagedPictureOfAnyKind) {
+  const std::string tiff = tiffOf({markedPixels(40, 80)});
+  const std::string webp = webpOf(markedPixels(40, 80));
+  for (const std::string& picture : {tiff, webp}) {
+    const std::string path = mFolder.write("damaged", picture.substr(0, picture.size() / 2));
+    EXPECT_EQ(errorOf(compose(kHelpers, {path}, labelRequest())),
+              refusal(path, "it is damaged; open it elsewhere and save it again"));
+  }
+}
+
+TEST_F(Composer, NeedsItsModulesForTheKindsThatTheyReadOnly) {
+  std::filesystem::create_directory(mFolder / "alone");
+  std::filesystem::copy_file(std::string(kHelpers) + "/" + kComposerName,
+                             mFolder / "alone/cutline-compose");
+  const std::string tiff = mFolder.write("label.tiff", tiffOf({markedPixels(40, 80)}));
+  EXPECT_TRUE(compose(mFolder / "alone", {pdf()}, labelRequest()));
+  EXPECT_EQ(errorOf(compose(mFolder / "alone", {tiff}, labelRequest())),
+            refusal(tiff, "what reads documents of its kind is not installed"));
 }
 
 // The first label is asked for before the rest: the answer must not look like all there is.

@@ -132,8 +132,8 @@ TEST_F(Installation, LooksForLibrariesBesideItself) {
 // ours.
 TEST_F(Installation, WhatNeedsNoneOfItsLibrariesLooksForNone) {
   EXPECT_EQ(runPath(cutOptions()), "");
-  for (const char* file :
-       {"cutline-dialog.so", "cutline-typeset.so", "cutline-compose", "cutline-draw"})
+  for (const char* file : {"cutline-dialog.so", "cutline-typeset.so", "cutline-picture-reader.so",
+                           "cutline-compose", "cutline-draw"})
     EXPECT_EQ(runPath(std::string("lib/cutline/") + file), "") << file;
 }
 
