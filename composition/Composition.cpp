@@ -166,6 +166,8 @@ constexpr std::array kRequestFields = std::to_array<Field<Request>>({
        if (!ranges) return values.fail();
        request.pages.ranges = *ranges;
      }},
+    {"allwherefew",
+     [](Request& request, Values& values) { request.takesAllWhereFew = values.flag(); }},
     {"mirrored",
      [](Request& request, Values& values) { request.isMirrored = values.flag(); }},
     {"document", [](Request& request, Values& values) { request.names.push_back(values.text()); }},
@@ -224,6 +226,7 @@ std::string CompositionRequest::asText() const {
   writer.text("font", text.font);
   writer.numbers("pages", {numberOf(pages.set), numberOf(pages.isReversed), numberOf(pages.most)});
   writer.text("ranges", pages.ranges.text());
+  writer.numbers("allwherefew", {numberOf(takesAllWhereFew)});
   writer.numbers("mirrored", {numberOf(isMirrored)});
   for (const std::string& name : names) writer.text("document", name);
   return writer.take();

@@ -46,6 +46,8 @@ struct CompositionRequest {
   LayoutSettings layout;
   TextSettings text;
   PageSelection pages;
+  // All pages that are chosen instead of the most, where these are few and soon composed.
+  bool takesAllWhereFew = false;
   bool isMirrored = false;
   // Of the documents, in order, for people; the documents come as open files beside the request.
   std::vector<std::string> names;

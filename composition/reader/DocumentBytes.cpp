@@ -23,13 +23,12 @@ std::size_t readSome(int descriptor, char* to, std::size_t size, std::size_t fro
   return static_cast<std::size_t>(got);
 }
 
-// As the file says, which may change while it is read; 0 where it does not say.
+}  // namespace
+
 std::size_t sizeOf(int descriptor) {
   struct stat facts {};
   return ::fstat(descriptor, &facts) == 0 ? static_cast<std::size_t>(facts.st_size) : 0;
 }
-
-}  // namespace
 
 std::string startOf(int descriptor, std::size_t most) {
   std::string bytes;

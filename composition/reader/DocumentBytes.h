@@ -6,6 +6,9 @@
 
 namespace cutline {
 
+// As the file says, which may change while it is read; 0 where it does not say.
+std::size_t sizeOf(int descriptor);
+
 // The file's first bytes, at most so many. Throws a Refusal where they cannot be read.
 std::string startOf(int descriptor, std::size_t most);
 

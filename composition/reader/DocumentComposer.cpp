@@ -8,6 +8,7 @@
 #include <qpdf/QPDFExc.hh>
 #include <stdexcept>
 
+#include "composition/reader/DocumentBytes.h"
 #include "composition/reader/LabelWriter.h"
 #include "composition/reader/OpenedDocument.h"
 #include "composition/reader/PageChoice.h"
@@ -15,6 +16,12 @@
 
 namespace cutline {
 namespace {
+
+// As many labels as are composed while a program is started. What is shorter than a few hundred
+// bytes, such as a text, has no more.
+constexpr int kFewLabels = 20;
+constexpr std::size_t kFewBytes = 512;
+constexpr std::size_t kSoonRead = std::size_t{256} * 1024;
 
 // A page that becomes a label.
 struct Page {
@@ -64,6 +71,8 @@ class DocumentComposer::Composing {
   CompositionReport compose(const std::vector<int>& documents, int output) noexcept {
     try {
       if (!isLabel(mRequest.label)) throw Refusal{DocumentProblem::broken, "label"};
+      for (const int descriptor : documents) mBytes += sizeOf(descriptor);
+      if (mRequest.takesAllWhereFew && mBytes <= kFewBytes) mRequest.pages.most = 0;
       openAll(documents);
       choosePages();
       chooseLength();
@@ -85,7 +94,12 @@ class DocumentComposer::Composing {
     }
   }
 
+  bool hasFew() const {
+    return !mReport.isPartial && mReport.documentPages <= kFewLabels && mBytes <= kSoonRead;
+  }
+
   void choosePages() {
+    if (mRequest.takesAllWhereFew && hasFew()) mRequest.pages.most = 0;
     int document = 0;
     std::vector<Page> all;
     for (OpenedDocument& opened : mDocuments) {
@@ -127,6 +141,7 @@ class DocumentComposer::Composing {
 
   CompositionRequest mRequest;
   ReaderModules mModules;
+  std::size_t mBytes = 0;  // of all documents
   std::vector<OpenedDocument> mDocuments;
   std::optional<LabelWriter> mLabels;  // reads from the documents as long as it lives
   std::vector<Page> mPages;

@@ -88,6 +88,7 @@ void DocumentLoader::ask(bool isFirst) {
   mStop = std::stop_source();
   CompositionRequest request = *mWanted;
   request.pages.most = isFirst ? 1 : 0;
+  request.takesAllWhereFew = isFirst;
   mBackground.start([this, isFirst, asked = ++mAsked, paths = mPaths, tools = mTools,
                      request = std::move(request),
                      stop = mStop.get_token()]() -> Background::Delivery {
@@ -118,7 +119,9 @@ void DocumentLoader::take(int asked, bool isFirst, const Result<Answer>& answer)
   mHasText = answer->hasText;
   mInks.clear();
   ++mComposition;
-  mIsComplete = !isFirst || (mReport.documentPages <= 1 && !mReport.isPartial);
+  const bool hasAll =
+      !mReport.isPartial && static_cast<int>(mReport.pages.size()) == mReport.documentPages;
+  mIsComplete = !isFirst || hasAll;
   mIsInkTold = !mIsComplete;
   if (!mIsComplete) ask(false);
   emit composed();

@@ -26,8 +26,8 @@ struct PageRequest {
   double scale;  // pixels a point
 };
 
-// Composes the documents on other threads, the first label before the rest, and draws labels, one
-// call at a time.
+// Composes the documents on other threads, the first label before the rest of many, and draws
+// labels, one call at a time.
 class DocumentLoader : public QObject {
   Q_OBJECT
 
@@ -39,7 +39,7 @@ class DocumentLoader : public QObject {
   // What is composed from now on; nothing is shown before `compose`.
   void setDocuments(std::vector<std::string> paths, DocumentTools tools);
   // Composes all pages for this, whatever the request selects; composed, twice where there are
-  // several labels, or failed follows. A newer request stops an older one; the same one again
+  // many labels, or failed follows. A newer request stops an older one; the same one again
   // changes nothing.
   void compose(CompositionRequest request);
   // Draws these labels next, in this order; earlier requests that were not begun are dropped. Those

@@ -16,6 +16,7 @@ TEST(CompositionFormTest, ARequestComesBackAsItWas) {
   request.pages.set = PageSet::even;
   request.pages.isReversed = true;
   request.pages.most = 3;
+  request.takesAllWhereFew = true;
   request.isMirrored = true;
   request.names = {"a b.pdf", "two\nlines\\n.txt", ""};
 
@@ -29,6 +30,7 @@ TEST(CompositionFormTest, ARequestComesBackAsItWas) {
   EXPECT_EQ(back->pages.set, PageSet::even);
   EXPECT_TRUE(back->pages.isReversed);
   EXPECT_EQ(back->pages.most, 3);
+  EXPECT_TRUE(back->takesAllWhereFew);
   EXPECT_TRUE(back->isMirrored);
   EXPECT_EQ(back->names, request.names);
 }

@@ -43,6 +43,35 @@ TEST(PdfFirstPagesTest, TheyAreTheFirstLabelsOfAll) {
   }
 }
 
+// What is soon composed is not composed twice.
+TEST(PdfFirstPagesTest, AllComeAtOnceWhereTheyAreFewAndThatIsAskedFor) {
+  CompositionRequest request = firstLabels(1);
+  request.takesAllWhereFew = true;
+  const struct {
+    int pages;
+    int composed;
+    bool isPartial;
+  } rows[] = {{2, 2, false}, {20, 20, false}, {21, 1, false}, {kMany, 1, true}};
+  for (const auto& row : rows) {
+    PdfDocument document;
+    const Composed composed(addPages(document, row.pages).bytes(), request);
+    EXPECT_EQ(composed.pages(), row.composed) << row.pages;
+    EXPECT_EQ(composed.report().isPartial, row.isPartial) << row.pages;
+    EXPECT_EQ(composed.report().documentPages, row.pages);
+  }
+}
+
+TEST(PdfFirstPagesTest, FewPagesOfALargeFileAreNotAllComposedAtOnce) {
+  CompositionRequest request = firstLabels(1);
+  request.takesAllWhereFew = true;
+  PdfDocument document;
+  document.addPage(kSmallPage, std::string(300'000, '\n'));
+  document.addPage(kSmallPage, kCornerMark);
+  const std::string bytes =
+      document.bytes([](QPDFWriter& writer) { writer.setCompressStreams(false); });
+  EXPECT_EQ(Composed(bytes, request).pages(), 1);
+}
+
 TEST(PdfFirstPagesTest, ADocumentOfFewPagesIsReadWhole) {
   PdfDocument document;
   const Composed first(addPages(document, 100).bytes(), firstLabels(1));

@@ -109,6 +109,21 @@ TEST(TextDocumentTest, WhatATypesetterRefusesIsRefused) {
   }
 }
 
+// Its labels are as large as fits all of them: the first alone might be larger.
+TEST(TextDocumentTest, AShortTextIsSetAtOnceWhereThatIsAskedFor) {
+  for (const bool isShort : {true, false}) {
+    CompositionRequest request = labelRequest();
+    request.text.unit = TextUnit::line;
+    request.pages.most = 1;
+    request.takesAllWhereFew = true;
+    FakeTypesetter typesetter;
+    const std::string text = isShort ? "one\ntwo\n" : std::string(600, 'a') + "\ntwo\n";
+    const Composed composed(text, request, &typesetter);
+    EXPECT_EQ(composed.report().isPartial, !isShort);
+    EXPECT_EQ(composed.pages(), isShort ? 2 : 1);
+  }
+}
+
 TEST(TextDocumentTest, WithoutATypesetterTheModuleIsMissing) {
   for (const char* document : {"one\n", kDrawing})
     EXPECT_EQ(Composed(document).problem(), DocumentProblem::missingModule);
