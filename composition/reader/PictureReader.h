@@ -1,5 +1,6 @@
 // Reads pictures of the kinds that labels seldom are. Implemented by a module of its own
-// (cutline-picture-reader.so), loaded when a document asks for it: most jobs start without its libraries.
+// (cutline-picture-reader.so), loaded when a document asks for it: most jobs start without its
+// libraries.
 #pragma once
 
 #include <memory>
