@@ -36,6 +36,7 @@ Error noMemoryFor(const Sentence& name) {
 PpdOption optionOf(ppd_file_t* ppd, const ppd_option_t& option) {
   PpdOption out{option.keyword, textOr(option.text, option.keyword), option.defchoice, {}};
   const bool takesCustom = ppdFindCustomOption(ppd, option.keyword) != nullptr;
+  out.choices.reserve(choicesOf(option).size());
   for (const ppd_choice_t& choice : choicesOf(option)) {
     // It needs a value, which no list of choices can give.
     if (takesCustom && std::strcmp(choice.choice, kCustomChoice) == 0) continue;
