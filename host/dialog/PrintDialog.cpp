@@ -40,12 +40,18 @@ QStringList sentencesOf(const std::vector<Deviation>& deviations) {
   return lines;
 }
 
+// More of them push the settings out of the window, and nobody reads them all.
+constexpr std::size_t kMostConflicts = 5;
+
 // The last of the conflicts has the button that sorts them all out.
 std::vector<Notice> conflictNotices(const std::vector<Sentence>& conflicts,
                                     const std::function<void()>& resolve) {
   std::vector<Notice> notices;
-  for (const Sentence& each : conflicts) notices.push_back({translated(each)});
+  const std::size_t shown = std::min(conflicts.size(), kMostConflicts);
+  for (std::size_t at = 0; at < shown; ++at) notices.push_back({translated(conflicts[at])});
   if (notices.empty()) return notices;
+  if (conflicts.size() > shown)
+    notices.push_back({PrintDialog::tr("And %1 more.").arg(conflicts.size() - shown)});
   notices.back().remedies = {{NoticeView::resolveTitle(), NoticeView::resolveHint(), resolve}};
   return notices;
 }

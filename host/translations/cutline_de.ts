@@ -1349,6 +1349,10 @@
         <translation>%1 und %2 weitere</translation>
     </message>
     <message>
+        <source>And %1 more.</source>
+        <translation>Und %1 weitere.</translation>
+    </message>
+    <message>
         <source>Open or drop a document</source>
         <translation>Dokument öffnen oder hier ablegen</translation>
     </message>

@@ -1349,6 +1349,10 @@
         <translation>%1 y %2 más</translation>
     </message>
     <message>
+        <source>And %1 more.</source>
+        <translation>Y %1 más.</translation>
+    </message>
+    <message>
         <source>Open or drop a document</source>
         <translation>Abra o arrastre aquí un documento</translation>
     </message>

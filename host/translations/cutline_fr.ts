@@ -1349,6 +1349,10 @@
         <translation>%1 et %2 de plus</translation>
     </message>
     <message>
+        <source>And %1 more.</source>
+        <translation>Et %1 autres.</translation>
+    </message>
+    <message>
         <source>Open or drop a document</source>
         <translation>Ouvrez ou déposez un document</translation>
     </message>

@@ -1349,6 +1349,10 @@
         <translation>%1 e altri %2</translation>
     </message>
     <message>
+        <source>And %1 more.</source>
+        <translation>E altri %1.</translation>
+    </message>
+    <message>
         <source>Open or drop a document</source>
         <translation>Aprire o trascinare qui un documento</translation>
     </message>

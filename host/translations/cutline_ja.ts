@@ -1349,6 +1349,10 @@
         <translation>%1 ほか %2 件</translation>
     </message>
     <message>
+        <source>And %1 more.</source>
+        <translation>ほか%1件。</translation>
+    </message>
+    <message>
         <source>Open or drop a document</source>
         <translation>文書を開くか、ここにドロップしてください</translation>
     </message>

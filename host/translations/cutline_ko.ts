@@ -1349,6 +1349,10 @@
         <translation>%1 외 %2개</translation>
     </message>
     <message>
+        <source>And %1 more.</source>
+        <translation>그 밖에 %1개.</translation>
+    </message>
+    <message>
         <source>Open or drop a document</source>
         <translation>문서를 열거나 여기에 끌어 놓으십시오</translation>
     </message>

@@ -1349,6 +1349,10 @@
         <translation>%1 en nog %2</translation>
     </message>
     <message>
+        <source>And %1 more.</source>
+        <translation>En nog %1.</translation>
+    </message>
+    <message>
         <source>Open or drop a document</source>
         <translation>Open een document of sleep er een hierheen</translation>
     </message>

@@ -1349,6 +1349,10 @@
         <translation>%1 e mais %2</translation>
     </message>
     <message>
+        <source>And %1 more.</source>
+        <translation>E mais %1.</translation>
+    </message>
+    <message>
         <source>Open or drop a document</source>
         <translation>Abra um documento ou solte-o aqui</translation>
     </message>

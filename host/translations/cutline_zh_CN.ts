@@ -1349,6 +1349,10 @@
         <translation>%1 等另外 %2 个</translation>
     </message>
     <message>
+        <source>And %1 more.</source>
+        <translation>还有 %1 条。</translation>
+    </message>
+    <message>
         <source>Open or drop a document</source>
         <translation>打开文档或将其拖到此处</translation>
     </message>

@@ -1349,6 +1349,10 @@
         <translation>%1 與另外 %2 個</translation>
     </message>
     <message>
+        <source>And %1 more.</source>
+        <translation>還有 %1 條。</translation>
+    </message>
+    <message>
         <source>Open or drop a document</source>
         <translation>開啟文件或將其拖曳到此處</translation>
     </message>

@@ -9,10 +9,13 @@
 #include <QSpinBox>
 #include <QTest>
 #include <algorithm>
+#include <fstream>
+#include <iterator>
 
 #include "host/dialog/DialogLanguage.h"
 #include "host/dialog/NoticeView.h"
 #include "tests/dialog/DialogTest.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace cutline {
 
@@ -189,6 +192,29 @@ TEST_F(SettingsTest, ConflictsAreNamedAndSortedOutAtAClick) {
   click(buttonWithText<QPushButton>("Chan&ge the others"));
   EXPECT_TRUE(model().conflicts().empty());
   EXPECT_EQ(sent()["LxHalfCut"], "OFF");
+}
+
+// A driver whose defaults exclude each other must not fill the window with it.
+TEST_F(SettingsTest, OfManyConflictsAFewAreNamedAndTheOthersCounted) {
+  constexpr int kConflicts = 12;
+  std::ifstream sample(samplePpd("tape-a"));
+  std::string ppd{std::istreambuf_iterator<char>(sample), {}};
+  for (int at = 0; at <= kConflicts; ++at) {
+    const std::string name = "*Other" + std::to_string(at);
+    ppd += "*OpenUI " + name + ": PickOne\n*Default" + name.substr(1) + ": A\n" + name +
+           " A: \"\"\n" + name + " B: \"\"\n*CloseUI: " + name + "\n";
+    if (at > 0) ppd += "*UIConstraints: *Other0 A " + name + " A\n";
+  }
+  const test::TemporaryFolder folder;
+  openQueue(folder.write("many.ppd", ppd));
+  ASSERT_EQ(model().conflicts().size(), std::size_t{kConflicts});
+  EXPECT_TRUE(shows(translated(model().conflicts()[4])));
+  EXPECT_FALSE(shows(translated(model().conflicts()[5])));
+  EXPECT_TRUE(shows("And 7 more."));
+  EXPECT_LT(dialog().minimumSizeHint().height(), 780);
+  click(buttonWithText<QPushButton>("Chan&ge the others"));
+  EXPECT_TRUE(model().conflicts().empty());
+  EXPECT_FALSE(shows("And 7 more."));
 }
 
 TEST_F(SettingsTest, MoreOptionsOpenAtAClick) {
