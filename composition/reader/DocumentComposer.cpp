@@ -65,7 +65,7 @@ class DocumentComposer::Composing {
  public:
   Composing(CompositionRequest request, const ReaderModules& modules)
       : mRequest(std::move(request)), mModules(modules) {
-    mReport.label = request.label;
+    mReport.label = mRequest.label;
   }
 
   CompositionReport compose(const std::vector<int>& documents, int output) noexcept {
