@@ -186,6 +186,8 @@ QString NoticeView::resolveHint() {
   return tr("Keep the latest choice and change those that exclude it");
 }
 
+QString NoticeView::othersLine(std::size_t count) { return tr("And %1 more.").arg(count); }
+
 // Two topics can have the same to say, as of a server that is missing from the start.
 void NoticeView::rebuild() {
   emptyLayout(*mRows);

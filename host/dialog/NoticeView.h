@@ -83,6 +83,8 @@ class NoticeView : public QWidget {
   // What a button says and does that sorts conflicts out.
   static QString resolveTitle();
   static QString resolveHint();
+  // That there are so many more of the same.
+  static QString othersLine(std::size_t count);
 
   // The topic's lines.
   QStringList notices(NoticeTopic topic) const;

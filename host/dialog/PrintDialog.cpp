@@ -50,8 +50,8 @@ std::vector<Notice> conflictNotices(const std::vector<Sentence>& conflicts,
   const std::size_t shown = std::min(conflicts.size(), kMostConflicts);
   for (std::size_t at = 0; at < shown; ++at) notices.push_back({translated(conflicts[at])});
   if (notices.empty()) return notices;
-  if (conflicts.size() > shown)
-    notices.push_back({PrintDialog::tr("And %1 more.").arg(conflicts.size() - shown)});
+  const std::size_t others = conflicts.size() - shown;
+  if (others > 0) notices.push_back({NoticeView::othersLine(others)});
   notices.back().remedies = {{NoticeView::resolveTitle(), NoticeView::resolveHint(), resolve}};
   return notices;
 }

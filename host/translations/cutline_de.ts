@@ -1141,6 +1141,10 @@
         <source>Keep the latest choice and change those that exclude it</source>
         <translation>Die letzte Wahl behalten und ändern, was sie ausschließt</translation>
     </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Und %1 weitere.</translation>
+    </message>
 </context>
 <context>
     <name>cutline::OpenBar</name>
@@ -1347,10 +1351,6 @@
     <message>
         <source>%1 and %2 more</source>
         <translation>%1 und %2 weitere</translation>
-    </message>
-    <message>
-        <source>And %1 more.</source>
-        <translation>Und %1 weitere.</translation>
     </message>
     <message>
         <source>Open or drop a document</source>

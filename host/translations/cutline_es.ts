@@ -1141,6 +1141,10 @@
         <source>Keep the latest choice and change those that exclude it</source>
         <translation>Mantener la última elección y cambiar las que la excluyen</translation>
     </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Y %1 más.</translation>
+    </message>
 </context>
 <context>
     <name>cutline::OpenBar</name>
@@ -1347,10 +1351,6 @@
     <message>
         <source>%1 and %2 more</source>
         <translation>%1 y %2 más</translation>
-    </message>
-    <message>
-        <source>And %1 more.</source>
-        <translation>Y %1 más.</translation>
     </message>
     <message>
         <source>Open or drop a document</source>

@@ -1141,6 +1141,10 @@
         <source>Keep the latest choice and change those that exclude it</source>
         <translation>Garder le dernier choix et modifier ceux qui l’excluent</translation>
     </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Et %1 autres.</translation>
+    </message>
 </context>
 <context>
     <name>cutline::OpenBar</name>
@@ -1347,10 +1351,6 @@
     <message>
         <source>%1 and %2 more</source>
         <translation>%1 et %2 de plus</translation>
-    </message>
-    <message>
-        <source>And %1 more.</source>
-        <translation>Et %1 autres.</translation>
     </message>
     <message>
         <source>Open or drop a document</source>

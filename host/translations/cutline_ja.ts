@@ -1141,6 +1141,10 @@
         <source>Keep the latest choice and change those that exclude it</source>
         <translation>最後の選択を残し、両立しないものを変更します</translation>
     </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>ほか%1件。</translation>
+    </message>
 </context>
 <context>
     <name>cutline::OpenBar</name>
@@ -1347,10 +1351,6 @@
     <message>
         <source>%1 and %2 more</source>
         <translation>%1 ほか %2 件</translation>
-    </message>
-    <message>
-        <source>And %1 more.</source>
-        <translation>ほか%1件。</translation>
     </message>
     <message>
         <source>Open or drop a document</source>

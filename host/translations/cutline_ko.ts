@@ -1141,6 +1141,10 @@
         <source>Keep the latest choice and change those that exclude it</source>
         <translation>마지막 선택을 유지하고 함께 쓸 수 없는 것을 변경합니다</translation>
     </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>그 밖에 %1개.</translation>
+    </message>
 </context>
 <context>
     <name>cutline::OpenBar</name>
@@ -1347,10 +1351,6 @@
     <message>
         <source>%1 and %2 more</source>
         <translation>%1 외 %2개</translation>
-    </message>
-    <message>
-        <source>And %1 more.</source>
-        <translation>그 밖에 %1개.</translation>
     </message>
     <message>
         <source>Open or drop a document</source>

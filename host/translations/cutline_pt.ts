@@ -1141,6 +1141,10 @@
         <source>Keep the latest choice and change those that exclude it</source>
         <translation>Manter a última escolha e alterar as que a excluem</translation>
     </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>E mais %1.</translation>
+    </message>
 </context>
 <context>
     <name>cutline::OpenBar</name>
@@ -1347,10 +1351,6 @@
     <message>
         <source>%1 and %2 more</source>
         <translation>%1 e mais %2</translation>
-    </message>
-    <message>
-        <source>And %1 more.</source>
-        <translation>E mais %1.</translation>
     </message>
     <message>
         <source>Open or drop a document</source>

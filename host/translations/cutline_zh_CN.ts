@@ -1141,6 +1141,10 @@
         <source>Keep the latest choice and change those that exclude it</source>
         <translation>保留最近的选择，更改与之冲突的选项</translation>
     </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>还有 %1 条。</translation>
+    </message>
 </context>
 <context>
     <name>cutline::OpenBar</name>
@@ -1347,10 +1351,6 @@
     <message>
         <source>%1 and %2 more</source>
         <translation>%1 等另外 %2 个</translation>
-    </message>
-    <message>
-        <source>And %1 more.</source>
-        <translation>还有 %1 条。</translation>
     </message>
     <message>
         <source>Open or drop a document</source>

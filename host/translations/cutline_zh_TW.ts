@@ -1141,6 +1141,10 @@
         <source>Keep the latest choice and change those that exclude it</source>
         <translation>保留最近的選擇，變更與其衝突的選項</translation>
     </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>還有 %1 條。</translation>
+    </message>
 </context>
 <context>
     <name>cutline::OpenBar</name>
@@ -1347,10 +1351,6 @@
     <message>
         <source>%1 and %2 more</source>
         <translation>%1 與另外 %2 個</translation>
-    </message>
-    <message>
-        <source>And %1 more.</source>
-        <translation>還有 %1 條。</translation>
     </message>
     <message>
         <source>Open or drop a document</source>
