@@ -74,6 +74,19 @@ struct StartedComposer::Running {
 
 namespace {
 
+// What the program that this is part of started before anything else, until it is asked for.
+std::optional<HelperExchange>& earlyComposer() {
+  static std::optional<HelperExchange> composer;
+  return composer;
+}
+
+Result<HelperExchange> startedComposer(const std::string& helperDirectory) {
+  if (!earlyComposer()) return HelperExchange::start(helperDirectory + "/" + kComposerName);
+  HelperExchange composer = std::move(*earlyComposer());
+  earlyComposer().reset();
+  return composer;
+}
+
 Result<std::vector<FileDescriptor>> openDocuments(const std::vector<std::string>& paths) {
   if (paths.empty()) return Error{Phrase("composition", "there is no document")};
   std::vector<FileDescriptor> documents;
@@ -87,16 +100,19 @@ Result<std::vector<FileDescriptor>> openDocuments(const std::vector<std::string>
 
 }  // namespace
 
+void keepEarlyComposer(const WaitingHelper& composer) { earlyComposer().emplace(composer); }
+
 Result<std::unique_ptr<StartedComposer::Running>> StartedComposer::start(
     const std::string& helperDirectory, const std::vector<std::string>& paths) {
   const Result<std::vector<FileDescriptor>> documents = openDocuments(paths);
   if (!documents) return documents.error();
   Result<TemporaryFile> output = TemporaryFile::make();
   if (!output) return output.error();
+  Result<HelperExchange> composer = startedComposer(helperDirectory);
+  if (!composer) return composer.error();
   std::vector<int> files{output->descriptor()};
   for (const FileDescriptor& document : *documents) files.push_back(document.get());
-  auto composer = HelperExchange::start(helperDirectory + "/" + kComposerName, std::move(files));
-  if (!composer) return composer.error();
+  composer->give(files);
   return std::make_unique<Running>(Running{std::move(*output), std::move(*composer)});
 }
 
@@ -108,7 +124,7 @@ StartedComposer& StartedComposer::operator=(StartedComposer&&) noexcept = defaul
 StartedComposer::~StartedComposer() = default;
 
 Result<ComposedDocument> StartedComposer::compose(CompositionRequest request, std::stop_token stop,
-                                                  milliseconds patience) && {
+                                                  milliseconds patience) {
   if (!mRunning) return mRunning.error();
   request.names = mPaths;
   const HelperAnswer asked = (*mRunning)->composer.ask(request.asText(), stop, patience);

@@ -9,11 +9,11 @@
 
 #include "base/Result.h"
 #include "base/TemporaryFile.h"
+#include "composition/ComposerName.h"
 #include "composition/Composition.h"
+#include "composition/HelperExchange.h"
 
 namespace cutline {
-
-inline constexpr char kComposerName[] = "cutline-compose";
 
 // A composed PDF in a private file that goes with the last who holds it.
 struct ComposedDocument {
@@ -23,13 +23,16 @@ struct ComposedDocument {
 
 inline constexpr std::chrono::seconds kCompositionPatience{60};
 
+// Takes over a composer that the program started before its libraries were loaded: whoever starts
+// one next gets this one.
+void keepEarlyComposer(const WaitingHelper& composer);
+
 // A composer that is started before it is known what to ask of it: a program takes as long to start
-// as to compose a few labels, and meanwhile others find the printer. One that is never asked ends
-// with this.
+// as to compose a few labels, and meanwhile others find the printer. The program ends with this.
 class StartedComposer {
  public:
-  // Opens the files and starts the composer in `helperDirectory`. Does not wait for it; what goes
-  // wrong is told by compose().
+  // Opens the files and starts the composer in `helperDirectory`, which reads ahead what it can.
+  // Does not wait for it; what goes wrong is told by compose().
   StartedComposer(const std::string& helperDirectory, std::vector<std::string> paths);
   StartedComposer(StartedComposer&&) noexcept;
   StartedComposer& operator=(StartedComposer&&) noexcept;
@@ -39,7 +42,7 @@ class StartedComposer {
   // that draws. `stop` ends it early, with an error. Errors name the document and the reason, also
   // when the program dies, is too slow, or gives no answer.
   Result<ComposedDocument> compose(CompositionRequest request, std::stop_token stop = {},
-                                   std::chrono::milliseconds patience = kCompositionPatience) &&;
+                                   std::chrono::milliseconds patience = kCompositionPatience);
 
  private:
   struct Running;

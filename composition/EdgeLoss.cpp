@@ -35,6 +35,18 @@ int percentOf(double scale) {
 
 }  // namespace
 
+std::vector<int> labelsAtTheirEdges(const CompositionReport& report,
+                                    const LayoutSettings& settings) {
+  if (settings.scaling == Scaling::fill) return {};
+  std::vector<int> labels;
+  const int count = std::min(static_cast<int>(report.pages.size()), kMostInks);
+  for (int label = 0; label < count; ++label) {
+    const PageSize& page = report.pages[static_cast<std::size_t>(label)].size;
+    if (!isWhollyPrintable(page, report.label, settings)) labels.push_back(label);
+  }
+  return labels;
+}
+
 std::optional<EdgeLoss> edgeLoss(const CompositionReport& report, const LayoutSettings& settings,
                                  const std::map<int, std::optional<Ink>>& inks) {
   if (settings.scaling == Scaling::fill) return std::nullopt;

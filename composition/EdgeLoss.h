@@ -15,6 +15,11 @@ struct EdgeLoss {
   std::vector<int> labels;  // from 0, never empty
   int percent = 100;        // of the documents' own sizes: with it nothing is cut off on any label
 };
+// The labels that have to be looked at to know it, from 0, of the first kMostInks: where all of a
+// page can be printed, so can its ink.
+std::vector<int> labelsAtTheirEdges(const CompositionReport& report,
+                                    const LayoutSettings& settings);
+
 // By the inks of the labels that were looked at; nothing where all is well, where the documents are
 // meant to be cut off, and of pages that are larger than their label even so.
 std::optional<EdgeLoss> edgeLoss(const CompositionReport& report, const LayoutSettings& settings,

@@ -1,16 +1,10 @@
 #include "composition/HelperExchange.h"
 
-#include <fcntl.h>
 #include <poll.h>
-#include <sys/socket.h>
-#include <sys/time.h>
 #include <unistd.h>
 
 #include <array>
 #include <cerrno>
-#include <cstring>
-#include <optional>
-#include <utility>
 
 #include "base/Uninterrupted.h"
 
@@ -22,42 +16,6 @@ using std::chrono::steady_clock;
 
 // More than the report of as many pages as a PDF may have.
 constexpr std::size_t kMostText = 64U << 20U;
-
-struct Ends {
-  FileDescriptor ours;
-  FileDescriptor helpers;
-};
-
-Error cannotTalk(const std::string& program) {
-  return Sentence(Phrase("composition", "cannot start the program \"%1\": %2"),
-                  {program, std::string(std::strerror(errno))});
-}
-
-// A socket rather than a pipe: to write to a program that has ended must not end this one.
-std::optional<Ends> requestEnds() {
-  int ends[2];
-  if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) return std::nullopt;
-  return Ends{FileDescriptor(ends[0]), FileDescriptor(ends[1])};
-}
-
-std::optional<Ends> answerEnds() {
-  int ends[2];
-  if (::pipe2(ends, O_CLOEXEC) != 0) return std::nullopt;
-  return Ends{FileDescriptor(ends[0]), FileDescriptor(ends[1])};
-}
-
-// A program that does not take it all is noticed by its answer.
-void send(const FileDescriptor& socket, std::string_view text, milliseconds patience) {
-  const auto whole = std::chrono::duration_cast<std::chrono::seconds>(patience);
-  const timeval time{whole.count(), std::chrono::microseconds(patience - whole).count()};
-  ::setsockopt(socket.get(), SOL_SOCKET, SO_SNDTIMEO, &time, sizeof time);
-  while (!text.empty()) {
-    const ssize_t count =
-        uninterrupted([&] { return ::send(socket.get(), text.data(), text.size(), MSG_NOSIGNAL); });
-    if (count <= 0) return;
-    text.remove_prefix(static_cast<std::size_t>(count));
-  }
-}
 
 // Waits for something to read, or for the end. No when time is up.
 bool waitForMore(int descriptor, steady_clock::time_point end) {
@@ -71,10 +29,10 @@ bool waitForMore(int descriptor, steady_clock::time_point end) {
   }
 }
 
-// No when time is up before the end.
-bool readToEnd(int descriptor, steady_clock::time_point end, std::string& text) {
+// No when time is up before the answer or the program has ended.
+bool readAnswer(int descriptor, steady_clock::time_point end, std::string& text) {
   std::array<char, 65536> block;
-  while (text.size() <= kMostText) {
+  while (text.size() <= kMostText && !text.ends_with(kAnswerEnd)) {
     if (!waitForMore(descriptor, end)) return false;
     const ssize_t count =
         uninterrupted([&] { return ::read(descriptor, block.data(), block.size()); });
@@ -86,14 +44,11 @@ bool readToEnd(int descriptor, steady_clock::time_point end, std::string& text) 
 
 }  // namespace
 
-Result<HelperExchange> HelperExchange::start(const std::string& program, std::vector<int> files) {
-  auto request = requestEnds();
-  auto answer = request ? answerEnds() : std::nullopt;
-  if (!answer) return cannotTalk(program);
-  auto helper = HelperProcess::start(
-      {program, request->helpers.get(), answer->helpers.get(), std::move(files)});
-  if (!helper) return helper.error();
-  return HelperExchange(std::move(request->ours), std::move(answer->ours), std::move(*helper));
+Result<HelperExchange> HelperExchange::start(const std::string& program) {
+  WaitingHelper helper;
+  const int problem = spawnWaitingHelper(program.c_str(), helper);
+  if (problem != 0) return cannotStart(program, problem);
+  return HelperExchange(helper);
 }
 
 HelperAnswer HelperExchange::ask(std::string_view request, const std::stop_token& stop,
@@ -102,12 +57,16 @@ HelperAnswer HelperExchange::ask(std::string_view request, const std::stop_token
   HelperAnswer answer;
   {
     const std::stop_callback onStop(stop, [this] { mHelper.kill(); });
-    send(mRequest, request, patience);
+    sendText(mRequest.get(), request, patience);
     mRequest = FileDescriptor();
-    answer.isInTime = readToEnd(mAnswer.get(), end, answer.text);
+    answer.isInTime = readAnswer(mAnswer.get(), end, answer.text);
     if (!answer.isInTime) mHelper.kill();
   }
-  answer.status = mHelper.wait();
+  // A program takes a while to go, which is nobody's concern once it has said all.
+  if (!answer.text.ends_with(kAnswerEnd))
+    answer.status = mHelper.wait();
+  else
+    answer.text.pop_back();
   return answer;
 }
 

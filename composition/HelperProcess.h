@@ -4,25 +4,21 @@
 #include <sys/types.h>
 
 #include <string>
-#include <vector>
+#include <utility>
 
 #include "base/Result.h"
 
 namespace cutline {
 
-struct HelperStart {
-  std::string program;          // its path
-  int input = -1;               // becomes its standard input; borrowed, as the others are
-  int output = -1;              // becomes its standard output
-  std::vector<int> files = {};  // become its descriptors 3, 4, ...; it gets no other
-};
-
 // Ended and waited for when this object goes.
 class HelperProcess {
  public:
-  // The error names the program and the system's reason.
-  static Result<HelperProcess> start(const HelperStart& start);
-  HelperProcess(HelperProcess&& other) noexcept;
+  // The program has `input` as its standard input, `output` as its standard output, `file` as its
+  // descriptor 3, and no other; all are borrowed. The error names it and the system's reason.
+  static Result<HelperProcess> start(const std::string& program, int input, int output, int file);
+  // Of a program that was started; its process group is its own.
+  explicit HelperProcess(pid_t process) noexcept : mProcess(process) {}
+  HelperProcess(HelperProcess&& other) noexcept : mProcess(std::exchange(other.mProcess, 0)) {}
   HelperProcess& operator=(HelperProcess&& other) noexcept;
   ~HelperProcess();
 
@@ -32,8 +28,10 @@ class HelperProcess {
   int wait() noexcept;
 
  private:
-  explicit HelperProcess(pid_t process) noexcept : mProcess(process) {}
   pid_t mProcess;  // 0 once it was waited for
 };
+
+// Why a program of that path did not start.
+Error cannotStart(const std::string& program, int reason);
 
 }  // namespace cutline

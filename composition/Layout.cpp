@@ -203,4 +203,9 @@ std::optional<int> percentWithoutLoss(const PageSize& page, const LabelPage& lab
   return std::nullopt;
 }
 
+bool isWhollyPrintable(const PageSize& page, const LabelPage& label,
+                       const LayoutSettings& settings) {
+  return isPrintable(areaOn(placed(page, label, settings), 0, 0, page.width, page.height), label);
+}
+
 }  // namespace cutline

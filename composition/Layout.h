@@ -84,4 +84,8 @@ struct Area {
 std::optional<int> percentWithoutLoss(const PageSize& page, const LabelPage& label,
                                       const LayoutSettings& settings, const Area& ink);
 
+// Whether all of the page, laid out so, lies where its label can be printed.
+bool isWhollyPrintable(const PageSize& page, const LabelPage& label,
+                       const LayoutSettings& settings);
+
 }  // namespace cutline

@@ -86,7 +86,7 @@ Result<Connection> connected(const std::string& program, const TemporaryFile& do
     return cannotDraw(std::string(std::strerror(errno)));
   FileDescriptor socket(ends[0]);
   const FileDescriptor far(ends[1]);
-  Result<HelperProcess> helper = HelperProcess::start({program, far.get(), far.get(), {pdf.get()}});
+  Result<HelperProcess> helper = HelperProcess::start(program, far.get(), far.get(), pdf.get());
   if (!helper) return helper.error();
   return Connection{std::move(socket), std::move(*helper)};
 }

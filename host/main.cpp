@@ -1,26 +1,37 @@
+// The program is a library, which stands on some forty others. This loads it, and has a composer
+// started first, so that both load at the same time. It needs the C library alone.
+#include <dlfcn.h>
 #include <malloc.h>
-#include <unistd.h>
 
-#include <new>
-#include <string_view>
+#include <cstdio>
+#include <cstdlib>
 
-#include "host/core/CommandLine.h"
+#include "host/EarlyComposer.h"
 #include "host/core/Program.h"
 
 namespace {
 
-// Nothing that could be done about it works without memory, but to say so.
-[[noreturn]] void endWithoutMemory() {
-  constexpr std::string_view kWords = "cutline: there is no memory left\n";
-  static_cast<void>(!::write(STDERR_FILENO, kWords.data(), kWords.size()));
-  ::_exit(cutline::kExitError);
+using ProgramFunction = decltype(&CutlineRunProgram);
+
+int cannotLoad() {
+  const char* const reason = ::dlerror();
+  std::fprintf(stderr, "cutline: a part of the program cannot be loaded: %s\n",
+               reason != nullptr ? reason : "no reason is known");
+  return EXIT_FAILURE;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  std::set_new_handler(endWithoutMemory);
   // A thread beside the dialog lives for a moment; what it needs comes and goes with the rest.
   ::mallopt(M_ARENA_MAX, 1);
-  return cutline::runProgram(argc, argv);
+  cutline::WaitingHelper composer;
+  const bool isEarly = cutline::startEarlyComposer(argc, argv, composer);
+  // As if it had been linked: each library is bound as it says itself, and modules and bundles find
+  // what the program has.
+  void* const library = ::dlopen(cutline::kProgramLibrary, RTLD_LAZY | RTLD_GLOBAL);
+  if (library == nullptr) return cannotLoad();
+  void* const run = ::dlsym(library, cutline::kProgramRunSymbol);
+  if (run == nullptr) return cannotLoad();
+  return reinterpret_cast<ProgramFunction>(run)(argc, argv, isEarly ? &composer : nullptr);
 }

@@ -4,24 +4,21 @@
 #include <cmath>
 #include <exception>
 #include <new>
-#include <optional>
 #include <qpdf/QPDFExc.hh>
 #include <stdexcept>
+#include <utility>
 
 #include "composition/reader/DocumentBytes.h"
-#include "composition/reader/LabelWriter.h"
 #include "composition/reader/OpenedDocument.h"
 #include "composition/reader/PageChoice.h"
+#include "composition/reader/ReadAhead.h"
 #include "composition/reader/Refusal.h"
 
 namespace cutline {
 namespace {
 
-// As many labels as are composed while a program is started. What is shorter than a few hundred
-// bytes, such as a text, has no more.
-constexpr int kFewLabels = 20;
+// What is shorter, such as a text, has few labels.
 constexpr std::size_t kFewBytes = 512;
-constexpr std::size_t kSoonRead = std::size_t{256} * 1024;
 
 // A page that becomes a label.
 struct Page {
@@ -63,17 +60,17 @@ Refusal refusal() {
 
 class DocumentComposer::Composing {
  public:
-  Composing(CompositionRequest request, const ReaderModules& modules)
-      : mRequest(std::move(request)), mModules(modules) {
-    mReport.label = mRequest.label;
-  }
+  void readAhead(const std::vector<int>& documents) noexcept { mAhead.read(documents, mLabels); }
 
-  CompositionReport compose(const std::vector<int>& documents, int output) noexcept {
+  CompositionReport compose(const CompositionRequest& request, const std::vector<int>& documents,
+                            int output, const ReaderModules& modules) noexcept {
+    mRequest = request;
+    mReport.label = request.label;
     try {
       if (!isLabel(mRequest.label)) throw Refusal{DocumentProblem::broken, "label"};
       for (const int descriptor : documents) mBytes += sizeOf(descriptor);
       if (mRequest.takesAllWhereFew && mBytes <= kFewBytes) mRequest.pages.most = 0;
-      openAll(documents);
+      openAll(documents, modules);
       choosePages();
       chooseLength();
       writeLabels(output);
@@ -85,10 +82,12 @@ class DocumentComposer::Composing {
   }
 
  private:
-  void openAll(const std::vector<int>& documents) {
+  void openAll(const std::vector<int>& documents, const ReaderModules& modules) {
     for (const int descriptor : documents) {
       mCurrent = static_cast<int>(mDocuments.size());
-      mDocuments.push_back(openDocument(descriptor, mRequest, mModules));
+      std::unique_ptr<PdfSource> before = mAhead.take(descriptor);
+      mDocuments.push_back(before ? openedBefore(std::move(before), mRequest)
+                                  : openDocument(descriptor, mRequest, modules));
       mReport.documentPages += mDocuments.back().source->pageCount();
       mReport.isPartial |= mDocuments.back().isPartial;
     }
@@ -129,34 +128,37 @@ class DocumentComposer::Composing {
   }
 
   void writeLabels(int output) {
-    LabelWriter& labels = mLabels.emplace(mReport.label, mRequest.isMirrored);
+    mLabels.setLabel(mReport.label, mRequest.isMirrored);
     for (const Page& page : mPages) {
       mCurrent = page.documentIndex;
       const Placement placement = placed(page.size, mReport.label, page.document->layout);
-      labels.addPage(page.document->source->draw(page.number, labels), placement);
+      mLabels.addPage(page.document->source->draw(page.number, mLabels), placement);
       mReport.pages.push_back({page.size, placement.scale, placement.turn});
     }
-    labels.write(output);
+    mLabels.write(output);
   }
 
   CompositionRequest mRequest;
-  ReaderModules mModules;
   std::size_t mBytes = 0;  // of all documents
+  ReadAhead mAhead;
   std::vector<OpenedDocument> mDocuments;
-  std::optional<LabelWriter> mLabels;  // reads from the documents as long as it lives
+  LabelWriter mLabels;  // reads from the documents as long as it lives
   std::vector<Page> mPages;
   int mCurrent = 0;  // the document that is being read
   CompositionReport mReport;
 };
 
-DocumentComposer::DocumentComposer() = default;
+DocumentComposer::DocumentComposer() : mComposing(std::make_unique<Composing>()) {}
 DocumentComposer::~DocumentComposer() = default;
+
+void DocumentComposer::readAhead(const std::vector<int>& documents) noexcept {
+  mComposing->readAhead(documents);
+}
 
 CompositionReport DocumentComposer::compose(const CompositionRequest& request,
                                             const std::vector<int>& documents, int output,
                                             const ReaderModules& modules) {
-  mComposing = std::make_unique<Composing>(request, modules);
-  return mComposing->compose(documents, output);
+  return mComposing->compose(request, documents, output, modules);
 }
 
 }  // namespace cutline

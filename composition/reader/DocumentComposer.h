@@ -19,10 +19,14 @@ class DocumentComposer {
   DocumentComposer& operator=(const DocumentComposer&) = delete;
   ~DocumentComposer();
 
-  // `documents` are open files, one for each of the request's names, read from their beginnings;
-  // `output` is a file open for writing, empty. All stay the caller's. A module that is missing
-  // fails what needs it. PostScript has been made a PDF before. Where the report has a failure,
-  // what `output` holds says nothing.
+  // Reads what any request would have read, before there is one. The files stay the caller's; the
+  // very same are composed then. What is wrong with them is told then, too.
+  void readAhead(const std::vector<int>& documents) noexcept;
+
+  // Once only. `documents` are open files, one for each of the request's names, read from their
+  // beginnings; `output` is a file open for writing, empty. All stay the caller's. A module that is
+  // missing fails what needs it. PostScript has been made a PDF before. Where the report has a
+  // failure, what `output` holds says nothing.
   CompositionReport compose(const CompositionRequest& request, const std::vector<int>& documents,
                             int output, const ReaderModules& modules);
 

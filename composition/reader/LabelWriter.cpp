@@ -35,10 +35,14 @@ File fileToWrite(int descriptor) {
 
 }  // namespace
 
-LabelWriter::LabelWriter(const LabelPage& label, bool isMirrored)
-    : mLabel(label), mIsMirrored(isMirrored) {
+LabelWriter::LabelWriter() {
   mPdf.setSuppressWarnings(true);
   mPdf.emptyPDF();
+}
+
+void LabelWriter::setLabel(const LabelPage& label, bool isMirrored) {
+  mLabel = label;
+  mIsMirrored = isMirrored;
 }
 
 void LabelWriter::addPage(const DrawnPage& drawn, const Placement& placement) {

@@ -12,10 +12,12 @@ namespace cutline {
 
 class LabelWriter {
  public:
-  LabelWriter(const LabelPage& label, bool isMirrored);
+  LabelWriter();
 
   // The PDF that forms and pictures are made in.
   QPDF& pdf() noexcept { return mPdf; }
+  // What the pages that are added from now on are: labels of this size, all mirrored or none.
+  void setLabel(const LabelPage& label, bool isMirrored);
   // A label with the page drawn on it as placed.
   void addPage(const DrawnPage& page, const Placement& placement);
   // A layer that what was drawn belongs to; an object of this PDF.
@@ -29,7 +31,7 @@ class LabelWriter {
   QPDF mPdf;
   std::map<std::string, QPDFObjectHandle> mContents;
   LabelPage mLabel;
-  bool mIsMirrored;
+  bool mIsMirrored = false;
 };
 
 }  // namespace cutline

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "composition/reader/DocumentBytes.h"
 #include "composition/reader/DocumentKind.h"
 #include "composition/reader/JpegSource.h"
-#include "composition/reader/PdfSource.h"
 #include "composition/reader/PictureReader.h"
 #include "composition/reader/PngSource.h"
 #include "composition/reader/Refusal.h"
@@ -89,6 +89,10 @@ OpenedDocument openDocument(int descriptor, const CompositionRequest& request,
   const auto* reader = std::ranges::find(kReaders, kind, &Reader::kind);
   if (reader == kReaders.end()) throw Refusal{DocumentProblem::unknownKind, {}};
   return reader->open({descriptor, kind, request, modules});
+}
+
+OpenedDocument openedBefore(std::unique_ptr<PdfSource> source, const CompositionRequest& request) {
+  return {std::move(source), request.layout};
 }
 
 }  // namespace cutline

@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "composition/Composition.h"
-#include "composition/reader/DocumentSource.h"
+#include "composition/reader/PdfSource.h"
 #include "composition/reader/ReaderModules.h"
 #include "composition/typeset/Typesetter.h"
 
@@ -20,5 +20,8 @@ struct OpenedDocument {
 // as DocumentSource does, also where a module is missing.
 OpenedDocument openDocument(int descriptor, const CompositionRequest& request,
                             const ReaderModules& modules);
+
+// All of a PDF that was read before.
+OpenedDocument openedBefore(std::unique_ptr<PdfSource> source, const CompositionRequest& request);
 
 }  // namespace cutline

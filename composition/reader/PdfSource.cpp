@@ -12,7 +12,6 @@
 #include "composition/reader/LabelWriter.h"
 #include "composition/reader/PdfContents.h"
 #include "composition/reader/PdfFirstPages.h"
-#include "composition/reader/PdfFrame.h"
 #include "composition/reader/PdfLayers.h"
 #include "composition/reader/PdfPageCount.h"
 #include "composition/reader/Refusal.h"
@@ -79,9 +78,17 @@ DrawnPage PdfSource::draw(int page, LabelWriter& labels) {
     copyLayers(mPdf, labels);
   }
   const PdfFrame frame = pdfFrame(pageAt(page));
+  return {mAnnotations->above(contentOf(page, frame, labels), pageAt(page), frame), frame.matrix};
+}
+
+void PdfSource::drawAhead(int page, LabelWriter& labels) {
+  contentOf(page, pdfFrame(pageAt(page)), labels);
+}
+
+QPDFObjectHandle PdfSource::contentOf(int page, const PdfFrame& frame, LabelWriter& labels) {
   QPDFObjectHandle& content = mContents[contentKey(pageAt(page), frame)];
   if (!content.isInitialized()) content = contentForm(labels.pdf(), pageAt(page), frame);
-  return {mAnnotations->above(content, pageAt(page), frame), frame.matrix};
+  return content;
 }
 
 }  // namespace cutline

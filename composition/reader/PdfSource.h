@@ -11,6 +11,7 @@
 
 #include "composition/reader/DocumentSource.h"
 #include "composition/reader/PdfAnnotations.h"
+#include "composition/reader/PdfFrame.h"
 #include "composition/typeset/Typesetter.h"
 
 namespace cutline {
@@ -29,11 +30,14 @@ class PdfSource : public DocumentSource {
   int pageCount() override { return mPageCount; }
   PageSize pageSize(int page) override;
   DrawnPage draw(int page, LabelWriter& labels) override;
+  // Makes what takes long of a page that may be drawn.
+  void drawAhead(int page, LabelWriter& labels);
 
  private:
   // Refuses what must not be printed, and finds the pages.
   void open(int needed);
   void findPages(int needed);
+  QPDFObjectHandle contentOf(int page, const PdfFrame& frame, LabelWriter& labels);
   QPDFPageObjectHelper& pageAt(int page) { return mPages.at(static_cast<std::size_t>(page)); }
 
   TypesetPages mBytes;

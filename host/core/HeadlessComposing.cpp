@@ -33,31 +33,20 @@ void noteShrunkPages(const CompositionReport& report, HeadlessSession& session) 
                                 percent + " %");
 }
 
-std::map<int, std::optional<Ink>> inksOf(PageDrawer& drawer, const LabelPage& label) {
+// A document that cannot be drawn has none that are known.
+std::map<int, std::optional<Ink>> inksOf(const ComposedDocument& composed,
+                                         const std::vector<int>& labels) {
   std::map<int, std::optional<Ink>> inks;
-  const double scale = inkScale(label);
-  for (int page = 0; page < std::min(drawer.pageCount(), kMostInks); ++page) {
-    const Result<PageImage> image = drawer.draw(page, scale);
-    if (image) inks[page] = inkOf(*image, scale, label);
-  }
-  return inks;
-}
-
-// A document that cannot be drawn is printed all the same.
-void noteEdgeLoss(const ComposedDocument& composed, HeadlessSession& session,
-                  const CommandLine& line) {
-  if (line.isQuiet) return;
+  if (labels.empty()) return inks;
   const auto drawer =
       PageDrawer::open(Installation::ofThisProgram().helperDirectory(), composed.file);
-  if (!drawer) return;
-  const auto loss = edgeLoss(composed.report, session.model().jobLayout().placing,
-                             inksOf(**drawer, composed.report.label));
-  if (!loss) return;
-  const std::size_t count = loss->labels.size();
-  session.note("edges will be cut off on " +
-               (count == 1 ? "label " + std::to_string(loss->labels.front() + 1)
-                           : std::to_string(count) + " labels") +
-               ": -o natural-scaling=" + std::to_string(loss->percent) + " keeps them");
+  if (!drawer) return inks;
+  const double scale = inkScale(composed.report.label);
+  for (const int label : labels) {
+    const Result<PageImage> image = (*drawer)->draw(label, scale);
+    if (image) inks[label] = inkOf(*image, scale, composed.report.label);
+  }
+  return inks;
 }
 
 Result<Done> keepAs(const std::string& path, const ComposedDocument& composed) {
@@ -82,7 +71,7 @@ Result<ComposedDocument> composeFor(HeadlessSession& session) {
   PrintModel& model = session.model();
   CompositionRequest request = model.compositionRequest();
   request.pages = model.pageSelection();
-  Result<ComposedDocument> composed = session.takeComposer().compose(request);
+  Result<ComposedDocument> composed = session.composer().compose(request);
   if (!composed) return composed;
   if (request.lengthBounds) model.takeContentLength(composed->report.label.length);
   if (model.jobLayout().placing.scaling == Scaling::automatic)
@@ -90,18 +79,27 @@ Result<ComposedDocument> composeFor(HeadlessSession& session) {
   return composed;
 }
 
-Result<ComposedDocument> composeToPrint(const CommandLine& line, HeadlessSession& session) {
-  Result<ComposedDocument> composed = composeFor(session);
-  if (composed) noteEdgeLoss(*composed, session, line);
-  return composed;
+void noteEdgeLoss(const CommandLine& line, const ComposedDocument& composed,
+                  HeadlessSession& session) {
+  if (line.isQuiet) return;
+  const LayoutSettings placing = session.model().jobLayout().placing;
+  const auto loss = edgeLoss(composed.report, placing,
+                             inksOf(composed, labelsAtTheirEdges(composed.report, placing)));
+  if (!loss) return;
+  const std::size_t count = loss->labels.size();
+  session.note("edges will be cut off on " +
+               (count == 1 ? "label " + std::to_string(loss->labels.front() + 1)
+                           : std::to_string(count) + " labels") +
+               ": -o natural-scaling=" + std::to_string(loss->percent) + " keeps them");
 }
 
 Result<Done> keepDocument(const CommandLine& line, PluginLoader& plugIns, const Streams& streams) {
   if (Result<Done> checked = checkFiles(line); !checked) return checked;
   HeadlessSession session(line, plugIns, streams.notes);
   if (Result<Done> opened = session.openToCompose(); !opened) return opened;
-  const Result<ComposedDocument> composed = composeToPrint(line, session);
+  const Result<ComposedDocument> composed = composeFor(session);
   if (!composed) return composed.error();
+  noteEdgeLoss(line, *composed, session);
   if (Result<Done> kept = keepAs(line.dryRunPath, *composed); !kept) return kept;
   for (const auto& [name, value] : session.model().jobOptions())
     streams.out << visible(name) << "=" << visible(value) << "\n";

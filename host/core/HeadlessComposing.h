@@ -12,8 +12,10 @@ Result<Done> checkFiles(const CommandLine& line);
 // The documents that the session's composer has, on labels. Where the length follows them, the
 // session's model has it afterwards.
 Result<ComposedDocument> composeFor(HeadlessSession& session);
-// The same, with a note of what the printer cannot print of them.
-Result<ComposedDocument> composeToPrint(const CommandLine& line, HeadlessSession& session);
+// Notes what the printer cannot print of them. It draws them to know, which takes longer than to
+// send them.
+void noteEdgeLoss(const CommandLine& line, const ComposedDocument& composed,
+                  HeadlessSession& session);
 
 // Writes the very document that would be sent into line.dryRunPath, and the options that would go
 // with it to the output.

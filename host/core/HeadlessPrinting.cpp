@@ -1,5 +1,6 @@
 #include "host/core/HeadlessPrinting.h"
 
+#include <optional>
 #include <ostream>
 
 #include "base/Visible.h"
@@ -24,6 +25,7 @@ class Printing {
     if (!path) return path.error();
     const Result<int> job = sendDocument(mLine, *path, mLine.files, mSession, mStreams);
     if (!job) return job.error();
+    noteEdges();
     return mLine.waits ? followJob(mLine, *job, mSession) : Result<Done>(Done{});
   }
 
@@ -45,11 +47,16 @@ class Printing {
   // program takes as long to start as a document to be sent.
   Result<std::string> pathToSend(const Files& files, const Files& next) {
     if (mLine.asked.isRaw()) return files.front();
-    Result<ComposedDocument> composed = composeToPrint(mLine, mSession);
+    Result<ComposedDocument> composed = composeFor(mSession);
     if (!next.empty()) mSession.startComposer(next);
     if (!composed) return composed.error();
-    mDocument = std::move(composed->file);
-    return mDocument->path();
+    mComposed = std::move(*composed);
+    return mComposed->file->path();
+  }
+
+  // Once the document is sent: nobody has to wait for it until then.
+  void noteEdges() {
+    if (mComposed) noteEdgeLoss(mLine, *mComposed, mSession);
   }
 
   // Where the length follows the document, it is not to follow the one before.
@@ -72,6 +79,7 @@ class Printing {
       return tell(job.error());
     }
     mJobs.push_back(*job);
+    noteEdges();
   }
 
   void follow() {
@@ -99,8 +107,8 @@ class Printing {
   const CommandLine& mLine;
   const Streams& mStreams;
   HeadlessSession mSession;
-  std::shared_ptr<const TemporaryFile> mDocument;
-  Settings mSettings;      // before the first document
+  std::optional<ComposedDocument> mComposed;  // the last one
+  Settings mSettings;                         // before the first document
   std::vector<int> mJobs;  // without those that are known to have printed nothing
   std::string mLastTried;  // the document that the printer did not take
 };

@@ -42,11 +42,9 @@ void HeadlessSession::startComposer(const std::vector<std::string>& files) {
   mComposer.emplace(Installation::ofThisProgram().helperDirectory(), files);
 }
 
-StartedComposer HeadlessSession::takeComposer() {
+StartedComposer& HeadlessSession::composer() {
   if (!mComposer) startComposer(mLine.files);
-  StartedComposer composer = std::move(*mComposer);
-  mComposer.reset();
-  return composer;
+  return *mComposer;
 }
 
 // At once, because it may be all that is heard for a while.

@@ -39,8 +39,8 @@ class HeadlessSession {
   Result<Done> openToCompose();
   // Starts a composer for these documents.
   void startComposer(const std::vector<std::string>& files);
-  // The composer that was started last, or one of the line's documents. Once only.
-  StartedComposer takeComposer();
+  // The composer that was started last, or one of the line's documents.
+  StartedComposer& composer();
   // What the notes that follow are about, such as one of many documents; empty for nothing.
   void setSubject(std::string subject) { mSubject = std::move(subject); }
   void note(const std::string& text);

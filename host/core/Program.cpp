@@ -7,8 +7,11 @@
 #include <cerrno>
 #include <cstring>
 #include <iostream>
+#include <new>
+#include <string_view>
 
 #include "base/Visible.h"
+#include "composition/Composer.h"
 #include "host/core/CommandLine.h"
 #include "host/core/DialogModule.h"
 #include "host/core/HeadlessCommands.h"
@@ -103,7 +106,12 @@ int run(CommandLine line) {
   return needsWindow(line.command) ? showDialog(line, plugIns) : runWithoutWindow(line, plugIns);
 }
 
-}  // namespace
+// Nothing that could be done about it works without memory, but to say so.
+[[noreturn]] void endWithoutMemory() {
+  constexpr std::string_view kWords = "cutline: there is no memory left\n";
+  static_cast<void>(!::write(STDERR_FILENO, kWords.data(), kWords.size()));
+  ::_exit(kExitError);
+}
 
 int runProgram(int argc, const char* const* argv) {
   const Result<CommandLine> line = parseCommandLine(argc, argv);
@@ -114,4 +122,12 @@ int runProgram(int argc, const char* const* argv) {
   return run(*line);
 }
 
+}  // namespace
+
 }  // namespace cutline
+
+int CutlineRunProgram(int argc, const char* const* argv, const cutline::WaitingHelper* composer) {
+  std::set_new_handler(cutline::endWithoutMemory);
+  if (composer != nullptr) cutline::keepEarlyComposer(*composer);
+  return cutline::runProgram(argc, argv);
+}

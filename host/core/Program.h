@@ -1,8 +1,17 @@
-// The program, from its arguments to its exit status.
+// The program, from its arguments to its exit status, as the library that holds it shows it.
 #pragma once
+
+#include "composition/HelperSpawn.h"
 
 namespace cutline {
 
-int runProgram(int argc, const char* const* argv);
+inline constexpr char kProgramLibrary[] = "libcutline-host.so";
+inline constexpr char kProgramRunSymbol[] = "CutlineRunProgram";
 
 }  // namespace cutline
+
+extern "C" {
+// The arguments are main()'s. `composer` is one that was started already, and is taken over; null
+// for none. Answers the exit status. Once only.
+int CutlineRunProgram(int argc, const char* const* argv, const cutline::WaitingHelper* composer);
+}

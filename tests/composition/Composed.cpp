@@ -52,10 +52,24 @@ Composed::Composed(const std::vector<std::string>& documents, const CompositionR
   LibraryPictureReader pictures;
   mReport = DocumentComposer().compose(request, descriptors, output.descriptor(),
                                        {typesetter, &pictures});
+  if (!mReport.failure) mPdf = output.bytes();
+  // Who looks at all pages knows better than who believes what is stated.
+  if (!mReport.isPartial) expectTheSameReadAhead(request, descriptors, {typesetter, &pictures});
   if (mReport.failure) return;
-  mPdf = output.bytes();
   mDrawn->document.reset(
       poppler::document::load_from_raw_data(mPdf.data(), static_cast<int>(mPdf.size())));
+}
+
+void Composed::expectTheSameReadAhead(const CompositionRequest& request,
+                                      const std::vector<int>& documents,
+                                      const ReaderModules& modules) const {
+  const MemoryFile output;
+  DocumentComposer composer;
+  composer.readAhead(documents);
+  const CompositionReport report =
+      composer.compose(request, documents, output.descriptor(), modules);
+  EXPECT_EQ(report.asText(), mReport.asText());
+  if (!report.failure) EXPECT_TRUE(output.bytes() == mPdf) << "read ahead, it is another PDF";
 }
 
 Composed::Composed(const std::string& document, const CompositionRequest& request,

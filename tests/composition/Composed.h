@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "composition/Composition.h"
+#include "composition/reader/ReaderModules.h"
 #include "composition/typeset/Typesetter.h"
 
 namespace poppler {
@@ -46,6 +47,10 @@ class Composed {
   }
 
  private:
+  // Whether there was time to read the documents before the request makes no difference.
+  void expectTheSameReadAhead(const CompositionRequest& request, const std::vector<int>& documents,
+                              const ReaderModules& modules) const;
+
   CompositionReport mReport;
   std::string mPdf;
   struct Drawn;

@@ -268,7 +268,7 @@ TEST_F(Composer, IsAskedLaterThanStarted) {
   StartedComposer started(kHelpers, {path});
   EXPECT_EQ(childrenOfThisProcess().size(), 1U);
   std::filesystem::remove(path);
-  const Result<ComposedDocument> composed = std::move(started).compose(labelRequest());
+  const Result<ComposedDocument> composed = started.compose(labelRequest());
   ASSERT_TRUE(composed) << errorOf(composed);
   EXPECT_EQ(composed->report.pages.size(), 2U);
 }
@@ -281,11 +281,11 @@ TEST_F(Composer, EndsWhenItIsNeverAsked) {
 
 TEST_F(Composer, SaysWhenAskedWhatWentWrongBefore) {
   StartedComposer missing(kHelpers, {mFolder / "no.pdf"});
-  EXPECT_EQ(errorOf(std::move(missing).compose(labelRequest())),
+  EXPECT_EQ(errorOf(missing.compose(labelRequest())),
             refusal(mFolder / "no.pdf", "No such file or directory"));
   StartedComposer ended(helpersWith(endingWith("kill -SEGV $$")), {pdf()});
   std::this_thread::sleep_for(200ms);
-  EXPECT_EQ(errorOf(std::move(ended).compose(labelRequest())),
+  EXPECT_EQ(errorOf(ended.compose(labelRequest())),
             refusal(mFolder / "labels.pdf", "its reader failed"));
 }
 
@@ -298,14 +298,56 @@ TEST_F(Composer, GivesUpAProgramThatDoesNotReadItsRequest) {
   EXPECT_LT(steady_clock::now() - start, 5s);
 }
 
-TEST_F(Composer, PassesNothingButTheDocuments) {
+// The documents come through standard input.
+TEST_F(Composer, PassesNothingButItsStandardFiles) {
   const std::string list = mFolder / "list";
   // As a library may leave one.
   const FileDescriptor open(::open(mFolder.write("other", "").c_str(), O_RDONLY));
   EXPECT_NE(errorWith(endingWith("ls -l /proc/$$/fd >" + list)), "");
   const std::string passed = test::contentsOf(list);
-  EXPECT_NE(passed.find(mFolder / "labels.pdf"), std::string::npos);
-  EXPECT_EQ(passed.find(mFolder / "other"), std::string::npos);
+  EXPECT_NE(passed.find(" 0 -> socket:"), std::string::npos) << passed;
+  EXPECT_EQ(passed.find(mFolder / "labels.pdf"), std::string::npos) << passed;
+  EXPECT_EQ(passed.find(mFolder / "other"), std::string::npos) << passed;
+}
+
+// More than one message takes.
+TEST_F(Composer, TakesHundredsOfDocuments) {
+  const std::vector<std::string> paths(600, pdf());
+  const Result<ComposedDocument> composed = compose(kHelpers, paths, labelRequest());
+  ASSERT_TRUE(composed) << errorOf(composed);
+  EXPECT_EQ(composed->report.documentPages, 1200);
+}
+
+TEST_F(Composer, ComposesTheSameWhereItHadTimeToReadAhead) {
+  const std::string path = pdf();
+  StartedComposer started(kHelpers, {path});
+  std::this_thread::sleep_for(200ms);
+  const Result<ComposedDocument> later = started.compose(labelRequest());
+  const Result<ComposedDocument> atOnce = compose(kHelpers, {path}, labelRequest());
+  ASSERT_TRUE(later) << errorOf(later);
+  ASSERT_TRUE(atOnce) << errorOf(atOnce);
+  EXPECT_EQ(test::contentsOf(later->file->path()), test::contentsOf(atOnce->file->path()));
+}
+
+TEST_F(Composer, IsTheOneThatWasStartedEarly) {
+  WaitingHelper helper;
+  ASSERT_EQ(spawnWaitingHelper((std::string(kHelpers) + "/" + kComposerName).c_str(), helper), 0);
+  keepEarlyComposer(helper);
+  EXPECT_TRUE(compose("/nonexistent", {pdf()}, labelRequest())) << "it was not taken";
+  EXPECT_FALSE(compose("/nonexistent", {pdf()}, labelRequest())) << "it was taken twice";
+}
+
+// What it says at last counts, not how it ends.
+TEST_F(Composer, IsNotWaitedForOnceItHasSaidAll) {
+  CompositionReport report;
+  report.pages = {ComposedPage{{10, 20}, 1, 0}};
+  const std::string answer = mFolder.write("answer", report.asText() + kAnswerEnd);
+  const auto start = steady_clock::now();
+  EXPECT_EQ(errorWith(endingWith("cat >/dev/null; cat " + answer + "; sleep 60")), "");
+  EXPECT_EQ(errorWith(endingWith("cat >/dev/null; cat " + answer + "; exit 1")), "");
+  EXPECT_LT(steady_clock::now() - start, 5s);
+  const std::string cut = mFolder.write("cut", report.asText());
+  EXPECT_NE(errorWith(endingWith("cat >/dev/null; cat " + cut + "; exit 1")), "");
 }
 
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)

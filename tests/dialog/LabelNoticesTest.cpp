@@ -32,6 +32,19 @@ PaperSize paper(const char* name, double width, double length) {
   return {name, name, width, length, 0, 0, width, length};
 }
 
+// To look at a label takes a while.
+TEST(EdgeLoss, IsLookedForWhereAPageReachesOutOfWhatCanBePrinted) {
+  const PageSize inside{30, 20};
+  const CompositionReport report =
+      reportOf({{kLabelSize, 1, 90}, {inside, 1, 90}, {kLabelSize, 1, 90}});
+  EXPECT_EQ(labelsAtTheirEdges(report, {}), (std::vector{0, 2}));
+  EXPECT_EQ(labelsAtTheirEdges(report, {Scaling::fit}), std::vector<int>());
+  EXPECT_EQ(labelsAtTheirEdges(report, {Scaling::fill}), std::vector<int>());
+  EXPECT_EQ(
+      labelsAtTheirEdges(reportOf(std::vector<ComposedPage>(300, {kLabelSize, 1, 90})), {}).size(),
+      static_cast<std::size_t>(kMostInks));
+}
+
 TEST(EdgeLoss, IsNoneWhereAllInkCanBePrinted) {
   EXPECT_FALSE(edgeLoss(reportOf({{kLabelSize, 1, 90}}), {}, {{0, kInside}}));
 }

@@ -120,6 +120,20 @@ TEST_P(WithoutWindow, PrintsWhatTheDialogPrints) {
   }
 }
 
+// A job is not kept waiting for what is said of it.
+TEST_F(EndToEndTest, SaysWhatIsCutOffOfAJobThatWasSent) {
+  const TemporaryFolder folder;
+  const std::string full =
+      folder.write("full.svg",
+                   "<svg xmlns='http://www.w3.org/2000/svg' width='50mm' height='24mm'>"
+                   "<rect width='100%' height='100%'/></svg>");
+  const CommandResult cut = runProgram("--print -d tape24 -o print-scaling=none " + full);
+  EXPECT_EQ(cut.status, kExitDone);
+  EXPECT_NE(cut.output.find("request id is tape24-"), std::string::npos) << cut.output;
+  EXPECT_TRUE(cut.errors.starts_with("cutline: edges will be cut off on label 1: ")) << cut.errors;
+  EXPECT_EQ(runProgram("--print -d tape24 -o fit-to-page " + full).errors, "");
+}
+
 // Where a sanitizer watches, the programs that look at documents are heard, too.
 #ifndef __SANITIZE_ADDRESS__
 constexpr const char* kGuiLibraries[] = {"libQt6", "libX11", "libxcb", "libwayland", "libpoppler"};

@@ -123,6 +123,20 @@ TEST_F(Installation, PrintsOnItsOwnSampleServer) {
   EXPECT_EQ(facts["labels"], "2");
 }
 
+TEST_F(Installation, SaysWhichPartIsMissing) {
+  const TemporaryFolder alone;
+  const std::string program = alone / "bin/cutline";
+  std::filesystem::create_directory(alone / "bin");
+  std::filesystem::copy_file(place("bin/cutline"), program);
+  for (const char* words : {" --version", " --print labels.pdf"}) {
+    const CommandResult result = run(kClean + program + words);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_TRUE(result.errors.starts_with(
+        "cutline: a part of the program cannot be loaded: libcutline-host.so"))
+        << result.errors;
+  }
+}
+
 TEST_F(Installation, LooksForLibrariesBesideItself) {
   EXPECT_EQ(runPath("bin/cutline"), "$ORIGIN/../lib/cutline");
   EXPECT_EQ(runPath("lib/cutline/libcutline-host.so"), "$ORIGIN");

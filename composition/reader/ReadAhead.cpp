@@ -1,0 +1,41 @@
+#include "composition/reader/ReadAhead.h"
+
+#include <utility>
+
+#include "composition/reader/DocumentBytes.h"
+#include "composition/reader/DocumentKind.h"
+
+namespace cutline {
+
+void ReadAhead::read(const std::vector<int>& documents, LabelWriter& labels) noexcept {
+  std::size_t bytes = 0;
+  for (const int descriptor : documents) {
+    bytes += sizeOf(descriptor);
+    if (bytes > kSoonRead) return;
+    try {
+      readOne(descriptor, labels);
+    } catch (...) {
+      continue;
+    }
+  }
+}
+
+void ReadAhead::readOne(int descriptor, LabelWriter& labels) {
+  if (documentKind(startOf(descriptor, kDocumentStart)) != DocumentKind::pdf) return;
+  auto source = std::make_unique<PdfSource>(descriptor, 0);
+  if (source->pageCount() > kFewLabels) return;
+  PdfSource& drawn = *mSpoiled.emplace_back(std::move(source));
+  for (int page = 0; page < drawn.pageCount(); ++page) drawn.drawAhead(page, labels);
+  mSources[descriptor] = std::move(mSpoiled.back());
+  mSpoiled.pop_back();
+}
+
+std::unique_ptr<PdfSource> ReadAhead::take(int descriptor) {
+  const auto found = mSources.find(descriptor);
+  if (found == mSources.end()) return nullptr;
+  std::unique_ptr<PdfSource> source = std::move(found->second);
+  mSources.erase(found);
+  return source;
+}
+
+}  // namespace cutline
