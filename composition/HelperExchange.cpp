@@ -60,13 +60,14 @@ HelperAnswer HelperExchange::ask(std::string_view request, const std::stop_token
     sendText(mRequest.get(), request, patience);
     mRequest = FileDescriptor();
     answer.isInTime = readAnswer(mAnswer.get(), end, answer.text);
-    if (!answer.isInTime) mHelper.kill();
   }
-  // A program takes a while to go, which is nobody's concern once it has said all.
-  if (!answer.text.ends_with(kAnswerEnd))
-    answer.status = mHelper.wait();
-  else
+  const bool isWhole = answer.isInTime && answer.text.ends_with(kAnswerEnd);
+  // Once it has said all it changes nothing any more, and nobody waits until it has let go of all.
+  if (isWhole || !answer.isInTime) mHelper.kill();
+  if (isWhole)
     answer.text.pop_back();
+  else
+    answer.status = mHelper.wait();
   return answer;
 }
 

@@ -337,6 +337,20 @@ TEST_F(Composer, IsTheOneThatWasStartedEarly) {
   EXPECT_FALSE(compose("/nonexistent", {pdf()}, labelRequest())) << "it was taken twice";
 }
 
+// What was said of the labels is to hold as long as they are sent.
+TEST_F(Composer, ChangesNothingOnceItHasSaidAll) {
+  CompositionReport report;
+  report.pages = {ComposedPage{{10, 20}, 1, 0}};
+  const std::string answer = mFolder.write("answer", report.asText() + kAnswerEnd);
+  const std::string late = mFolder / "late";
+  StartedComposer started(
+      helpersWith(endingWith("cat >/dev/null; cat " + answer + "; sleep 0.2; touch " + late)),
+      {pdf()});
+  EXPECT_EQ(errorOf(started.compose(labelRequest())), "");
+  std::this_thread::sleep_for(500ms);
+  EXPECT_FALSE(std::filesystem::exists(late));
+}
+
 // What it says at last counts, not how it ends.
 TEST_F(Composer, IsNotWaitedForOnceItHasSaidAll) {
   CompositionReport report;
