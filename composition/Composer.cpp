@@ -74,7 +74,8 @@ struct StartedComposer::Running {
 
 namespace {
 
-// What the program that this is part of started before anything else, until it is asked for.
+// What the program that this is part of started before anything else, until it is asked for: by
+// commands, which ask on one thread.
 std::optional<HelperExchange>& earlyComposer() {
   static std::optional<HelperExchange> composer;
   return composer;

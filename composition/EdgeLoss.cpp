@@ -41,8 +41,9 @@ std::vector<int> labelsAtTheirEdges(const CompositionReport& report,
   std::vector<int> labels;
   const int count = std::min(static_cast<int>(report.pages.size()), kMostInks);
   for (int label = 0; label < count; ++label) {
-    const PageSize& page = report.pages[static_cast<std::size_t>(label)].size;
-    if (!isWhollyPrintable(page, report.label, settings)) labels.push_back(label);
+    const ComposedPage& page = report.pages[static_cast<std::size_t>(label)];
+    if (isWholeOn(page, report.label) && !isWhollyPrintable(page.size, report.label, settings))
+      labels.push_back(label);
   }
   return labels;
 }

@@ -16,7 +16,7 @@ struct EdgeLoss {
   int percent = 100;        // of the documents' own sizes: with it nothing is cut off on any label
 };
 // The labels that have to be looked at to know it, from 0, of the first kMostInks: where all of a
-// page can be printed, so can its ink.
+// page can be printed, so can its ink, and of one that is larger than its label nothing is said.
 std::vector<int> labelsAtTheirEdges(const CompositionReport& report,
                                     const LayoutSettings& settings);
 

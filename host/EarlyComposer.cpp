@@ -47,7 +47,8 @@ bool goUp(char* path) noexcept {
   return true;
 }
 
-// PREFIX/bin/PROGRAM gives PREFIX/lib/cutline/COMPOSER.
+// PREFIX/bin/PROGRAM gives PREFIX/lib/cutline/COMPOSER, as Installation says it, which is in a
+// library that is not there yet.
 bool findComposer(char (&path)[PATH_MAX]) noexcept {
   const ssize_t length = ::readlink("/proc/self/exe", path, sizeof path - 1);
   if (length <= 0) return false;

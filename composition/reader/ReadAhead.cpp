@@ -15,6 +15,7 @@ void ReadAhead::read(const std::vector<int>& documents, LabelWriter& labels) noe
     try {
       readOne(descriptor, labels);
     } catch (...) {
+      // Whatever it is, it happens again to who asks for the document, and is told then.
       continue;
     }
   }
@@ -24,6 +25,7 @@ void ReadAhead::readOne(int descriptor, LabelWriter& labels) {
   if (documentKind(startOf(descriptor, kDocumentStart)) != DocumentKind::pdf) return;
   auto source = std::make_unique<PdfSource>(descriptor, 0);
   if (source->pageCount() > kFewLabels) return;
+  // Where it cannot be drawn, it stays there.
   PdfSource& drawn = *mSpoiled.emplace_back(std::move(source));
   for (int page = 0; page < drawn.pageCount(); ++page) drawn.drawAhead(page, labels);
   mSources[descriptor] = std::move(mSpoiled.back());

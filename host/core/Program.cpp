@@ -126,7 +126,8 @@ int runProgram(int argc, const char* const* argv) {
 
 }  // namespace cutline
 
-int CutlineRunProgram(int argc, const char* const* argv, const cutline::WaitingHelper* composer) {
+int CutlineRunProgram(int argc, const char* const* argv,
+                      const cutline::WaitingHelper* composer) noexcept {
   std::set_new_handler(cutline::endWithoutMemory);
   if (composer != nullptr) cutline::keepEarlyComposer(*composer);
   return cutline::runProgram(argc, argv);

@@ -12,6 +12,7 @@ inline constexpr char kProgramRunSymbol[] = "CutlineRunProgram";
 
 extern "C" {
 // The arguments are main()'s. `composer` is one that was started already, and is taken over; null
-// for none. Answers the exit status. Once only.
-int CutlineRunProgram(int argc, const char* const* argv, const cutline::WaitingHelper* composer);
+// for none. Answers the exit status. Once only. Throws nothing.
+int CutlineRunProgram(int argc, const char* const* argv,
+                      const cutline::WaitingHelper* composer) noexcept;
 }

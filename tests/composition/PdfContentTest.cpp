@@ -275,6 +275,16 @@ TEST(PdfContentTest, TheLayersOfSeveralDocumentsStayApart) {
   EXPECT_TRUE(composed.isBlackAt(5, 5, 2));
 }
 
+TEST(PdfContentTest, TheLayersOfADocumentThatNobodyAsksForStayBehind) {
+  CompositionRequest request = labelRequest();
+  request.pages.ranges = *PageRanges::parse("2");
+  const Composed composed({layeredPdf(""), layeredPdf("/OFF[@]")}, request);
+  EXPECT_EQ(composed.pages(), 1);
+  const std::size_t layer = composed.pdf().find("/Type /OCG");
+  ASSERT_NE(layer, std::string::npos);
+  EXPECT_EQ(composed.pdf().find("/Type /OCG", layer + 1), std::string::npos);
+}
+
 TEST(PdfContentTest, AnAnnotationOnAHiddenLayerStaysHidden) {
   for (const char* settings : {"/OFF[", "/ON["}) {
     PdfDocument document;

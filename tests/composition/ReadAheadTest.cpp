@@ -65,13 +65,5 @@ TEST_F(ReadAheadTest, APageThatCannotBeDrawnHarmsNoOther) {
   EXPECT_EQ(Composed(bytes).problem(), DocumentProblem::badSize);
 }
 
-// Their layers and forms are those of the documents that are asked for.
-TEST_F(ReadAheadTest, WhatNobodyAsksForLeavesNothingBehind) {
-  CompositionRequest request = labelRequest();
-  request.pages.ranges = *PageRanges::parse("3");
-  const Composed composed({pdfOf(2), pdfOf(1, "5 5 20 20 re f")}, request);
-  EXPECT_EQ(composed.pages(), 1);
-}
-
 }  // namespace
 }  // namespace cutline::test

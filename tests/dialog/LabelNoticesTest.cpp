@@ -40,6 +40,8 @@ TEST(EdgeLoss, IsLookedForWhereAPageReachesOutOfWhatCanBePrinted) {
   EXPECT_EQ(labelsAtTheirEdges(report, {}), (std::vector{0, 2}));
   EXPECT_EQ(labelsAtTheirEdges(report, {Scaling::fit}), std::vector<int>());
   EXPECT_EQ(labelsAtTheirEdges(report, {Scaling::fill}), std::vector<int>());
+  EXPECT_EQ(labelsAtTheirEdges(reportOf({{kA4, 1}}), {Scaling::actual}), std::vector<int>())
+      << "where its ink ends is not on the label";
   EXPECT_EQ(
       labelsAtTheirEdges(reportOf(std::vector<ComposedPage>(300, {kLabelSize, 1, 90})), {}).size(),
       static_cast<std::size_t>(kMostInks));
