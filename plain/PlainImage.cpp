@@ -81,17 +81,27 @@ std::optional<Size> svgSize(std::string_view bytes) {
   return viewBoxSize(attribute(tag, "viewBox"));
 }
 
-}  // namespace
-
-std::shared_ptr<Image> PlainImage::load(const std::string& path) {
+Size sizeIn(const std::string& path) {
   const auto bytes = readResource(path);
-  if (!bytes) return nullptr;
+  if (!bytes) return {};
   auto size = pngSize(*bytes);
   if (!size) size = svgSize(*bytes);
-  if (!size || !(size->width > 0) || !(size->height > 0)) return nullptr;
-  return std::make_shared<PlainImage>(path, *size);
+  return size && size->width > 0 && size->height > 0 ? *size : Size{};
 }
 
+}  // namespace
+
+std::shared_ptr<Image> PlainImage::of(const std::string& path) {
+  return isResourceFile(path) ? std::make_shared<PlainImage>(path) : nullptr;
+}
+
+PlainImage::PlainImage(std::string path) : mPath(std::move(path)) {}
+
 PlainImage::PlainImage(std::string path, const Size& size) : mPath(std::move(path)), mSize(size) {}
+
+Size PlainImage::size() const noexcept {
+  if (!mSize) mSize = sizeIn(mPath);
+  return *mSize;
+}
 
 }  // namespace cutline

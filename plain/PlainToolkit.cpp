@@ -58,7 +58,7 @@ std::optional<std::string> PlainToolkit::imageFileType(std::size_t index) const 
 }
 
 std::shared_ptr<Image> PlainToolkit::imageWithContentsOfFile(const std::string& path) noexcept {
-  return PlainImage::load(path);
+  return PlainImage::of(path);
 }
 
 }  // namespace cutline

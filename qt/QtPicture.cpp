@@ -93,11 +93,6 @@ QtPicture::QtPicture(std::string path) : mPath(std::move(path)) {}
 
 QtPicture::~QtPicture() = default;
 
-bool QtPicture::isPictureFile(const std::string& path) {
-  const QByteArray bytes = pictureBytes(path);
-  return isVector(bytes) || BitmapReader(path, bytes).canRead();
-}
-
 void QtPicture::read() {
   if (mRead) return;
   mRead = true;

@@ -29,13 +29,10 @@ class QtPicture {
   QtPicture& operator=(const QtPicture&) = delete;
   ~QtPicture();
 
-  // True when the file begins as a picture does, and has no more bytes and pixels than a bundle's
-  // picture may have; the rest is not decoded yet.
-  static bool isPictureFile(const std::string& path);
-
   const std::string& path() const noexcept { return mPath; }
 
-  // In points; empty when the file cannot be read. Reads the file on the first call.
+  // In points; empty when the file cannot be read, or has more bytes or pixels than a bundle's
+  // picture may have. Reads the file on the first call.
   QSizeF size();
 
   // Draws the part `source` of the picture (its own points, y downwards; empty means all of it)

@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QWidget>
 
+#include "platform/lib/ResourceFile.h"
 #include "qt/QtActions.h"
 #include "qt/QtControls.h"
 #include "qt/QtCustomView.h"
@@ -84,8 +85,7 @@ std::optional<std::string> QtToolkit::imageFileType(std::size_t index) const noe
 }
 
 std::shared_ptr<Image> QtToolkit::imageWithContentsOfFile(const std::string& path) noexcept {
-  if (!QtPicture::isPictureFile(path)) return nullptr;
-  return std::make_shared<QtImage>(path);
+  return isResourceFile(path) ? std::make_shared<QtImage>(path) : nullptr;
 }
 
 void QtToolkit::runModal(const Alert& alert) noexcept {

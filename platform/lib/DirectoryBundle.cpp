@@ -26,7 +26,9 @@ std::set<std::string> filesIn(const std::filesystem::path& folder) {
   for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
        entry.increment(error)) {
     std::error_code unknown;
-    if (entry->is_regular_file(unknown)) names.insert(entry->path().filename().string());
+    if (!entry->is_regular_file(unknown)) continue;
+    const std::string& path = entry->path().native();
+    names.insert(path.substr(path.rfind('/') + 1));
   }
   return names;
 }
@@ -102,11 +104,12 @@ std::optional<std::string> DirectoryBundle::pathForImageResource(
     const std::string& name) const noexcept {
   if (!isResourceName(name)) return std::nullopt;
   if (!mFiles) mFiles = filesIn(mResources);
-  if (mFiles->contains(name)) return mResources / name;
+  const std::string folder = mResources.native() + '/';
+  if (mFiles->contains(name)) return folder + name;
   std::size_t index = 0;
   while (const auto type = imageFileType(index++)) {
     const std::string file = name + '.' + *type;
-    if (mFiles->contains(file)) return mResources / file;
+    if (mFiles->contains(file)) return folder + file;
   }
   return std::nullopt;
 }

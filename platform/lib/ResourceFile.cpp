@@ -7,6 +7,13 @@
 #include <string_view>
 
 namespace cutline {
+namespace {
+
+bool isResource(const struct stat& status, std::size_t limit) {
+  return S_ISREG(status.st_mode) && static_cast<std::size_t>(status.st_size) <= limit;
+}
+
+}  // namespace
 
 // The question of the kind is asked of the open file, since another can come into its place, and a
 // pipe or a device would block or never end.
@@ -18,8 +25,7 @@ std::optional<std::string> readResource(const std::filesystem::path& path,
 
 std::optional<std::string> readResource(const FileDescriptor& file, std::size_t limit) noexcept {
   struct stat status {};
-  if (::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
-  if (static_cast<std::size_t>(status.st_size) > limit) return std::nullopt;
+  if (::fstat(file.get(), &status) != 0 || !isResource(status, limit)) return std::nullopt;
   std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
   for (std::size_t at = 0; at < bytes.size();) {
     const ssize_t got =
@@ -28,6 +34,11 @@ std::optional<std::string> readResource(const FileDescriptor& file, std::size_t 
     at += static_cast<std::size_t>(got);
   }
   return bytes;
+}
+
+bool isResourceFile(const std::string& path, std::size_t limit) noexcept {
+  struct stat status {};
+  return ::stat(path.c_str(), &status) == 0 && isResource(status, limit);
 }
 
 bool isResourceName(const std::string& name) noexcept {

@@ -24,6 +24,9 @@ std::optional<std::string> readResource(const std::filesystem::path& path,
 std::optional<std::string> readResource(const FileDescriptor& file,
                                         std::size_t limit = kLargestResource) noexcept;
 
+// Whether a regular file of at most that size stands there; it is not opened.
+bool isResourceFile(const std::string& path, std::size_t limit = kLargestResource) noexcept;
+
 // Whether a resource may go by this name: one path component, no NUL, neither "." nor "..".
 bool isResourceName(const std::string& name) noexcept;
 

@@ -60,7 +60,9 @@ class Toolkit {
   // case and without a dot; vector pictures first. Asked one by one, because a toolkit may have to
   // load code to know its rare ones; nothing behind the last.
   virtual std::optional<std::string> imageFileType(std::size_t index) const noexcept = 0;
-  // initWithContentsOfFile:  Null when the file is missing or is no picture that the toolkit reads.
+  // initWithContentsOfFile:  Null when there is no such file, or it is larger than any picture of a
+  // bundle. It is read when it is first needed: an image of what is no picture has no size then,
+  // and draws nothing.
   virtual std::shared_ptr<Image> imageWithContentsOfFile(const std::string& path) noexcept = 0;
 
   // Shows the alert and comes back when it has been closed.

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <optional>
 #include <string>
 
 #include "plain/PlainImage.h"
@@ -14,7 +13,7 @@ namespace {
 struct ImageRow {
   const char* name;
   std::string bytes;
-  std::optional<Size> size;
+  Size size;
 };
 
 // The start of a PNG file of 264 by 84 pixels.
@@ -25,18 +24,17 @@ class PlainImages : public testing::TestWithParam<ImageRow> {};
 TEST_P(PlainImages, TellTheSizeInTheirFile) {
   const test::TemporaryFolder folder;
   const std::string file = folder.write("picture", GetParam().bytes);
-  const auto image = PlainImage::load(file);
-  ASSERT_EQ(image != nullptr, GetParam().size.has_value());
-  if (!image) return;
-  EXPECT_EQ(image->size(), *GetParam().size);
+  const auto image = PlainImage::of(file);
+  ASSERT_NE(image, nullptr);
+  EXPECT_EQ(image->size(), GetParam().size);
   EXPECT_EQ(image->path(), file);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, PlainImages,
     testing::Values(
-        ImageRow{"Png", kPng, Size{264, 84}}, ImageRow{"CutPng", kPng.substr(0, 20), std::nullopt},
-        ImageRow{"PngWithoutWidth", std::string(kPng).replace(16, 4, 4, '\0'), std::nullopt},
+        ImageRow{"Png", kPng, Size{264, 84}}, ImageRow{"CutPng", kPng.substr(0, 20), Size{}},
+        ImageRow{"PngWithoutWidth", std::string(kPng).replace(16, 4, 4, '\0'), Size{}},
         ImageRow{"Svg", "<?xml version=\"1.0\"?>\n<svg width=\"264\" height=\"84\"/>",
                  Size{264, 84}},
         ImageRow{"Points", "<svg width='264pt' height='84px'>", Size{264, 84}},
@@ -46,19 +44,30 @@ INSTANTIATE_TEST_SUITE_P(
         ImageRow{"ViewBoxWithCommas", "<svg viewBox=\"0,0,264,84\">", Size{264, 84}},
         ImageRow{"PercentageAndViewBox",
                  "<svg width=\"100%\" height=\"100%\" viewBox=\"0 0 264 84\">", Size{264, 84}},
-        ImageRow{"NoSize", "<svg>", std::nullopt},
-        ImageRow{"ZeroSize", "<svg width=\"0\" height=\"84\">", std::nullopt},
-        ImageRow{"NegativeSize", "<svg width=\"-1\" height=\"84\">", std::nullopt},
-        ImageRow{"NotANumber", "<svg width=\"nan\" height=\"84\">", std::nullopt},
-        ImageRow{"AttributeNotClosed", "<svg width=\"264 height=84>", std::nullopt},
-        ImageRow{"TagNotClosed", "<svg width=\"264\" height=\"84\"", std::nullopt},
-        ImageRow{"OtherTag", "<svgs width=\"264\" height=\"84\">", std::nullopt},
-        ImageRow{"Words", "no picture", std::nullopt}, ImageRow{"Empty", "", std::nullopt}),
+        ImageRow{"NoSize", "<svg>", Size{}},
+        ImageRow{"ZeroSize", "<svg width=\"0\" height=\"84\">", Size{}},
+        ImageRow{"NegativeSize", "<svg width=\"-1\" height=\"84\">", Size{}},
+        ImageRow{"NotANumber", "<svg width=\"nan\" height=\"84\">", Size{}},
+        ImageRow{"AttributeNotClosed", "<svg width=\"264 height=84>", Size{}},
+        ImageRow{"TagNotClosed", "<svg width=\"264\" height=\"84\"", Size{}},
+        ImageRow{"OtherTag", "<svgs width=\"264\" height=\"84\">", Size{}},
+        ImageRow{"Words", "no picture", Size{}}, ImageRow{"Empty", "", Size{}}),
     [](const auto& row) { return std::string(row.param.name); });
 
 TEST(PlainImage, AMissingFileAndAFolderAreNoPictures) {
-  EXPECT_FALSE(PlainImage::load("/nowhere/picture.svg"));
-  EXPECT_FALSE(PlainImage::load(std::filesystem::temp_directory_path().string()));
+  EXPECT_FALSE(PlainImage::of("/nowhere/picture.svg"));
+  EXPECT_FALSE(PlainImage::of(std::filesystem::temp_directory_path().string()));
+}
+
+TEST(PlainImage, IsReadWhenItsSizeIsAskedForAndThenNoMore) {
+  const test::TemporaryFolder folder;
+  const std::string file = folder.write("picture", "");
+  const auto image = PlainImage::of(file);
+  ASSERT_NE(image, nullptr);
+  folder.write("picture", kPng);
+  EXPECT_EQ(image->size(), (Size{264, 84}));
+  folder.write("picture", "");
+  EXPECT_EQ(image->size(), (Size{264, 84}));
 }
 
 }  // namespace
