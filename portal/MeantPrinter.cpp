@@ -47,7 +47,7 @@ MeantPrinter meant(const PrinterChoice& printer, bool isNamed, const QVariantMap
 bool isLabelPrinter(const PpdFile& ppd) {
   if (hasCutOptions(ppd)) return true;
   ppd.mark({});
-  return !cutMeaningsOf(ppd, installedCutWords().words).offers.empty();
+  return !cutMeaningsOf(ppd, cutWordsFor(ppd).words).offers.empty();
 }
 
 // The dialog opens with the label printer that was used last, where none is named and the default

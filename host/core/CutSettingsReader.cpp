@@ -65,8 +65,6 @@ CutSettings cutSettingsOf(const PpdFile& ppd, const CutWords& words) {
   return settingsIn(words, choiceOf, filterPrograms(ppd));
 }
 
-CutSettings cutSettingsOf(const PpdFile& ppd) {
-  return cutSettingsOf(ppd, installedCutWords().words);
-}
+CutSettings cutSettingsOf(const PpdFile& ppd) { return cutSettingsOf(ppd, cutWordsFor(ppd).words); }
 
 }  // namespace cutline

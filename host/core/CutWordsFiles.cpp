@@ -11,6 +11,7 @@
 #include <optional>
 
 #include "base/FileDescriptor.h"
+#include "host/core/CutRules.h"
 #include "host/core/Installation.h"
 #include "platform/lib/ResourceFile.h"
 
@@ -69,7 +70,9 @@ CutWordsText readCutWords(const std::vector<std::string>& paths) {
   return all;
 }
 
-const CutWordsText& installedCutWords() {
+const CutWordsText& cutWordsFor(const PpdFile& ppd) {
+  static const CutWordsText none;
+  if (hasCutOptions(ppd)) return none;
   static const CutWordsText words = readCutWords(cutWordsPaths());
   return words;
 }

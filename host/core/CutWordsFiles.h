@@ -8,6 +8,8 @@
 
 namespace cutline {
 
+class PpdFile;
+
 // In the order in which they are read. The later ones need not be there.
 std::vector<std::string> cutWordsPaths();
 
@@ -15,7 +17,8 @@ std::vector<std::string> cutWordsPaths();
 // not has none; one that is no plain text of a sensible size is left out as a whole.
 CutWordsText readCutWords(const std::vector<std::string>& paths);
 
-// Those of this program's paths, read once.
-const CutWordsText& installedCutWords();
+// Those of this program's paths that count for a printer: none where its PPD has the cut panel's
+// options. Read once, for the first printer that needs them.
+const CutWordsText& cutWordsFor(const PpdFile& ppd);
 
 }  // namespace cutline

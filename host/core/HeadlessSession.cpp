@@ -27,7 +27,7 @@ Result<Done> HeadlessSession::openSelected() {
   const Result<PrinterChoice> choice = selectPrinter(mLine);
   if (!choice) return choice.error();
   open(*choice);
-  for (const Sentence& problem : installedCutWords().problems) note(problem.english());
+  for (const Sentence& problem : cutWordsFor(*choice->ppd).problems) note(problem.english());
   for (const Deviation& deviation : mModel.deviations()) note(deviation.sentence.english());
   for (const Sentence& conflict : mModel.conflicts()) note(conflict.english());
   return Done{};

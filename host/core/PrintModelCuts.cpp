@@ -6,7 +6,7 @@
 namespace cutline {
 
 CutMeanings PrintModel::cutMeanings() const {
-  return cutMeaningsOf(*ppdFile(), installedCutWords().words);
+  return cutMeaningsOf(*ppdFile(), cutWordsFor(*ppdFile()).words);
 }
 
 void PrintModel::chooseCut(const CutOffer& offer) {

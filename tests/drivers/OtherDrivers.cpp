@@ -58,7 +58,7 @@ std::vector<CutOffer> OtherDriversTest::offersOf(const std::string& queue,
     return {};
   }
   (*ppd)->mark({marks});
-  return cutMeaningsOf(**ppd, installedCutWords().words).offers;
+  return cutMeaningsOf(**ppd, cutWordsFor(**ppd).words).offers;
 }
 
 std::string OtherDriversTest::wordsOf(const OptionList& assignment) {

@@ -22,7 +22,7 @@ std::string wordsOf(const OptionList& options) {
 // "never: A=b", one for each offer; a star before the one in force.
 std::vector<std::string> offersOf(const PpdFile& ppd) {
   constexpr const char* kNames[] = {"never", "label", "every ", "copy", "end", "printer"};
-  const CutMeanings meanings = cutMeaningsOf(ppd, installedCutWords().words);
+  const CutMeanings meanings = cutMeaningsOf(ppd, cutWordsFor(ppd).words);
   std::vector<std::string> offers;
   for (std::size_t at = 0; at < meanings.offers.size(); ++at) {
     const CutOffer& offer = meanings.offers[at];

@@ -7,6 +7,7 @@
 
 #include "host/core/CutWordsFiles.h"
 #include "tests/support/Command.h"
+#include "tests/support/OtherDrivers.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace cutline {
@@ -88,6 +89,11 @@ TEST(CutWordsFiles, AreFoundBesideTheProgramAndInTheSettings) {
   EXPECT_EQ(paths, (std::vector<std::string>{test::built("share/cutline/cut-words.txt"),
                                              "/etc/cutline/cut-words.txt",
                                              "/somewhere/cutline/cut-words.txt"}));
+}
+
+TEST(CutWordsFiles, CountOnlyForPrintersWithoutThePanelsOptions) {
+  EXPECT_FALSE(cutWordsFor(*test::ppdFor(test::modePrinter())).words.empty());
+  EXPECT_TRUE(cutWordsFor(*test::ppdFor(test::fullTapePrinter())).words.empty());
 }
 
 TEST(CutWordsFiles, TheInstalledOneIsWithoutFault) {
