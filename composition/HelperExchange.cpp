@@ -31,7 +31,7 @@ bool waitForMore(int descriptor, steady_clock::time_point end) {
 
 // No when time is up before the answer or the program has ended.
 bool readAnswer(int descriptor, steady_clock::time_point end, std::string& text) {
-  std::array<char, 65536> block;
+  std::array<char, 16384> block;
   while (text.size() <= kMostText && !text.ends_with(kAnswerEnd)) {
     if (!waitForMore(descriptor, end)) return false;
     const ssize_t count =

@@ -107,8 +107,8 @@ Error notFetched(http_t* http, const std::string& printer, http_status_t status)
 PpdFile::~PpdFile() { ppdClose(mPpd); }
 
 Result<std::shared_ptr<PpdFile>> PpdFile::read(std::string contents, const Sentence& name) {
-  if (const auto problem = tooMuchForLibcups(contents, name)) return *problem;
   const auto kept = keepTexts(contents, preferredLocalizations());
+  if (const auto problem = tooMuchForLibcups(contents, name)) return *problem;
   FileDescriptor copy = memoryFile(contents);
   if (!copy) return noMemoryFor(name);
   ppd_file_t* ppd = ppdOpenFd(copy.release());  // closes it

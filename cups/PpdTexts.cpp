@@ -37,12 +37,14 @@ using Languages = std::vector<std::string>;
 // "de" for `*de.Translation LxMirror/Spiegeln: ""`; empty for a line that is in no language. As to
 // libcups 2.4.2, names of two letters and those with a territory are languages.
 std::string_view languageOfLine(std::string_view line) {
-  constexpr std::size_t kShortest = 2;
-  constexpr std::size_t kLongest = 5;
+  constexpr std::size_t kLengths[] = {2, 5};
   if (!line.starts_with('*')) return {};
-  const std::size_t end = line.substr(0, kLongest + 2).find(kSeparator);
-  if (end != kShortest + 1 && end != kLongest + 1) return {};
-  return line.substr(1, end - 1);
+  for (const std::size_t length : kLengths) {
+    if (line.size() <= length + 1 || line[length + 1] != kSeparator) continue;
+    const std::string_view language = line.substr(1, length);
+    return language.find(kSeparator) == language.npos ? language : std::string_view();
+  }
+  return {};
 }
 
 // What a PPD says of its languages.

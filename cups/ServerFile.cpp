@@ -2,6 +2,7 @@
 
 #include <cups/cups.h>
 
+#include <algorithm>
 #include <array>
 
 #include "base/Numbers.h"
@@ -11,7 +12,7 @@ namespace cutline {
 
 namespace {
 
-constexpr std::size_t kBlock = 65536;
+constexpr std::size_t kBlock = 16384;
 // A password and an encryption may be asked for first.
 constexpr int kMostTries = 4;
 
@@ -91,7 +92,8 @@ Result<ServerFile> fetchServerFile(http_t* http, const std::string& resource, st
   ServerFile file{ask(http, resource), ""};
   if (file.status != HTTP_STATUS_OK) return file;
   const Promise promise = promiseOf(http);
-  std::array<char, kBlock> block{};
+  file.contents.reserve(std::min(numberIn<std::size_t>(promise.length).value_or(0), most));
+  std::array<char, kBlock> block;
   ssize_t count = 0;
   while ((count = httpRead2(http, block.data(), block.size())) > 0) {
     file.contents.append(block.data(), static_cast<std::size_t>(count));

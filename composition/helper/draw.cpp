@@ -16,6 +16,7 @@
 #include <cmath>
 #include <memory>
 #include <new>
+#include <string>
 
 #include "base/FileDescriptor.h"
 #include "base/Uninterrupted.h"
@@ -72,14 +73,15 @@ bool isTooLarge(const poppler::page& page, double scale) {
   return !(pixels <= kMostPixels) || !(scale > 0);
 }
 
+// Without a pause behind each row, in which two processes would wake each other.
 bool answerWith(const poppler::image& image) {
   const DrawAnswer words{DrawnState::fine, image.width(), image.height()};
-  if (!answer(&words, sizeof words)) return false;
   const auto row = static_cast<std::size_t>(image.width()) * sizeof(std::uint32_t);
+  std::string bytes(reinterpret_cast<const char*>(&words), sizeof words);
+  bytes.reserve(bytes.size() + row * static_cast<std::size_t>(image.height()));
   for (int y = 0; y < image.height(); ++y)
-    if (!answer(image.const_data() + static_cast<std::ptrdiff_t>(y) * image.bytes_per_row(), row))
-      return false;
-  return true;
+    bytes.append(image.const_data() + static_cast<std::ptrdiff_t>(y) * image.bytes_per_row(), row);
+  return answer(bytes.data(), bytes.size());
 }
 
 bool draw(const poppler::document& document, const DrawRequest& request) {
