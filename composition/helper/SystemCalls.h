@@ -3,11 +3,11 @@
 
 namespace cutline {
 
-// What computing, reading files and writing to open ones needs. Whatever is not known here is
-// answered as by a system that lacks it, so that libraries take the older way.
+// From here on what readingFilter of composition/filters/CallRules.h allows; no where the kernel
+// does not take it. The process must have given up new rights before (PR_SET_NO_NEW_PRIVS).
 bool allowReadingCalls() noexcept;
 
-// Everything but sockets, signals to other processes and looking into them; lasts through exec.
+// The same with reachingOutFilter. May be called between fork and exec, and lasts through exec.
 bool refuseReachingOut() noexcept;
 
 }  // namespace cutline

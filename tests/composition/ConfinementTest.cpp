@@ -7,6 +7,7 @@
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -94,6 +95,17 @@ TEST_F(Confinement, RefusesToTouchOtherProcesses) {
       {"kill", [=] { return problemOf(::kill(parent, 0)); }},
       {"ptrace", [=] { return problemOf(::ptrace(PTRACE_ATTACH, parent, nullptr, nullptr)); }},
   });
+}
+
+// As abort() does. The filter was made when this was built, for a process of any number.
+TEST_F(Confinement, SignalsItselfAlone) {
+  const auto signal = [](pid_t process) {
+    return problemOf(::syscall(SYS_tgkill, process, process, 0));
+  };
+  const pid_t parent = ::getpid();
+  EXPECT_EQ(resultOf([&] { return signal(::getpid()); }), 0);
+  EXPECT_EQ(resultOf([&] { return signal(parent); }), ENOSYS);
+  EXPECT_EQ(resultOf([&] { return signal(1); }), ENOSYS);
 }
 
 TEST_F(Confinement, RefusesToChangeFiles) {
