@@ -1,14 +1,12 @@
 #include "composition/reader/LabelWriter.h"
 
-#include <unistd.h>
-
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
-#include <memory>
+#include <qpdf/Pipeline.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFWriter.hh>
 
+#include "base/FileDescriptor.h"
 #include "composition/reader/PdfNumbers.h"
 #include "composition/reader/Refusal.h"
 
@@ -17,21 +15,30 @@ namespace {
 
 constexpr char kVersion[] = "1.7";
 
-struct CloseFile {
-  void operator()(std::FILE* file) const { std::fclose(file); }
+constexpr std::size_t kBlock = 65536;
+
+// To an open file, in large blocks: qpdf ends its output behind every stream, at which a file of
+// the C library is written out, too.
+class BlockOutput : public Pipeline {
+ public:
+  explicit BlockOutput(int file) : Pipeline("labels", nullptr), mFile(file) {}
+
+  void write(const unsigned char* bytes, std::size_t size) override {
+    mBlock.append(reinterpret_cast<const char*>(bytes), size);
+    if (mBlock.size() >= kBlock) flush();
+  }
+  void finish() override {}
+
+  void flush() {
+    if (!writeAll(mFile, mBlock.data(), mBlock.size()))
+      throw Refusal{DocumentProblem::broken, std::strerror(errno)};
+    mBlock.clear();
+  }
+
+ private:
+  int mFile;
+  std::string mBlock;
 };
-using File = std::unique_ptr<std::FILE, CloseFile>;
-
-[[noreturn]] void failWriting() { throw Refusal{DocumentProblem::broken, std::strerror(errno)}; }
-
-File fileToWrite(int descriptor) {
-  const int own = ::dup(descriptor);
-  if (own < 0) failWriting();
-  File file(::fdopen(own, "wb"));
-  if (file) return file;
-  ::close(own);
-  failWriting();
-}
 
 }  // namespace
 
@@ -83,16 +90,16 @@ void LabelWriter::addLayer(const QPDFObjectHandle& layer, bool isHidden) {
 }
 
 void LabelWriter::write(int output) {
-  const File file = fileToWrite(output);
+  BlockOutput blocks(output);
   QPDFWriter writer(mPdf);
-  writer.setOutputFile("labels", file.get(), /*close_file=*/false);
+  writer.setOutputPipeline(&blocks);
   // What came packed is packed, and what did not is small or was no larger before: to pack it, and
   // the objects, would take as long as all the rest.
   writer.setStreamDataMode(qpdf_s_preserve);
   writer.setMinimumPDFVersion(kVersion);
   writer.setDeterministicID(true);
   writer.write();
-  if (std::fflush(file.get()) != 0) failWriting();
+  blocks.flush();
 }
 
 }  // namespace cutline
