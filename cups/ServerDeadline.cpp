@@ -6,6 +6,7 @@
 #include <condition_variable>
 #include <mutex>
 #include <string>
+#include <thread>
 
 #include "base/FileDescriptor.h"
 
@@ -14,15 +15,6 @@ namespace cutline {
 namespace {
 
 constexpr std::chrono::milliseconds kBetweenLooks{100};
-
-// False when somebody asked to stop before.
-bool hasPassed(std::chrono::milliseconds time, const std::stop_token& stop) {
-  std::mutex mutex;
-  std::condition_variable_any asked;
-  std::unique_lock lock(mutex);
-  asked.wait_for(lock, stop, time, [] { return false; });
-  return !stop.stop_requested();
-}
 
 // A descriptor of its own, as the connection's may be closed, and its number be another file's, by
 // the time that it is used.
@@ -43,17 +35,47 @@ void hangUp(const FileDescriptor& socket) { ::shutdown(socket.get(), SHUT_RDWR);
 
 }  // namespace
 
+struct ServerDeadline::Watch {
+  http_t* http;
+  std::atomic<bool>& isOver;
+  FileDescriptor first;
+  std::mutex mutex = {};
+  std::condition_variable lifted = {};
+  bool isLifted = false;
+
+  // False when it was lifted before.
+  bool hasPassed(std::unique_lock<std::mutex>& lock, std::chrono::milliseconds time) {
+    return !lifted.wait_for(lock, time, [this] { return isLifted; });
+  }
+
+  // What is borrowed is touched under the lock alone, and no more once the deadline is lifted.
+  void run(std::chrono::milliseconds time) {
+    std::unique_lock lock(mutex);
+    const std::string peer = peerOf(first);
+    if (!hasPassed(lock, time)) return;
+    isOver = true;
+    hangUp(first);
+    while (hasPassed(lock, kBetweenLooks)) {
+      const FileDescriptor now = copyOf(httpGetFd(http));
+      if (!peer.empty() && peerOf(now) == peer) hangUp(now);
+    }
+  }
+};
+
+// Nobody waits for the thread's end: to sleep and be woken takes longer than all that it does.
 ServerDeadline::ServerDeadline(http_t* http, std::chrono::milliseconds time,
                                std::atomic<bool>& isOver)
-    : mThread([http, time, &isOver, first = copyOf(httpGetFd(http))](const std::stop_token& stop) {
-        const std::string peer = peerOf(first);
-        if (!hasPassed(time, stop)) return;
-        isOver = true;
-        hangUp(first);
-        while (hasPassed(kBetweenLooks, stop)) {
-          const FileDescriptor now = copyOf(httpGetFd(http));
-          if (!peer.empty() && peerOf(now) == peer) hangUp(now);
-        }
-      }) {}
+    : mWatch(new Watch{http, isOver, copyOf(httpGetFd(http))}) {
+  std::thread([watch = mWatch, time] { watch->run(time); }).detach();
+}
+
+ServerDeadline::~ServerDeadline() { lift(); }
+
+void ServerDeadline::lift() noexcept {
+  const std::scoped_lock lock(mWatch->mutex);
+  mWatch->isLifted = true;
+  mWatch->first = FileDescriptor();
+  mWatch->lifted.notify_one();
+}
 
 }  // namespace cutline

@@ -5,7 +5,7 @@
 
 #include <atomic>
 #include <chrono>
-#include <thread>
+#include <memory>
 
 namespace cutline {
 
@@ -17,11 +17,16 @@ class ServerDeadline {
   // Both are borrowed and outlive this.
   ServerDeadline(http_t* http, std::chrono::milliseconds time, std::atomic<bool>& isOver);
 
+  ~ServerDeadline();
+  ServerDeadline(const ServerDeadline&) = delete;
+  ServerDeadline& operator=(const ServerDeadline&) = delete;
+
   // From now on it may take as long as it takes.
-  void lift() noexcept { mThread.request_stop(); }
+  void lift() noexcept;
 
  private:
-  std::jthread mThread;
+  struct Watch;
+  std::shared_ptr<Watch> mWatch;
 };
 
 }  // namespace cutline
