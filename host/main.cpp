@@ -7,11 +7,20 @@
 #include <cstdlib>
 
 #include "host/EarlyComposer.h"
+#include "host/OwnPart.h"
 #include "host/core/Program.h"
 
 namespace {
 
 using ProgramFunction = decltype(&CutlineRunProgram);
+
+// By its path, since nobody may put another in its place. As if it had been linked: each library is
+// bound as it says itself, and modules and bundles find what the program has.
+void* loadProgram() {
+  char path[PATH_MAX];
+  if (!cutline::findOwnPart(cutline::kProgramLibrary, path)) return nullptr;
+  return ::dlopen(path, RTLD_LAZY | RTLD_GLOBAL);
+}
 
 int cannotLoad() {
   const char* const reason = ::dlerror();
@@ -27,9 +36,7 @@ int main(int argc, char** argv) {
   ::mallopt(M_ARENA_MAX, 1);
   cutline::WaitingHelper composer;
   const bool isEarly = cutline::startEarlyComposer(argc, argv, composer);
-  // As if it had been linked: each library is bound as it says itself, and modules and bundles find
-  // what the program has.
-  void* const library = ::dlopen(cutline::kProgramLibrary, RTLD_LAZY | RTLD_GLOBAL);
+  void* const library = loadProgram();
   if (library == nullptr) return cannotLoad();
   void* const run = ::dlsym(library, cutline::kProgramRunSymbol);
   if (run == nullptr) return cannotLoad();
