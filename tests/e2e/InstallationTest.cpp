@@ -137,6 +137,13 @@ TEST_F(Installation, SaysWhichPartIsMissing) {
   }
 }
 
+TEST_F(Installation, TakesItsOwnLibraryWhateverTheEnvironmentNames) {
+  const TemporaryFolder other;
+  other.write("libcutline-host.so", "no library");
+  const CommandResult result = program("--version", "LD_LIBRARY_PATH=" + other.path());
+  EXPECT_EQ(result.status, 0) << result.errors;
+}
+
 TEST_F(Installation, LooksForLibrariesBesideItself) {
   EXPECT_EQ(runPath("lib/cutline/libcutline-host.so"), "$ORIGIN");
 }
