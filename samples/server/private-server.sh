@@ -321,7 +321,13 @@ stop() {
   done
   signal_all TERM "$pid"
   [ -z "$(session_members "$pid")" ] || sleep 0.2
-  signal_all KILL "$pid"
+  # One of them can have started another meanwhile, and none is gone at once.
+  tries=250
+  while [ "$tries" -gt 0 ] && [ -n "$(session_members "$pid")" ]; do
+    signal_all KILL "$pid"
+    sleep 0.02
+    tries=$((tries - 1))
+  done
   rm -f "$place/run/server" "$socket"
 }
 
