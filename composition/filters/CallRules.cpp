@@ -144,70 +144,7 @@ constexpr std::array kAllowed = std::to_array<const char*>({
     "getcpu",
 });
 
-constexpr std::array kRefused = std::to_array<const char*>({
-    "creat",
-    "unlink",
-    "unlinkat",
-    "rename",
-    "renameat",
-    "renameat2",
-    "mkdir",
-    "mkdirat",
-    "rmdir",
-    "link",
-    "linkat",
-    "symlink",
-    "symlinkat",
-    "mknod",
-    "mknodat",
-    "chmod",
-    "fchmod",
-    "fchmodat",
-    "chown",
-    "fchown",
-    "fchownat",
-    "lchown",
-    "truncate",
-    "truncate64",
-    "utime",
-    "utimes",
-    "utimensat",
-    "futimesat",
-    "setxattr",
-    "lsetxattr",
-    "fsetxattr",
-    "execve",
-    "execveat",
-    "fork",
-    "vfork",
-    "socket",
-    "socketpair",
-    "connect",
-    "bind",
-    "listen",
-    "accept",
-    "accept4",
-    "sendto",
-    "sendmsg",
-    "sendmmsg",
-    "recvfrom",
-    "recvmsg",
-    "recvmmsg",
-    "kill",
-    "tkill",
-    "ptrace",
-    "process_vm_readv",
-    "process_vm_writev",
-    "rt_sigqueueinfo",
-    "rt_tgsigqueueinfo",
-    "pidfd_open",
-    "pidfd_send_signal",
-    "pidfd_getfd",
-    "setrlimit",
-    "prlimit64",
-});
-
-// What an interpreter with files of its own has no use for.
+// Sockets, other programs, and other processes.
 constexpr std::array kReachingOut = std::to_array<const char*>({
     "socket",
     "socketpair",
@@ -231,6 +168,19 @@ constexpr std::array kReachingOut = std::to_array<const char*>({
     "pidfd_open",
     "pidfd_send_signal",
     "pidfd_getfd",
+});
+
+constexpr std::array kRefused = std::to_array<const char*>({
+    "creat",    "unlink",    "unlinkat",   "rename",   "renameat", "renameat2", "mkdir",
+    "mkdirat",  "rmdir",     "link",       "linkat",   "symlink",  "symlinkat", "mknod",
+    "mknodat",  "chmod",     "fchmod",     "fchmodat", "chown",    "fchown",    "fchownat",
+    "lchown",   "truncate",  "truncate64", "utime",    "utimes",   "utimensat", "futimesat",
+    "setxattr", "lsetxattr", "fsetxattr",  "execve",   "execveat", "recvfrom",  "recvmsg",
+    "recvmmsg", "setrlimit", "prlimit64",
+});
+
+// What an interpreter with files of its own has no use for.
+constexpr std::array kUseless = std::to_array<const char*>({
     "io_uring_setup",
     "bpf",
     "keyctl",
@@ -325,6 +275,7 @@ void allowItself(Filter& filter) {
 CallFilter readingFilter() {
   Filter filter(SCMP_ACT_ERRNO(ENOSYS));
   filter.rule(SCMP_ACT_ALLOW, kAllowed);
+  filter.rule(SCMP_ACT_ERRNO(EACCES), kReachingOut);
   filter.rule(SCMP_ACT_ERRNO(EACCES), kRefused);
   allowOpeningForReading(filter, "open", 1);
   allowOpeningForReading(filter, "openat", 2);
@@ -335,6 +286,7 @@ CallFilter readingFilter() {
 CallFilter reachingOutFilter() {
   Filter filter(SCMP_ACT_ALLOW);
   filter.rule(SCMP_ACT_ERRNO(EACCES), kReachingOut);
+  filter.rule(SCMP_ACT_ERRNO(EACCES), kUseless);
   return filter.take();
 }
 

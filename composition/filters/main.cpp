@@ -1,6 +1,6 @@
 // cutline_call_filters FILE: writes the filters of calls into the file, as the source of the
-// functions of composition/helper/CallFilters.h. To make them takes a program that confines itself
-// as long as half of its other work, so it is done once, when that is built.
+// functions of composition/helper/CallFilters.h. To make one takes nine times as long as to have
+// the kernel take it, and so a tenth of what a helper does; it is done once, when that is built.
 #include <algorithm>
 #include <cstdio>
 #include <fstream>
