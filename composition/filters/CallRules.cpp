@@ -170,6 +170,7 @@ constexpr std::array kReachingOut = std::to_array<const char*>({
     "pidfd_getfd",
 });
 
+// Names and rights of files, other programs, and its own limits.
 constexpr std::array kRefused = std::to_array<const char*>({
     "creat",    "unlink",    "unlinkat",   "rename",   "renameat", "renameat2", "mkdir",
     "mkdirat",  "rmdir",     "link",       "linkat",   "symlink",  "symlinkat", "mknod",

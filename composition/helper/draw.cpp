@@ -16,7 +16,6 @@
 #include <cmath>
 #include <memory>
 #include <new>
-#include <string>
 
 #include "base/FileDescriptor.h"
 #include "base/Uninterrupted.h"
@@ -73,15 +72,13 @@ bool isTooLarge(const poppler::page& page, double scale) {
   return !(pixels <= kMostPixels) || !(scale > 0);
 }
 
-// Without a pause behind each row, in which two processes would wake each other.
+// All rows at once, which lie one behind the other: at each word, two processes wake each other.
 bool answerWith(const poppler::image& image) {
-  const DrawAnswer words{DrawnState::fine, image.width(), image.height()};
   const auto row = static_cast<std::size_t>(image.width()) * sizeof(std::uint32_t);
-  std::string bytes(reinterpret_cast<const char*>(&words), sizeof words);
-  bytes.reserve(bytes.size() + row * static_cast<std::size_t>(image.height()));
-  for (int y = 0; y < image.height(); ++y)
-    bytes.append(image.const_data() + static_cast<std::ptrdiff_t>(y) * image.bytes_per_row(), row);
-  return answer(bytes.data(), bytes.size());
+  if (static_cast<std::size_t>(image.bytes_per_row()) != row) return answer(DrawnState::failed);
+  const DrawAnswer words{DrawnState::fine, image.width(), image.height()};
+  return answer(&words, sizeof words) &&
+         answer(image.const_data(), row * static_cast<std::size_t>(image.height()));
 }
 
 bool draw(const poppler::document& document, const DrawRequest& request) {

@@ -14,7 +14,6 @@ namespace cutline {
 namespace {
 
 constexpr char kVersion[] = "1.7";
-
 constexpr std::size_t kBlock = 65536;
 
 // To an open file, in large blocks: qpdf ends its output behind every stream, at which a file of
@@ -24,18 +23,23 @@ class BlockOutput : public Pipeline {
   explicit BlockOutput(int file) : Pipeline("labels", nullptr), mFile(file) {}
 
   void write(const unsigned char* bytes, std::size_t size) override {
+    if (mBlock.size() + size > kBlock) flush();
+    // A large stream is not kept twice.
+    if (size > kBlock) return put(bytes, size);
     mBlock.append(reinterpret_cast<const char*>(bytes), size);
-    if (mBlock.size() >= kBlock) flush();
   }
   void finish() override {}
 
   void flush() {
-    if (!writeAll(mFile, mBlock.data(), mBlock.size()))
-      throw Refusal{DocumentProblem::broken, std::strerror(errno)};
+    put(mBlock.data(), mBlock.size());
     mBlock.clear();
   }
 
  private:
+  void put(const void* bytes, std::size_t size) const {
+    if (!writeAll(mFile, bytes, size)) throw Refusal{DocumentProblem::broken, std::strerror(errno)};
+  }
+
   int mFile;
   std::string mBlock;
 };
