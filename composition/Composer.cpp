@@ -12,6 +12,7 @@
 #include "base/Numbers.h"
 #include "composition/CompositionErrors.h"
 #include "composition/HelperExchange.h"
+#include "lean/LeanParts.h"
 
 namespace cutline {
 namespace {
@@ -81,8 +82,16 @@ std::optional<HelperExchange>& earlyComposer() {
   return composer;
 }
 
+Result<HelperExchange> newComposer(const std::string& helperDirectory) {
+  if (mayBeLean(LeanPart::composer)) {
+    Result<HelperExchange> lean = HelperExchange::start(helperDirectory + '/' + kLeanComposer);
+    if (lean) return lean;
+  }
+  return HelperExchange::start(helperDirectory + '/' + kComposerName);
+}
+
 Result<HelperExchange> startedComposer(const std::string& helperDirectory) {
-  if (!earlyComposer()) return HelperExchange::start(helperDirectory + "/" + kComposerName);
+  if (!earlyComposer()) return newComposer(helperDirectory);
   HelperExchange composer = std::move(*earlyComposer());
   earlyComposer().reset();
   return composer;

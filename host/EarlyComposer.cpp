@@ -4,6 +4,7 @@
 
 #include "composition/ComposerName.h"
 #include "host/OwnPart.h"
+#include "lean/LeanParts.h"
 
 namespace cutline {
 namespace {
@@ -35,12 +36,17 @@ bool isAnyComposed(int argc, const char* const* argv) noexcept {
   return isAny;
 }
 
+bool started(const char* name, WaitingHelper& composer) noexcept {
+  char path[PATH_MAX];
+  return findOwnPart(name, path) && spawnWaitingHelper(path, composer) == 0;
+}
+
 }  // namespace
 
 bool startEarlyComposer(int argc, const char* const* argv, WaitingHelper& composer) noexcept {
-  char path[PATH_MAX];
-  return isAnyComposed(argc, argv) && findOwnPart(kComposerName, path) &&
-         spawnWaitingHelper(path, composer) == 0;
+  if (!isAnyComposed(argc, argv)) return false;
+  return (mayBeLean(LeanPart::composer) && started(kLeanComposer, composer)) ||
+         started(kComposerName, composer);
 }
 
 }  // namespace cutline

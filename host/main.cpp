@@ -9,6 +9,7 @@
 #include "host/EarlyComposer.h"
 #include "host/OwnPart.h"
 #include "host/core/Program.h"
+#include "lean/LeanParts.h"
 
 namespace {
 
@@ -18,6 +19,10 @@ using ProgramFunction = decltype(&CutlineRunProgram);
 // bound as it says itself, and modules and bundles find what the program has.
 void* loadProgram() {
   char path[PATH_MAX];
+  // The program takes the one of that name which is there.
+  if (cutline::mayBeLean(cutline::LeanPart::printLibrary) &&
+      cutline::findOwnPart(cutline::kLeanPrintLibrary, path))
+    ::dlopen(path, RTLD_LAZY | RTLD_GLOBAL);
   if (!cutline::findOwnPart(cutline::kProgramLibrary, path)) return nullptr;
   return ::dlopen(path, RTLD_LAZY | RTLD_GLOBAL);
 }

@@ -7,9 +7,7 @@
 #include <string>
 #include <utility>
 
-#include "composition/helper/LoadedModules.h"
 #include "composition/helper/PostScript.h"
-#include "composition/reader/PictureReader.h"
 
 namespace cutline {
 namespace {
@@ -17,17 +15,6 @@ namespace {
 // For what the readers open themselves: fonts and their settings.
 constexpr unsigned kOwnFiles = 64;
 constexpr int kNiceness = 10;
-
-DocumentKind kindOf(int document) {
-  std::string start(kDocumentStart, '\0');
-  const ssize_t count = ::pread(document, start.data(), start.size(), 0);
-  start.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
-  return documentKind(start);
-}
-
-bool needsTypesetter(DocumentKind kind) {
-  return kind == DocumentKind::text || kind == DocumentKind::svg;
-}
 
 // What is done ahead must not keep those waiting who find out what is asked: the program, and the
 // print server. It is so for the rest of this process, as the way back is closed to most users.
@@ -38,8 +25,16 @@ void giveWay() {
 
 }  // namespace
 
-ComposingTask::ComposingTask(std::vector<FileDescriptor> files, const ProcessLimits& limits)
-    : mFiles(std::move(files)), mLimits(limits) {
+DocumentKind kindOf(int document) {
+  std::string start(kDocumentStart, '\0');
+  const ssize_t count = ::pread(document, start.data(), start.size(), 0);
+  start.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
+  return documentKind(start);
+}
+
+ComposingTask::ComposingTask(std::vector<FileDescriptor> files, const ProcessLimits& limits,
+                             ModuleLoader load)
+    : mFiles(std::move(files)), mLimits(limits), mLoad(load) {
   for (std::size_t at = 1; at < mFiles.size(); ++at) mDocuments.push_back(mFiles[at].get());
 }
 
@@ -62,8 +57,7 @@ CompositionReport ComposingTask::compose(const CompositionRequest& request) {
 }
 
 void ComposingTask::takeKind(DocumentKind kind) {
-  if (!mModules.typesetter && needsTypesetter(kind)) mModules.typesetter = loadedTypesetter();
-  if (!mModules.pictures && needsPictureReader(kind)) mModules.pictures = loadedPictureReader();
+  if (needsModule(kind)) mLoad(kind, mModules);
   mHasPostScript |= kind == DocumentKind::postScript;
 }
 

@@ -17,7 +17,7 @@ class ComposingTask {
  public:
   // The PDF to write, and then the documents; not empty. The limits are those of the process, but
   // for its descriptors.
-  ComposingTask(std::vector<FileDescriptor> files, const ProcessLimits& limits);
+  ComposingTask(std::vector<FileDescriptor> files, const ProcessLimits& limits, ModuleLoader load);
 
   std::size_t documents() const { return mDocuments.size(); }
 
@@ -37,11 +37,15 @@ class ComposingTask {
   std::vector<FileDescriptor> mFiles;
   ProcessLimits mLimits;
   std::vector<int> mDocuments;
+  ModuleLoader mLoad;
   ReaderModules mModules;
   bool mHasPostScript = false;
   bool mIsConfined = false;
   DocumentComposer mComposer;
 };
+
+// By the document's first bytes.
+DocumentKind kindOf(int document);
 
 // A report of nothing but that; `document` is -1 where it may be any.
 CompositionReport failedReport(DocumentProblem problem, int document, std::string detail = {});

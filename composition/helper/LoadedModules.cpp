@@ -24,10 +24,11 @@ Made* loaded(const char* name, const char* symbol) {
 
 }  // namespace
 
-Typesetter* loadedTypesetter() { return loaded<Typesetter>(kTypesetModuleName, kTypesetterSymbol); }
-
-PictureReader* loadedPictureReader() {
-  return loaded<PictureReader>(kPictureReaderModuleName, kPictureReaderSymbol);
+void loadModule(DocumentKind kind, ReaderModules& modules) {
+  if (!modules.typesetter && needsTypesetter(kind))
+    modules.typesetter = loaded<Typesetter>(kTypesetModuleName, kTypesetterSymbol);
+  if (!modules.pictures && needsPictureReader(kind))
+    modules.pictures = loaded<PictureReader>(kPictureReaderModuleName, kPictureReaderSymbol);
 }
 
 }  // namespace cutline

@@ -1,13 +1,11 @@
 // The modules beside this program, each loaded once it is asked for.
 #pragma once
 
+#include "composition/reader/ReaderModules.h"
+
 namespace cutline {
 
-class PictureReader;
-class Typesetter;
-
-// Null where the module is not installed. Borrowed; they live as long as the process.
-Typesetter* loadedTypesetter();
-PictureReader* loadedPictureReader();
+// A ModuleLoader. What is not installed stays null; what is lives as long as the process.
+void loadModule(DocumentKind kind, ReaderModules& modules);
 
 }  // namespace cutline

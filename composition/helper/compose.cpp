@@ -1,61 +1,19 @@
 // Lays documents onto label pages, confined: standard input gives the PDF to write, the documents
-// and then the request; the report goes to standard output. Started for StartedComposer.
-#include <malloc.h>
-#include <unistd.h>
-
-#include <new>
-#include <optional>
-#include <string>
+// and then the request; the report goes to standard output. Started for StartedComposer, or by the
+// lean composer, which has taken those files already and names their descriptors.
+#include <cstdlib>
 #include <utility>
 
-#include "base/FileDescriptor.h"
-#include "composition/HelperExchange.h"
+#include "base/Numbers.h"
 #include "composition/HelperRequest.h"
-#include "composition/helper/ComposingTask.h"
-
-namespace {
+#include "composition/helper/ComposerRun.h"
+#include "composition/helper/LoadedModules.h"
 
 using namespace cutline;
 
-// The processor's time is less than what the client waits.
-constexpr ProcessLimits kLimits = {
-    .memory = 512U << 20U, .fileSize = 512U << 20U, .cpuSeconds = 45, .wallSeconds = 65};
-
-// Nothing where there is no request to make a report of.
-std::optional<CompositionReport> answeredBy(ComposingTask& task) {
-  ::alarm(kLimits.wallSeconds);
-  task.prepare(/*hasTime=*/!isTextSent(STDIN_FILENO));
-  // Who asks may take as long as it likes.
-  ::alarm(0);
-  const auto text = receiveText(STDIN_FILENO);
-  const auto request = text ? CompositionRequest::parse(*text) : std::nullopt;
-  if (!request || request->names.size() != task.documents()) return std::nullopt;
-  ::alarm(kLimits.wallSeconds);
-  return task.compose(*request);
-}
-
-std::optional<CompositionReport> reportOf(ComposingTask& task) {
-  try {
-    return answeredBy(task);
-  } catch (const std::bad_alloc&) {
-    return failedReport(DocumentProblem::tooLarge, -1);
-  }
-}
-
-bool writeReport(const std::optional<CompositionReport>& report) {
-  if (!report) return false;
-  const std::string answer = report->asText() + kAnswerEnd;
-  return writeAll(STDOUT_FILENO, answer.data(), answer.size());
-}
-
-}  // namespace
-
-int main() {
-  ::mallopt(M_ARENA_MAX, 1);
-  auto files = receiveFiles(STDIN_FILENO);
-  if (!files || files->empty()) return EXIT_FAILURE;
-  ComposingTask task(std::move(*files), kLimits);
-  // Without what a program does at its end: to let go of long documents takes a while, what read
-  // them may not be in order, and a sanitizer's search for leaks needs calls that are refused here.
-  ::_exit(writeReport(reportOf(task)) ? EXIT_SUCCESS : EXIT_FAILURE);
+int main(int argc, char** argv) {
+  std::vector<FileDescriptor> files;
+  for (int at = 1; at < argc; ++at) files.emplace_back(numberIn<int>(argv[at]).value_or(-1));
+  if (files.empty()) files = receiveFiles(STDIN_FILENO).value_or(std::vector<FileDescriptor>());
+  runComposer(std::move(files), loadModule);
 }

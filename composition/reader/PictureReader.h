@@ -18,10 +18,6 @@ class PictureReader {
   virtual std::unique_ptr<DocumentSource> open(DocumentKind kind, int descriptor) = 0;
 };
 
-inline constexpr bool needsPictureReader(DocumentKind kind) {
-  return kind == DocumentKind::tiff || kind == DocumentKind::webp;
-}
-
 inline constexpr char kPictureReaderModuleName[] = "cutline-picture-reader.so";
 inline constexpr char kPictureReaderSymbol[] = "CutlinePictureReader";
 

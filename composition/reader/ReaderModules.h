@@ -2,6 +2,8 @@
 // where a module is missing or not needed.
 #pragma once
 
+#include "composition/reader/DocumentKind.h"
+
 namespace cutline {
 
 class PictureReader;
@@ -11,5 +13,20 @@ struct ReaderModules {
   Typesetter* typesetter = nullptr;
   PictureReader* pictures = nullptr;
 };
+
+inline constexpr bool needsTypesetter(DocumentKind kind) {
+  return kind == DocumentKind::text || kind == DocumentKind::svg;
+}
+
+inline constexpr bool needsPictureReader(DocumentKind kind) {
+  return kind == DocumentKind::tiff || kind == DocumentKind::webp;
+}
+
+inline constexpr bool needsModule(DocumentKind kind) {
+  return needsTypesetter(kind) || needsPictureReader(kind);
+}
+
+// Puts the module that such a document needs where it is missing, if there is one.
+using ModuleLoader = void (*)(DocumentKind kind, ReaderModules& modules);
 
 }  // namespace cutline

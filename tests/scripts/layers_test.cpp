@@ -9,7 +9,8 @@ namespace cutline::test {
 namespace {
 
 constexpr char kFolders[] =
-    "base composition strip platform bundle plain qt cups host portal ask follow samples bench "
+    "base lean composition strip platform bundle plain qt cups host portal ask follow samples "
+    "bench "
     "tests "
     "docs scripts";
 
