@@ -1,6 +1,7 @@
 // The lean composer answers with the very bytes of the other.
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 
 #include "composition/Composer.h"
@@ -23,6 +24,7 @@ constexpr std::size_t kShort = 200;  // no document, but what is said
 class LeanComposer : public testing::Test {
  protected:
   void SetUp() override {
+    ::unsetenv("LD_LIBRARY_PATH");
     ASSERT_TRUE(mayBeLean(LeanPart::composer));
     for (const char* folder : {"full", "lean/lean", "both/lean"})
       fs::create_directories(mFolder / folder);

@@ -1,6 +1,7 @@
 // The lean parts of an installation: what they spare, and that nothing but time depends on them.
 #include <gmock/gmock.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <sstream>
 #include <string_view>
@@ -37,6 +38,7 @@ class LeanInstallation : public EndToEndTest {
  protected:
   void SetUp() override {
     EndToEndTest::SetUp();
+    ::unsetenv("LD_LIBRARY_PATH");
     ASSERT_TRUE(mayBeLean(LeanPart::printLibrary));
     for (const char* part : {"bin", "lib", "share"})
       fs::copy(built(part), mPrefix / part, fs::copy_options::recursive);
