@@ -86,6 +86,8 @@ void PrintDialog::layOut(QSize size) {
   auto* settings = findChild<SettingsPane*>();
   settings->arrange();
   settings->updateGeometry();
+  // Else the window is moved once it is there, which takes the window system several answers.
+  adjustPosition(parentWidget());
 }
 
 QWidget* PrintDialog::makeJobSide() {

@@ -38,7 +38,9 @@ TEST_P(FirstLayout, IsTheOneThatStays) {
                      PrintSource{{}, "labels", composer().tools()});
   dialog.openPrinter({Destination(), *ppd});
   dialog.layOut(GetParam());
+  const QPoint place = dialog.pos();
   dialog.show();
+  EXPECT_EQ(dialog.pos(), place);
   const Places first = placesIn(dialog);
   EXPECT_GE(dialog.findChild<PanelFrame*>()->height(), 200);
   for (int turn = 0; turn < 5; ++turn) QCoreApplication::processEvents();
