@@ -6,7 +6,7 @@
 #include <sstream>
 #include <string_view>
 
-#include "lean/LeanParts.h"
+#include "lean/LeanOrigins.h"
 #include "tests/support/Command.h"
 #include "tests/support/EndToEndTest.h"
 #include "tests/support/TemporaryFolder.h"
@@ -93,6 +93,20 @@ TEST_F(LeanInstallation, SaysTheSameWithoutThem) {
   EXPECT_THAT(loadedBy(other), Contains(HasSubstr("/libgnutls")));
   EXPECT_EQ(other.status, 0);
   EXPECT_EQ(other.output, lean.output);
+}
+
+TEST_F(LeanInstallation, StandsAsideAfterAnUpdateOfTheLibrary) {
+  const fs::path file = mPrefix / "bin/cutline";
+  std::string bytes = contentsOf(file);
+  const std::string_view id = originsOf(LeanPart::printLibrary).front().buildId;
+  const std::size_t at = bytes.find(id);
+  ASSERT_NE(at, std::string::npos);
+  bytes[at] ^= 1;
+  mPrefix.write("bin/cutline", bytes);
+  const CommandResult result = program("--options -d tape24", "LD_DEBUG=files");
+  EXPECT_EQ(result.status, 0) << result.errors;
+  EXPECT_THAT(loadedBy(result), Not(Contains(part(kLeanPrintLibrary))));
+  EXPECT_THAT(result.output, HasSubstr("LxHalfCut="));
 }
 
 TEST_F(LeanInstallation, PrintsTheSameWithoutThem) {
