@@ -4,7 +4,10 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <climits>
+#include <cstdio>
 #include <cstdlib>
+#include <cstring>
 
 #include "base/FileDescriptor.h"
 #include "lean/LeanOrigins.h"
@@ -25,6 +28,24 @@ bool isInstalled(const LeanOrigin& origin) noexcept {
   return bytes.find(origin.buildId) != std::string_view::npos;
 }
 
+// Whether the dynamic loader would take a library of that name from a folder that the environment
+// names.
+bool isNamedElsewhere(const LeanOrigin& origin) noexcept {
+  const char* folder = std::getenv("LD_LIBRARY_PATH");
+  if (folder == nullptr) return false;
+  const char* const name = std::strrchr(origin.library, '/');
+  for (;; ++folder) {
+    const std::size_t length = std::strcspn(folder, ":;");
+    char path[PATH_MAX];
+    // What has no name is the current folder.
+    std::snprintf(path, sizeof path, "%s%.*s%s", length == 0 ? "." : "", static_cast<int>(length),
+                  folder, name);
+    if (::access(path, F_OK) == 0) return true;
+    folder += length;
+    if (*folder == '\0') return false;
+  }
+}
+
 }  // namespace
 
 bool areInstalled(std::span<const LeanOrigin> origins) noexcept {
@@ -32,9 +53,8 @@ bool areInstalled(std::span<const LeanOrigin> origins) noexcept {
 }
 
 bool mayBeLean(LeanPart part) noexcept {
-  // Whoever names libraries in the place of the installed ones means them for all parts.
-  if (std::getenv("LD_LIBRARY_PATH") != nullptr) return false;
-  return areInstalled(originsOf(part));
+  const std::span<const LeanOrigin> origins = originsOf(part);
+  return areInstalled(origins) && std::ranges::none_of(origins, isNamedElsewhere);
 }
 
 }  // namespace cutline

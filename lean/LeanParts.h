@@ -13,8 +13,9 @@ enum class LeanPart { printLibrary, composer };
 inline constexpr char kLeanPrintLibrary[] = "lean/libcups.so.2";
 inline constexpr char kLeanComposer[] = "lean/cutline-compose";
 
-// Whether it may stand in for the other; no where this build has no lean parts. Whether the file is
-// there is not looked at. Needs nothing but the C library.
+// Whether it may stand in for the other; no where this build has no lean parts, and where the
+// environment names another library (LD_LIBRARY_PATH). Whether the file is there is not looked at.
+// Needs nothing but the C library.
 bool mayBeLean(LeanPart part) noexcept;
 
 }  // namespace cutline

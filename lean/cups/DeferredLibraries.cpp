@@ -20,7 +20,7 @@ extern const cutline::ObjectIdentifier* const GSS_C_NT_HOSTBASED_SERVICE;
 // What is called for the first time; the process ends without it, as it would not have begun if
 // the library had been linked. Threads may ask at once, and get the same.
 void* cutlineDeferredCall(std::size_t number) noexcept {
-  const cutline::DeferredCall& call = cutline::deferredCalls()[number];
+  const cutline::DeferredCall& call = cutline::deferredCalls().data()[number];
   void* const library = ::dlopen(call.library, RTLD_NOW | RTLD_LOCAL);
   void* const function = library != nullptr ? ::dlsym(library, call.name) : nullptr;
   if (function == nullptr) {

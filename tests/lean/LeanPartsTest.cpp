@@ -48,12 +48,21 @@ TEST_F(LeanParts, NeedAllOfTheirLibraries) {
   EXPECT_FALSE(areInstalled(oneMissing));
 }
 
-TEST_F(LeanParts, GiveWayWhereLibrariesAreNamed) {
-  ::setenv("LD_LIBRARY_PATH", mFolder.path().c_str(), 1);
-  EXPECT_FALSE(mayBeLean(LeanPart::composer));
-  EXPECT_FALSE(mayBeLean(LeanPart::printLibrary));
+TEST_F(LeanParts, GiveWayToLibrariesThatTheEnvironmentNames) {
+  const std::string none = mFolder / "none";
+  const std::string before = none + ':' + mFolder.path();
+  for (const std::string& folders : {none, std::string(), ':' + none, before}) {
+    ::setenv("LD_LIBRARY_PATH", folders.c_str(), 1);
+    EXPECT_EQ(mayBeLean(LeanPart::composer), CUTLINE_HAS_LEAN_PARTS) << folders;
+    EXPECT_EQ(mayBeLean(LeanPart::printLibrary), CUTLINE_HAS_LEAN_PARTS) << folders;
+  }
+  mFolder.write("libcups.so.2", "another");
+  for (const std::string& folders : {before, mFolder.path() + ';' + none, mFolder.path()}) {
+    ::setenv("LD_LIBRARY_PATH", folders.c_str(), 1);
+    EXPECT_EQ(mayBeLean(LeanPart::composer), CUTLINE_HAS_LEAN_PARTS) << folders;
+    EXPECT_FALSE(mayBeLean(LeanPart::printLibrary)) << folders;
+  }
   ::unsetenv("LD_LIBRARY_PATH");
-  EXPECT_EQ(mayBeLean(LeanPart::composer), CUTLINE_HAS_LEAN_PARTS);
   EXPECT_EQ(mayBeLean(LeanPart::printLibrary), CUTLINE_HAS_LEAN_PARTS);
 }
 

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <sstream>
 
+#include "lean/LeanParts.h"
 #include "tests/support/Command.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -97,6 +98,26 @@ TEST_F(Hardening, HasReadOnlyLinkerTables) {
     EXPECT_THAT(readelf("-l", file), HasSubstr("GNU_RELRO")) << file;
     EXPECT_THAT(readelf("-d", file), HasSubstr("NOW")) << file;
   }
+}
+
+// The linker leaves out what is not called; what begins often, calls little.
+TEST_F(Hardening, NeedsFewLibrariesToBegin) {
+  const auto needed = [](const std::string& file) {
+    std::vector<std::string> names = linesWith("(NEEDED)", readelf("-d", built(file)));
+    for (std::string& name : names) {
+      name.erase(0, name.find('[') + 1);
+      name.resize(name.find(']'));
+    }
+    // The loader itself.
+    std::erase_if(names, [](const std::string& name) { return name.starts_with("ld-linux"); });
+    return names;
+  };
+  EXPECT_THAT(needed("bin/cutline"), testing::ElementsAre("libc.so.6"));
+  if (!CUTLINE_HAS_LEAN_PARTS) return;
+  EXPECT_THAT(needed(std::string("lib/cutline/") + kLeanComposer),
+              testing::UnorderedElementsAre("libm.so.6", "libc.so.6"));
+  EXPECT_THAT(needed(std::string("lib/cutline/") + kLeanPrintLibrary),
+              testing::UnorderedElementsAre("libz.so.1", "libm.so.6", "libc.so.6"));
 }
 
 TEST_F(Hardening, HasNoMemoryThatIsWrittenAndRun) {
