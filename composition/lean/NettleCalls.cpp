@@ -9,8 +9,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <new>
-#include <string_view>
 #include <vector>
 
 namespace {
@@ -30,9 +28,9 @@ struct CipherRow {
   gnutls_cipher_algorithm_t number;
   const nettle_cipher* cipher;
 };
+// Of the lengths that a PDF's key has.
 constexpr CipherRow kBlockCiphers[] = {
     {GNUTLS_CIPHER_AES_128_CBC, &nettle_aes128},
-    {GNUTLS_CIPHER_AES_192_CBC, &nettle_aes192},
     {GNUTLS_CIPHER_AES_256_CBC, &nettle_aes256},
 };
 

@@ -6,7 +6,6 @@
 
 #include "composition/Composer.h"
 #include "lean/LeanParts.h"
-#include "tests/composition/Children.h"
 #include "tests/composition/Composed.h"
 #include "tests/composition/PdfDocument.h"
 #include "tests/composition/Pictures.h"
@@ -29,12 +28,12 @@ class LeanComposer : public testing::Test {
     for (const char* folder : {"full", "lean/lean", "both/lean"})
       fs::create_directories(mFolder / folder);
     for (const char* file : {"cutline-compose", "cutline-typeset.so", "cutline-picture-reader.so"})
-      for (const char* folder : {"full", "both"}) link(file, folder);
+      for (const char* folder : {"full", "both"}) install(file, folder);
     // The one without the other, so nothing but itself answers.
-    for (const char* folder : {"lean", "both"}) link(kLeanComposer, folder);
+    for (const char* folder : {"lean", "both"}) install(kLeanComposer, folder);
   }
 
-  void link(const char* file, const char* folder) const {
+  void install(const char* file, const char* folder) const {
     fs::copy_file(kHelpers / file, mFolder / folder + '/' + file);
   }
   std::string composedBy(const fs::path& helpers, const std::string& document,
