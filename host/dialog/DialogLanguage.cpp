@@ -1,7 +1,5 @@
 #include "host/dialog/DialogLanguage.h"
 
-#include <fontconfig/fontconfig.h>
-
 #include <QCoreApplication>
 #include <QFile>
 #include <QGuiApplication>
@@ -14,8 +12,6 @@
 namespace cutline {
 
 namespace {
-
-constexpr char kFontLanguage[] = "FC_LANG";
 
 // Names of languages by their script, as bundles have them, whose tables are named by a place.
 struct ScriptName {
@@ -76,17 +72,6 @@ DialogLanguage chooseLanguage(const std::vector<std::string>& names, const QStri
     if (QFile::exists(tablePath(directory, code))) return {code, localeFor(code, names)};
   }
   return {english(), localeFor(english(), names)};
-}
-
-void preferFontsFor(const DialogLanguage& language) {
-  // Which Han characters a user of Latin letters wants to see, the locale says as before.
-  if (language.locale.script() == QLocale::LatinScript) return;
-  if (!qEnvironmentVariableIsEmpty(kFontLanguage)) return;
-  qputenv(kFontLanguage, language.locale.name().toLatin1());
-}
-
-std::future<void> startReadingFonts() {
-  return std::async(std::launch::async, [] { FcInit(); });
 }
 
 LanguageInForce::LanguageInForce(const DialogLanguage& language, const QString& directory) {

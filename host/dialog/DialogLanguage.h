@@ -1,10 +1,9 @@
-// The dialog's language: which one it is, its texts, numbers and fonts, and sentences said in it.
+// The dialog's language: which one it is, its texts and numbers, and sentences said in it.
 #pragma once
 
 #include <QLocale>
 #include <QString>
 #include <QTranslator>
-#include <future>
 #include <string>
 #include <vector>
 
@@ -20,16 +19,6 @@ struct DialogLanguage {
 // The first of these names, best first as preferredLocalizations answers them, that is English or
 // that `directory` has a table for ("cutline_de.qm"); English when there is none.
 DialogLanguage chooseLanguage(const std::vector<std::string>& names, const QString& directory);
-
-// Has fontconfig choose fonts for this language: Han characters are drawn differently in Chinese,
-// Japanese and Korean, and Qt 6.4.2 leaves the language to fontconfig, which knows the
-// environment's locale only. Before the application is made, and before any thread is started,
-// because it changes the environment. A choice of the user's own (FC_LANG) is left alone.
-void preferFontsFor(const DialogLanguage& language);
-
-// Reads fontconfig's configuration, a tenth of the dialog's start, while the application is made;
-// Qt finds it read then. After preferFontsFor, whose environment it reads.
-std::future<void> startReadingFonts();
 
 // The program speaks the language as long as this lives.
 class LanguageInForce {

@@ -10,6 +10,7 @@
 #include "cups/ServerOptions.h"
 #include "host/core/Installation.h"
 #include "host/dialog/Appearance.h"
+#include "host/dialog/DialogFonts.h"
 #include "host/dialog/DialogLanguage.h"
 #include "host/dialog/DialogSession.h"
 #include "host/dialog/StartTimes.h"

@@ -97,21 +97,6 @@ TEST(DialogLanguage, ADamagedTableLeavesTheTextsEnglish) {
   EXPECT_EQ(PresetBar::tr("Cancel"), QStringLiteral("Cancel"));
 }
 
-TEST(DialogLanguage, HasFontsChosenForItWhereCharactersDifferByLanguage) {
-  const test::ScopedEnvironment environment(
-      test::ScopedEnvironment::Variables{{"FC_LANG", std::nullopt}});
-  preferFontsFor({QStringLiteral("de"), QLocale(QStringLiteral("de_DE"))});
-  EXPECT_FALSE(qEnvironmentVariableIsSet("FC_LANG"));
-  preferFontsFor({QStringLiteral("zh_TW"), QLocale(QStringLiteral("zh_HK"))});
-  EXPECT_EQ(qgetenv("FC_LANG"), "zh_HK");
-}
-
-TEST(DialogLanguage, LeavesTheUsersOwnChoiceOfFontsAlone) {
-  const test::ScopedEnvironment environment(test::ScopedEnvironment::Variables{{"FC_LANG", "ko"}});
-  preferFontsFor({QStringLiteral("ja"), QLocale(QStringLiteral("ja_JP"))});
-  EXPECT_EQ(qgetenv("FC_LANG"), "ko");
-}
-
 class TableTranslator : public QTranslator {
  public:
   TableTranslator() { QCoreApplication::installTranslator(this); }
