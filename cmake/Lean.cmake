@@ -25,6 +25,16 @@ function(cutline_installed_library OUT LINK)
   set(${OUT} ${FOLDER}/${SONAME} PARENT_SCOPE)
 endfunction()
 
+# cutline_library_file(OUT SONAME): the installed library of that name, nothing where there is none.
+function(cutline_library_file OUT SONAME)
+  execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${SONAME}
+    OUTPUT_VARIABLE FILE OUTPUT_STRIP_TRAILING_WHITESPACE)
+  if(NOT IS_ABSOLUTE ${FILE})
+    set(FILE)
+  endif()
+  set(${OUT} ${FILE} PARENT_SCOPE)
+endfunction()
+
 # cutline_lean_origins(OUT LINK...): a row of C++ for each, and a new configuration when one changes.
 function(cutline_lean_origins OUT)
   set(ROWS)
@@ -51,4 +61,9 @@ if(CUTLINE_LEAN)
       break()
     endif()
   endforeach()
+endif()
+
+if(CUTLINE_LEAN)
+  # What lets calls wait for their library.
+  enable_language(ASM)
 endif()

@@ -52,9 +52,13 @@ bool areInstalled(std::span<const LeanOrigin> origins) noexcept {
   return !origins.empty() && std::ranges::all_of(origins, isInstalled);
 }
 
+bool isTheOneInUse(const LeanOrigin& origin) noexcept {
+  return isInstalled(origin) && !isNamedElsewhere(origin);
+}
+
 bool mayBeLean(LeanPart part) noexcept {
   const std::span<const LeanOrigin> origins = originsOf(part);
-  return areInstalled(origins) && std::ranges::none_of(origins, isNamedElsewhere);
+  return !origins.empty() && std::ranges::all_of(origins, isTheOneInUse);
 }
 
 }  // namespace cutline

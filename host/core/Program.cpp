@@ -21,6 +21,7 @@
 #include "host/core/Module.h"
 #include "host/core/PluginLoader.h"
 #include "host/core/SpooledDocument.h"
+#include "lean/StandIns.h"
 
 namespace cutline {
 
@@ -43,6 +44,7 @@ int endOutput() {
 
 int showDialog(const CommandLine& line, PluginLoader& plugIns) {
   const Installation installation = Installation::ofThisProgram();
+  loadStandIns(installation.helperDirectory().c_str());
   const Result<void*> function =
       loadModule(installation.modulePath(kDialogModuleName), kDialogRunSymbol);
   if (!function) return fail(function.error());

@@ -11,7 +11,6 @@ namespace cutline {
 namespace {
 
 const QString kSeparator = QStringLiteral(" \u00b7 ");
-constexpr double kSentenceShare = 1.15;  // of the dialog's font
 constexpr int kPaneGap = 12;
 
 }  // namespace
@@ -48,9 +47,10 @@ void StripPane::makeLayout() {
   row->addSpacing(kPaneGap);
   for (QWidget* each : {mPrevious, mNext, mZoomOut, mFit, mZoomIn}) row->addWidget(each);
   column->addLayout(row);
-  QFont larger = mSentence->font();
-  larger.setPointSizeF(larger.pointSizeF() * kSentenceShare);
-  mSentence->setFont(larger);
+  // As headings are: each size of a font takes time to begin.
+  QFont bold = mSentence->font();
+  bold.setBold(true);
+  mSentence->setFont(bold);
   mPosition->label().setForegroundRole(QPalette::PlaceholderText);
 }
 

@@ -22,6 +22,8 @@ using testing::Not;
 
 namespace fs = std::filesystem;
 
+constexpr char kStandIn[] = "lean/libsystemd.so.0";
+
 // As the dynamic loader tells it.
 std::vector<std::string> loadedBy(const CommandResult& result) {
   static constexpr std::string_view kBegins = "calling init: ";
@@ -51,11 +53,16 @@ class LeanInstallation : public EndToEndTest {
   void withoutLeanParts() const { fs::remove_all(part("lean")); }
   // As after an update that went wrong.
   void withDamagedLeanParts() const {
-    for (const char* file : {kLeanPrintLibrary, kLeanComposer}) {
+    for (const char* file : {kLeanPrintLibrary, kLeanComposer, kStandIn}) {
       fs::remove(part(file));
       mPrefix.write(std::string("lib/cutline/") + file, "neither library nor program");
       fs::permissions(part(file), fs::perms::owner_all);
     }
+  }
+  std::string picture() const {
+    const CommandResult result = program("--snapshot " + mPrefix / "dialog.png" + " -d tape24");
+    EXPECT_EQ(result.status, 0) << result.errors;
+    return contentsOf(mPrefix / "dialog.png");
   }
   // What the virtual printer stores of a job.
   std::string printed() const {
@@ -109,13 +116,26 @@ TEST_F(LeanInstallation, StandsAsideAfterAnUpdateOfTheLibrary) {
   EXPECT_THAT(result.output, HasSubstr("LxHalfCut="));
 }
 
-TEST_F(LeanInstallation, PrintsTheSameWithoutThem) {
-  const std::string lean = printed();
-  EXPECT_TRUE(lean.starts_with("\x89PNG"));
+TEST_F(LeanInstallation, TheDialogLoadsNothingForCallsThatItDoesNotMake) {
+  const CommandResult result =
+      program("--snapshot " + mPrefix / "dialog.png" + " -d tape24", "LD_DEBUG=files");
+  EXPECT_EQ(result.status, 0);
+  const std::vector<std::string> libraries = loadedBy(result);
+  EXPECT_THAT(libraries, Contains(part(kStandIn)));
+  EXPECT_THAT(libraries, Contains(HasSubstr("/libdbus")));
+  EXPECT_THAT(libraries, Each(Not(AnyOf(HasSubstr("-gnu/libsystemd"), HasSubstr("/libgcrypt"),
+                                        HasSubstr("-gnu/libb2"), HasSubstr("/libgomp")))));
+}
+
+// The dialog as it opens, and what comes out of a printer.
+TEST_F(LeanInstallation, LooksAndPrintsTheSameWithoutThem) {
+  const std::string lean[] = {picture(), printed()};
+  for (const std::string& each : lean) EXPECT_TRUE(each.starts_with("\x89PNG"));
+  const auto isTheSame = [&] { return picture() == lean[0] && printed() == lean[1]; };
   withDamagedLeanParts();
-  EXPECT_TRUE(printed() == lean);
+  EXPECT_TRUE(isTheSame());
   withoutLeanParts();
-  EXPECT_TRUE(printed() == lean);
+  EXPECT_TRUE(isTheSame());
 }
 
 }  // namespace

@@ -4,27 +4,19 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <thread>
 
 #include "cups/DeviceFacts.h"
 #include "lean/LeanOrigins.h"
-#include "lean/cups/DeferredCalls.h"
 #include "lean/cups/ServiceName.h"
+#include "lean/deferred/DeferredCalls.h"
 #include "tests/support/Command.h"
+#include "tests/support/LoadedLibraries.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/support/qt/IppPrinter.h"
 
 namespace cutline::test {
 namespace {
-
-// Whether this process has the library of that file name.
-bool isLoaded(const std::string& name) {
-  std::ifstream maps("/proc/self/maps");
-  for (std::string line; std::getline(maps, line);)
-    if (line.find('/' + name) != std::string::npos) return true;
-  return false;
-}
 
 std::string bytesOf(const ObjectIdentifier& identifier) {
   return {static_cast<const char*>(identifier.elements), identifier.length};
@@ -72,8 +64,9 @@ TEST_F(LeanPrintLibrary, ShowsWhatTheInstalledOneShows) {
 }
 
 TEST_F(LeanPrintLibrary, FindsEachFunctionThatWaits) {
-  ASSERT_GT(deferredCalls().size(), 50U);
-  for (const auto& [name, library] : deferredCalls()) {
+  ASSERT_GT(kDeferredCallCount, 50U);
+  for (std::size_t number = 0; number < kDeferredCallCount; ++number) {
+    const auto [name, library] = deferredCall(number);
     void* const loaded = ::dlopen(library, RTLD_LAZY | RTLD_LOCAL);
     ASSERT_NE(loaded, nullptr) << library;
     EXPECT_NE(::dlsym(loaded, name), nullptr) << name;
