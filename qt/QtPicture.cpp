@@ -4,13 +4,13 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
-#include <QSvgRenderer>
 #include <algorithm>
 #include <array>
 #include <cmath>
 
 #include "platform/lib/ResourceFile.h"
 #include "platform/lib/VectorPicture.h"
+#include "qt/DrawnBitmap.h"
 #include "qt/QtText.h"
 
 namespace cutline {
@@ -34,15 +34,17 @@ bool hasTooManyPixels(const QSize& size) {
   return static_cast<double>(size.width()) * size.height() > kMostPicturePixels;
 }
 
-// A bitmap's bytes, of the kind that the file's name tells where they do not.
-class BitmapReader {
+// A picture's bytes, of a kind that Qt or a plug-in of its own reads.
+class PictureReader {
  public:
-  BitmapReader(const std::string& path, QByteArray bytes) : mBytes(std::move(bytes)) {
+  PictureReader(const QByteArray& type, QByteArray bytes) : mBytes(std::move(bytes)) {
     mBuffer.setBuffer(&mBytes);
     mBuffer.open(QIODevice::ReadOnly);
     mReader.setDevice(&mBuffer);
-    mReader.setFormat(QFileInfo(toQString(path)).suffix().toLower().toLatin1());
+    mReader.setFormat(type);
   }
+  // Empty where it is unknown or the bytes are of another kind.
+  QSize size() const { return mReader.size().isValid() ? mReader.size() : QSize(); }
   // Where the size stands in the bytes it must be there, and not too large.
   bool canRead() {
     if (!mReader.canRead()) return false;
@@ -50,6 +52,11 @@ class BitmapReader {
     return mReader.size().isValid() && !hasTooManyPixels(mReader.size());
   }
   QImage read() { return canRead() ? mReader.read() : QImage(); }
+  // A vector picture's, in a size of the caller's.
+  QImage rendered(const QSize& devicePixels) {
+    mReader.setScaledSize(devicePixels);
+    return mReader.read();
+  }
 
  private:
   QByteArray mBytes;
@@ -57,14 +64,21 @@ class BitmapReader {
   QImageReader mReader;
 };
 
+// The kind that the file's name tells, for where the bytes do not.
+QByteArray typeOf(const std::string& path) {
+  return QFileInfo(toQString(path)).suffix().toLower().toLatin1();
+}
+
 // Device pixels per point where the painter stands now, whatever it paints on.
 double deviceScale(const QPainter& painter) {
   const QTransform transform = painter.deviceTransform();
   return std::hypot(transform.m11(), transform.m12());
 }
 
-// What Qt reads without a plug-in.
-constexpr std::array<const char*, 2> kOwnTypes = {"svg", "png"};
+constexpr char kVectorType[] = "svg";
+
+// What can be read wherever this runs.
+constexpr std::array<const char*, 2> kOwnTypes = {kVectorType, "png"};
 
 // Asked for once and late: the answer takes loading every plug-in of Qt's for pictures, which costs
 // more than a millisecond of the time to the first picture.
@@ -91,24 +105,28 @@ std::optional<std::string> pictureFileType(std::size_t index) {
 
 QtPicture::QtPicture(std::string path) : mPath(std::move(path)) {}
 
-QtPicture::~QtPicture() = default;
-
 void QtPicture::read() {
   if (mRead) return;
   mRead = true;
+  mSize = sizeOfDrawn(mPath);
+  mHasDrawn = !mSize.isEmpty();
+  if (!mHasDrawn) readFile();
+}
+
+void QtPicture::readFile() {
   const QByteArray bytes = pictureBytes(mPath);
-  if (!isVector(bytes)) {
-    mBitmap = BitmapReader(mPath, bytes).read();
+  if (isVector(bytes)) {
+    mVector = bytes;
+    mSize = PictureReader(kVectorType, bytes).size();
     return;
   }
-  mVector = std::make_unique<QSvgRenderer>(bytes);
-  if (!mVector->isValid()) mVector.reset();
+  mBitmap = PictureReader(typeOf(mPath), bytes).read();
+  mSize = mBitmap.deviceIndependentSize();
 }
 
 QSizeF QtPicture::size() {
   read();
-  if (mVector) return mVector->defaultSize();
-  return mBitmap.deviceIndependentSize();
+  return mSize;
 }
 
 QRectF QtPicture::fittedInto(const QRectF& room) {
@@ -119,22 +137,28 @@ QRectF QtPicture::fittedInto(const QRectF& room) {
   return target;
 }
 
-QPixmap QtPicture::rendered(const QSize& devicePixels) {
-  for (const QPixmap& each : mRendered) {
-    if (each.size() == devicePixels) return each;
+QImage QtPicture::made(const QSize& devicePixels) {
+  for (const int scale : kDrawnScales) {
+    if (!mHasDrawn || devicePixels != mSize * scale) continue;
+    const QImage drawn = drawnBitmap(mPath, scale);
+    if (drawn.size() == devicePixels) return drawn;
   }
+  if (mHasDrawn && mVector.isEmpty()) readFile();
+  if (!mVector.isEmpty()) return PictureReader(kVectorType, mVector).rendered(devicePixels);
   QImage image(devicePixels, QImage::Format_ARGB32_Premultiplied);
   image.fill(Qt::transparent);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  if (mVector) {
-    mVector->render(&painter);
-  } else {
-    painter.drawImage(QRectF(QPointF(), QSizeF(devicePixels)), mBitmap);
+  painter.drawImage(QRectF(QPointF(), QSizeF(devicePixels)), mBitmap);
+  return image;
+}
+
+QPixmap QtPicture::rendered(const QSize& devicePixels) {
+  for (const QPixmap& each : mRendered) {
+    if (each.size() == devicePixels) return each;
   }
-  painter.end();
   if (mRendered.size() == kRenderedKept) mRendered.erase(mRendered.begin());
-  mRendered.push_back(QPixmap::fromImage(std::move(image)));
+  mRendered.push_back(QPixmap::fromImage(made(devicePixels)));
   return mRendered.back();
 }
 

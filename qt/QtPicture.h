@@ -1,18 +1,17 @@
 // Pictures from files, as widgets draw them and as the toolkit's images.
 #pragma once
 
+#include <QByteArray>
 #include <QImage>
 #include <QPixmap>
 #include <QRectF>
 #include <QSizeF>
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "platform/ports/Drawing.h"
 
 class QPainter;
-class QSvgRenderer;
 
 namespace cutline {
 
@@ -21,13 +20,12 @@ namespace cutline {
 std::optional<std::string> pictureFileType(std::size_t index);
 
 // A picture file, read when it is first needed and drawn crisp at any device pixel ratio. Vector
-// pictures are rendered for the device, bitmaps are scaled.
+// pictures are rendered for the device where no bitmap of theirs fits, bitmaps are scaled.
 class QtPicture {
  public:
   explicit QtPicture(std::string path);
   QtPicture(const QtPicture&) = delete;
   QtPicture& operator=(const QtPicture&) = delete;
-  ~QtPicture();
 
   const std::string& path() const noexcept { return mPath; }
 
@@ -45,11 +43,15 @@ class QtPicture {
 
  private:
   void read();
+  void readFile();
+  QImage made(const QSize& devicePixels);
   QPixmap rendered(const QSize& devicePixels);
 
   std::string mPath;
   bool mRead = false;
-  std::unique_ptr<QSvgRenderer> mVector;
+  bool mHasDrawn = false;  // there are bitmaps of the vector picture, whose bytes are not read yet
+  QByteArray mVector;      // its bytes; none of a bitmap
+  QSizeF mSize;
   QImage mBitmap;
   std::vector<QPixmap> mRendered;  // for the last few sizes asked for
 };

@@ -1,0 +1,49 @@
+// cutline_bitmaps FOLDER PICTURE.svg...
+// Draws each vector picture into FOLDER as bitmaps: PICTURE@1x.png has a dot for each of its
+// points, PICTURE@2x.png has two in each direction. The host draws them where they fit, which takes
+// a fraction of the time (qt/DrawnBitmap.h).
+#include <QFileInfo>
+#include <QImage>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+constexpr int kScales[] = {1, 2};
+
+// With the rights of an installation: a loader refuses what others may write.
+constexpr QFile::Permissions kRights =
+    QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther;
+
+QImage drawn(QSvgRenderer& picture, int scale) {
+  QImage image(picture.defaultSize() * scale, QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
+  picture.render(&painter);
+  painter.end();
+  return image;
+}
+
+bool drawAll(const QString& folder, const QString& path) {
+  QSvgRenderer picture(path);
+  if (!picture.isValid()) return false;
+  for (const int scale : kScales) {
+    const QString name = QStringLiteral("%1/%2@%3x.png");
+    const QString file = name.arg(folder, QFileInfo(path).completeBaseName()).arg(scale);
+    if (!drawn(picture, scale).save(file) || !QFile::setPermissions(file, kRights)) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  for (int at = 2; at < argc; ++at) {
+    if (drawAll(QFile::decodeName(argv[1]), QFile::decodeName(argv[at]))) continue;
+    std::fprintf(stderr, "cutline_bitmaps: %s cannot be drawn\n", argv[at]);
+    return EXIT_FAILURE;
+  }
+  return EXIT_SUCCESS;
+}
