@@ -25,6 +25,7 @@
 #include "host/dialog/ParentWindow.h"
 #include "host/dialog/Remembered.h"
 #include "host/dialog/StartTimes.h"
+#include "host/dialog/WindowPixels.h"
 #include "qt/QtText.h"
 
 namespace cutline {
@@ -183,6 +184,9 @@ PrintSource DialogSession::source() const {
 }
 
 int DialogSession::run() {
+  mSize = windowSize();
+  if (mLine.command != Command::snapshot)
+    mPixels = startPreparingPixels(mDialog->makeWindow(mSize));
   awaitPrinter();
   const int status = QApplication::exec();
   if (mLine.isChoosing && status == kExitDone)
@@ -257,8 +261,8 @@ void DialogSession::open(const PrinterChoice& printer) {
   if (wasVisible) mDialog->update();
 }
 
-void DialogSession::show() {
-  if (mDialog->isVisible()) return;
+// As it was left, or as large as there is room for.
+QSize DialogSession::windowSize() const {
   QSize size = kWindowSize;
   if (isForAPerson(mLine)) {
     const QSize last = Remembered().windowSize();
@@ -268,7 +272,13 @@ void DialogSession::show() {
     const QSize room = mDialog->screen()->availableSize() - QSize(kScreenMargin, kScreenMargin);
     size = size.boundedTo(room);
   }
-  mDialog->layOut(size);
+  return size;
+}
+
+void DialogSession::show() {
+  if (mDialog->isVisible()) return;
+  mDialog->layOut(mSize);
+  mPixels = {};
   if (mLine.parentWindow) setParentWindow(*mDialog, *mLine.parentWindow);
   mDialog->show();
 }

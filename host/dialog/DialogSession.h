@@ -51,6 +51,7 @@ class DialogSession : public QObject {
   void awaitPrinter();
   void takePrinter(const Result<PrinterChoice>& printer);
   void open(const PrinterChoice& printer);
+  QSize windowSize() const;
   void show();
   void didPaintFirst();
   void finishMeasuring();
@@ -72,6 +73,8 @@ class DialogSession : public QObject {
   std::shared_ptr<HeldJobPrintServer> mHeldJob;  // null for a dialog of one's own documents
   std::shared_ptr<JobLeftBehind> mLeft;
   std::unique_ptr<PrintDialog> mDialog;
+  QSize mSize;                // of the window as it opens
+  std::future<void> mPixels;  // ends before they can be others
   bool mIsComplete = false;
   bool mHasFailed = false;
   bool mHasPainted = false;

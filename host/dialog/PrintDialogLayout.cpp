@@ -1,4 +1,5 @@
 // The part of PrintDialog that lays its widgets out.
+#include <QBackingStore>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -75,6 +76,14 @@ void PrintDialog::makeLayout() {
   mBottom->addWidget(mProgress);
   mBottom->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   column->addWidget(mBottom);
+}
+
+QBackingStore& PrintDialog::makeWindow(QSize size) {
+  resize(size);
+  adjustPosition(parentWidget());
+  create();
+  backingStore()->resize(size);
+  return *backingStore();
 }
 
 // Layouts of what is not seen yet keep what they knew of it, and learn what has changed with the
