@@ -37,8 +37,9 @@ int cannotLoad() {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // A thread beside the dialog lives for a moment; what it needs comes and goes with the rest.
-  ::mallopt(M_ARENA_MAX, 1);
+  // Threads beside the dialog live for a moment, and share what they need; this one must not wait for
+  // them with each piece of memory.
+  ::mallopt(M_ARENA_MAX, 2);
   cutline::WaitingHelper composer;
   const bool isEarly = cutline::startEarlyComposer(argc, argv, composer);
   void* const library = loadProgram();
