@@ -18,6 +18,8 @@ using ProgramFunction = decltype(&CutlineRunProgram);
 // By its path, since nobody may put another in its place. As if it had been linked: each library is
 // bound as it says itself, and modules and bundles find what the program has.
 void* loadProgram() {
+  // Of the names that a library looks up most are this one's own: it is bound while few are loaded.
+  ::dlopen("libstdc++.so.6", RTLD_LAZY | RTLD_GLOBAL);
   char path[PATH_MAX];
   // The program takes the one of that name which is there.
   if (cutline::mayBeLean(cutline::LeanPart::printLibrary) &&
@@ -37,8 +39,8 @@ int cannotLoad() {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // Threads beside the dialog live for a moment, and share what they need; this one must not wait for
-  // them with each piece of memory.
+  // Threads beside the dialog live for a moment, and share what they need; this one must not wait
+  // for them with each piece of memory.
   ::mallopt(M_ARENA_MAX, 2);
   cutline::WaitingHelper composer;
   const bool isEarly = cutline::startEarlyComposer(argc, argv, composer);

@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QTimer>
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <iostream>
 #include <optional>
@@ -207,6 +208,8 @@ void DialogSession::rememberJob() {
 }
 
 void DialogSession::awaitPrinter() {
+  if (mPrinter.wait_for(std::chrono::seconds(0)) == std::future_status::ready)
+    return QTimer::singleShot(0, this, [this] { takePrinter(mPrinter.get()); });
   mBackground.start([this, printer = mPrinter]() -> Background::Delivery {
     printer.wait();
     return [this, printer] { takePrinter(printer.get()); };
