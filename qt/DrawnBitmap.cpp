@@ -2,6 +2,7 @@
 
 #include <png.h>
 
+#include <filesystem>
 #include <optional>
 #include <string_view>
 
@@ -14,7 +15,9 @@ namespace {
 constexpr std::string_view kVector = ".svg";
 
 std::string bitmapPath(const std::string& picture, int scale) {
-  return picture.substr(0, picture.size() - kVector.size()) + '@' + std::to_string(scale) + "x.png";
+  const std::filesystem::path path(picture);
+  const std::string name = path.stem().string() + '@' + std::to_string(scale) + "x.png";
+  return path.parent_path() / kBitmapFolder / name;
 }
 
 // A PNG of a bundle's, as libpng reads it at once.

@@ -8,7 +8,10 @@
 
 namespace cutline {
 
-// NAME@1x.png beside NAME.svg has a dot for each of its points, NAME@2x.png two in each direction.
+// Beside the pictures, where nobody looks for pictures by their names.
+inline constexpr char kBitmapFolder[] = "bitmaps";
+
+// There NAME@1x.png has a dot for each point of NAME.svg, NAME@2x.png two in each direction.
 inline constexpr int kDrawnScales[] = {1, 2};
 
 // The size of the vector picture, in points, as its bitmap has it; empty where there is none, or no

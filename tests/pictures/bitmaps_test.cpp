@@ -13,7 +13,7 @@ namespace cutline::pictures {
 namespace {
 
 constexpr char kFolder[] =
-    CUTLINE_BUILD_DIR "/lib/cutline/plugins/CutOptions.plugin/Contents/Resources/";
+    CUTLINE_BUILD_DIR "/lib/cutline/plugins/CutOptions.plugin/Contents/Resources/bitmaps/";
 
 // A bitmap keeps colours apart from how much of them is seen, which may round each.
 constexpr int kRounding = 1;

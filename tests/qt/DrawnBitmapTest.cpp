@@ -16,7 +16,7 @@ namespace {
 class DrawnBitmapTest : public testing::Test {
  protected:
   std::string addBitmap(const std::string& name, const QSize& size, const QColor& color) {
-    const std::string path = files.add(QString::fromStdString(name), "");
+    const std::string path = files.add(QString::fromStdString("bitmaps/" + name), "");
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(color);
     EXPECT_TRUE(image.save(QString::fromStdString(path), "PNG"));
@@ -60,19 +60,19 @@ TEST_F(DrawnBitmapTest, IsLeftOutWhereItIsNoBitmapOfThePicture) {
   addBitmap("plain@1x.png", {40, 20}, QColor::fromRgb(kOnce));
   addBitmap("plain@2x.png", {81, 40}, QColor::fromRgb(kTwice));
   EXPECT_EQ(colorDrawn(80), kPicture);
-  files.add("plain@2x.png", "no PNG");
+  files.add("bitmaps/plain@2x.png", "no PNG");
   EXPECT_EQ(colorDrawn(80), kPicture);
   const std::string damaged = addBitmap("plain@2x.png", {80, 40}, QColor::fromRgb(kTwice));
   std::filesystem::resize_file(damaged, std::filesystem::file_size(damaged) / 2);
   EXPECT_EQ(colorDrawn(80), kPicture);
-  files.add("plain@1x.png", "");
+  files.add("bitmaps/plain@1x.png", "");
   EXPECT_EQ(colorDrawn(40), kPicture);
 }
 
 TEST_F(DrawnBitmapTest, IsOfVectorPicturesAlone) {
   addBitmap("other@1x.png", {40, 20}, QColor::fromRgb(kOnce));
   EXPECT_TRUE(sizeOfDrawn(mPicture.substr(0, mPicture.size() - 9) + "other.svg").isEmpty());
-  EXPECT_TRUE(sizeOfDrawn(addBitmap("other.png", {40, 20}, Qt::black)).isEmpty());
+  EXPECT_TRUE(sizeOfDrawn(files.addPlain("other.png", "#000000")).isEmpty());
   EXPECT_TRUE(sizeOfDrawn("").isEmpty());
 }
 

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QString>
 #include <QTemporaryDir>
@@ -100,11 +101,12 @@ class QtPanelFixture : public testing::Test {
   std::shared_ptr<View> root = toolkit.createView({{0, 0}, {300, 200}});
 };
 
-// A directory of picture files made for a test.
+// A directory of picture files made for a test, some in folders of it.
 class PictureFiles {
  public:
   std::string add(const QString& name, const QByteArray& content) {
     QFile file(mDirectory.filePath(name));
+    EXPECT_TRUE(QDir().mkpath(QFileInfo(file).path()));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(content);
     return file.fileName().toStdString();
