@@ -10,6 +10,7 @@
 #include <QSpinBox>
 
 #include "base/Numbers.h"
+#include "host/dialog/NarrowComboBox.h"
 #include "host/dialog/NoticeView.h"
 #include "qt/QtText.h"
 #include "qt/accessibility.h"
@@ -18,6 +19,7 @@ namespace cutline {
 namespace {
 
 constexpr int kColumnGap = 12;
+constexpr int kPaperLetters = 12;
 constexpr int kFieldMargins = 16;  // of a field, around its text
 
 }  // namespace
@@ -33,7 +35,7 @@ JobForm::JobForm(QWidget* parent)
       mCollated(new QCheckBox(tr("Collate"), this)),
       mReversed(new QCheckBox(tr("Last page first"), this)),
       mPaperCaption(new QLabel(tr("Pape&r:"), this)),
-      mPapers(new QComboBox(this)) {
+      mPapers(new NarrowComboBox(kPaperLetters, this)) {
   mCopies->setRange(1, kMostCopies);
   mCopies->setAccessibleName(tr("Copies"));
   mCopiesCaption->setBuddy(mCopies);
@@ -46,8 +48,6 @@ JobForm::JobForm(QWidget* parent)
   mCollated->setToolTip(
       tr("The whole document once a copy, instead of each label as often as "
          "there are copies"));
-  mPapers->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  mPapers->setMinimumContentsLength(12);
   mPapers->setAccessibleName(tr("Paper"));
   mPaperCaption->setBuddy(mPapers);
   layOut();

@@ -12,6 +12,7 @@
 #include <cmath>
 
 #include "host/dialog/LayoutAsSeen.h"
+#include "host/dialog/NarrowComboBox.h"
 #include "qt/QtText.h"
 #include "qt/accessibility.h"
 
@@ -88,7 +89,8 @@ LayoutForm::LayoutForm(QWidget* parent)
       mTurn(makeList(tr("Turn"), &LayoutForm::reportLayout)),
       mPlace(makeList(tr("Place"), &LayoutForm::reportLayout)),
       mUnit(makeList(tr("Labels"), &LayoutForm::reportLayout)),
-      mFont(makeList(tr("Font"), &LayoutForm::reportLayout)),
+      mFont(
+          prepared(new NarrowComboBox(kFontLetters, this), tr("Font"), &LayoutForm::reportLayout)),
       mTextSize(makeNumber(tr("Text size"), &LayoutForm::reportLayout)) {
   mPercent->setRange(1, kMostPercent);
   mPercent->setSuffix(QStringLiteral(" %"));
@@ -96,15 +98,17 @@ LayoutForm::LayoutForm(QWidget* parent)
   mTextSize->setRange(0, kMostTextSize);
   mTextSize->setSpecialValueText(tr("Automatic"));
   mTextSize->setSuffix(QStringLiteral(" pt"));
-  mFont->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  mFont->setMinimumContentsLength(kFontLetters);
   fillLists();
   layOut();
   refresh();
 }
 
 QComboBox* LayoutForm::makeList(const QString& name, void (LayoutForm::*report)()) {
-  auto* list = new QComboBox(this);
+  return prepared(new QComboBox(this), name, report);
+}
+
+QComboBox* LayoutForm::prepared(QComboBox* list, const QString& name,
+                                void (LayoutForm::*report)()) {
   list->setAccessibleName(name);
   connect(list, &QComboBox::activated, this, report);
   return list;

@@ -42,6 +42,7 @@ class LayoutForm : public QWidget {
 
  private:
   QComboBox* makeList(const QString& name, void (LayoutForm::*report)());
+  QComboBox* prepared(QComboBox* list, const QString& name, void (LayoutForm::*report)());
   QDoubleSpinBox* makeNumber(const QString& name, void (LayoutForm::*report)());
   QLabel* makeCaption(const QString& text, QWidget* field);
   void fillLists();

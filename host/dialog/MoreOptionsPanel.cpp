@@ -10,6 +10,7 @@
 #include <optional>
 #include <utility>
 
+#include "host/dialog/NarrowComboBox.h"
 #include "qt/QtText.h"
 #include "qt/accessibility.h"
 
@@ -20,6 +21,8 @@ struct SwitchNames {
   const char* off;
   const char* on;
 };
+constexpr int kChoiceLetters = 8;
+
 constexpr std::array kSwitches =
     std::to_array<SwitchNames>({{"false", "true"}, {"off", "on"}, {"no", "yes"}});
 
@@ -121,9 +124,7 @@ QWidget* MoreOptionsPanel::makeCheckBox(const PpdOption& option) {
 }
 
 QWidget* MoreOptionsPanel::makeComboBox(const PpdOption& option) {
-  auto* combo = new QComboBox;
-  combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  combo->setMinimumContentsLength(8);
+  auto* combo = new NarrowComboBox(kChoiceLetters);
   for (const OptionChoice& choice : option.choices) {
     combo->addItem(toQString(choice.text), toQString(choice.name));
   }

@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "host/dialog/Icons.h"
+#include "host/dialog/NarrowComboBox.h"
 
 namespace cutline {
 
@@ -91,12 +92,12 @@ void PresetNameDialog::check() {
 
 namespace {
 
-constexpr int kLeastLetters = 12;
+constexpr int kPresetLetters = 12;
 constexpr int kLeastWidth = 120;  // where there is no room for more of a name
 
 // How many of the letters that a combo box counts in are as wide as the text.
-int lettersFor(const QComboBox& combo, const QString& text) {
-  const QFontMetrics metrics = combo.fontMetrics();
+int lettersFor(const QWidget& widget, const QString& text) {
+  const QFontMetrics metrics = widget.fontMetrics();
   return metrics.horizontalAdvance(text) / metrics.horizontalAdvance(QLatin1Char('X')) + 1;
 }
 
@@ -107,11 +108,9 @@ QString ownSettings() { return PresetBar::tr("Printer's own settings"); }
 PresetBar::PresetBar(QWidget* parent)
     : QWidget(parent),
       mCaption(new QLabel(tr("Pr&eset:"), this)),
-      mPresets(new QComboBox(this)),
+      mPresets(new NarrowComboBox(qMax(kPresetLetters, lettersFor(*this, ownSettings())), this)),
       mSave(makeButton(Glyph::save, tr("Save these settings as a preset"))),
       mRemove(makeButton(Glyph::remove, tr("Delete the chosen preset"))) {
-  mPresets->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  mPresets->setMinimumContentsLength(qMax(kLeastLetters, lettersFor(*mPresets, ownSettings())));
   mPresets->setMinimumWidth(kLeastWidth);
   mPresets->setAccessibleName(tr("Preset"));
   mCaption->setBuddy(mPresets);

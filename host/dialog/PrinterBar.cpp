@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "host/dialog/DialogLanguage.h"
+#include "host/dialog/NarrowComboBox.h"
 #include "qt/QtText.h"
 #include "qt/accessibility.h"
 
@@ -16,6 +17,7 @@ namespace cutline {
 namespace {
 
 constexpr int kIconGap = 6;
+constexpr int kPrinterLetters = 12;
 constexpr int kMostRows = 16;  // of the open list; it has a scroll bar for more
 constexpr int kStateRole = Qt::UserRole + 1;
 
@@ -62,15 +64,13 @@ Severity severityOfState(const Destination& destination) {
 PrinterBar::PrinterBar(QWidget* parent)
     : QWidget(parent),
       mCaption(new QLabel(tr("&Printer:"), this)),
-      mPrinters(new QComboBox(this)),
+      mPrinters(new NarrowComboBox(kPrinterLetters, this)),
       mIcon(new StatusIcon(Severity::info, this)),
       mState(new QLabel(this)) {
-  mPrinters->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  mPrinters->setMinimumContentsLength(12);
   mPrinters->setAccessibleName(tr("Printer"));
   mPrinters->setPlaceholderText(tr("Choose a printer"));
   mPrinters->setMaxVisibleItems(kMostRows);
-  mPrinters->setItemDelegate(new StateDelegate(mPrinters));
+  mPrinters->setRows(new StateDelegate(mPrinters));
   mCaption->setBuddy(mPrinters);
   mState->setTextFormat(Qt::PlainText);
   mState->setWordWrap(true);

@@ -7,10 +7,11 @@
 #include "cups/Destination.h"
 #include "host/dialog/NoticeView.h"
 
-class QComboBox;
 class QLabel;
 
 namespace cutline {
+
+class NarrowComboBox;
 
 // How serious a printer's state is for somebody who wants to print now.
 Severity severityOfState(const Destination& destination);
@@ -48,7 +49,7 @@ class PrinterBar : public QWidget {
   void showState(Severity severity, const QString& text);
 
   QLabel* mCaption;
-  QComboBox* mPrinters;
+  NarrowComboBox* mPrinters;
   StatusIcon* mIcon;
   QLabel* mState;
 };
