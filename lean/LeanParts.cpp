@@ -58,7 +58,7 @@ bool isTheOneInUse(const LeanOrigin& origin) noexcept {
 
 bool mayBeLean(LeanPart part) noexcept {
   const std::span<const LeanOrigin> origins = originsOf(part);
-  return !origins.empty() && std::ranges::all_of(origins, isTheOneInUse);
+  return areInstalled(origins) && std::ranges::none_of(origins, isNamedElsewhere);
 }
 
 }  // namespace cutline

@@ -43,8 +43,8 @@ class PictureReader {
     mReader.setDevice(&mBuffer);
     mReader.setFormat(type);
   }
-  // Empty where it is unknown or the bytes are of another kind.
-  QSize size() const { return mReader.size().isValid() ? mReader.size() : QSize(); }
+  // Not valid where it is unknown or the bytes are of another kind.
+  QSize size() const { return mReader.size(); }
   // Where the size stands in the bytes it must be there, and not too large.
   bool canRead() {
     if (!mReader.canRead()) return false;
@@ -117,7 +117,7 @@ void QtPicture::readFile() {
   const QByteArray bytes = pictureBytes(mPath);
   if (isVector(bytes)) {
     mVector = bytes;
-    mSize = PictureReader(kVectorType, bytes).size();
+    mSize = PictureReader(kVectorType, bytes).size().expandedTo({0, 0});
     return;
   }
   mBitmap = PictureReader(typeOf(mPath), bytes).read();
