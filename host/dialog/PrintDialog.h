@@ -86,8 +86,8 @@ class PrintDialog : public QDialog, private PrintModelListener {
   // What is in the dialog now.
   const std::vector<std::string>& documents() const noexcept { return mSource.paths; }
 
-  // Before all that: has the window system make a window of that size, which is not seen yet, and
-  // gives what it will be painted on. It lives as long as the dialog.
+  // Before a printer is opened: has the window system make a window of that size, which is not seen
+  // yet, and gives what it will be painted on. It lives as long as the dialog.
   QBackingStore& makeWindow(QSize size);
 
   // Before it is shown: takes the size, or what it needs at least, and lays itself out in it.
