@@ -170,6 +170,7 @@ constexpr std::array kRequestFields = std::to_array<Field<Request>>({
      [](Request& request, Values& values) { request.takesAllWhereFew = values.flag(); }},
     {"mirrored",
      [](Request& request, Values& values) { request.isMirrored = values.flag(); }},
+    {"seeksink", [](Request& request, Values& values) { request.seeksInk = values.flag(); }},
     {"document", [](Request& request, Values& values) { request.names.push_back(values.text()); }},
 });
 
@@ -189,6 +190,7 @@ constexpr std::array kReportFields = std::to_array<Field<Report>>({
        page.size.isStated = values.flag();
        page.scale = values.number();
        page.turn = values.whole();
+       page.hasPrintableInk = values.flag();
        report.pages.push_back(page);
      }},
     {"failure",
@@ -228,6 +230,7 @@ std::string CompositionRequest::asText() const {
   writer.text("ranges", pages.ranges.text());
   writer.numbers("allwherefew", {numberOf(takesAllWhereFew)});
   writer.numbers("mirrored", {numberOf(isMirrored)});
+  writer.numbers("seeksink", {numberOf(seeksInk)});
   for (const std::string& name : names) writer.text("document", name);
   return writer.take();
 }
@@ -247,7 +250,7 @@ std::string CompositionReport::asText() const {
   writer.numbers("documentpages", {numberOf(documentPages), numberOf(isPartial)});
   for (const ComposedPage& page : pages)
     writer.numbers("page", {page.size.width, page.size.height, numberOf(page.size.isStated),
-                            page.scale, numberOf(page.turn)});
+                            page.scale, numberOf(page.turn), numberOf(page.hasPrintableInk)});
   return writer.take();
 }
 

@@ -49,6 +49,8 @@ struct CompositionRequest {
   // All pages that are chosen instead of the most, where these are few and soon composed.
   bool takesAllWhereFew = false;
   bool isMirrored = false;
+  // The report tells of pages that reach beyond what can be printed whether their ink does.
+  bool seeksInk = false;
   // Of the documents, in order, for people; the documents come as open files beside the request.
   std::vector<std::string> names;
 
@@ -60,6 +62,9 @@ struct ComposedPage {
   PageSize size;     // of the document's page
   double scale = 1;  // as placed
   int turn = 0;      // as placed, clockwise degrees
+  // All that it draws can be printed, as its content tells. Where it is false nobody knows, or
+  // nobody asked for it.
+  bool hasPrintableInk = false;
 };
 
 enum class DocumentProblem {

@@ -35,14 +35,19 @@ int percentOf(double scale) {
 
 }  // namespace
 
+bool mayLoseEdges(const ComposedPage& page, const LabelPage& label,
+                  const LayoutSettings& settings) {
+  return settings.scaling != Scaling::fill && isWholeOn(page, label) &&
+         !isWhollyPrintable(page.size, label, settings);
+}
+
 std::vector<int> labelsAtTheirEdges(const CompositionReport& report,
                                     const LayoutSettings& settings) {
-  if (settings.scaling == Scaling::fill) return {};
   std::vector<int> labels;
   const int count = std::min(static_cast<int>(report.pages.size()), kMostInks);
   for (int label = 0; label < count; ++label) {
     const ComposedPage& page = report.pages[static_cast<std::size_t>(label)];
-    if (isWholeOn(page, report.label) && !isWhollyPrintable(page.size, report.label, settings))
+    if (!page.hasPrintableInk && mayLoseEdges(page, report.label, settings))
       labels.push_back(label);
   }
   return labels;

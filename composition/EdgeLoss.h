@@ -15,8 +15,11 @@ struct EdgeLoss {
   std::vector<int> labels;  // from 0, never empty
   int percent = 100;        // of the documents' own sizes: with it nothing is cut off on any label
 };
-// The labels that have to be looked at to know it, from 0, of the first kMostInks: where all of a
-// page can be printed, so can its ink, and of one that is larger than its label nothing is said.
+// Whether the ink of a page has to be known for that: where all of a page can be printed, so can
+// its ink, and of one that is larger than its label nothing is said.
+bool mayLoseEdges(const ComposedPage& page, const LabelPage& label, const LayoutSettings& settings);
+
+// The labels that have to be looked at, from 0, of the first kMostInks.
 std::vector<int> labelsAtTheirEdges(const CompositionReport& report,
                                     const LayoutSettings& settings);
 

@@ -137,11 +137,6 @@ Placement inverse(const Placement& at) {
           (at.b * at.e - at.a * at.f) / determinant};
 }
 
-bool isPrintable(const Area& ink, const LabelPage& label) {
-  return ink.left >= label.left - kInkTolerance && ink.right <= label.right + kInkTolerance &&
-         ink.bottom >= label.bottom - kInkTolerance && ink.top <= label.top + kInkTolerance;
-}
-
 }  // namespace
 
 int turnOf(const PageSize& page, const LabelPage& label, Turn turn) {
@@ -185,6 +180,11 @@ double lengthFor(const PageSize& page, const LabelPage& label, const LayoutSetti
   const double scale = scaleOf(page, extent, endless, byWidth);
   const double margins = label.bottom + label.length - label.top;
   return std::clamp(extent.along * scale + margins, bounds.shortest, bounds.longest);
+}
+
+bool isPrintable(const Area& ink, const LabelPage& label) {
+  return ink.left >= label.left - kInkTolerance && ink.right <= label.right + kInkTolerance &&
+         ink.bottom >= label.bottom - kInkTolerance && ink.top <= label.top + kInkTolerance;
 }
 
 std::optional<int> percentWithoutLoss(const PageSize& page, const LabelPage& label,

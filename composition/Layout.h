@@ -78,6 +78,9 @@ struct Area {
   friend bool operator==(const Area&, const Area&) = default;
 };
 
+// Whether the printer reaches all of it on this label, but for less than anybody sees.
+bool isPrintable(const Area& ink, const LabelPage& label);
+
 // The largest whole percentage of the page's own size at which `ink`, the part of this label that
 // the page as placed now has something in, lies in the printable area; nothing when it does now, or
 // when no size helps.

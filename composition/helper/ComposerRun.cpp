@@ -22,7 +22,7 @@ constexpr ProcessLimits kLimits = {
 // Nothing where there is no request to make a report of.
 std::optional<CompositionReport> answeredBy(ComposingTask& task) {
   ::alarm(kLimits.wallSeconds);
-  task.prepare(/*hasTime=*/!isTextSent(STDIN_FILENO));
+  task.prepare([] { return isTextSent(STDIN_FILENO); });
   // Who asks may take as long as it likes.
   ::alarm(0);
   const auto text = receiveText(STDIN_FILENO);

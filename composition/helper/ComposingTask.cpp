@@ -38,13 +38,14 @@ ComposingTask::ComposingTask(std::vector<FileDescriptor> files, const ProcessLim
   for (std::size_t at = 1; at < mFiles.size(); ++at) mDocuments.push_back(mFiles[at].get());
 }
 
-void ComposingTask::prepare(bool hasTime) {
+void ComposingTask::prepare(const std::function<bool()>& isAsked) {
+  const bool hasTime = !isAsked();
   for (const int document : mDocuments) takeKind(kindOf(document));
   if (mHasPostScript) return;
   // Later the process may not change it.
   if (hasTime) giveWay();
   mIsConfined = confineNow();
-  if (hasTime && mIsConfined) mComposer.readAhead(mDocuments);
+  if (hasTime && mIsConfined) mComposer.readAhead(mDocuments, isAsked);
 }
 
 CompositionReport ComposingTask::compose(const CompositionRequest& request) {

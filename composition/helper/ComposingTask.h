@@ -1,6 +1,7 @@
 // What the confined composer does with the files that it is given.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -22,9 +23,9 @@ class ComposingTask {
   std::size_t documents() const { return mDocuments.size(); }
 
   // What can be done before there is a request: loads what reads the documents and confines the
-  // process; where there is time, reads ahead, too, and gives way to all others from then on.
+  // process; while nobody asks, reads ahead, too, and gives way to all others from then on.
   // PostScript waits for the request: it needs another program, which a confined one cannot start.
-  void prepare(bool hasTime);
+  void prepare(const std::function<bool()>& isAsked);
   // Once only. What a document does wrong is a failure in the report.
   CompositionReport compose(const CompositionRequest& request);
 

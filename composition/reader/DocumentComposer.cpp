@@ -3,12 +3,15 @@
 #include <algorithm>
 #include <cmath>
 #include <exception>
+#include <functional>
 #include <new>
 #include <qpdf/QPDFExc.hh>
 #include <stdexcept>
 #include <utility>
 
+#include "composition/EdgeLoss.h"
 #include "composition/reader/DocumentBytes.h"
+#include "composition/reader/InkBounds.h"
 #include "composition/reader/OpenedDocument.h"
 #include "composition/reader/PageChoice.h"
 #include "composition/reader/ReadAhead.h"
@@ -60,7 +63,12 @@ Refusal refusal() {
 
 class DocumentComposer::Composing {
  public:
-  void readAhead(const std::vector<int>& documents) noexcept { mAhead.read(documents, mLabels); }
+  void readAhead(const std::vector<int>& documents, const std::function<bool()>& isAsked) noexcept {
+    for (QPDFObjectHandle& form : mAhead.read(documents, mLabels)) {
+      if (isAsked()) return;
+      mInk.read(form);
+    }
+  }
 
   CompositionReport compose(const CompositionRequest& request, const std::vector<int>& documents,
                             int output, const ReaderModules& modules) noexcept {
@@ -131,17 +139,26 @@ class DocumentComposer::Composing {
     mLabels.setLabel(mReport.label, mRequest.isMirrored);
     for (const Page& page : mPages) {
       mCurrent = page.documentIndex;
-      const Placement placement = placed(page.size, mReport.label, page.document->layout);
-      mLabels.addPage(page.document->source->draw(page.number, mLabels), placement);
-      mReport.pages.push_back({page.size, placement.scale, placement.turn});
+      const LayoutSettings& layout = page.document->layout;
+      const Placement placement = placed(page.size, mReport.label, layout);
+      const DrawnPage drawn = page.document->source->draw(page.number, mLabels);
+      mLabels.addPage(drawn, placement);
+      ComposedPage& composed =
+          mReport.pages.emplace_back(ComposedPage{page.size, placement.scale, placement.turn});
+      if (isInkSought() && mayLoseEdges(composed, mReport.label, layout))
+        composed.hasPrintableInk =
+            mInk.arePrintable(drawn.form, mLabels.placing(drawn, placement), mReport.label);
     }
     mLabels.write(output);
   }
+
+  bool isInkSought() const { return mRequest.seeksInk && mReport.pages.size() <= kMostInks; }
 
   CompositionRequest mRequest;
   std::size_t mBytes = 0;  // of all documents
   ReadAhead mAhead;
   std::vector<OpenedDocument> mDocuments;
+  InkBounds mInk;
   LabelWriter mLabels;  // reads from the documents as long as it lives
   std::vector<Page> mPages;
   int mCurrent = 0;  // the document that is being read
@@ -151,8 +168,9 @@ class DocumentComposer::Composing {
 DocumentComposer::DocumentComposer() : mComposing(std::make_unique<Composing>()) {}
 DocumentComposer::~DocumentComposer() = default;
 
-void DocumentComposer::readAhead(const std::vector<int>& documents) noexcept {
-  mComposing->readAhead(documents);
+void DocumentComposer::readAhead(const std::vector<int>& documents,
+                                 const std::function<bool()>& isAsked) noexcept {
+  mComposing->readAhead(documents, isAsked);
 }
 
 CompositionReport DocumentComposer::compose(const CompositionRequest& request,

@@ -2,6 +2,7 @@
 // a document does to its reader, nobody else is there.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -20,8 +21,9 @@ class DocumentComposer {
   ~DocumentComposer();
 
   // Reads what any request would have read, before there is one. The files stay the caller's; the
-  // very same are composed then. What is wrong with them is told then, too.
-  void readAhead(const std::vector<int>& documents) noexcept;
+  // very same are composed then. What is wrong with them is told then, too. What not every request
+  // needs is made until `isAsked`.
+  void readAhead(const std::vector<int>& documents, const std::function<bool()>& isAsked) noexcept;
 
   // Once only. `documents` are open files, one for each of the request's names, read from their
   // beginnings; `output` is a file open for writing, empty. All stay the caller's. A module that is

@@ -56,10 +56,20 @@ void LabelWriter::setLabel(const LabelPage& label, bool isMirrored) {
   mIsMirrored = isMirrored;
 }
 
+QPDFMatrix LabelWriter::placing(const DrawnPage& page, const Placement& at) const {
+  QPDFMatrix matrix;
+  if (mIsMirrored) matrix.concat(mirror());
+  matrix.concat({at.a, at.b, at.c, at.d, at.e, at.f});
+  matrix.concat(page.matrix);
+  return matrix;
+}
+
+// About the paper's vertical axis.
+QPDFMatrix LabelWriter::mirror() const { return {-1, 0, 0, 1, mLabel.width, 0}; }
+
 void LabelWriter::addPage(const DrawnPage& drawn, const Placement& placement) {
   std::string content;
-  // About the paper's vertical axis.
-  if (mIsMirrored) content = concatenation({-1, 0, 0, 1, mLabel.width, 0});
+  if (mIsMirrored) content = concatenation(mirror());
   content +=
       concatenation({placement.a, placement.b, placement.c, placement.d, placement.e, placement.f});
   if (drawn.matrix != QPDFMatrix()) content += concatenation(drawn.matrix);

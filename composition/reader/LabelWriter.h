@@ -20,12 +20,15 @@ class LabelWriter {
   void setLabel(const LabelPage& label, bool isMirrored);
   // A label with the page drawn on it as placed.
   void addPage(const DrawnPage& page, const Placement& placement);
+  // From the coordinates of the page's form to those of the label.
+  QPDFMatrix placing(const DrawnPage& page, const Placement& placement) const;
   // A layer that what was drawn belongs to; an object of this PDF.
   void addLayer(const QPDFObjectHandle& layer, bool isHidden);
   // To an open file, which stays the caller's. The same labels give the same bytes.
   void write(int output);
 
  private:
+  QPDFMatrix mirror() const;
   QPDFObjectHandle contentStream(const std::string& content);
 
   QPDF mPdf;

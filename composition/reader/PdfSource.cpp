@@ -81,8 +81,8 @@ DrawnPage PdfSource::draw(int page, LabelWriter& labels) {
   return {mAnnotations->above(contentOf(page, frame, labels), pageAt(page), frame), frame.matrix};
 }
 
-void PdfSource::drawAhead(int page, LabelWriter& labels) {
-  contentOf(page, pdfFrame(pageAt(page)), labels);
+QPDFObjectHandle PdfSource::drawAhead(int page, LabelWriter& labels) {
+  return contentOf(page, pdfFrame(pageAt(page)), labels);
 }
 
 QPDFObjectHandle PdfSource::contentOf(int page, const PdfFrame& frame, LabelWriter& labels) {

@@ -30,8 +30,8 @@ class PdfSource : public DocumentSource {
   int pageCount() override { return mPageCount; }
   PageSize pageSize(int page) override;
   DrawnPage draw(int page, LabelWriter& labels) override;
-  // Makes what takes long of a page that may be drawn.
-  void drawAhead(int page, LabelWriter& labels);
+  // Makes what takes long of a page that may be drawn, the form of its content, and gives it.
+  QPDFObjectHandle drawAhead(int page, LabelWriter& labels);
 
  private:
   // Refuses what must not be printed, and finds the pages.

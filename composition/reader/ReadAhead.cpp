@@ -7,11 +7,12 @@
 
 namespace cutline {
 
-void ReadAhead::read(const std::vector<int>& documents, LabelWriter& labels) noexcept {
+std::vector<QPDFObjectHandle> ReadAhead::read(const std::vector<int>& documents,
+                                              LabelWriter& labels) noexcept {
   std::size_t bytes = 0;
   for (const int descriptor : documents) {
     bytes += sizeOf(descriptor);
-    if (bytes > kSoonRead) return;
+    if (bytes > kSoonRead) break;
     try {
       readOne(descriptor, labels);
     } catch (...) {
@@ -19,6 +20,7 @@ void ReadAhead::read(const std::vector<int>& documents, LabelWriter& labels) noe
       continue;
     }
   }
+  return std::move(mForms);
 }
 
 void ReadAhead::readOne(int descriptor, LabelWriter& labels) {
@@ -27,7 +29,10 @@ void ReadAhead::readOne(int descriptor, LabelWriter& labels) {
   if (source->pageCount() > kFewLabels) return;
   // Where it cannot be drawn, it stays there.
   PdfSource& drawn = *mSpoiled.emplace_back(std::move(source));
-  for (int page = 0; page < drawn.pageCount(); ++page) drawn.drawAhead(page, labels);
+  std::vector<QPDFObjectHandle> forms;
+  for (int page = 0; page < drawn.pageCount(); ++page)
+    forms.push_back(drawn.drawAhead(page, labels));
+  mForms.insert(mForms.end(), forms.begin(), forms.end());
   mSources[descriptor] = std::move(mSpoiled.back());
   mSpoiled.pop_back();
 }

@@ -67,10 +67,11 @@ Result<Done> checkFiles(const CommandLine& line) {
   return Error{"-o raw sends one document at a time"};
 }
 
-Result<ComposedDocument> composeFor(HeadlessSession& session) {
+Result<ComposedDocument> composeFor(HeadlessSession& session, bool seeksInk) {
   PrintModel& model = session.model();
   CompositionRequest request = model.compositionRequest();
   request.pages = model.pageSelection();
+  request.seeksInk = seeksInk;
   Result<ComposedDocument> composed = session.composer().compose(request);
   if (!composed) return composed;
   if (request.lengthBounds) model.takeContentLength(composed->report.label.length);
@@ -97,7 +98,7 @@ Result<Done> keepDocument(const CommandLine& line, PluginLoader& plugIns, const 
   if (Result<Done> checked = checkFiles(line); !checked) return checked;
   HeadlessSession session(line, plugIns, streams.notes);
   if (Result<Done> opened = session.openToCompose(); !opened) return opened;
-  const Result<ComposedDocument> composed = composeFor(session);
+  const Result<ComposedDocument> composed = composeFor(session, !line.isQuiet);
   if (!composed) return composed.error();
   noteEdgeLoss(line, *composed, session);
   if (Result<Done> kept = keepAs(line.dryRunPath, *composed); !kept) return kept;

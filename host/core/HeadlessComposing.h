@@ -10,10 +10,10 @@ namespace cutline {
 Result<Done> checkFiles(const CommandLine& line);
 
 // The documents that the session's composer has, on labels. Where the length follows them, the
-// session's model has it afterwards.
-Result<ComposedDocument> composeFor(HeadlessSession& session);
-// Notes what the printer cannot print of them. It draws them to know, which takes longer than to
-// send them.
+// session's model has it afterwards. `seeksInk` as CompositionRequest has it: for noteEdgeLoss.
+Result<ComposedDocument> composeFor(HeadlessSession& session, bool seeksInk);
+// Notes what the printer cannot print of them. Where that cannot be told otherwise it draws them,
+// which takes longer than to send them.
 void noteEdgeLoss(const CommandLine& line, const ComposedDocument& composed,
                   HeadlessSession& session);
 

@@ -47,7 +47,7 @@ class Printing {
   // program takes as long to start as a document to be sent.
   Result<std::string> pathToSend(const Files& files, const Files& next) {
     if (mLine.asked.isRaw()) return files.front();
-    Result<ComposedDocument> composed = composeFor(mSession);
+    Result<ComposedDocument> composed = composeFor(mSession, !mLine.isQuiet);
     if (!next.empty()) mSession.startComposer(next);
     if (!composed) return composed.error();
     mComposed = std::move(*composed);

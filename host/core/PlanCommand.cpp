@@ -21,7 +21,7 @@ void writePlanWords(const CutPlan& plan, std::ostream& out) {
 
 Result<std::optional<int>> pagesToPlan(const CommandLine& line, HeadlessSession& session) {
   if (line.files.empty()) return std::optional<int>();
-  const Result<ComposedDocument> composed = composeFor(session);
+  const Result<ComposedDocument> composed = composeFor(session, /*seeksInk=*/false);
   if (!composed) return composed.error();
   return std::optional(composed->report.documentPages);
 }

@@ -7,6 +7,7 @@
 #include <map>
 #include <stdexcept>
 
+#include "composition/LabelInk.h"
 #include "composition/reader/DocumentComposer.h"
 #include "composition/reader/LibraryPictureReader.h"
 #include "tests/composition/MemoryFile.h"
@@ -17,10 +18,21 @@ namespace {
 constexpr double kScale = 4;  // dots a point
 constexpr double kPointsPerInch = 72;
 
+std::optional<Ink> inkOn(const poppler::image& drawn, const LabelPage& label) {
+  PageImage image{drawn.width(), drawn.height(), {}};
+  for (int row = 0; row < image.height; ++row) {
+    const auto* pixels =
+        reinterpret_cast<const std::uint32_t*>(drawn.const_data() + row * drawn.bytes_per_row());
+    image.pixels.insert(image.pixels.end(), pixels, pixels + image.width);
+  }
+  return inkOf(image, kScale, label);
+}
+
 }  // namespace
 
 CompositionRequest labelRequest() {
   CompositionRequest request;
+  request.seeksInk = true;
   request.label = {100, 200, 10, 20, 90, 180, 0, 90};
   return request;
 }
@@ -58,6 +70,15 @@ Composed::Composed(const std::vector<std::string>& documents, const CompositionR
   if (mReport.failure) return;
   mDrawn->document.reset(
       poppler::document::load_from_raw_data(mPdf.data(), static_cast<int>(mPdf.size())));
+  expectPrintableInk();
+}
+
+void Composed::expectPrintableInk() {
+  for (std::size_t page = 0; page < mReport.pages.size(); ++page) {
+    if (!mReport.pages[page].hasPrintableInk) continue;
+    const auto ink = inkOn(mDrawn->page(static_cast<int>(page)), mReport.label);
+    EXPECT_TRUE(!ink || isPrintable(ink->surely, mReport.label)) << "page " << page + 1;
+  }
 }
 
 void Composed::expectTheSameReadAhead(const CompositionRequest& request,
@@ -65,7 +86,7 @@ void Composed::expectTheSameReadAhead(const CompositionRequest& request,
                                       const ReaderModules& modules) const {
   const MemoryFile output;
   DocumentComposer composer;
-  composer.readAhead(documents);
+  composer.readAhead(documents, [] { return false; });
   const CompositionReport report =
       composer.compose(request, documents, output.descriptor(), modules);
   EXPECT_EQ(report.asText(), mReport.asText());

@@ -48,6 +48,8 @@ class Composed {
 
  private:
   // Whether there was time to read the documents before the request makes no difference.
+  // What is said to be printable is, as drawn.
+  void expectPrintableInk();
   void expectTheSameReadAhead(const CompositionRequest& request, const std::vector<int>& documents,
                               const ReaderModules& modules) const;
 
