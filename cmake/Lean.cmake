@@ -52,7 +52,7 @@ function(cutline_lean_origins OUT)
 endfunction()
 
 if(CUTLINE_LEAN)
-  foreach(LIBRARY cups qpdf png16 jpeg nettle z)
+  foreach(LIBRARY cups qpdf freetype brotlidec brotlicommon png16 jpeg nettle z)
     find_library(LEAN_${LIBRARY}_ARCHIVE lib${LIBRARY}.a)
     find_library(LEAN_${LIBRARY}_LINK lib${LIBRARY}.so)
     if(NOT LEAN_${LIBRARY}_ARCHIVE OR NOT LEAN_${LIBRARY}_LINK)

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "composition/reader/ContentInk.h"
+#include "composition/reader/EmbeddedFont.h"
 #include "composition/reader/Type3Font.h"
 
 namespace cutline {
@@ -65,7 +66,8 @@ GlyphFont& InkWork::fontOf(QPDFObjectHandle font, QPDFObjectHandle resources) {
 
 std::unique_ptr<GlyphFont> InkWork::newFont(QPDFObjectHandle font, QPDFObjectHandle resources) {
   if (!font.getKey("/Subtype").isNameAndEquals("/Type3"))
-    throw std::runtime_error("a font of another kind");
+    return std::make_unique<EmbeddedFont>(
+        std::move(font), [this](QPDFObjectHandle file) { return contentOf(std::move(file)); });
   return std::make_unique<Type3Font>(
       std::move(font), std::move(resources),
       [this](QPDFObjectHandle glyph, QPDFObjectHandle drawnWith) {
