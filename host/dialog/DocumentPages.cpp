@@ -4,8 +4,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <utility>
 
+#include "composition/EdgeLoss.h"
 #include "host/dialog/DialogLanguage.h"
 
 namespace cutline {
@@ -60,7 +62,7 @@ void DocumentLoader::setDocuments(std::vector<std::string> paths, DocumentTools 
   mWanted.reset();
   mDocument.reset();
   mReport = {};
-  mInks.clear();
+  forgetInks();
   ++mComposition;
   mHasFailed = mIsComplete = false;
   mIsInkTold = true;
@@ -89,6 +91,7 @@ void DocumentLoader::ask(bool isFirst) {
   CompositionRequest request = *mWanted;
   request.pages.most = isFirst ? 1 : 0;
   request.takesAllWhereFew = isFirst;
+  request.seeksInk = true;
   mBackground.start([this, isFirst, asked = ++mAsked, paths = mPaths, tools = mTools,
                      request = std::move(request),
                      stop = mStop.get_token()]() -> Background::Delivery {
@@ -117,12 +120,15 @@ void DocumentLoader::take(int asked, bool isFirst, const Result<Answer>& answer)
   mDocument = answer->document;
   mReport = answer->report;
   mHasText = answer->hasText;
-  mInks.clear();
+  forgetInks();
   ++mComposition;
   const bool hasAll =
       !mReport.isPartial && static_cast<int>(mReport.pages.size()) == mReport.documentPages;
   mIsComplete = !isFirst || hasAll;
   mIsInkTold = !mIsComplete;
+  if (mIsComplete)
+    std::ranges::copy(labelsAtTheirEdges(mReport, mWanted->layout),
+                      std::back_inserter(mUnknownInks));
   if (!mIsComplete) ask(false);
   emit composed();
   drawNext();
@@ -132,7 +138,7 @@ void DocumentLoader::fail(const QString& reason) {
   mHasFailed = true;
   mDocument.reset();
   mReport = {};
-  mInks.clear();
+  forgetInks();
   ++mComposition;
   mIsInkTold = true;
   emit failed(reason);
@@ -168,18 +174,23 @@ void DocumentLoader::drawNext() {
     return draw(next, false);
   }
   if (mIsComposing) return;
-  if (const std::optional<PageRequest> next = nextInkRequest()) return draw(*next, true);
+  if (!mUnknownInks.empty()) return drawForInk();
   if (!std::exchange(mIsInkTold, true)) emit inksKnown();
   mRequests.clear();
   if (isIdle()) emit becameIdle();
 }
 
-std::optional<PageRequest> DocumentLoader::nextInkRequest() const {
-  if (!mDocument || !mIsComplete) return std::nullopt;
-  const int next = static_cast<int>(mInks.size());
-  if (next >= std::min(mDocument->pageCount(), kMostInks)) return std::nullopt;
-  return PageRequest{next, inkScale(mReport.label)};
+void DocumentLoader::forgetInks() {
+  mInks.clear();
+  mUnknownInks.clear();
 }
+
+void DocumentLoader::takeInk(int label, const std::optional<Ink>& ink) {
+  mInks[label] = ink;
+  mUnknownInks.pop_front();
+}
+
+void DocumentLoader::drawForInk() { draw({mUnknownInks.front(), inkScale(mReport.label)}, true); }
 
 void DocumentLoader::draw(const PageRequest& request, bool isForInk) {
   mIsDrawing = true;
@@ -204,7 +215,7 @@ void DocumentLoader::deliver(int composition, const PageRequest& request, bool i
                              const Result<Drawn>& drawn) {
   mIsDrawing = false;
   if (composition == mComposition) {
-    if (isForInk) mInks[request.page] = drawn ? drawn->ink : std::nullopt;
+    if (isForInk) takeInk(request.page, drawn ? drawn->ink : std::nullopt);
     if (!isForInk && drawn) emit pageDrawn(request.page, request.scale, drawn->image);
     if (!drawn) emit pageFailed(request.page, asLine(drawn.error().sentence));
   }

@@ -61,7 +61,8 @@ class DocumentLoader : public QObject {
   bool isIdle() const noexcept;
   // What the composer said last; of the first label alone before it is complete.
   const CompositionReport& report() const noexcept { return mReport; }
-  // Of the labels that were looked at so far, by their numbers from 0; nothing for an empty one.
+  // Of the labels that had to be looked at, and were so far, by their numbers from 0; nothing for
+  // an empty one.
   const std::map<int, std::optional<Ink>>& inks() const noexcept { return mInks; }
 
  signals:
@@ -86,7 +87,9 @@ class DocumentLoader : public QObject {
   void draw(const PageRequest& request, bool isForInk);
   void deliver(int composition, const PageRequest& request, bool isForInk,
                const Result<Drawn>& drawn);
-  std::optional<PageRequest> nextInkRequest() const;
+  void forgetInks();
+  void drawForInk();
+  void takeInk(int label, const std::optional<Ink>& ink);
   void stop();
 
   std::vector<std::string> mPaths;
@@ -99,6 +102,7 @@ class DocumentLoader : public QObject {
   std::shared_ptr<Document> mDocument;
   CompositionReport mReport;
   std::map<int, std::optional<Ink>> mInks;
+  std::deque<int> mUnknownInks;  // labels that are still to be looked at
   std::deque<PageRequest> mRequests;
   QTimer mPatience;
   bool mHasText = false;

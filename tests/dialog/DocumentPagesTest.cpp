@@ -262,6 +262,17 @@ TEST_F(DocumentPagesTest, OnlyWhatTakesLongIsWaitedFor) {
   ASSERT_TRUE(settle());
 }
 
+TEST_F(DocumentPagesTest, LabelsWhoseInkIsPrintableAreNotLookedAt) {
+  mComposer->setPrintableInk();
+  setDocument();
+  bool isTold = false;
+  QObject::connect(&mLoader, &DocumentLoader::inksKnown, [&] { isTold = true; });
+  compose(requestFor());
+  ASSERT_TRUE(settle());
+  EXPECT_TRUE(isTold);
+  EXPECT_TRUE(mLoader.inks().empty());
+}
+
 TEST_F(DocumentPagesTest, TheInkOfEveryLabelIsLookedFor) {
   setDocument();
   bool isTold = false;

@@ -32,6 +32,11 @@ void FakeComposer::setPartial() {
   mIsPartial = true;
 }
 
+void FakeComposer::setPrintableInk() {
+  const std::scoped_lock lock(mMutex);
+  mHasPrintableInk = true;
+}
+
 void FakeComposer::setBleed(double points) {
   const std::scoped_lock lock(mMutex);
   mBleed = points;
@@ -100,7 +105,8 @@ CompositionReport FakeComposer::reportFor(const CompositionRequest& request) con
   report.isPartial = mIsPartial && most > 0;
   if (report.isPartial) report.documentPages = 1;
   report.pages.assign(static_cast<std::size_t>(most > 0 ? std::min(most, mPages) : mPages),
-                      {mPage.size, mPage.scale, request.label.upright});
+                      {mPage.size, mPage.scale, request.label.upright,
+                       mHasPrintableInk && request.seeksInk});
   return report;
 }
 

@@ -20,6 +20,8 @@ class FakeComposer : public std::enable_shared_from_this<FakeComposer> {
   void setPages(int pages, const PageSize& size = {141.73, 68.03}, double scale = 1);
   // While only the first label is asked for, there may be more than those that are counted.
   void setPartial();
+  // To who asks: nothing of any page reaches out of the printable area.
+  void setPrintableInk();
   // Grey reaches this many points out of the printable area.
   void setBleed(double points);
   // The length that a label gets where the content chooses it.
@@ -57,6 +59,7 @@ class FakeComposer : public std::enable_shared_from_this<FakeComposer> {
   int mAnswered = 0;
   int mStopped = 0;
   bool mIsPartial = false;
+  bool mHasPrintableInk = false;
   bool mIsHeld = false;
   bool mIsRestHeld = false;
 };

@@ -111,11 +111,18 @@ TEST_P(LanguagesTest, TheLayoutFormIsUsable) {
   EXPECT_LE(dialog().minimumSizeHint().height(), 720);
 }
 
-TEST_P(LanguagesTest, NoticesOfLabelsAreUsable) {
+TEST_P(LanguagesTest, TheNoticeOfAShrunkPageIsUsable) {
   composer().setPages(1, {283.46, 68.03}, 0.5);
+  openQueue(samplePpd("tape-a"));
+  ASSERT_EQ(dialog().findChild<NoticeView*>()->findChildren<QPushButton*>().size(), 1);
+  expectUsable(dialog());
+}
+
+TEST_P(LanguagesTest, TheNoticeOfLostEdgesIsUsable) {
+  composer().setPages(1, {141.73, 68.03}, 1);
   composer().setBleed(3);
   openQueue(samplePpd("tape-a"));
-  ASSERT_EQ(dialog().findChild<NoticeView*>()->findChildren<QPushButton*>().size(), 2);
+  ASSERT_EQ(dialog().findChild<NoticeView*>()->findChildren<QPushButton*>().size(), 1);
   expectUsable(dialog());
 }
 
