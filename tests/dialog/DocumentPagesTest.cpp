@@ -55,6 +55,14 @@ class DocumentPagesTest : public testing::Test {
     mIsSettled = false;
     mLoader.compose(request);
   }
+  void lookForInks() {
+    setDocument();
+    QObject::connect(&mLoader, &DocumentLoader::inksKnown, [this] { mAreInksTold = true; });
+    compose(requestFor());
+    EXPECT_TRUE(settle());
+    EXPECT_TRUE(mAreInksTold);
+  }
+
   bool settle() {
     return waitUntil([this] { return mIsSettled; });
   }
@@ -65,6 +73,7 @@ class DocumentPagesTest : public testing::Test {
     return most;
   }
 
+  bool mAreInksTold = false;
   std::shared_ptr<FakeComposer> mComposer = std::make_shared<FakeComposer>();
   std::vector<std::string> mNews;
   bool mIsSettled = false;
@@ -264,22 +273,12 @@ TEST_F(DocumentPagesTest, OnlyWhatTakesLongIsWaitedFor) {
 
 TEST_F(DocumentPagesTest, LabelsWhoseInkIsPrintableAreNotLookedAt) {
   mComposer->setPrintableInk();
-  setDocument();
-  bool isTold = false;
-  QObject::connect(&mLoader, &DocumentLoader::inksKnown, [&] { isTold = true; });
-  compose(requestFor());
-  ASSERT_TRUE(settle());
-  EXPECT_TRUE(isTold);
+  lookForInks();
   EXPECT_TRUE(mLoader.inks().empty());
 }
 
 TEST_F(DocumentPagesTest, TheInkOfEveryLabelIsLookedFor) {
-  setDocument();
-  bool isTold = false;
-  QObject::connect(&mLoader, &DocumentLoader::inksKnown, [&] { isTold = true; });
-  compose(requestFor());
-  ASSERT_TRUE(settle());
-  EXPECT_TRUE(isTold);
+  lookForInks();
   ASSERT_EQ(mLoader.inks().size(), 3u);
   ASSERT_TRUE(mLoader.inks().at(2));
   EXPECT_NEAR(mLoader.inks().at(2)->surely.left, tape().left, 0.7);

@@ -104,9 +104,9 @@ CompositionReport FakeComposer::reportFor(const CompositionRequest& request) con
   const int most = request.pages.most;
   report.isPartial = mIsPartial && most > 0;
   if (report.isPartial) report.documentPages = 1;
-  report.pages.assign(static_cast<std::size_t>(most > 0 ? std::min(most, mPages) : mPages),
-                      {mPage.size, mPage.scale, request.label.upright,
-                       mHasPrintableInk && request.seeksInk});
+  report.pages.assign(
+      static_cast<std::size_t>(most > 0 ? std::min(most, mPages) : mPages),
+      {mPage.size, mPage.scale, request.label.upright, mHasPrintableInk && request.seeksInk});
   return report;
 }
 
