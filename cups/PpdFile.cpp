@@ -11,6 +11,7 @@
 #include "base/FileDescriptor.h"
 #include "cups/CupsOptions.h"
 #include "cups/CustomSize.h"
+#include "cups/EasedRecords.h"
 #include "cups/IppMessage.h"
 #include "cups/PpdChoice.h"
 #include "cups/PpdContents.h"
@@ -109,9 +110,12 @@ PpdFile::~PpdFile() { ppdClose(mPpd); }
 Result<std::shared_ptr<PpdFile>> PpdFile::read(std::string contents, const Sentence& name) {
   const auto kept = keepTexts(contents, preferredLocalizations());
   if (const auto problem = tooMuchForLibcups(contents, name)) return *problem;
-  FileDescriptor copy = memoryFile(contents);
-  if (!copy) return noMemoryFor(name);
-  ppd_file_t* ppd = ppdOpenFd(copy.release());  // closes it
+  ppd_file_t* ppd = openEased(contents);
+  if (!ppd) {
+    FileDescriptor copy = memoryFile(contents);
+    if (!copy) return noMemoryFor(name);
+    ppd = ppdOpenFd(copy.release());  // closes it
+  }
   if (!ppd) return ppdProblem(name, contents);
   std::shared_ptr<PpdFile> file(new PpdFile(ppd, std::hash<std::string>{}(contents)));
   if (const auto problem = unusableSizes(ppd, name)) return *problem;
@@ -148,6 +152,7 @@ Result<std::shared_ptr<PpdFile>> PpdFile::fetchOn(const ServerConnection& connec
 }
 
 void PpdFile::mark(const std::vector<OptionList>& layers) const {
+  unmarkAll(mPpd);
   ppdMarkDefaults(mPpd);
   for (const OptionList& layer : layers) {
     const CupsOptions options(withoutUnusableSizes(mPpd, layer));

@@ -10,14 +10,14 @@
 #include <sstream>
 #include <utility>
 
+#include "cups/PpdRecords.h"
+
 namespace cutline {
 
 namespace {
 
-// Works around libcups 2.4.2: it refuses the whole PPD for a longer name, and the line that
-// ppdLastError tells is often another one, so the name is looked for here.
-constexpr std::size_t kLongestName = PPD_MAX_NAME - 1;
-
+// Works around libcups 2.4.2: it refuses the whole PPD for a name longer than kLongestPpdName, and
+// the line that ppdLastError tells is often another one, so the name is looked for here.
 struct LongName {
   int line = 0;
   std::string_view name;  // empty: every name fits
@@ -28,11 +28,11 @@ std::string_view longNameIn(std::string_view line) {
   if (!line.starts_with('*') || line.starts_with("*%")) return {};
   line.remove_prefix(1);
   const auto mainEnd = std::min(line.find_first_of(" \t:"), line.size());
-  if (mainEnd > kLongestName) return line.substr(0, mainEnd);
+  if (mainEnd > kLongestPpdName) return line.substr(0, mainEnd);
   line.remove_prefix(mainEnd);
   line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
   const auto optionEnd = std::min(line.find_first_of(":/\r\n"), line.size());
-  return optionEnd > kLongestName ? line.substr(0, optionEnd) : std::string_view{};
+  return optionEnd > kLongestPpdName ? line.substr(0, optionEnd) : std::string_view{};
 }
 
 LongName findLongName(std::string_view text) {
@@ -61,7 +61,7 @@ Error ppdProblem(const Sentence& name, std::string_view text) {
         name, tooLong.line,
         {Phrase("cups", "the name \"%1\" has %2 bytes, and a PPD's names have at most %3"),
          {std::string(tooLong.name), std::to_string(tooLong.name.size()),
-          std::to_string(kLongestName)}});
+          std::to_string(kLongestPpdName)}});
   }
   return unusable(name, line, std::string(ppdErrorString(status)));
 }

@@ -5,11 +5,14 @@
 
 #include <cups/ppd.h>
 
+#include <cstddef>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace cutline {
 
+inline constexpr std::size_t kLongestPpdName = PPD_MAX_NAME - 1;
 inline constexpr const char* kPageSizeKeyword = "PageSize";
 inline constexpr const char* kCustomChoice = "Custom";
 
@@ -46,6 +49,25 @@ void forEachOption(const ppd_file_t* ppd, const Function& function) {
   forEachGroup(groupsOf(ppd), [&](const ppd_group_t& group) {
     for (const ppd_option_t& option : optionsOf(group)) function(option);
   });
+}
+
+// The elements of a list of libcups' in its order.
+template <typename Element>
+std::vector<Element*> elementsOf(cups_array_t* list) {
+  std::vector<Element*> elements;
+  elements.reserve(static_cast<std::size_t>(cupsArrayCount(list)));
+  for (int i = 0; i < cupsArrayCount(list); ++i)
+    elements.push_back(static_cast<Element*>(cupsArrayIndex(list, i)));
+  return elements;
+}
+
+// Gives the list these elements instead of those that it has. No where there is no memory.
+template <typename Element>
+bool refill(cups_array_t* list, const std::vector<Element*>& elements) {
+  cupsArrayClear(list);
+  for (Element* element : elements)
+    if (cupsArrayAdd(list, element) == 0) return false;
+  return true;
 }
 
 }  // namespace cutline

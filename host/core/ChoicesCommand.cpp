@@ -1,6 +1,6 @@
 #include "host/core/ChoicesCommand.h"
 
-#include <algorithm>
+#include <map>
 #include <ostream>
 #include <string>
 
@@ -26,10 +26,11 @@ void write(const PpdOption& option, const std::string& marked, std::ostream& out
   if (!isListed) out << "* " << visible(marked) << '\n';
 }
 
-std::string valueIn(const OptionList& options, const std::string& keyword) {
-  const auto found = std::find_if(options.begin(), options.end(),
-                                  [&](const auto& option) { return option.first == keyword; });
-  return found == options.end() ? std::string() : found->second;
+using Values = std::map<std::string, std::string>;
+
+std::string valueIn(const Values& values, const std::string& keyword) {
+  const auto found = values.find(keyword);
+  return found == values.end() ? std::string() : found->second;
 }
 
 }  // namespace
@@ -38,7 +39,8 @@ Result<Done> showChoices(const CommandLine& line, PluginLoader& plugIns, const S
   HeadlessSession session(line, plugIns, streams.notes);
   if (Result<Done> opened = session.openSelected(); !opened) return opened;
   const PpdFile& ppd = *session.model().ppdFile();
-  const OptionList marked = ppd.markedOptions();
+  const OptionList options = ppd.markedOptions();
+  const Values marked(options.begin(), options.end());
   for (const OptionGroup& group : ppd.optionGroups())
     for (const PpdOption& option : group.options)
       write(option, valueIn(marked, option.keyword), streams.out);

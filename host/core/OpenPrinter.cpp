@@ -34,7 +34,7 @@ OpenPrinter::OpenPrinter(PrinterChoice choice, PanelSource& source, const Option
     : mChoice(std::move(choice)),
       mOptions(*mChoice.ppd),
       mPapers(papersOf(mChoice)),
-      mStart(printerStart(*mChoice.ppd, mPapers, mChoice.destination.device)),
+      mStart(printerStart(*mChoice.ppd, mOptions, mPapers, mChoice.destination.device)),
       mTicket(std::make_shared<PrintTicket>(mChoice.ppd, mChoice.destination.deviceURI)),
       mLayers{mStart, withWishes(mChoice.destination.savedOptions), asked},
       mLayoutDidChange(std::move(layoutDidChange)),

@@ -30,17 +30,17 @@ std::size_t distance(const std::string& from, const std::string& to) {
   return row.back();
 }
 
-std::vector<std::string> knownNames(const OptionTable& table) {
+std::vector<std::string> knownNames(const PpdFile& ppd) {
   std::vector<std::string> names(jobAttributes().begin(), jobAttributes().end());
-  for (const OptionGroup& group : table.groups())
+  for (const OptionGroup& group : ppd.optionGroups())
     for (const PpdOption& option : group.options) names.push_back(option.keyword);
   return names;
 }
 
-Error unknownOption(const OptionTable& table, const std::string& name) {
+Error unknownOption(const PpdFile& ppd, const std::string& name) {
   const std::size_t near = std::max<std::size_t>(2, name.size() / 3);
   std::vector<std::string> names;
-  for (const std::string& known : knownNames(table))
+  for (const std::string& known : knownNames(ppd))
     if (distance(name, known) <= near) names.push_back(known);
   if (names.empty()) {
     return Sentence(Phrase("host", "unknown option \"%1\"; this printer has no such option"),
@@ -61,22 +61,20 @@ Result<Done> checkMedia(const PpdFile& ppd, const std::string& value) {
   return Done{};
 }
 
-Result<Done> checkOption(const PpdFile& ppd, const OptionTable& table, const std::string& name,
-                         const std::string& value) {
+Result<Done> checkOption(const PpdFile& ppd, const std::string& name, const std::string& value) {
   if (name == "media") return checkMedia(ppd, value);
   if (ppd.hasOption(name)) return ppd.checkChoice(name, value);
   if (isLayoutOption(name)) return checkLayoutOption(name, value);
   const auto attributes = jobAttributes();
   if (std::ranges::find(attributes, name) != attributes.end()) return Done{};
-  return unknownOption(table, name);
+  return unknownOption(ppd, name);
 }
 
 }  // namespace
 
 Result<Done> checkOptions(const PpdFile& ppd, const OptionList& options) {
-  const OptionTable table(ppd);
   for (const auto& [name, value] : spelledFor(ppd, options))
-    if (Result<Done> checked = checkOption(ppd, table, name, value); !checked) return checked;
+    if (Result<Done> checked = checkOption(ppd, name, value); !checked) return checked;
   return Done{};
 }
 

@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "cups/PpdFacts.h"
-#include "host/core/OptionTable.h"
 
 namespace cutline {
 
@@ -59,9 +58,8 @@ void markLoaded(std::vector<PaperSize>& papers, const DeviceFacts& device) {
         device.ready, [&](const MediaMeasures& measures) { return isSize(paper, measures); });
 }
 
-OptionList printerStart(const PpdFile& ppd, const std::vector<PaperSize>& papers,
-                        const DeviceFacts& device) {
-  const OptionTable options(ppd);
+OptionList printerStart(const PpdFile& ppd, const OptionTable& options,
+                        const std::vector<PaperSize>& papers, const DeviceFacts& device) {
   OptionList start;
   addCut(options, ppd, device, start);
   addPaper(options, papers, start);

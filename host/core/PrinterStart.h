@@ -6,6 +6,7 @@
 #include "base/OptionList.h"
 #include "cups/DeviceFacts.h"
 #include "cups/PpdFile.h"
+#include "host/core/OptionTable.h"
 
 namespace cutline {
 
@@ -17,8 +18,9 @@ inline constexpr char kCutMediaKeyword[] = "CutMedia";
 void markLoaded(std::vector<PaperSize>& papers, const DeviceFacts& device);
 
 // What the printer does by itself, where the PPD's defaults say otherwise: its cutting, since a
-// generated PPD has none as the default, and the paper that is in it. `papers` know what is loaded.
-OptionList printerStart(const PpdFile& ppd, const std::vector<PaperSize>& papers,
-                        const DeviceFacts& device);
+// generated PPD has none as the default, and the paper that is in it. `options` are the PPD's, and
+// `papers` know what is loaded.
+OptionList printerStart(const PpdFile& ppd, const OptionTable& options,
+                        const std::vector<PaperSize>& papers, const DeviceFacts& device);
 
 }  // namespace cutline

@@ -12,14 +12,8 @@ namespace {
 
 using test::fixturePath;
 using test::fixtureText;
+using test::replaced;
 using test::TemporaryFolder;
-
-std::string replaced(std::string text, const std::string& from, const std::string& to) {
-  for (auto at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size())) {
-    text.replace(at, from.size(), to);
-  }
-  return text;
-}
 
 class PpdFileTest : public testing::Test {
  protected:
