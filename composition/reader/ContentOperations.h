@@ -5,6 +5,7 @@
 #include <qpdf/InputSource.hh>
 #include <qpdf/QPDFTokenizer.hh>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace cutline {
@@ -25,7 +26,7 @@ struct Operation {
 class ContentOperations {
  public:
   // The stream's content, unpacked.
-  explicit ContentOperations(const std::string& content);
+  explicit ContentOperations(std::string content);
 
   // The next operation; false at the end. An inline image is one operation, "EI", without operands.
   // Throws std::runtime_error where the content is damaged.
@@ -35,11 +36,15 @@ class ContentOperations {
   using Token = QPDFTokenizer::Token;
 
   Token token();
+  std::string_view word();
   Operand operandOf(const Token& token);
   Operand list();
   void skipDictionary();
-  void skipImage();
+  void skipImage(Operation& operation);
 
+  std::string mContent;
+  std::size_t mAt = 0;
+  // For what is neither a number nor an operator.
   QPDFTokenizer mTokenizer;
   std::shared_ptr<InputSource> mInput;
 };

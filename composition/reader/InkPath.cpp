@@ -28,7 +28,9 @@ void InkPath::moveTo(const QPDFMatrix& matrix, double x, double y) {
 }
 
 void InkPath::addPoint(const QPDFMatrix& matrix, double x, double y) {
-  mBox.add(moved(matrix, {x, y, x, y}));
+  double across = 0, up = 0;
+  matrix.transform(x, y, across, up);
+  mBox.add({across, up, across, up});
   if (++mPoints > 2) mHasCorners = true;
 }
 
