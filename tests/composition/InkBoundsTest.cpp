@@ -211,8 +211,8 @@ TEST_F(InkBoundsTest, ReportsPagesWhoseInkIsPrintable) {
       drawnPdf({{100, 50, "10 10 80 30 re f"}, {100, 50, "9 10 80 30 re f"}, {100, 50, "magic"}});
   const auto told = [&](const CompositionRequest& request) {
     std::vector<bool> pages;
-    for (const ComposedPage& page : Composed(document, request).report().pages)
-      pages.push_back(page.hasPrintableInk);
+    const Composed composed(document, request);
+    for (const ComposedPage& page : composed.report().pages) pages.push_back(page.hasPrintableInk);
     return pages;
   };
   EXPECT_EQ(told(margins(10)), (std::vector{true, false, false}));
