@@ -36,30 +36,28 @@ QPDFObjectHandle fileIn(QPDFObjectHandle descriptor) {
 }  // namespace
 
 EmbeddedFont::EmbeddedFont(QPDFObjectHandle font, const Read& read) {
-  if (font.getKey("/Subtype").isNameAndEquals("/Type0"))
-    readComposite(std::move(font));
-  else
-    readSimple(std::move(font));
-  mShapes.emplace(read(fileIn(mDescriptor)));
+  const bool isComposite = font.getKey("/Subtype").isNameAndEquals("/Type0");
+  mShapes.emplace(read(fileIn(isComposite ? readComposite(font) : readSimple(font))));
 }
 
-void EmbeddedFont::readSimple(QPDFObjectHandle font) {
-  mDescriptor = dictionaryIn(font, "/FontDescriptor");
-  mOtherWidth = numberOf(mDescriptor.getKey("/MissingWidth"));
+QPDFObjectHandle EmbeddedFont::readSimple(QPDFObjectHandle font) {
+  QPDFObjectHandle descriptor = dictionaryIn(font, "/FontDescriptor");
+  mOtherWidth = numberOf(descriptor.getKey("/MissingWidth"));
   readWidths(font.getKey("/Widths"), codeOf(font.getKey("/FirstChar")));
+  return descriptor;
 }
 
-void EmbeddedFont::readComposite(QPDFObjectHandle font) {
+QPDFObjectHandle EmbeddedFont::readComposite(QPDFObjectHandle font) {
   mCodeBytes = 2;
   QPDFObjectHandle descendants = font.getKey("/DescendantFonts");
   if (!font.getKey("/Encoding").isNameAndEquals("/Identity-H") || !descendants.isArray() ||
       descendants.getArrayNItems() != 1 || !descendants.getArrayItem(0).isDictionary())
     throw std::runtime_error("a composite font of another kind");
   QPDFObjectHandle descendant = descendants.getArrayItem(0);
-  mDescriptor = dictionaryIn(descendant, "/FontDescriptor");
   mOtherWidth = numberOf(descendant.getKey("/DW"), kUnits);
   mAreCodesGlyphs = !descendant.getKey("/CIDToGIDMap").isStream();
   if (QPDFObjectHandle runs = descendant.getKey("/W"); runs.isArray()) readRuns(runs);
+  return dictionaryIn(descendant, "/FontDescriptor");
 }
 
 void EmbeddedFont::readWidths(QPDFObjectHandle widths, unsigned first) {
@@ -67,8 +65,13 @@ void EmbeddedFont::readWidths(QPDFObjectHandle widths, unsigned first) {
   unsigned code = first;
   for (const QPDFObjectHandle& width : widths.getArrayAsVector()) {
     if (code >= kMostCodes) return;
-    mWidths[code++] = numberOf(width);
+    setWidth(code++, numberOf(width));
   }
+}
+
+// Runs upon each other could be without end.
+void EmbeddedFont::setWidth(unsigned code, double width) {
+  if (!mWidths.emplace(code, width).second) throw std::runtime_error("a code of two widths");
 }
 
 // A run is a code and a list of widths, or a first code, a last one, and their width.
@@ -84,7 +87,7 @@ void EmbeddedFont::readRuns(QPDFObjectHandle runs) {
     }
     if (at + 2 >= items.size()) return;
     for (unsigned code = first, last = codeOf(next); code <= last; ++code)
-      mWidths[code] = numberOf(items[at + 2]);
+      setWidth(code, numberOf(items[at + 2]));
     at += 3;
   }
 }

@@ -3,7 +3,6 @@
 
 #include <functional>
 #include <map>
-#include <memory>
 #include <optional>
 #include <qpdf/QPDFObjectHandle.hh>
 #include <string>
@@ -26,15 +25,16 @@ class EmbeddedFont : public GlyphFont {
   const Glyph& glyph(unsigned code) override;
 
  private:
-  void readSimple(QPDFObjectHandle font);
-  void readComposite(QPDFObjectHandle font);
+  // Both give its descriptor.
+  QPDFObjectHandle readSimple(QPDFObjectHandle font);
+  QPDFObjectHandle readComposite(QPDFObjectHandle font);
   void readWidths(QPDFObjectHandle widths, unsigned first);
+  void setWidth(unsigned code, double width);
   void readRuns(QPDFObjectHandle runs);
 
   std::size_t mCodeBytes = 1;
   // The codes of others stand for glyphs in ways that are not looked into: it may be any.
   bool mAreCodesGlyphs = false;
-  QPDFObjectHandle mDescriptor;
   std::map<unsigned, double> mWidths;  // by code, in thousandths
   double mOtherWidth = 0;
   std::optional<GlyphShapes> mShapes;

@@ -1,7 +1,6 @@
 #include "composition/reader/InkBounds.h"
 
 #include <exception>
-#include <new>
 
 #include "composition/Layout.h"
 #include "composition/reader/ContentInk.h"
@@ -13,8 +12,6 @@ const std::optional<InkArea>& InkBounds::of(QPDFObjectHandle form) {
   if (!isNew) return known->second;
   try {
     known->second = ContentInk(mWork, QPDFObjectHandle::newNull(), {}).ofForm(form);
-  } catch (const std::bad_alloc&) {
-    throw;
   } catch (const std::exception&) {
     // Whatever it is that cannot be told: who wants to know looks at the drawn page.
     known->second.reset();

@@ -14,7 +14,7 @@ namespace cutline {
 
 class InkBounds {
  public:
-  // Finds what is asked of the form later. Throws nothing but std::bad_alloc, like the other call.
+  // Finds what is asked of the form later. Throws nothing.
   void read(QPDFObjectHandle form) { of(std::move(form)); }
   // Whether the label's printer reaches all that the form draws where the matrix puts it, as far as
   // this can be told; false where it cannot.

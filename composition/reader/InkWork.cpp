@@ -15,21 +15,23 @@ namespace {
 constexpr int kMostOperations = 50'000;
 constexpr std::size_t kMostContent = 4U << 20U;
 constexpr int kDeepest = 12;
+constexpr std::size_t kMostFonts = 100;
 
-// Keeps what comes, up to what is left.
+// Keeps what comes, while that is not too much together with all before it.
 class LimitedText : public Pipeline {
  public:
-  explicit LimitedText(std::size_t most) : Pipeline("content", nullptr), mMost(most) {}
+  explicit LimitedText(std::size_t& total) : Pipeline("content", nullptr), mTotal(total) {}
 
   void write(const unsigned char* bytes, std::size_t size) override {
-    if (mText.size() + size > mMost) throw std::runtime_error("the content is too long");
+    mTotal += size;
+    if (mTotal > kMostContent) throw std::runtime_error("the content is too long");
     mText.append(reinterpret_cast<const char*>(bytes), size);
   }
   void finish() override {}
   std::string take() { return std::move(mText); }
 
  private:
-  std::size_t mMost;
+  std::size_t& mTotal;
   std::string mText;
 };
 
@@ -45,14 +47,12 @@ void InkWork::countOperation() {
 }
 
 std::string InkWork::contentOf(QPDFObjectHandle stream) {
-  LimitedText text(kMostContent - mBytes);
+  LimitedText text(mBytes);
   bool isUnpacked = false;
   const bool isWhole = stream.pipeStreamData(&text, &isUnpacked, 0, qpdf_dl_specialized,
                                              /*suppress_warnings=*/true);
   if (!isWhole || !isUnpacked) throw std::runtime_error("the content cannot be read");
-  std::string content = text.take();
-  mBytes += content.size();
-  return content;
+  return text.take();
 }
 
 GlyphFont& InkWork::fontOf(QPDFObjectHandle font, QPDFObjectHandle resources) {
@@ -60,6 +60,7 @@ GlyphFont& InkWork::fontOf(QPDFObjectHandle font, QPDFObjectHandle resources) {
   GlyphFont*& known = mKnownFonts[font.getObjGen()];
   // One without a number may be any.
   if (known != nullptr && font.isIndirect()) return *known;
+  if (mFonts.size() >= kMostFonts) throw std::runtime_error("there are too many fonts");
   mFonts.push_back(newFont(std::move(font), std::move(resources)));
   return *(known = mFonts.back().get());
 }

@@ -133,6 +133,7 @@ TEST_F(EmbeddedFontTest, OtherFontsAreNotGuessed) {
   expectUnknown(composite("", ""));
   expectUnknown("<</Type/Font/Subtype/Type0/Encoding/Identity-H>>");
   expectUnknown(composite("/W[70000[300]]"));
+  expectUnknown(composite("/W[0 65535 300 0 65535 300]"));
 }
 
 TEST_F(EmbeddedFontTest, TextOfOneByteACode) {

@@ -187,6 +187,16 @@ TEST_F(InkBoundsTest, WhatTakesTooLongIsNotTold) {
   EXPECT_FALSE(boxOf("%" + std::string((4U << 20U) + 1, 'x')));
 }
 
+TEST_F(InkBoundsTest, TooManyFontsAreNotTold) {
+  const std::string resources = everything();
+  std::string content;
+  // A font without a number of its own is another one each time.
+  for (int count = 0; count < 101; ++count) content += "/Direct 1 Tf ";
+  const std::string direct = mDocument.pdf().getObjectByID(std::stoi(mFont), 0).unparseResolved();
+  EXPECT_FALSE(boxOf(content, "/Font<</Direct " + direct + ">>"));
+  EXPECT_TRUE(boxOf("/Direct 1 Tf", "/Font<</Direct " + direct + ">>"));
+}
+
 TEST_F(InkBoundsTest, PrintableWhereTheMatrixPutsIt) {
   const LabelPage label{100, 200, 10, 20, 90, 180, 0, 90};
   InkBounds bounds;
