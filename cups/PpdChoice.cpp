@@ -158,11 +158,6 @@ Result<Done> checkChoiceOf(ppd_file_t* ppd, const ppd_option_t& option, const st
                         {std::string(option.keyword), choice, choiceNames(option)})};
 }
 
-void unmarkAll(ppd_file_t* ppd) {
-  for (ppd_choice_t* choice : elementsOf<ppd_choice_t>(ppd->marked)) choice->marked = '\0';
-  cupsArrayClear(ppd->marked);
-}
-
 bool markList(ppd_file_t* ppd, const std::string& keyword, const std::string& choice) {
   const ppd_option_t* option = ppdFindOption(ppd, keyword.c_str());
   if (!option || !isList(*option, choice)) return false;

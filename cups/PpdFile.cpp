@@ -15,6 +15,7 @@
 #include "cups/IppMessage.h"
 #include "cups/PpdChoice.h"
 #include "cups/PpdContents.h"
+#include "cups/PpdDefaults.h"
 #include "cups/PpdLimits.h"
 #include "cups/PpdProblems.h"
 #include "cups/PpdRecords.h"
@@ -46,10 +47,14 @@ PpdOption optionOf(ppd_file_t* ppd, const ppd_option_t& option) {
   return out;
 }
 
+bool isPageRegion(const ppd_option_t& option) {
+  return std::strcmp(option.keyword, kPageRegion) == 0;
+}
+
 OptionGroup groupOf(ppd_file_t* ppd, const ppd_group_t& group) {
   OptionGroup out{group.name, textOr(group.text, group.name), {}};
   for (const ppd_option_t& option : optionsOf(group)) {
-    if (std::strcmp(option.keyword, kPageRegion) != 0) out.options.push_back(optionOf(ppd, option));
+    if (!isPageRegion(option)) out.options.push_back(optionOf(ppd, option));
   }
   return out;
 }
@@ -152,8 +157,7 @@ Result<std::shared_ptr<PpdFile>> PpdFile::fetchOn(const ServerConnection& connec
 }
 
 void PpdFile::mark(const std::vector<OptionList>& layers) const {
-  unmarkAll(mPpd);
-  ppdMarkDefaults(mPpd);
+  markDefaults(mPpd);
   for (const OptionList& layer : layers) {
     const CupsOptions options(withoutUnusableSizes(mPpd, layer));
     cupsMarkOptions(mPpd, options.size(), options.data());
@@ -197,13 +201,30 @@ OptionList PpdFile::markedOptions() const {
 
 OptionList PpdFile::markedBesideDefaults(
     const std::set<std::string, std::less<>>& evenAtDefault) const {
+  std::set<const ppd_option_t*> even;
+  for (const std::string& keyword : evenAtDefault)
+    even.insert(ppdFindOption(mPpd, keyword.c_str()));
   OptionList marked;
   forEachOption(mPpd, [&](const ppd_option_t& option) {
-    if (isAtDefault(option) && !evenAtDefault.contains(option.keyword)) return;
+    if (isAtDefault(option) && !even.contains(&option)) return;
     const std::string text = markedText(mPpd, option);
     if (!text.empty()) marked.emplace_back(option.keyword, text);
   });
   return marked;
+}
+
+std::optional<PpdOption> PpdFile::option(const std::string& keyword) const {
+  const ppd_option_t* option = ppdFindOption(mPpd, keyword.c_str());
+  if (!option || isPageRegion(*option) || isInstallable(mPpd, *option)) return std::nullopt;
+  return optionOf(mPpd, *option);
+}
+
+bool PpdFile::anyOption(const std::function<bool(const PpdOption&)>& isMeant) const {
+  bool found = false;
+  forEachOption(mPpd, [&](const ppd_option_t& option) {
+    found = found || (!isPageRegion(option) && isMeant(optionOf(mPpd, option)));
+  });
+  return found;
 }
 
 std::vector<OptionGroup> PpdFile::optionGroups() const {

@@ -101,6 +101,11 @@ class PpdFile {
   OptionList markedOptions() const;
   // Those of them that are not at the PPD's default, and of the others those with these keywords.
   OptionList markedBesideDefaults(const std::set<std::string, std::less<>>& evenAtDefault) const;
+  // One option as optionGroups() has it, whatever letters it is asked for in; nothing for one that
+  // they leave out.
+  std::optional<PpdOption> option(const std::string& keyword) const;
+  // Whether the function says so of one of them; it is called until then.
+  bool anyOption(const std::function<bool(const PpdOption&)>& isMeant) const;
   // The groups that have options, in the PPD's order, subgroups after their group. Left out are the
   // installable options, the page region (it mirrors the page size) and choices that need a value.
   std::vector<OptionGroup> optionGroups() const;

@@ -12,10 +12,11 @@ namespace {
 // Where libcups puts options that stand outside of groups.
 constexpr std::string_view kGeneral = "General";
 
-// Callers know the first by its name, and libcups puts options of a kind into the second.
-constexpr std::array kNeverInParts = std::to_array<std::string_view>({"InstallableOptions", "JCL"});
+// libcups puts options of a kind into it.
+constexpr std::string_view kJcl = "JCL";
 
-constexpr std::string_view kOptionOpening = "OpenUI";
+constexpr std::array kOptionOpenings = std::to_array<std::string_view>({"OpenUI", "JCLOpenUI"});
+constexpr std::array kOptionClosings = std::to_array<std::string_view>({"CloseUI", "JCLCloseUI"});
 // libcups makes options of their choices even where no option is open.
 constexpr std::array kOpenedByChoices = std::to_array<std::string_view>({"PageSize", "PageRegion"});
 
@@ -36,23 +37,24 @@ bool isClearGroup(std::string_view value) {
 void PpdGroupWalk::pass(const PpdStatement& statement) {
   const std::string_view keyword = statement.keyword;
   if (keyword == "OpenGroup") return open(statement);
-  if (keyword == "CloseGroup") return mOpening.reset();
+  if (keyword == "CloseGroup" && hasValue(statement)) return mOpen.reset();
   // It ends the group without a word.
-  if (keyword == "JCLOpenUI") mIsClear = mIsClear && !mOpening;
-  if (keyword == kOptionOpening || isAmong(kOpenedByChoices, keyword)) mMixed.insert(group());
+  if (keyword == "JCLOpenUI") mIsClear = mIsClear && !mOpen;
+  if (keyword == "OpenUI" || isAmong(kOpenedByChoices, keyword)) mMixed.insert(group());
+  if (isAmong(kOptionOpenings, keyword)) mIsOptionOpen = true;
+  if (isAmong(kOptionClosings, keyword) && hasValue(statement)) mIsOptionOpen = false;
 }
 
-std::string_view PpdGroupWalk::group() const { return mOpening ? mName : kGeneral; }
+std::string_view PpdGroupWalk::group() const { return mOpen.value_or(kGeneral); }
 
 bool PpdGroupWalk::isPlain(std::string_view group) const {
-  return mIsClear && !mMixed.contains(group) && !isAmong(kNeverInParts, group);
+  return mIsClear && !mMixed.contains(group) && group != kJcl;
 }
 
 void PpdGroupWalk::open(const PpdStatement& statement) {
   const std::string_view value = valueOf(statement);
   mIsClear = mIsClear && isClearGroup(value);
-  mOpening = statement;
-  mName = value.substr(0, value.find('/'));
+  mOpen = value.substr(0, value.find('/'));
 }
 
 }  // namespace cutline

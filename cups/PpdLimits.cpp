@@ -6,6 +6,7 @@
 #include <array>
 #include <cmath>
 
+#include "base/CharacterSet.h"
 #include "cups/PpdLines.h"
 #include "cups/PpdRecords.h"
 
@@ -49,18 +50,14 @@ struct Counts {
   std::size_t statements = 0;
 };
 
-bool isOf(std::string_view line, std::string_view keyword) {
-  constexpr std::string_view kEnds = " \t:";
-  if (!line.starts_with(keyword)) return false;
-  return line.size() == keyword.size() || kEnds.find(line[keyword.size()]) != kEnds.npos;
-}
+constexpr CharacterSet kBehindKeywords(" \t:");
 
 // The parameters' keywords go on with the option's name.
 void count(std::string_view line, Counts& counts) {
   if (!line.starts_with(kStatementLimit.keyword)) return;
   ++counts.statements;
-  const auto* limit =
-      std::ranges::find_if(kLimits, [line](const Limit& each) { return isOf(line, each.keyword); });
+  const std::string_view keyword = line.substr(0, kBehindKeywords.firstIn(line));
+  const auto* limit = std::ranges::find(kLimits, keyword, &Limit::keyword);
   if (limit != kLimits.end()) ++counts.limited[static_cast<std::size_t>(limit - kLimits.begin())];
   if (line.starts_with(kParameterStart)) ++counts.parameters;
 }

@@ -2,17 +2,16 @@
 
 #include <algorithm>
 #include <array>
-#include <map>
 #include <optional>
-#include <string>
+#include <ranges>
 
-#include "cups/PpdRecords.h"
+#include "cups/NameOrder.h"
+#include "cups/PpdWords.h"
 
 namespace cutline {
 
 namespace {
 
-constexpr std::string_view kDefault = "Default";
 constexpr std::string_view kOpening = "OpenUI";
 constexpr std::string_view kJclOpening = "JCLOpenUI";
 constexpr std::string_view kClosing = "CloseUI";
@@ -22,46 +21,8 @@ constexpr std::string_view kClosing = "CloseUI";
 constexpr std::array kStructure =
     std::to_array<std::string_view>({kOpening, kJclOpening, kClosing, "JCLCloseUI", "OpenGroup",
                                      "CloseGroup", "OpenSubGroup", "CloseSubGroup"});
-// Their defaults mean more than a choice of the option.
-constexpr std::array kSpecialDefaults =
-    std::to_array<std::string_view>({"ColorSpace", "PageSize", "PageRegion"});
 
-bool contains(const auto& table, std::string_view word) {
-  return std::ranges::find(table, word) != table.end();
-}
-
-// libcups finds options and attributes in whichever letters they are written, and in every locale.
-char small(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
-bool isSameName(std::string_view a, std::string_view b) {
-  return std::ranges::equal(a, b, {}, small, small);
-}
-std::string inSmallLetters(std::string_view name) {
-  std::string text(name);
-  std::ranges::transform(text, text.begin(), small);
-  return text;
-}
-// How often the PPD speaks of each option, in small letters, outside of plain blocks, and each such
-// block once. No PPD can make it slow, as it could a table of hashes.
-using Mentions = std::map<std::string, int>;
-
-bool isWordCharacter(char c) {
-  return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_' ||
-         c == '.' || c == '-' || c == '+';
-}
-
-bool isWord(std::string_view text) {
-  return !text.empty() && text.size() <= kLongestPpdName &&
-         std::ranges::all_of(text, isWordCharacter);
-}
-
-bool isDefault(std::string_view keyword) {
-  return isSameName(keyword.substr(0, kDefault.size()), kDefault);
-}
-
-std::string_view withoutDefault(std::string_view keyword) {
-  return isDefault(keyword) ? keyword.substr(kDefault.size()) : keyword;
-}
+constexpr std::array kCustoms = std::to_array<std::string_view>({"Custom", "ParamCustom"});
 
 // "Duplex" of `*OpenUI *Duplex/Two sides: PickOne`.
 std::string_view openedBy(const PpdStatement& statement) {
@@ -70,71 +31,104 @@ std::string_view openedBy(const PpdStatement& statement) {
   return name.starts_with('*') ? name.substr(1) : name;
 }
 
-// Which option a statement outside of plain blocks speaks of.
-std::string_view mentionedBy(const PpdStatement& statement) {
-  const bool opens = statement.keyword == kOpening || statement.keyword == kJclOpening;
-  return opens ? openedBy(statement) : withoutDefault(statement.keyword);
-}
-
-bool isTranslation(std::string_view keyword) {
-  return keyword.find_first_of(".-") != keyword.npos && !isDefault(keyword);
-}
-
 // Whether the statement may stand within the block of a plain option.
 bool belongsTo(std::string_view option, std::string_view keyword) {
   return keyword.empty() || withoutDefault(keyword) == option || keyword == "OrderDependency" ||
          isTranslation(keyword);
 }
 
-bool isPlainDefault(std::string_view option, const PpdStatement& statement) {
-  return statement.keyword.starts_with(kDefault) && statement.keyword.size() <= kLongestPpdName &&
-         nameOf(statement).empty() && isWord(valueOf(statement)) &&
-         !contains(kSpecialDefaults, option);
-}
-
-void takeDefault(PlainOption& option, const std::vector<PpdStatement>& statements) {
-  std::size_t found = 0;
-  for (std::size_t at = option.first + 1; at < option.last; ++at) {
-    if (!isDefault(statements[at].keyword)) continue;
-    ++found;
-    option.defaultAt = at;
-  }
-  if (found != 1 || !isPlainDefault(option.keyword, statements[option.defaultAt])) {
-    option.defaultAt = kNoStatement;
-  } else {
-    option.defaultChoice = valueOf(statements[option.defaultAt]);
-  }
-}
-
-// Nothing where the statement opens no option, or one whose block has more in it.
+// Nothing where no option begins with the statement, or one whose block has more in it.
 std::optional<PlainOption> optionAt(const std::vector<PpdStatement>& statements, std::size_t at) {
-  if (statements[at].keyword != kOpening) return std::nullopt;
-  PlainOption option{openedBy(statements[at]), at, at + 1, kNoStatement, {}};
-  if (!isWord(option.keyword) || contains(kStructure, option.keyword)) return std::nullopt;
+  const bool isDefaultFirst = isDefault(statements[at].keyword);
+  const std::size_t opening = isDefaultFirst ? at + 1 : at;
+  if (opening == statements.size() || statements[opening].keyword != kOpening) return std::nullopt;
+  PlainOption option{openedBy(statements[opening]), at, opening + 1};
+  const bool isNamedSo = std::ranges::find(kStructure, option.keyword) != kStructure.end();
+  if (!isPpdWord(option.keyword) || isNamedSo) return std::nullopt;
+  if (isDefaultFirst && withoutDefault(statements[at].keyword) != option.keyword)
+    return std::nullopt;
   while (option.last < statements.size() &&
          belongsTo(option.keyword, statements[option.last].keyword))
     ++option.last;
-  if (option.last == statements.size() || statements[option.last].keyword != kClosing)
+  if (option.last == statements.size() || statements[option.last].keyword != kClosing ||
+      !hasValue(statements[option.last]))
     return std::nullopt;
-  takeDefault(option, statements);
   return option;
 }
+
+// "Duplex" of `*CustomDuplex`; empty for other keywords.
+std::string_view customOf(std::string_view keyword) {
+  const auto start = std::ranges::find_if(kCustoms, [keyword](std::string_view each) {
+    return isSameName(keyword.substr(0, each.size()), each);
+  });
+  return start == kCustoms.end() ? std::string_view() : keyword.substr(start->size());
+}
+
+// Finds options by their names. No PPD can make it slow, as it could a table of hashes.
+class OptionIndex {
+ public:
+  explicit OptionIndex(std::vector<PlainOption>& options) {
+    mEntries.reserve(options.size());
+    for (PlainOption& each : options)
+      mEntries.push_back({SortableName(each.keyword), &each, false});
+    std::ranges::sort(mEntries, {}, &Entry::name);
+    for (std::size_t i = 1; i < mEntries.size(); ++i)
+      if (mEntries[i - 1].name == mEntries[i].name)
+        mEntries[i - 1].isOpenedTwice = mEntries[i].isOpenedTwice = true;
+  }
+
+  // A statement outside of the options' blocks.
+  void add(const PpdStatement& statement) {
+    if (statement.keyword == kOpening || statement.keyword == kJclOpening) {
+      for (Entry& each : named(openedBy(statement))) each.isOpenedTwice = true;
+      return;
+    }
+    for (const std::string_view name :
+         {withoutDefault(statement.keyword), customOf(statement.keyword)})
+      for (Entry& each : named(name)) each.option->isNamedElsewhere = true;
+  }
+
+  // Those that are opened once, as they come in the PPD.
+  std::vector<PlainOption> openedOnce() {
+    std::erase_if(mEntries, [](const Entry& each) { return each.isOpenedTwice; });
+    std::ranges::sort(mEntries, {}, [](const Entry& each) { return each.option->first; });
+    std::vector<PlainOption> options;
+    options.reserve(mEntries.size());
+    for (const Entry& each : mEntries) options.push_back(*each.option);
+    return options;
+  }
+
+ private:
+  struct Entry {
+    SortableName name;
+    PlainOption* option;
+    bool isOpenedTwice;
+  };
+
+  std::ranges::subrange<std::vector<Entry>::iterator> named(std::string_view name) {
+    return std::ranges::equal_range(mEntries, SortableName(name), {}, &Entry::name);
+  }
+
+  std::vector<Entry> mEntries;
+};
 
 }  // namespace
 
 std::vector<PlainOption> plainOptions(const std::vector<PpdStatement>& statements) {
   std::vector<PlainOption> options;
-  Mentions mentions;
+  std::vector<const PpdStatement*> others;
   for (std::size_t at = 0; at < statements.size(); ++at) {
     const auto option = optionAt(statements, at);
-    ++mentions[inSmallLetters(option ? option->keyword : mentionedBy(statements[at]))];
-    if (!option) continue;
+    if (!option) {
+      others.push_back(&statements[at]);
+      continue;
+    }
     at = option->last;
     options.push_back(*option);
   }
-  std::erase_if(options,
-                [&](const PlainOption& o) { return mentions[inSmallLetters(o.keyword)] > 1; });
-  return options;
+  OptionIndex index(options);
+  for (const PpdStatement* each : others) index.add(*each);
+  return index.openedOnce();
 }
 
 }  // namespace cutline

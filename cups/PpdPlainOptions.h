@@ -1,5 +1,5 @@
-// The options of a PPD whose reading can be changed without changing what is read: those that are
-// opened once, are closed again, and are named nowhere else.
+// The options of a PPD of which it is clear where they begin and end: those that are opened once,
+// and closed again.
 #pragma once
 
 #include <cstddef>
@@ -10,15 +10,11 @@
 
 namespace cutline {
 
-inline constexpr std::size_t kNoStatement = static_cast<std::size_t>(-1);
-
 struct PlainOption {
   std::string_view keyword;
-  std::size_t first = 0, last = 0;  // of its statements, by number: OpenUI and CloseUI
-  // The statement that says its default choice and nothing else, and that choice; kNoStatement
-  // where there is none, or more than one, or libcups makes more of it.
-  std::size_t defaultAt = kNoStatement;
-  std::string_view defaultChoice;
+  // Its statements, by number, from OpenUI, or the default choice right before it, to CloseUI.
+  std::size_t first = 0, last = 0;
+  bool isNamedElsewhere = false;  // another statement says something of it, too
 };
 
 // The plain options among the statements, in their order.

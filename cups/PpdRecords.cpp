@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <functional>
 #include <string_view>
 
 #include "base/Utf8.h"
@@ -38,6 +39,15 @@ std::span<ppd_size_t> sizesOf(const ppd_file_t* ppd) { return records(ppd->sizes
 
 bool isInstallable(const ppd_group_t& group) {
   return std::strcmp(group.name, "InstallableOptions") == 0;
+}
+
+bool isInstallable(const ppd_file_t* ppd, const ppd_option_t& option) {
+  return std::ranges::any_of(groupsOf(ppd), [&option](const ppd_group_t& group) {
+    const auto options = optionsOf(group);
+    const std::less<> less;
+    return isInstallable(group) && !options.empty() && !less(&option, &options.front()) &&
+           !less(&options.back(), &option);
+  });
 }
 
 bool isCustom(const ppd_size_t& size) { return std::strcmp(size.name, kCustomChoice) == 0; }

@@ -24,6 +24,7 @@ std::span<ppd_size_t> sizesOf(const ppd_file_t* ppd);
 
 // The parts that a printer may have or lack, which are no settings of a job.
 bool isInstallable(const ppd_group_t& group);
+bool isInstallable(const ppd_file_t* ppd, const ppd_option_t& option);
 // The size that measures alone make.
 bool isCustom(const ppd_size_t& size);
 // Null when no size is marked.

@@ -2,32 +2,29 @@
 
 #include <algorithm>
 
+#include "base/CharacterSet.h"
 #include "cups/PpdLines.h"
 
 namespace cutline {
 
 namespace {
 
-constexpr std::string_view kBlankSigns = " \t\v\f\r\n";
-constexpr std::string_view kKeywordEnds = " \t\v\f\r\n:";
+constexpr CharacterSet kBlankSigns(" \t\v\f\r\n");
+constexpr CharacterSet kKeywordEnds(" \t\v\f\r\n:");
 constexpr std::string_view kComment = "*%";
 constexpr std::string_view kEnd = "End";  // behind a value of several lines
 constexpr char kSign = '*';
 
-std::string_view withoutBlanks(std::string_view text) {
-  text.remove_prefix(std::min(text.find_first_not_of(kBlankSigns), text.size()));
-  return text.substr(0, text.find_last_not_of(kBlankSigns) + 1);
-}
-
 std::string_view keywordOf(std::string_view line) {
   if (!line.starts_with(kSign) || line.starts_with(kComment)) return {};
-  const std::string_view keyword = line.substr(1, line.find_first_of(kKeywordEnds) - 1);
+  const std::string_view keyword = line.substr(1, kKeywordEnds.firstIn(line) - 1);
   return keyword == kEnd ? std::string_view() : keyword;
 }
 
 // Whether the value that a line begins, or goes on with, has an open quote at the line's end.
 // Quotes count behind a colon alone, and never in comments.
 bool isOpenBehind(std::string_view line, bool isOpen) {
+  if (line.find('"') == line.npos) return isOpen;
   if (!isOpen) {
     if (line.starts_with(kComment)) return false;
     line.remove_prefix(std::min(line.find(':'), line.size()));
@@ -52,13 +49,17 @@ std::vector<PpdStatement> ppdStatements(std::string_view contents) {
 std::string_view nameOf(const PpdStatement& statement) {
   const auto rest = statement.text.substr(std::min(statement.keyword.size() + 1,  // and its sign
                                                    statement.text.size()));
-  return withoutBlanks(rest.substr(0, rest.find(':')));
+  return kBlankSigns.trimmed(rest.substr(0, rest.find(':')));
+}
+
+bool hasValue(const PpdStatement& statement) {
+  return statement.text.find(':') != statement.text.npos;
 }
 
 std::string_view valueOf(const PpdStatement& statement) {
   const auto colon = statement.text.find(':');
   return colon == statement.text.npos ? std::string_view()
-                                      : withoutBlanks(statement.text.substr(colon + 1));
+                                      : kBlankSigns.trimmed(statement.text.substr(colon + 1));
 }
 
 }  // namespace cutline

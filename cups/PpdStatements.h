@@ -18,6 +18,9 @@ std::vector<PpdStatement> ppdStatements(std::string_view contents);
 // What stands between the keyword and the colon, such as "*Duplex/Two sides" behind OpenUI.
 std::string_view nameOf(const PpdStatement& statement);
 
+// Whether there is a colon: libcups skips statements without.
+bool hasValue(const PpdStatement& statement);
+
 // What stands behind the colon, without blanks around it; quotes stay. Empty where there is none.
 std::string_view valueOf(const PpdStatement& statement);
 

@@ -132,16 +132,27 @@ void putTextsOf(ppd_file_t& ppd, std::span<ppd_group_t> groups, const Languages&
 }  // namespace
 
 Languages keepTexts(std::string& contents, const Languages& languages) {
-  const Languages kept = chosen(namesInPpds(languages), languagesOf(contents));
+  const Spoken spoken = languagesOf(contents);
+  if (spoken.inLines.empty()) return {};
+  const Languages kept = chosen(namesInPpds(languages), spoken);
   std::string result;
   result.reserve(contents.size());
-  forEachPpdLine(contents, [&](std::string_view line, std::string_view end) {
+  // Up to where the contents are taken over.
+  const char* taken = contents.data();
+  const auto takeUpTo = [&](const char* end) { result.append(std::exchange(taken, end), end); };
+  forEachPpdLine(contents, [&](std::string_view line, std::string_view) {
     const std::string_view language = languageOfLine(line);
+    if (language.empty()) return;
     const bool isKept = std::ranges::find(kept, language) != kept.end();
-    if (language.empty() || isKept || !line.ends_with(kNoValue)) result += line;
-    if (isKept) result[result.size() - line.size() + 1 + language.size()] = kKeptSeparator;
-    result += end;
+    if (!isKept && !line.ends_with(kNoValue)) return;
+    takeUpTo(line.data());
+    if (isKept) {
+      takeUpTo(line.data() + line.size());
+      result[result.size() - line.size() + 1 + language.size()] = kKeptSeparator;
+    }
+    taken = line.data() + line.size();
   });
+  takeUpTo(contents.data() + contents.size());
   contents = std::move(result);
   return kept;
 }

@@ -8,15 +8,10 @@ bool OptionTable::Less::operator()(const std::string& one, const std::string& ot
   return strcasecmp(one.c_str(), other.c_str()) < 0;
 }
 
-// The first of two options with the same keyword counts.
-OptionTable::OptionTable(const PpdFile& ppd) : mGroups(ppd.optionGroups()) {
-  for (const OptionGroup& group : mGroups)
-    for (const PpdOption& option : group.options) mByKeyword.emplace(option.keyword, &option);
-}
-
 const PpdOption* OptionTable::find(const std::string& keyword) const {
-  const auto found = mByKeyword.find(keyword);
-  return found != mByKeyword.end() ? found->second : nullptr;
+  auto asked = mAsked.find(keyword);
+  if (asked == mAsked.end()) asked = mAsked.emplace(keyword, mPpd.option(keyword)).first;
+  return asked->second ? &*asked->second : nullptr;
 }
 
 std::optional<int> OptionTable::position(const std::string& keyword,

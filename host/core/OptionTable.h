@@ -11,13 +11,14 @@
 
 namespace cutline {
 
+// An option is made of the PPD's records when it is asked for: a PPD may have thousands that nobody
+// asks for. Of one thread.
 class OptionTable {
  public:
-  explicit OptionTable(const PpdFile& ppd);
+  // Borrows the PPD.
+  explicit OptionTable(const PpdFile& ppd) : mPpd(ppd) {}
   OptionTable(const OptionTable&) = delete;
   OptionTable& operator=(const OptionTable&) = delete;
-
-  const std::vector<OptionGroup>& groups() const noexcept { return mGroups; }
 
   // Capitals do not count, as in libcups. Null when the PPD lacks the option; borrowed.
   const PpdOption* find(const std::string& keyword) const;
@@ -35,8 +36,9 @@ class OptionTable {
     bool operator()(const std::string& one, const std::string& other) const;
   };
 
-  std::vector<OptionGroup> mGroups;
-  std::map<std::string, const PpdOption*, Less> mByKeyword;  // of the groups
+  const PpdFile& mPpd;
+  // What was asked for, be it there or not.
+  mutable std::map<std::string, std::optional<PpdOption>, Less> mAsked;
 };
 
 // Checks options that a person typed against a PPD: an unknown option (neither the PPD's nor a

@@ -123,18 +123,25 @@ std::string PrintModel::markedChoice(const std::string& keyword) const {
 }
 
 std::vector<OptionGroup> PrintModel::generatedOptions() const {
-  std::vector<OptionGroup> groups;
+  std::vector<OptionGroup> groups = mPrinter->ppd().optionGroups();
   const std::set<std::string> withBox = mPrinter->keywordsWithBox();
-  for (const OptionGroup& group : mPrinter->options().groups()) {
-    OptionGroup generated{group.name, group.text, {}};
-    for (const PpdOption& option : group.options) {
-      if (hasOwnControl(option.keyword) || option.choices.empty()) continue;
-      if (mPrinter->isReachedByPanels(option, withBox)) continue;
-      generated.options.push_back(option);
-    }
-    if (!generated.options.empty()) groups.push_back(std::move(generated));
-  }
+  for (OptionGroup& group : groups)
+    std::erase_if(group.options,
+                  [&](const PpdOption& option) { return !isGenerated(option, withBox); });
+  std::erase_if(groups, [](const OptionGroup& group) { return group.options.empty(); });
   return groups;
+}
+
+bool PrintModel::hasGeneratedOptions() const {
+  return mPrinter->ppd().anyOption(
+      [this, withBox = mPrinter->keywordsWithBox()](const PpdOption& option) {
+        return isGenerated(option, withBox);
+      });
+}
+
+bool PrintModel::isGenerated(const PpdOption& option, const std::set<std::string>& withBox) const {
+  return !hasOwnControl(option.keyword) && !option.choices.empty() &&
+         !mPrinter->isReachedByPanels(option, withBox);
 }
 
 Result<Done> PrintModel::setOption(const std::string& keyword, const std::string& choice) {

@@ -85,6 +85,8 @@ class PrintModel final : public ActionObserver {
   // the PPD's groups and order; installable options and the paper's own options left out. No group
   // is empty.
   std::vector<OptionGroup> generatedOptions() const;
+  // Whether there are any, without listing them.
+  bool hasGeneratedOptions() const;
   // A user's choice in the generated options. An unknown keyword or choice is an error.
   Result<Done> setOption(const std::string& keyword, const std::string& choice);
 
@@ -168,6 +170,8 @@ class PrintModel final : public ActionObserver {
  private:
   void tell(ModelChange what);
   OptionList keptOptions() const;
+  // `withBox` is OpenPrinter::keywordsWithBox().
+  bool isGenerated(const PpdOption& option, const std::set<std::string>& withBox) const;
   Result<Done> setCustomPaper(const std::string& name);
 
   PanelSource& mPanelSource;

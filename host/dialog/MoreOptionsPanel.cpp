@@ -63,7 +63,7 @@ MoreOptionsPanel::MoreOptionsPanel(MarkOf markOf, QWidget* parent)
   setAccessibleName(tr("More printer options"));
 }
 
-void MoreOptionsPanel::setGroups(std::vector<OptionGroup> groups) {
+void MoreOptionsPanel::setGroups(Groups groups) {
   mGroups = std::move(groups);
   mSetters.clear();
   delete mPage;
@@ -82,7 +82,8 @@ void MoreOptionsPanel::build() {
   auto* form = new QFormLayout(mPage);
   form->setContentsMargins(0, 0, 0, 0);
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-  for (const OptionGroup& group : mGroups) addGroup(*form, group);
+  if (mGroups)
+    for (const OptionGroup& group : mGroups()) addGroup(*form, group);
   mColumn->addWidget(mPage);
   showMarks();
 }

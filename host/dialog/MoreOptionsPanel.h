@@ -21,10 +21,14 @@ class MoreOptionsPanel : public QWidget {
   // The marked choice of an option of the groups; empty where none is marked.
   using MarkOf = std::function<std::string(const std::string& keyword)>;
 
+  // The groups of options; none where there is no function.
+  using Groups = std::function<std::vector<OptionGroup>()>;
+
   explicit MoreOptionsPanel(MarkOf markOf, QWidget* parent = nullptr);
 
-  // Builds the controls anew; while it is hidden, when it is shown: a driver has hundreds.
-  void setGroups(std::vector<OptionGroup> groups);
+  // Builds the controls anew; while it is hidden, when it is shown, and asks for the groups only
+  // then: a driver has hundreds of options.
+  void setGroups(Groups groups);
   // Moves the controls to where the marks are, and reports nothing.
   void showMarks();
 
@@ -42,7 +46,7 @@ class MoreOptionsPanel : public QWidget {
 
   MarkOf mMarkOf;
   QVBoxLayout* mColumn;
-  std::vector<OptionGroup> mGroups;
+  Groups mGroups;
   QWidget* mPage = nullptr;  // with the controls; null until they are built
   std::map<std::string, std::function<void(const std::string&)>> mSetters;  // by keyword
 };

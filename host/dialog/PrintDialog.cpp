@@ -169,10 +169,11 @@ void PrintDialog::showPrinter() {
   mPanelFrame->setPanels(mModel.panels());
   mHints->watchPanels();
   mJobForm->setPapers(mModel.papers());
-  std::vector<OptionGroup> moreOptions = mModel.generatedOptions();
-  mMoreButton->setEnabled(!moreOptions.empty());
-  if (moreOptions.empty()) mMoreButton->setChecked(false);
-  mMoreOptions->setGroups(std::move(moreOptions));
+  const bool hasMoreOptions = mModel.hasGeneratedOptions();
+  mMoreButton->setEnabled(hasMoreOptions);
+  if (!hasMoreOptions) mMoreButton->setChecked(false);
+  mMoreOptions->setGroups(
+      [this] { return mModel.isOpen() ? mModel.generatedOptions() : std::vector<OptionGroup>(); });
   mOpen->setEnabled(true);
   for (const NoticeTopic topic : {NoticeTopic::failure, NoticeTopic::setUp}) mNotices->clear(topic);
   showPaper();

@@ -232,7 +232,10 @@ TEST_F(AccessibilityTest, AGreyedBoxSaysSo) {
 // Further options of the printer are ticked as by a click, too.
 TEST_F(AccessibilityTest, AssistiveTechnologyTicksAGeneratedOption) {
   MoreOptionsPanel panel([](const std::string&) { return "False"; });
-  panel.setGroups({{"Group", "Group", {{"Fan", "Fan", "", {{"False", "No"}, {"True", "Yes"}}}}}});
+  panel.setGroups([] {
+    return std::vector<OptionGroup>{
+        {"Group", "Group", {{"Fan", "Fan", "", {{"False", "No"}, {"True", "Yes"}}}}}};
+  });
   QString chosen;
   QObject::connect(&panel, &MoreOptionsPanel::optionChosen,
                    [&](const QString&, const QString& choice) { chosen = choice; });

@@ -27,8 +27,10 @@ PpdOption option(const std::string& keyword, std::vector<OptionChoice> choices) 
   return {keyword, "Text of " + keyword, "", std::move(choices)};
 }
 
-std::vector<OptionGroup> group(std::vector<PpdOption> options) {
-  return {{"Group", "Group", std::move(options)}};
+MoreOptionsPanel::Groups group(std::vector<PpdOption> options) {
+  return [groups = std::vector<OptionGroup>{{"Group", "Group", std::move(options)}}] {
+    return groups;
+  };
 }
 
 using Marks = std::map<std::string, std::string>;
@@ -93,16 +95,19 @@ TEST(MoreOptionsControlsTest, WhatIsHiddenHasNoControlsUntilItIsShownWithTheLast
   EXPECT_EQ(panel.findChild<QComboBox*>(), nullptr);
 }
 
-// A driver has hundreds of options, and a click elsewhere asks for none of them.
-TEST(MoreOptionsControlsTest, WhatIsHiddenAsksForNoMarks) {
-  int asked = 0;
+// A driver has hundreds of options, and neither the opening nor a click elsewhere asks for them.
+TEST(MoreOptionsControlsTest, WhatIsHiddenAsksForNothing) {
+  int asked = 0, listed = 0;
   MoreOptionsPanel panel([&asked](const std::string&) { return ++asked, std::string(); });
   panel.hide();
-  panel.setGroups(group({option("Edge", kEdges)}));
+  panel.setGroups(
+      [&listed, groups = group({option("Edge", kEdges)})] { return ++listed, groups(); });
   panel.showMarks();
   EXPECT_EQ(asked, 0);
+  EXPECT_EQ(listed, 0);
   panel.show();
   EXPECT_EQ(asked, 1);
+  EXPECT_EQ(listed, 1);
 }
 
 TEST(MoreOptionsControlsTest, ReportsTheChoicesOwnKeyword) {

@@ -246,6 +246,7 @@ TEST_F(PrintModelTest, OnlyOptionsThatNoPanelDeclaredAreGenerated) {
   std::set<std::string> keywords;
   for (const OptionGroup& group : model->generatedOptions())
     for (const PpdOption& option : group.options) keywords.insert(option.keyword);
+  EXPECT_TRUE(model->hasGeneratedOptions());
   EXPECT_TRUE(keywords.contains("LxChainPrint"));
   for (const char* other : {"LxHalfCut", "LxMirror", "PageSize", "PageRegion"})
     EXPECT_FALSE(keywords.contains(other)) << other;
