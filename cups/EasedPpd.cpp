@@ -29,11 +29,12 @@ class Easing {
   explicit Easing(std::string_view contents)
       : mStatements(ppdStatements(contents)), mOptions(plainOptions(mStatements)) {}
 
-  EasedPpd eased() {
+  std::optional<EasedPpd> eased() {
     PpdGroupWalk survey;
     forEachPiece([](const PlainOption&) {}, [&](const PpdStatement& each) { survey.pass(each); });
     forEachPiece([&](const PlainOption& option) { write(option, survey); },
                  [&](const PpdStatement& statement) { write(statement); });
+    if (!mHasMemory) return std::nullopt;
     return std::move(mEased);
   }
 
@@ -59,27 +60,32 @@ class Easing {
     const std::span<const PpdStatement> block =
         std::span(mStatements).subspan(option.first, option.last - option.first + 1);
     if (!survey.isPlain(group)) return keep(block);
-    std::vector<EasedOption>& options = mEased.groups[group];
-    const bool mayGo = !options.empty() && !option.isNamedElsewhere && !mWalk.isOptionOpen();
-    options.push_back({option.keyword, mayGo ? optionBlock(option.keyword, block) : std::nullopt});
-    if (!options.back().leftOut) return keep(block);
-    for (const std::string_view text : options.back().leftOut->others) mEased.contents += text;
+    OptionRecords& options = mEased.groups[group];
+    const bool mayGo = options.size() > 0 && !option.isNamedElsewhere && !mWalk.isOptionOpen();
+    if (!mayGo || !readOptionBlock(option.keyword, block, mBlock)) {
+      mHasMemory = options.addPlace(option.keyword) && mHasMemory;
+      return keep(block);
+    }
+    mHasMemory = options.add(mBlock) && mHasMemory;
+    for (const std::string_view text : mBlock.others) mEased.contents += text;
   }
 
   void keep(std::span<const PpdStatement> block) {
-    for (const PpdStatement& each : block) mEased.contents += each.text;
+    for (const PpdStatement& each : block) mEased.contents += each.text();
     mWalk.passOption();
   }
 
   void write(const PpdStatement& statement) {
     mWalk.pass(statement);
-    mEased.contents += statement.text;
+    mEased.contents += statement.text();
   }
 
   const std::vector<PpdStatement> mStatements;
   const std::vector<PlainOption> mOptions;
   PpdGroupWalk mWalk;
+  OptionBlock mBlock;  // the one that is being read
   EasedPpd mEased;
+  bool mHasMemory = true;
 };
 
 }  // namespace

@@ -9,28 +9,23 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "cups/PpdOptionBlock.h"
+#include "cups/PpdOptionRecords.h"
 
 namespace cutline {
 
-struct EasedOption {
-  std::string_view keyword;
-  std::optional<OptionBlock> leftOut;  // nothing for an option that the contents still have
-};
-
-// What it points into are the contents that it was made of.
 struct EasedPpd {
   std::string contents;
-  // The options, in their order, of each group of which some were left out.
-  std::map<std::string_view, std::vector<EasedOption>> groups;
+  // The options of each group that has some to be left out, with places for those that the contents
+  // still have. The names are those in the contents that it was made of.
+  std::map<std::string_view, OptionRecords> groups;
 };
 
 // A PPD with no more options needs no ease: it is read in some milliseconds.
 inline constexpr std::size_t kFewOptions = 500;
 
-// Nothing for a PPD with few options, or with signs that libcups reads in a way of its own.
+// Nothing for a PPD with few options, or with signs that libcups reads in a way of its own, or
+// where there is no memory.
 std::optional<EasedPpd> easedPpd(std::string_view contents, std::size_t fewOptions = kFewOptions);
 
 }  // namespace cutline

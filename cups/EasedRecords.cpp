@@ -59,7 +59,7 @@ bool putDefaults(ppd_file_t& ppd, const std::vector<ppd_option_t*>& options) {
 
 // No where something that was to be there is missing: libcups may have stopped before the end. What
 // is left then is good for ppdClose alone.
-bool complete(ppd_file_t& ppd, const EasedPpd& eased) {
+bool complete(ppd_file_t& ppd, EasedPpd& eased) {
   const auto options = putBackOptions(ppd, eased);
   return options && putDefaults(ppd, *options);
 }
@@ -67,7 +67,7 @@ bool complete(ppd_file_t& ppd, const EasedPpd& eased) {
 }  // namespace
 
 ppd_file_t* openEased(std::string_view contents, std::size_t fewOptions) {
-  const auto eased = easedPpd(contents, fewOptions);
+  auto eased = easedPpd(contents, fewOptions);
   if (!eased) return nullptr;
   FileDescriptor file = memoryFile(eased->contents);
   ppd_file_t* ppd = file ? ppdOpenFd(file.release()) : nullptr;  // closes it

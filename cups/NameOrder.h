@@ -1,5 +1,5 @@
-// Sorts by the names of options, whatever letters they are written in: as strcasecmp has them in
-// the C locale, and libcups in every one.
+// The order of options' names, whatever letters they are written in: as strcasecmp has it in the C
+// locale, and libcups in every one.
 #pragma once
 
 #include <algorithm>
@@ -11,24 +11,17 @@
 
 namespace cutline {
 
-// Compares most names by two numbers, which are made once, instead of letter by letter.
-class SortableName {
+// How a name begins, in small letters, as numbers that compare as it does.
+class NameStart {
  public:
-  explicit SortableName(std::string_view name)
-      : mFirst(number(name, 0)), mSecond(number(name, 8)), mName(name) {}
+  static constexpr std::size_t kSize = 16;
 
-  std::string_view name() const noexcept { return mName; }
-  std::strong_ordering operator<=>(const SortableName& other) const noexcept {
-    if (mFirst != other.mFirst) return mFirst <=> other.mFirst;
-    if (mSecond != other.mSecond) return mSecond <=> other.mSecond;
-    return compareRest(other);
-  }
-  bool operator==(const SortableName& other) const noexcept { return (*this <=> other) == 0; }
+  explicit NameStart(std::string_view name)
+      : mFirst(number(name, 0)), mSecond(number(name, sizeof(mFirst))) {}
+  auto operator<=>(const NameStart&) const noexcept = default;
 
  private:
-  static constexpr std::size_t kInNumbers = 16;
-
-  static std::uint64_t small(char c) noexcept {
+  static constexpr std::uint64_t small(char c) noexcept {
     return static_cast<unsigned char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c);
   }
   static std::uint64_t number(std::string_view name, std::size_t from) noexcept {
@@ -37,29 +30,33 @@ class SortableName {
       number = number << 8U | (i < name.size() ? small(name[i]) : 0);
     return number;
   }
-  std::strong_ordering compareRest(const SortableName& other) const noexcept {
-    if (mName.size() <= kInNumbers || other.mName.size() <= kInNumbers)
-      return mName.size() <=> other.mName.size();
-    return std::lexicographical_compare_three_way(
-        mName.begin() + kInNumbers, mName.end(), other.mName.begin() + kInNumbers,
-        other.mName.end(), [](char a, char b) { return small(a) <=> small(b); });
-  }
 
   std::uint64_t mFirst, mSecond;
-  std::string_view mName;
 };
 
-// Sorts elements by what nameOf(element) says; those with the same name keep their order.
+inline std::strong_ordering compareNames(std::string_view a, std::string_view b) {
+  do {
+    if (const auto order = NameStart(a) <=> NameStart(b); order != 0) return order;
+    a.remove_prefix(std::min(a.size(), NameStart::kSize));
+    b.remove_prefix(std::min(b.size(), NameStart::kSize));
+  } while (!a.empty() && !b.empty());
+  return a.size() <=> b.size();
+}
+
+// Sorts small elements by what nameOf(element) says; those of the same name keep their order.
 template <typename Element, typename Function>
 void sortByName(std::vector<Element>& elements, const Function& nameOf) {
   struct Named {
-    SortableName name;
+    NameStart start;
     Element element;
   };
   std::vector<Named> named;
   named.reserve(elements.size());
-  for (const Element& each : elements) named.push_back({SortableName(nameOf(each)), each});
-  std::ranges::stable_sort(named, {}, &Named::name);
+  for (const Element& each : elements) named.push_back({NameStart(nameOf(each)), each});
+  std::ranges::stable_sort(named, [&nameOf](const Named& a, const Named& b) {
+    const auto order = a.start <=> b.start;
+    return order != 0 ? order < 0 : compareNames(nameOf(a.element), nameOf(b.element)) < 0;
+  });
   std::ranges::transform(named, elements.begin(), &Named::element);
 }
 

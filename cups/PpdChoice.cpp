@@ -128,9 +128,10 @@ std::string markedText(ppd_file_t* ppd, const ppd_option_t& option) {
 }
 
 bool isAtDefault(const ppd_option_t& option) {
-  return std::ranges::all_of(choicesOf(option), [&](const ppd_choice_t& choice) {
+  const bool mayBeCustom = option.defchoice[0] == kCustomChoice[0];
+  return std::ranges::all_of(choicesOf(option), [&option, mayBeCustom](const ppd_choice_t& choice) {
     return choice.marked == 0 || (std::strcmp(choice.choice, option.defchoice) == 0 &&
-                                  std::strcmp(choice.choice, kCustomChoice) != 0);
+                                  !(mayBeCustom && std::strcmp(choice.choice, kCustomChoice) == 0));
   });
 }
 
@@ -158,13 +159,22 @@ Result<Done> checkChoiceOf(ppd_file_t* ppd, const ppd_option_t& option, const st
                         {std::string(option.keyword), choice, choiceNames(option)})};
 }
 
-bool markList(ppd_file_t* ppd, const std::string& keyword, const std::string& choice) {
-  const ppd_option_t* option = ppdFindOption(ppd, keyword.c_str());
-  if (!option || !isList(*option, choice)) return false;
-  for (ppd_choice_t& each : choicesOf(*option)) {
-    // libcups' list of what is marked finds a choice by its option.
-    if (std::exchange(each.marked, '\0') != 0) cupsArrayRemove(ppd->marked, &each);
+// libcups' list of what is marked finds a choice by its option, and has it as often as it was
+// marked where the option takes several.
+void unmark(ppd_file_t* ppd, ppd_option_t& option) {
+  ppd_choice_t any{};
+  any.option = &option;
+  while (auto* found = static_cast<ppd_choice_t*>(cupsArrayFind(ppd->marked, &any))) {
+    found->marked = '\0';
+    cupsArrayRemove(ppd->marked, found);
   }
+  for (ppd_choice_t& each : choicesOf(option)) each.marked = '\0';
+}
+
+bool markList(ppd_file_t* ppd, const std::string& keyword, const std::string& choice) {
+  ppd_option_t* option = ppdFindOption(ppd, keyword.c_str());
+  if (!option || !isList(*option, choice)) return false;
+  unmark(ppd, *option);
   for (const std::string& part : partsBetweenCommas(choice))
     ppdMarkOption(ppd, option->keyword, part.c_str());
   return true;

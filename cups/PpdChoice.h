@@ -25,6 +25,9 @@ std::string spelledChoice(const ppd_option_t& option, const std::string& choice)
 // not have the choice.
 Result<Done> checkChoiceOf(ppd_file_t* ppd, const ppd_option_t& option, const std::string& choice);
 
+// Takes all marks of an option away.
+void unmark(ppd_file_t* ppd, ppd_option_t& option);
+
 // Marks several choices in place of all others, where the option takes them and the text names them
 // with commas; libcups takes such a text for the name of one choice. No for any other text.
 bool markList(ppd_file_t* ppd, const std::string& keyword, const std::string& choice);

@@ -52,6 +52,13 @@ Error damaged(const Sentence& name) {
   return unopenedPpd(name, Phrase("cups", "it is damaged or not whole"));
 }
 
+// None where it is not known, or too large.
+std::size_t sizeOf(const FileDescriptor& file) {
+  struct stat status {};
+  if (fstat(file.get(), &status) != 0 || status.st_size > static_cast<off_t>(kLargestPpd)) return 0;
+  return static_cast<std::size_t>(status.st_size);
+}
+
 }  // namespace
 
 Error unopenedPpd(const Sentence& name, Sentence why) {
@@ -60,9 +67,11 @@ Error unopenedPpd(const Sentence& name, Sentence why) {
 
 // libcups unpacks, too, so what is still packed here would come out there without a limit.
 Result<std::string> ppdContents(FileDescriptor file, const Sentence& name) {
+  const std::size_t size = sizeOf(file);
   Unpacker unpacker(std::move(file));
   if (!unpacker) return unopenedPpd(name, std::string(std::strerror(ENOMEM)));
   std::string text;
+  text.reserve(size);
   std::array<char, kUnpackedBlock> block{};
   int count = 0;
   while ((count = unpacker.read(block)) > 0) {

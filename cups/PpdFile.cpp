@@ -15,8 +15,8 @@
 #include "cups/IppMessage.h"
 #include "cups/PpdChoice.h"
 #include "cups/PpdContents.h"
-#include "cups/PpdDefaults.h"
 #include "cups/PpdLimits.h"
+#include "cups/PpdMarks.h"
 #include "cups/PpdProblems.h"
 #include "cups/PpdRecords.h"
 #include "cups/PpdTexts.h"
@@ -110,6 +110,9 @@ Error notFetched(http_t* http, const std::string& printer, http_status_t status)
 
 }  // namespace
 
+PpdFile::PpdFile(ppd_file_t* ppd, std::size_t fingerprint)
+    : mPpd(ppd), mFingerprint(fingerprint), mMarks(std::make_unique<PpdMarks>(ppd)) {}
+
 PpdFile::~PpdFile() { ppdClose(mPpd); }
 
 Result<std::shared_ptr<PpdFile>> PpdFile::read(std::string contents, const Sentence& name) {
@@ -125,6 +128,7 @@ Result<std::shared_ptr<PpdFile>> PpdFile::read(std::string contents, const Sente
   std::shared_ptr<PpdFile> file(new PpdFile(ppd, std::hash<std::string>{}(contents)));
   if (const auto problem = unusableSizes(ppd, name)) return *problem;
   putTexts(*ppd, kept);
+  file->mMarks->markDefaults();
   return file;
 }
 
@@ -157,7 +161,7 @@ Result<std::shared_ptr<PpdFile>> PpdFile::fetchOn(const ServerConnection& connec
 }
 
 void PpdFile::mark(const std::vector<OptionList>& layers) const {
-  markDefaults(mPpd);
+  mMarks->markDefaults();
   for (const OptionList& layer : layers) {
     const CupsOptions options(withoutUnusableSizes(mPpd, layer));
     cupsMarkOptions(mPpd, options.size(), options.data());
@@ -167,7 +171,7 @@ void PpdFile::mark(const std::vector<OptionList>& layers) const {
 
 void PpdFile::markChoice(const std::string& keyword, const std::string& choice) const {
   if (markList(mPpd, keyword, choice)) return;
-  if (!isUnusableSize(mPpd, keyword, choice)) ppdMarkOption(mPpd, keyword.c_str(), choice.c_str());
+  if (!isUnusableSize(mPpd, keyword, choice)) mMarks->mark(keyword, choice);
 }
 
 std::string PpdFile::markedChoice(const std::string& keyword) const {

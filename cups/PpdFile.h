@@ -17,6 +17,7 @@ struct ppd_file_s;
 
 namespace cutline {
 
+class PpdMarks;
 class ServerConnection;
 
 // A page size of the PPD. Sizes in points.
@@ -67,7 +68,7 @@ class PpdFile {
   PpdFile(const PpdFile&) = delete;
   PpdFile& operator=(const PpdFile&) = delete;
 
-  // Reads a file. The error names file, line and reason.
+  // Reads a file, and marks its defaults. The error names file, line and reason.
   static Result<std::shared_ptr<PpdFile>> open(const std::string& path);
   // Fetches the queue's PPD from the server, into memory: no file is left behind. May block.
   static Result<std::shared_ptr<PpdFile>> fetch(const ServerOptions& server,
@@ -128,9 +129,10 @@ class PpdFile {
  private:
   // `name` is what errors call the PPD.
   static Result<std::shared_ptr<PpdFile>> read(std::string contents, const Sentence& name);
-  PpdFile(ppd_file_s* ppd, std::size_t fingerprint) : mPpd(ppd), mFingerprint(fingerprint) {}
+  PpdFile(ppd_file_s* ppd, std::size_t fingerprint);
   ppd_file_s* mPpd;
   std::size_t mFingerprint;
+  std::unique_ptr<PpdMarks> mMarks;
 };
 
 }  // namespace cutline

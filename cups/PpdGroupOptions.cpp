@@ -6,7 +6,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <iterator>
-#include <memory>
 #include <unordered_map>
 #include <utility>
 
@@ -17,12 +16,6 @@
 namespace cutline {
 
 namespace {
-
-struct FreeOptions {
-  void operator()(ppd_option_t* options) const noexcept { std::free(options); }
-};
-// libcups frees them, too, once they are a group's.
-using OptionMemory = std::unique_ptr<ppd_option_t, FreeOptions>;
 
 ppd_group_t* groupNamed(ppd_file_t& ppd, std::string_view name) {
   const auto groups = groupsOf(&ppd);
@@ -39,11 +32,11 @@ class PuttingBack {
  public:
   explicit PuttingBack(ppd_file_t& ppd) : mPpd(ppd) {}
 
-  bool putBack(std::string_view name, const std::vector<EasedOption>& options) {
+  bool putBack(std::string_view name, OptionRecords& options) {
     ppd_group_t* group = groupNamed(mPpd, name);
-    if (!group) return false;
-    OptionMemory all(static_cast<ppd_option_t*>(std::calloc(options.size(), sizeof(ppd_option_t))));
-    return all && move(*group, options, all.get()) && replace(*group, std::move(all), options);
+    if (!group || !move(*group, options)) return false;
+    replace(*group, options);
+    return true;
   }
 
   // Once all groups have theirs.
@@ -62,30 +55,31 @@ class PuttingBack {
 
  private:
   // Copies the options that the group has to their places. No where it has others.
-  bool move(const ppd_group_t& group, const std::vector<EasedOption>& options,
-            ppd_option_t* places) {
-    auto kept = optionsOf(group).begin();
-    const auto end = optionsOf(group).end();
-    for (std::size_t i = 0; i < options.size(); ++i) {
-      if (options[i].leftOut) continue;
-      if (kept == end || kept->keyword != options[i].keyword) return false;
-      places[i] = *kept;
-      for (ppd_choice_t& choice : choicesOf(places[i])) choice.option = &places[i];
-      mNow.emplace(&*kept++, &places[i]);
-    }
-    return kept == end;
-  }
-
-  bool replace(ppd_group_t& group, OptionMemory all, const std::vector<EasedOption>& options) {
-    std::free(std::exchange(group.options, all.release()));
-    group.num_options = static_cast<int>(options.size());
-    mBack.reserve(mBack.size() + options.size());
-    for (std::size_t i = 0; i < options.size(); ++i) {
-      if (!options[i].leftOut) continue;
-      if (!fillOption(group.options[i], *options[i].leftOut)) return false;
-      mBack.push_back(&group.options[i]);
+  bool move(const ppd_group_t& group, OptionRecords& options) {
+    const auto kept = optionsOf(group);
+    const auto isSame = [&](const ppd_option_t& option, std::size_t place) {
+      return std::strcmp(option.keyword, options.all()[place].keyword) == 0;
+    };
+    if (!std::ranges::equal(kept, options.places(), isSame)) return false;
+    for (std::size_t i = 0; i < kept.size(); ++i) {
+      ppd_option_t& place = options.all()[options.places()[i]];
+      place = kept[i];
+      mNow.emplace(&kept[i], &place);
     }
     return true;
+  }
+
+  void replace(ppd_group_t& group, OptionRecords& options) {
+    const auto all = options.all();
+    auto place = options.places().begin();
+    for (std::size_t i = 0; i < all.size(); ++i) {
+      for (ppd_choice_t& choice : choicesOf(all[i])) choice.option = &all[i];
+      const bool isPlace = place != options.places().end() && *place == i;
+      if (isPlace) ++place;
+      if (!isPlace) mBack.push_back(&all[i]);
+    }
+    std::free(std::exchange(group.options, options.release()));
+    group.num_options = static_cast<int>(all.size());
   }
 
   // Where an option is that was elsewhere before.
@@ -99,17 +93,12 @@ class PuttingBack {
   std::vector<ppd_option_t*> mBack;
 };
 
-bool isWhole(const std::vector<EasedOption>& options) {
-  return std::ranges::none_of(options,
-                              [](const EasedOption& each) { return each.leftOut.has_value(); });
-}
-
 }  // namespace
 
-std::optional<std::vector<ppd_option_t*>> putBackOptions(ppd_file_t& ppd, const EasedPpd& eased) {
+std::optional<std::vector<ppd_option_t*>> putBackOptions(ppd_file_t& ppd, EasedPpd& eased) {
   PuttingBack back(ppd);
-  for (const auto& [name, options] : eased.groups)
-    if (!isWhole(options) && !back.putBack(name, options)) return std::nullopt;
+  for (auto& [name, options] : eased.groups)
+    if (!back.putBack(name, options)) return std::nullopt;
   return back.sortIn();
 }
 

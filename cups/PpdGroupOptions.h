@@ -13,6 +13,6 @@ namespace cutline {
 // Gives the groups the options that were left out, in their places, and the PPD's sorted list of
 // options, too. Answers those, sorted so. Nothing where a group is missing or has other options
 // than it should have, or there is no memory; what is left then is good for ppdClose alone.
-std::optional<std::vector<ppd_option_t*>> putBackOptions(ppd_file_t& ppd, const EasedPpd& eased);
+std::optional<std::vector<ppd_option_t*>> putBackOptions(ppd_file_t& ppd, EasedPpd& eased);
 
 }  // namespace cutline

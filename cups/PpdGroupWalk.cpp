@@ -35,7 +35,7 @@ bool isClearGroup(std::string_view value) {
 }  // namespace
 
 void PpdGroupWalk::pass(const PpdStatement& statement) {
-  const std::string_view keyword = statement.keyword;
+  const std::string_view keyword = statement.keyword();
   if (keyword == "OpenGroup") return open(statement);
   if (keyword == "CloseGroup" && hasValue(statement)) return mOpen.reset();
   // It ends the group without a word.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <optional>
 #include <utility>
 
 #include "base/CharacterSet.h"
@@ -119,7 +120,7 @@ bool hasShortLines(std::string_view text) {
 }
 
 bool isSkipped(const PpdStatement& statement) {
-  const std::string_view text = statement.text.substr(0, statement.text.find_first_of("\r\n"));
+  const std::string_view text = statement.text().substr(0, statement.text().find_first_of("\r\n"));
   return kGaps.hasAll(text) || text.starts_with("*%") || text == "*End";
 }
 
@@ -129,8 +130,8 @@ struct NameAndText {
 
 // "A" and "Text" of `*Option A/Text: "..."`. Blanks in a text are its own.
 NameAndText nameAndText(const PpdStatement& statement) {
-  std::string_view whole = statement.text.substr(0, statement.text.find(':'));
-  whole.remove_prefix(std::min(statement.keyword.size() + 1, whole.size()));
+  std::string_view whole = statement.text().substr(0, statement.text().find(':'));
+  whole.remove_prefix(std::min(statement.keyword().size() + 1, whole.size()));
   whole.remove_prefix(kGaps.firstNotIn(whole));
   const auto slash = whole.find('/');
   if (slash == whole.npos) return {whole, {}};
@@ -163,19 +164,23 @@ std::string_view nextWord(std::string_view& text) {
 
 class BlockReader {
  public:
-  explicit BlockReader(std::string_view keyword) { mBlock.keyword = keyword; }
-
-  bool take(const PpdStatement& statement) {
-    if (statement.keyword.empty()) return isSkipped(statement);
-    if (statement.keyword == "OpenUI") return takeOpening(statement);
-    if (statement.keyword == mBlock.keyword) return takeChoice(statement);
-    if (statement.keyword == kOrder) return takeOrder(valueOf(statement));
-    if (isDefault(statement.keyword)) return takeDefault(statement);
-    mBlock.others.push_back(statement.text);
-    return true;
+  BlockReader(std::string_view keyword, OptionBlock& block) : mBlock(block) {
+    block.choices.clear();
+    block.others.clear();
+    // Their memory is good for another option.
+    block = {keyword, {}, PPD_UI_PICKONE,           PPD_ORDER_ANY,
+             0,       {}, std::move(block.choices), std::move(block.others)};
   }
 
-  OptionBlock block() { return std::move(mBlock); }
+  bool take(const PpdStatement& statement) {
+    if (statement.keyword().empty()) return isSkipped(statement);
+    if (statement.keyword() == "OpenUI") return takeOpening(statement);
+    if (statement.keyword() == mBlock.keyword) return takeChoice(statement);
+    if (statement.keyword() == kOrder) return takeOrder(valueOf(statement));
+    if (isDefault(statement.keyword())) return takeDefault(statement);
+    mBlock.others.push_back(statement.text());
+    return true;
+  }
 
  private:
   bool takeOpening(const PpdStatement& statement) {
@@ -197,8 +202,9 @@ class BlockReader {
 
   bool takeDefault(const PpdStatement& statement) {
     const std::string_view choice = valueOf(statement);
-    const bool isPlain = statement.keyword.starts_with("Default") && isPpdWord(statement.keyword) &&
-                         nameOf(statement).empty() && isPpdWord(choice) && !isCustom(choice);
+    const bool isPlain = statement.keyword().starts_with("Default") &&
+                         isPpdWord(statement.keyword()) && nameOf(statement).empty() &&
+                         isPpdWord(choice) && !isCustom(choice);
     if (!isPlain || !mBlock.defaultChoice.empty()) return false;
     mBlock.defaultChoice = choice;
     return true;
@@ -214,20 +220,19 @@ class BlockReader {
     return option.starts_with('*') && option.substr(1) == mBlock.keyword && value.empty();
   }
 
-  OptionBlock mBlock;
+  OptionBlock& mBlock;
 };
 
 }  // namespace
 
-std::optional<OptionBlock> optionBlock(std::string_view keyword,
-                                       std::span<const PpdStatement> statements) {
-  BlockReader reader(keyword);
+bool readOptionBlock(std::string_view keyword, std::span<const PpdStatement> statements,
+                     OptionBlock& block) {
+  BlockReader reader(keyword, block);
   const bool isLong = !std::ranges::all_of(
-      statements, [](const PpdStatement& each) { return hasShortLines(each.text); });
-  if (isLong || isKnown(keyword)) return std::nullopt;
-  for (const PpdStatement& each : statements.first(statements.size() - 1))
-    if (!reader.take(each)) return std::nullopt;
-  return reader.block();
+      statements, [](const PpdStatement& each) { return hasShortLines(each.text()); });
+  if (isLong || isKnown(keyword)) return false;
+  return std::ranges::all_of(statements.first(statements.size() - 1),
+                             [&reader](const PpdStatement& each) { return reader.take(each); });
 }
 
 }  // namespace cutline

@@ -3,7 +3,6 @@
 
 #include <cups/ppd.h>
 
-#include <optional>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -31,10 +30,10 @@ struct OptionBlock {
   std::vector<std::string_view> others;
 };
 
-// Reads the statements of a plain option. Nothing for a block with anything in it that libcups
-// reads in a way of its own: texts that are no plain ASCII, custom choices, options that it knows
-// by name.
-std::optional<OptionBlock> optionBlock(std::string_view keyword,
-                                       std::span<const PpdStatement> statements);
+// Reads the statements of a plain option. No for a block with anything in it that libcups reads in
+// a way of its own: texts that are no plain ASCII, custom choices, options that it knows by name.
+// What the block had before is gone in either case.
+bool readOptionBlock(std::string_view keyword, std::span<const PpdStatement> statements,
+                     OptionBlock& block);
 
 }  // namespace cutline

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
-#include <ranges>
+#include <span>
 
 #include "cups/NameOrder.h"
 #include "cups/PpdWords.h"
@@ -39,18 +39,19 @@ bool belongsTo(std::string_view option, std::string_view keyword) {
 
 // Nothing where no option begins with the statement, or one whose block has more in it.
 std::optional<PlainOption> optionAt(const std::vector<PpdStatement>& statements, std::size_t at) {
-  const bool isDefaultFirst = isDefault(statements[at].keyword);
+  const bool isDefaultFirst = isDefault(statements[at].keyword());
   const std::size_t opening = isDefaultFirst ? at + 1 : at;
-  if (opening == statements.size() || statements[opening].keyword != kOpening) return std::nullopt;
+  if (opening == statements.size() || statements[opening].keyword() != kOpening)
+    return std::nullopt;
   PlainOption option{openedBy(statements[opening]), at, opening + 1};
   const bool isNamedSo = std::ranges::find(kStructure, option.keyword) != kStructure.end();
   if (!isPpdWord(option.keyword) || isNamedSo) return std::nullopt;
-  if (isDefaultFirst && withoutDefault(statements[at].keyword) != option.keyword)
+  if (isDefaultFirst && withoutDefault(statements[at].keyword()) != option.keyword)
     return std::nullopt;
   while (option.last < statements.size() &&
-         belongsTo(option.keyword, statements[option.last].keyword))
+         belongsTo(option.keyword, statements[option.last].keyword()))
     ++option.last;
-  if (option.last == statements.size() || statements[option.last].keyword != kClosing ||
+  if (option.last == statements.size() || statements[option.last].keyword() != kClosing ||
       !hasValue(statements[option.last]))
     return std::nullopt;
   return option;
@@ -68,54 +69,45 @@ std::string_view customOf(std::string_view keyword) {
 class OptionIndex {
  public:
   explicit OptionIndex(std::vector<PlainOption>& options) {
-    mEntries.reserve(options.size());
-    for (PlainOption& each : options)
-      mEntries.push_back({SortableName(each.keyword), &each, false});
-    std::ranges::sort(mEntries, {}, &Entry::name);
-    for (std::size_t i = 1; i < mEntries.size(); ++i)
-      if (mEntries[i - 1].name == mEntries[i].name)
-        mEntries[i - 1].isOpenedTwice = mEntries[i].isOpenedTwice = true;
+    mSorted.reserve(options.size());
+    for (PlainOption& each : options) mSorted.push_back(&each);
+    sortByName(mSorted, keywordOf);
+    for (std::size_t i = 1; i < mSorted.size(); ++i)
+      if (isSameName(mSorted[i - 1]->keyword, mSorted[i]->keyword))
+        mSorted[i - 1]->isOpenedTwice = mSorted[i]->isOpenedTwice = true;
   }
 
   // A statement outside of the options' blocks.
   void add(const PpdStatement& statement) {
-    if (statement.keyword == kOpening || statement.keyword == kJclOpening) {
-      for (Entry& each : named(openedBy(statement))) each.isOpenedTwice = true;
+    if (statement.keyword() == kOpening || statement.keyword() == kJclOpening) {
+      for (PlainOption* each : named(openedBy(statement))) each->isOpenedTwice = true;
       return;
     }
     for (const std::string_view name :
-         {withoutDefault(statement.keyword), customOf(statement.keyword)})
-      for (Entry& each : named(name)) each.option->isNamedElsewhere = true;
-  }
-
-  // Those that are opened once, as they come in the PPD.
-  std::vector<PlainOption> openedOnce() {
-    std::erase_if(mEntries, [](const Entry& each) { return each.isOpenedTwice; });
-    std::ranges::sort(mEntries, {}, [](const Entry& each) { return each.option->first; });
-    std::vector<PlainOption> options;
-    options.reserve(mEntries.size());
-    for (const Entry& each : mEntries) options.push_back(*each.option);
-    return options;
+         {withoutDefault(statement.keyword()), customOf(statement.keyword())})
+      if (!name.empty())
+        for (PlainOption* each : named(name)) each->isNamedElsewhere = true;
   }
 
  private:
-  struct Entry {
-    SortableName name;
-    PlainOption* option;
-    bool isOpenedTwice;
-  };
-
-  std::ranges::subrange<std::vector<Entry>::iterator> named(std::string_view name) {
-    return std::ranges::equal_range(mEntries, SortableName(name), {}, &Entry::name);
+  static std::string_view keywordOf(const PlainOption* option) { return option->keyword; }
+  std::span<PlainOption* const> named(std::string_view name) const {
+    const auto comesBefore = [](std::string_view a, std::string_view b) {
+      return compareNames(a, b) < 0;
+    };
+    const auto found = std::ranges::equal_range(mSorted, name, comesBefore, keywordOf);
+    return {found.begin(), found.end()};
   }
 
-  std::vector<Entry> mEntries;
+  std::vector<PlainOption*> mSorted;
 };
 
 }  // namespace
 
 std::vector<PlainOption> plainOptions(const std::vector<PpdStatement>& statements) {
+  constexpr std::size_t kInOption = 4;  // statements, at least
   std::vector<PlainOption> options;
+  options.reserve(statements.size() / kInOption);
   std::vector<const PpdStatement*> others;
   for (std::size_t at = 0; at < statements.size(); ++at) {
     const auto option = optionAt(statements, at);
@@ -128,7 +120,8 @@ std::vector<PlainOption> plainOptions(const std::vector<PpdStatement>& statement
   }
   OptionIndex index(options);
   for (const PpdStatement* each : others) index.add(*each);
-  return index.openedOnce();
+  std::erase_if(options, [](const PlainOption& each) { return each.isOpenedTwice; });
+  return options;
 }
 
 }  // namespace cutline

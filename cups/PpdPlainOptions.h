@@ -15,6 +15,7 @@ struct PlainOption {
   // Its statements, by number, from OpenUI, or the default choice right before it, to CloseUI.
   std::size_t first = 0, last = 0;
   bool isNamedElsewhere = false;  // another statement says something of it, too
+  bool isOpenedTwice = false;     // never of those that are answered
 };
 
 // The plain options among the statements, in their order.

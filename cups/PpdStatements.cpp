@@ -36,30 +36,36 @@ bool isOpenBehind(std::string_view line, bool isOpen) {
 
 std::vector<PpdStatement> ppdStatements(std::string_view contents) {
   std::vector<PpdStatement> statements;
+  constexpr std::size_t kShortLine = 16;
+  statements.reserve(contents.size() / kShortLine);
   bool isOpen = false;
   forEachPpdLine(contents, [&](std::string_view line, std::string_view end) {
-    if (!isOpen) statements.push_back({{line.data(), 0}, keywordOf(line)});
-    std::string_view& text = statements.back().text;
-    text = {text.data(), text.size() + line.size() + end.size()};
+    if (isOpen) {
+      statements.back().extendBy(line.size() + end.size());
+    } else {
+      statements.emplace_back(line, keywordOf(line).size());
+      statements.back().extendBy(end.size());
+    }
     isOpen = isOpenBehind(line, isOpen);
   });
   return statements;
 }
 
 std::string_view nameOf(const PpdStatement& statement) {
-  const auto rest = statement.text.substr(std::min(statement.keyword.size() + 1,  // and its sign
-                                                   statement.text.size()));
+  const auto rest =
+      statement.text().substr(std::min(statement.keyword().size() + 1,  // and its sign
+                                       statement.text().size()));
   return kBlankSigns.trimmed(rest.substr(0, rest.find(':')));
 }
 
 bool hasValue(const PpdStatement& statement) {
-  return statement.text.find(':') != statement.text.npos;
+  return statement.text().find(':') != statement.text().npos;
 }
 
 std::string_view valueOf(const PpdStatement& statement) {
-  const auto colon = statement.text.find(':');
-  return colon == statement.text.npos ? std::string_view()
-                                      : kBlankSigns.trimmed(statement.text.substr(colon + 1));
+  const auto colon = statement.text().find(':');
+  return colon == statement.text().npos ? std::string_view()
+                                        : kBlankSigns.trimmed(statement.text().substr(colon + 1));
 }
 
 }  // namespace cutline

@@ -1,15 +1,39 @@
 // A PPD's statements, as libcups reads them.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <string_view>
 #include <vector>
 
 namespace cutline {
 
-// One statement: a line, or all the lines that its quoted value goes over.
-struct PpdStatement {
-  std::string_view text;     // with what ends its lines
-  std::string_view keyword;  // its first word without the sign; empty where libcups skips the line
+// One statement: a line, or all the lines that its quoted value goes over. Small, since a PPD has
+// ten thousands of them.
+class PpdStatement {
+ public:
+  // Of its first line; the keyword follows the sign that begins it.
+  PpdStatement(std::string_view line, std::size_t keywordSize)
+      : mText(line.data()), mSize(size(line.size())), mKeywordSize(size(keywordSize)) {}
+
+  void extendBy(std::size_t characters) { mSize += size(characters); }
+
+  // With what ends its lines.
+  std::string_view text() const noexcept { return {mText, mSize}; }
+  // Its first word without the sign; empty where libcups skips the line.
+  std::string_view keyword() const noexcept {
+    return mKeywordSize == 0 ? std::string_view() : std::string_view(mText + 1, mKeywordSize);
+  }
+
+ private:
+  // Contents have much less than four gigabytes (kLargestPpd).
+  static std::uint32_t size(std::size_t characters) {
+    return static_cast<std::uint32_t>(characters);
+  }
+
+  const char* mText;
+  std::uint32_t mSize;
+  std::uint32_t mKeywordSize;
 };
 
 // The statements of a PPD's contents, which they point into. Together they have all of its text.

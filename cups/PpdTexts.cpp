@@ -135,25 +135,28 @@ Languages keepTexts(std::string& contents, const Languages& languages) {
   const Spoken spoken = languagesOf(contents);
   if (spoken.inLines.empty()) return {};
   const Languages kept = chosen(namesInPpds(languages), spoken);
-  std::string result;
-  result.reserve(contents.size());
-  // Up to where the contents are taken over.
-  const char* taken = contents.data();
-  const auto takeUpTo = [&](const char* end) { result.append(std::exchange(taken, end), end); };
+  // Nothing becomes longer, so that it can be done in place.
+  char* end = contents.data();
+  const char* taken = end;  // up to where the contents are taken over
+  const auto takeUpTo = [&](const char* stop) {
+    end = std::copy(std::exchange(taken, stop), stop, end);
+  };
   forEachPpdLine(contents, [&](std::string_view line, std::string_view) {
     const std::string_view language = languageOfLine(line);
     if (language.empty()) return;
     const bool isKept = std::ranges::find(kept, language) != kept.end();
     if (!isKept && !line.ends_with(kNoValue)) return;
+    const char* lineEnd = line.data() + line.size();
     takeUpTo(line.data());
     if (isKept) {
-      takeUpTo(line.data() + line.size());
-      result[result.size() - line.size() + 1 + language.size()] = kKeptSeparator;
+      char* separator = end + 1 + language.size();
+      takeUpTo(lineEnd);
+      *separator = kKeptSeparator;
     }
-    taken = line.data() + line.size();
+    taken = lineEnd;
   });
   takeUpTo(contents.data() + contents.size());
-  contents = std::move(result);
+  contents.resize(static_cast<std::size_t>(end - contents.data()));
   return kept;
 }
 

@@ -177,8 +177,7 @@ void expectReadAsEver(const std::string& text, std::size_t few = kEasy) {
 std::size_t leftOutOf(const EasedPpd& eased) {
   std::size_t count = 0;
   for (const auto& [name, options] : eased.groups)
-    count += static_cast<std::size_t>(std::ranges::count_if(
-        options, [](const EasedOption& option) { return option.leftOut.has_value(); }));
+    count += options.size() - options.places().size();
   return count;
 }
 

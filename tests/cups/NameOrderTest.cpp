@@ -12,7 +12,7 @@ namespace {
 int sign(int value) { return (value > 0) - (value < 0); }
 
 int compared(const std::string& one, const std::string& other) {
-  const auto order = SortableName(one) <=> SortableName(other);
+  const auto order = compareNames(one, other);
   return (order > 0) - (order < 0);
 }
 
