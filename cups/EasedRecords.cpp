@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <ranges>
+#include <memory>
 #include <vector>
 
 #include "cups/PpdContents.h"
@@ -16,6 +16,10 @@
 namespace cutline {
 
 namespace {
+
+struct ClosePpd {
+  void operator()(ppd_file_t* ppd) const noexcept { ppdClose(ppd); }
+};
 
 // Makes room for more attributes behind those that there are.
 bool makeRoom(ppd_file_t& ppd, std::size_t more) {
@@ -48,7 +52,8 @@ bool putDefaults(ppd_file_t& ppd, const std::vector<ppd_option_t*>& options) {
   if (!makeRoom(ppd, count)) return false;
   std::vector<ppd_attr_t*> added;
   added.reserve(count);
-  for (const ppd_option_t* option : options | std::views::filter(hasDefault)) {
+  for (const ppd_option_t* option : options) {
+    if (!hasDefault(option)) continue;
     ppd_attr_t* attribute = newDefault(*option);
     if (!attribute) return false;
     ppd.attrs[ppd.num_attrs++] = attribute;
@@ -70,10 +75,9 @@ ppd_file_t* openEased(std::string_view contents, std::size_t fewOptions) {
   auto eased = easedPpd(contents, fewOptions);
   if (!eased) return nullptr;
   FileDescriptor file = memoryFile(eased->contents);
-  ppd_file_t* ppd = file ? ppdOpenFd(file.release()) : nullptr;  // closes it
-  if (!ppd || complete(*ppd, *eased)) return ppd;
-  ppdClose(ppd);
-  return nullptr;
+  std::unique_ptr<ppd_file_t, ClosePpd> ppd(file ? ppdOpenFd(file.release())
+                                                 : nullptr);  // closes it
+  return ppd && complete(*ppd, *eased) ? ppd.release() : nullptr;
 }
 
 }  // namespace cutline

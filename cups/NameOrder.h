@@ -3,7 +3,6 @@
 #pragma once
 
 #include <algorithm>
-#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -18,7 +17,10 @@ class NameStart {
 
   explicit NameStart(std::string_view name)
       : mFirst(number(name, 0)), mSecond(number(name, sizeof(mFirst))) {}
-  auto operator<=>(const NameStart&) const noexcept = default;
+  bool operator==(const NameStart&) const noexcept = default;
+  bool operator<(const NameStart& other) const noexcept {
+    return mFirst != other.mFirst ? mFirst < other.mFirst : mSecond < other.mSecond;
+  }
 
  private:
   static constexpr std::uint64_t small(char c) noexcept {
@@ -34,13 +36,14 @@ class NameStart {
   std::uint64_t mFirst, mSecond;
 };
 
-inline std::strong_ordering compareNames(std::string_view a, std::string_view b) {
-  do {
-    if (const auto order = NameStart(a) <=> NameStart(b); order != 0) return order;
-    a.remove_prefix(std::min(a.size(), NameStart::kSize));
-    b.remove_prefix(std::min(b.size(), NameStart::kSize));
-  } while (!a.empty() && !b.empty());
-  return a.size() <=> b.size();
+inline bool nameComesBefore(std::string_view a, std::string_view b) {
+  while (true) {
+    const NameStart startOfA(a), startOfB(b);
+    if (startOfA != startOfB) return startOfA < startOfB;
+    if (a.size() <= NameStart::kSize || b.size() <= NameStart::kSize) return a.size() < b.size();
+    a.remove_prefix(NameStart::kSize);
+    b.remove_prefix(NameStart::kSize);
+  }
 }
 
 // Sorts small elements by what nameOf(element) says; those of the same name keep their order.
@@ -54,8 +57,8 @@ void sortByName(std::vector<Element>& elements, const Function& nameOf) {
   named.reserve(elements.size());
   for (const Element& each : elements) named.push_back({NameStart(nameOf(each)), each});
   std::ranges::stable_sort(named, [&nameOf](const Named& a, const Named& b) {
-    const auto order = a.start <=> b.start;
-    return order != 0 ? order < 0 : compareNames(nameOf(a.element), nameOf(b.element)) < 0;
+    return a.start != b.start ? a.start < b.start
+                              : nameComesBefore(nameOf(a.element), nameOf(b.element));
   });
   std::ranges::transform(named, elements.begin(), &Named::element);
 }

@@ -92,11 +92,10 @@ class OptionIndex {
  private:
   static std::string_view keywordOf(const PlainOption* option) { return option->keyword; }
   std::span<PlainOption* const> named(std::string_view name) const {
-    const auto comesBefore = [](std::string_view a, std::string_view b) {
-      return compareNames(a, b) < 0;
-    };
-    const auto found = std::ranges::equal_range(mSorted, name, comesBefore, keywordOf);
-    return {found.begin(), found.end()};
+    const auto first = std::ranges::lower_bound(mSorted, name, nameComesBefore, keywordOf);
+    const auto last = std::ranges::upper_bound(mSorted, name, nameComesBefore, keywordOf);
+    return std::span(mSorted).subspan(static_cast<std::size_t>(first - mSorted.begin()),
+                                      static_cast<std::size_t>(last - first));
   }
 
   std::vector<PlainOption*> mSorted;

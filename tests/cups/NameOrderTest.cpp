@@ -12,8 +12,7 @@ namespace {
 int sign(int value) { return (value > 0) - (value < 0); }
 
 int compared(const std::string& one, const std::string& other) {
-  const auto order = compareNames(one, other);
-  return (order > 0) - (order < 0);
+  return nameComesBefore(one, other) ? -1 : nameComesBefore(other, one) ? 1 : 0;
 }
 
 TEST(NameOrder, ItIsThatOfNamesInSmallLetters) {
