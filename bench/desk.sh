@@ -6,7 +6,7 @@
 . "$cutline_top/scripts/build.sh"
 cutline_install_packages "$cutline_top/packages.txt" || exit 1
 build=$cutline_top/build
-cutline_build "$build" -DCMAKE_BUILD_TYPE=Release || exit 1
+cutline_build "$build" -DCMAKE_BUILD_TYPE=Release -- all bench/all || exit 1
 cutline=$build/bin/cutline
 samples=$build/share/cutline/samples
 export CUTLINE_PREFIX=$build

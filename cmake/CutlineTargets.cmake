@@ -105,9 +105,10 @@ function(cutline_sources OUT)
 endfunction()
 
 # Test programs end in <build>/tests; the list of them is what the test command runs. SHARDS: in so many
-# processes, for programs that wait for most of their time. Each leaves its report in <build>/reports.
+# processes, for programs that wait for most of their time. LONG programs begin before short ones, as
+# those in shards do, so that none is left alone at the end. Each leaves its report in <build>/reports.
 function(cutline_add_test NAME)
-  cmake_parse_arguments(ARG "" "SHARDS" "SOURCES;LIBS;ENVIRONMENT" ${ARGN})
+  cmake_parse_arguments(ARG "LONG" "SHARDS" "SOURCES;LIBS;ENVIRONMENT" ${ARGN})
   add_executable(${NAME} ${ARG_SOURCES})
   target_link_libraries(${NAME} PRIVATE ${ARG_LIBS})
   set_target_properties(${NAME} PROPERTIES
@@ -117,13 +118,16 @@ function(cutline_add_test NAME)
     CUTLINE_SOURCE_DIR="${CMAKE_SOURCE_DIR}" CUTLINE_BUILD_DIR="${CMAKE_BINARY_DIR}")
   if(NOT ARG_SHARDS)
     cutline_add_run(${NAME} ${NAME} "${ARG_ENVIRONMENT}")
+    if(ARG_LONG)
+      set_tests_properties(${NAME} PROPERTIES COST 50)
+    endif()
     return()
   endif()
   foreach(SHARD RANGE 1 ${ARG_SHARDS})
     math(EXPR INDEX "${SHARD} - 1")
     cutline_add_run(${NAME}_${SHARD} ${NAME}
       "${ARG_ENVIRONMENT};GTEST_TOTAL_SHARDS=${ARG_SHARDS};GTEST_SHARD_INDEX=${INDEX}")
-    set_tests_properties(${NAME}_${SHARD} PROPERTIES COST 100)  # begins first
+    set_tests_properties(${NAME}_${SHARD} PROPERTIES COST 100)
   endforeach()
 endfunction()
 

@@ -22,7 +22,7 @@ constexpr CharacterSet kInCodes = CharacterSet::of([](char c) {
   const auto sign = static_cast<unsigned char>(c);
   return (sign >= ' ' && c != '"') || c == '\t' || c == '\n';
 });
-constexpr std::string_view kOrder = "OrderDependency";
+constexpr std::string_view kOrderDependency = "OrderDependency";
 
 // libcups makes something else of choices of options with these names, or of their texts.
 constexpr std::array kKnown = std::to_array<std::string_view>({
@@ -50,7 +50,7 @@ constexpr std::array kKnown = std::to_array<std::string_view>({
     "ModelName",
     "NickName",
     "NonUIConstraints",
-    kOrder,
+    kOrderDependency,
     "PCFileName",
     "PageRegion",
     "PageSize",
@@ -109,8 +109,11 @@ bool isPlainText(std::string_view text) {
   return text.size() < PPD_MAX_TEXT && kPlainSigns.hasAll(text);
 }
 
+// libcups refuses lines that are longer, and values of very many.
 bool hasShortLines(std::string_view text) {
   constexpr std::size_t kLongestLine = 255;
+  constexpr std::size_t kLongestValue = 65536;
+  if (text.size() > kLongestValue) return false;
   while (text.size() > kLongestLine) {
     const auto end = text.substr(0, kLongestLine).rfind('\n');
     if (end == text.npos) return false;
@@ -154,14 +157,6 @@ std::optional<float> number(std::string_view text) {
   return static_cast<float>(value);
 }
 
-// The next word of a text, which is taken from it.
-std::string_view nextWord(std::string_view& text) {
-  text.remove_prefix(kGaps.firstNotIn(text));
-  const std::string_view word = text.substr(0, kGaps.firstIn(text));
-  text.remove_prefix(word.size());
-  return word;
-}
-
 class BlockReader {
  public:
   BlockReader(std::string_view keyword, OptionBlock& block) : mBlock(block) {
@@ -176,7 +171,7 @@ class BlockReader {
     if (statement.keyword().empty()) return isSkipped(statement);
     if (statement.keyword() == "OpenUI") return takeOpening(statement);
     if (statement.keyword() == mBlock.keyword) return takeChoice(statement);
-    if (statement.keyword() == kOrder) return takeOrder(valueOf(statement));
+    if (statement.keyword() == kOrderDependency) return takeOrder(valueOf(statement));
     if (isDefault(statement.keyword())) return takeDefault(statement);
     mBlock.others.push_back(statement.text());
     return true;

@@ -15,6 +15,7 @@ namespace {
 constexpr std::string_view kOpening = "OpenUI";
 constexpr std::string_view kJclOpening = "JCLOpenUI";
 constexpr std::string_view kClosing = "CloseUI";
+constexpr std::string_view kOrder = "OrderDependency";
 
 // What says where options and groups begin and end: in the block of an option that is called so,
 // its choices do, too.
@@ -33,7 +34,7 @@ std::string_view openedBy(const PpdStatement& statement) {
 
 // Whether the statement may stand within the block of a plain option.
 bool belongsTo(std::string_view option, std::string_view keyword) {
-  return keyword.empty() || withoutDefault(keyword) == option || keyword == "OrderDependency" ||
+  return keyword.empty() || withoutDefault(keyword) == option || keyword == kOrder ||
          isTranslation(keyword);
 }
 
@@ -65,6 +66,16 @@ std::string_view customOf(std::string_view keyword) {
   return start == kCustoms.end() ? std::string_view() : keyword.substr(start->size());
 }
 
+// "Duplex" of `*OrderDependency: 10 Prolog *Duplex`; empty for other statements.
+std::string_view orderedBy(const PpdStatement& statement) {
+  if (statement.keyword() != kOrder) return {};
+  std::string_view value = valueOf(statement);
+  nextWord(value);
+  nextWord(value);
+  const std::string_view name = nextWord(value);
+  return name.starts_with('*') ? name.substr(1) : name;
+}
+
 // Finds options by their names. No PPD can make it slow, as it could a table of hashes.
 class OptionIndex {
  public:
@@ -84,7 +95,7 @@ class OptionIndex {
       return;
     }
     for (const std::string_view name :
-         {withoutDefault(statement.keyword()), customOf(statement.keyword())})
+         {withoutDefault(statement.keyword()), customOf(statement.keyword()), orderedBy(statement)})
       if (!name.empty())
         for (PlainOption* each : named(name)) each->isNamedElsewhere = true;
   }

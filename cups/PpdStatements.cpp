@@ -68,4 +68,11 @@ std::string_view valueOf(const PpdStatement& statement) {
                                         : kBlankSigns.trimmed(statement.text().substr(colon + 1));
 }
 
+std::string_view nextWord(std::string_view& value) {
+  value.remove_prefix(kBlankSigns.firstNotIn(value));
+  const std::string_view word = value.substr(0, kBlankSigns.firstIn(value));
+  value.remove_prefix(word.size());
+  return word;
+}
+
 }  // namespace cutline

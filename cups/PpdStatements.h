@@ -48,4 +48,7 @@ bool hasValue(const PpdStatement& statement);
 // What stands behind the colon, without blanks around it; quotes stay. Empty where there is none.
 std::string_view valueOf(const PpdStatement& statement);
 
+// The next word of a value, without blanks around it, which is taken from the value.
+std::string_view nextWord(std::string_view& value);
+
 }  // namespace cutline

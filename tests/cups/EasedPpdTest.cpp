@@ -294,6 +294,27 @@ TEST(EasedPpd, LongTextsAreCutAsEver) {
     }
 }
 
+TEST(EasedPpd, LongCodesAreReadAsEver) {
+  for (const int lines : {200, 300, 1200, 1300}) {  // a value of 1,300 is too long for libcups
+    SCOPED_TRACE(lines);
+    std::string code;
+    for (int i = 0; i < lines; ++i) code += std::string(200, 'x') + '\n';
+    const std::string option = newOption("*New A/Aa: \"a\"", "*New A/Aa: \"" + code + "\"\n*End\n");
+    expectReadAsEver(kPpdHeader + optionTexts(1, 6) + option + optionTexts(7, 12));
+  }
+}
+
+// libcups looks for such an option in the first group without a text.
+TEST(EasedPpd, AnOrderOutsideOfItsOptionIsReadAsEver) {
+  const std::string order = "*OrderDependency: 20 Prolog *Other3\n", lines = optionTexts(1, 6);
+  expectEased(4, lines + order);
+  expectEased(4, order + grouped("One/First", lines));
+  expectReadAsEver(kPpdHeader + grouped("Nameless/", lines) + order);
+  expectReadAsEver(replaced(kPpdHeader, "UTF-8", "ISOLatin1") + grouped("One/\xe4", lines) + order);
+  expectReadAsEver(replaced(kPpdHeader, "UTF-8", "ISOLatin5") + grouped("One/\xff\xfe", lines) +
+                   order);
+}
+
 TEST(EasedPpd, TextsAndCodesOfAllKindsAreReadAsEver) {
   const auto expectOneMore = [](const std::string& option) {
     SCOPED_TRACE(option);
