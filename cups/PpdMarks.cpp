@@ -29,6 +29,8 @@ bool hasValues(const char* choice) {
   return choice[0] == '{' || strncasecmp(choice, kCustomStart.data(), kCustomStart.size()) == 0;
 }
 
+bool isMarked(const ppd_choice_t& choice) { return choice.marked != 0; }
+
 // Null where the option has no such choice.
 ppd_choice_t* choiceOf(const ppd_option_t& option, const char* name) {
   const auto choices = choicesOf(option);
@@ -63,10 +65,8 @@ void sortAsMarks(Options& options) {
 
 }  // namespace
 
-PpdMarks::PpdMarks(ppd_file_t* ppd, std::size_t fewOptions) : mPpd(ppd) {
+PpdMarks::PpdMarks(ppd_file_t* ppd) : mPpd(ppd), mNoMarks(cupsArrayDup(ppd->marked)) {
   Options options = elementsOf<ppd_option_t>(ppd->options);
-  if (options.size() <= fewOptions) return;
-  mNoMarks.reset(cupsArrayDup(ppd->marked));
   mSpecial = specialOnes(ppd, options);
   for (const ppd_group_t& group : groupsOf(ppd))
     for (ppd_option_t& option : optionsOf(group))
@@ -77,34 +77,32 @@ PpdMarks::PpdMarks(ppd_file_t* ppd, std::size_t fewOptions) : mPpd(ppd) {
 }
 
 void PpdMarks::markDefaults() {
-  if (!mNoMarks) return ppdMarkDefaults(mPpd);
   markDefaultsOfSpecial();
   for (const Ordinary& each : mOrdinary) markOnly(*each.option, each.byDefault);
   refreshConflicts();
 }
 
 void PpdMarks::mark(const std::string& keyword, const std::string& choice) {
-  ppd_option_t* option = mNoMarks ? ppdFindOption(mPpd, keyword.c_str()) : nullptr;
+  ppd_option_t* option = ppdFindOption(mPpd, keyword.c_str());
   if (!option || mSpecial.contains(option) || hasValues(choice.c_str())) {
     ppdMarkOption(mPpd, keyword.c_str(), choice.c_str());
     return;
   }
   ppd_choice_t* wanted = choiceOf(*option, choice.c_str());
-  if (!wanted) return;
-  markOnly(*option, wanted);
-  refreshConflicts();
+  if (wanted && markOnly(*option, wanted)) refreshConflicts();
 }
 
-// Null for none.
-void PpdMarks::markOnly(ppd_option_t& option, ppd_choice_t* choice) {
+bool PpdMarks::markOnly(ppd_option_t& option, ppd_choice_t* choice) {
   const auto isRight = [choice](const ppd_choice_t& each) {
     return (each.marked != 0) == (&each == choice);
   };
-  if (std::ranges::all_of(choicesOf(option), isRight)) return;
-  unmark(mPpd, option);
-  if (!choice) return;
+  const auto choices = choicesOf(option);
+  if (std::ranges::all_of(choices, isRight)) return false;
+  if (std::ranges::any_of(choices, isMarked)) unmark(mPpd, option);
+  if (!choice) return true;
   choice->marked = 1;
   cupsArrayAdd(mPpd->marked, choice);
+  return true;
 }
 
 // libcups is shown these options alone, and an empty list of marks: of names and defaults, it finds

@@ -47,17 +47,19 @@ std::string_view languageOfLine(std::string_view line) {
   return {};
 }
 
-// What a PPD says of its languages.
+// What a PPD says of its languages, and its lines that are in one.
 struct Spoken {
   std::set<std::string, std::less<>> inLines;
   std::set<std::string, std::less<>> listed;
+  std::vector<std::string_view> lines;
 };
 
 Spoken languagesOf(std::string_view contents) {
   Spoken spoken;
   forEachPpdLine(contents, [&](std::string_view line, std::string_view) {
     if (const auto language = languageOfLine(line); !language.empty()) {
-      spoken.inLines.emplace(language);
+      if (!spoken.inLines.contains(language)) spoken.inLines.emplace(language);
+      spoken.lines.push_back(line);
     }
     if (!line.starts_with(kLanguages)) return;
     std::string names(line.substr(kLanguages.size()));
@@ -141,11 +143,10 @@ Languages keepTexts(std::string& contents, const Languages& languages) {
   const auto takeUpTo = [&](const char* stop) {
     end = std::copy(std::exchange(taken, stop), stop, end);
   };
-  forEachPpdLine(contents, [&](std::string_view line, std::string_view) {
+  for (const std::string_view line : spoken.lines) {
     const std::string_view language = languageOfLine(line);
-    if (language.empty()) return;
     const bool isKept = std::ranges::find(kept, language) != kept.end();
-    if (!isKept && !line.ends_with(kNoValue)) return;
+    if (!isKept && !line.ends_with(kNoValue)) continue;
     const char* lineEnd = line.data() + line.size();
     takeUpTo(line.data());
     if (isKept) {
@@ -154,7 +155,7 @@ Languages keepTexts(std::string& contents, const Languages& languages) {
       *separator = kKeptSeparator;
     }
     taken = lineEnd;
-  });
+  }
   takeUpTo(contents.data() + contents.size());
   contents.resize(static_cast<std::size_t>(end - contents.data()));
   return kept;

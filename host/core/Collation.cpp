@@ -15,8 +15,8 @@ struct Spelling {
   const char* uncollated;
 };
 constexpr std::array kSpellings = std::to_array<Spelling>({
-    {"collate", "true", "false"},
-    {"multiple-document-handling", "separate-documents-collated-copies",
+    {kCollationOptions[0], "true", "false"},
+    {kCollationOptions[1], "separate-documents-collated-copies",
      "separate-documents-uncollated-copies"},
 });
 

@@ -70,6 +70,12 @@ OptionList jobOptions(const OpenPrinter& printer) {
   return options;
 }
 
+OptionList jobOptionsBesidePpd(const OpenPrinter& printer) {
+  OptionList options;
+  addBesidePpd(options, printer);
+  return options;
+}
+
 OptionList presetOptions(const OpenPrinter& printer) {
   OptionList options = jobOptions(printer);
   for (const auto& [keyword, choice] : printer.wanted().all())

@@ -11,6 +11,8 @@ class OpenPrinter;
 // PPD's default or that somebody asked for, then what was asked for or saved beside the PPD (such
 // as job-priority). Copies and page ranges are not among them.
 OptionList jobOptions(const OpenPrinter& printer);
+// Those of them that the PPD does not know.
+OptionList jobOptionsBesidePpd(const OpenPrinter& printer);
 
 // What a preset keeps: what is sent now, so that other programs print with it as this one does, and
 // beside it, under names that nobody else reads, what is wanted where a rule changes it, so that

@@ -186,7 +186,11 @@ Result<Done> PrintModel::setPageRanges(const std::string& text) {
 }
 
 bool PrintModel::isCollated() const {
-  return mIsCollated ? *mIsCollated : collates(cutline::jobOptions(*mPrinter));
+  if (mIsCollated) return *mIsCollated;
+  // All options of a PPD are gone through only where it has one for this.
+  const bool isInPpd = std::ranges::any_of(
+      kCollationOptions, [this](const char* each) { return ppdFile()->hasOption(each); });
+  return collates(isInPpd ? cutline::jobOptions(*mPrinter) : jobOptionsBesidePpd(*mPrinter));
 }
 
 void PrintModel::setCollated(bool isCollated) {

@@ -52,7 +52,7 @@ void markAll(ppd_file_t* ppd, const Mark& mark) {
 void expectMarkedAsEver(const std::string& text) {
   const OpenPpd asEver = opened(text), quickly = opened(text);
   if (!asEver) return;
-  PpdMarks marks(quickly.get(), 0);
+  PpdMarks marks(quickly.get());
   const auto expectSame = [&] {
     test::expectSameLines(marksOf(asEver.get()), marksOf(quickly.get()), text);
   };
@@ -86,7 +86,7 @@ TEST(PpdMarks, ADefaultThatIsNoChoiceIsNotMarked) {
 TEST(PpdMarks, AnyLettersNameAChoice) {
   const OpenPpd ppd = opened(kPpdHeader + optionTexts(1, 3));
   ASSERT_TRUE(ppd);
-  PpdMarks marks(ppd.get(), 0);
+  PpdMarks marks(ppd.get());
   marks.markDefaults();
   marks.mark("OTHER2", "b");
   EXPECT_TRUE(ppdIsMarked(ppd.get(), "Other2", "B"));
@@ -100,7 +100,7 @@ TEST(PpdMarks, AnyLettersNameAChoice) {
 TEST(PpdMarks, WhatLibcupsMarkedIsTakenAway) {
   const OpenPpd ppd = opened(kPpdHeader + optionTexts(1, 3));
   ASSERT_TRUE(ppd);
-  PpdMarks marks(ppd.get(), 0);
+  PpdMarks marks(ppd.get());
   ppdMarkOption(ppd.get(), "Other2", "B");
   marks.markDefaults();
   EXPECT_TRUE(ppdIsMarked(ppd.get(), "Other2", "A"));
@@ -115,7 +115,7 @@ TEST(PpdMarks, CustomValuesAreMarkedWithTheirValues) {
   for (const char* choice : {"Custom.7", "custom.7", "Custom", "{Value=7}"}) {
     const OpenPpd ppd = opened(kPpdHeader + custom + optionText("New", choice));
     ASSERT_TRUE(ppd);
-    PpdMarks(ppd.get(), 0).markDefaults();
+    PpdMarks(ppd.get()).markDefaults();
     const int value = std::string(choice) == "Custom" ? 0 : 7;
     EXPECT_EQ(
         ppdFindCustomParam(ppdFindCustomOption(ppd.get(), "New"), "Value")->current.custom_int,
@@ -151,7 +151,7 @@ TEST(PpdMarks, BrokenConstraintsAreTold) {
       "*UIConstraints: *Other1 A *Other2 A\n*UIConstraints: *Other3 B *Other2 A\n";
   expectLinesMarkedAsEver(optionTexts(1, 9) + constraints);
   const OpenPpd ppd = opened(kPpdHeader + optionTexts(1, 9) + constraints);
-  PpdMarks(ppd.get(), 0).markDefaults();
+  PpdMarks(ppd.get()).markDefaults();
   EXPECT_EQ(ppdFindOption(ppd.get(), "Other1")->conflicted, 1);
   EXPECT_EQ(ppdFindOption(ppd.get(), "Other3")->conflicted, 0);
 }

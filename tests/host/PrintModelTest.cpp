@@ -401,6 +401,17 @@ TEST_F(PrintModelTest, CollatesAsChosenWhateverWasSaved) {
   EXPECT_EQ(valueOf(model->jobOptions(), "collate"), "true");
 }
 
+TEST_F(PrintModelTest, CollatesAsAnOptionOfThePpdSays) {
+  test::TestPrinter printer = test::fullTapePrinter();
+  printer.more =
+      "*OpenUI *Collate: Boolean\n*DefaultCollate: False\n*Collate True: \"\"\n"
+      "*Collate False: \"\"\n*CloseUI: *Collate\n";
+  mPpd = test::ppdFor(printer);
+  EXPECT_FALSE(open()->isCollated());
+  EXPECT_TRUE(open({{{"collate", "true"}}, {}, {}})->isCollated());
+  EXPECT_TRUE(open({}, {{"Collate", "True"}})->isCollated());
+}
+
 TEST_F(PrintModelTest, ARawDocumentGoesWithEveryOptionThatItHad) {
   const auto model = open({{{"raw", "true"}, {"print-scaling", "fit"}}, {}, "1-2"});
   EXPECT_EQ(valueOf(model->jobOptions(), "raw"), "true");
